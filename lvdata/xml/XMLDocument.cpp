@@ -1,0 +1,78 @@
+#include <lvdata/xml/XMLDocument.h>
+#include <lvdata/xml/detail/handle.h>
+
+#include <algorithm>
+#include <string_view>
+
+#include <tinyxml2.h>
+
+namespace lv {
+namespace {
+
+/// "XML_ERROR_MISMATCHED_ELEMENT" as "mismatched element".
+std::string errorWords(std::string_view identifier) {
+    constexpr std::string_view prefix = "XML_ERROR_";
+    if (identifier.substr(0, prefix.size()) == prefix) {
+        identifier.remove_prefix(prefix.size());
+    }
+    std::string words(identifier);
+    std::transform(words.begin(), words.end(), words.begin(), [](char character) {
+        const bool upper = character >= 'A' && character <= 'Z';
+        return upper ? static_cast<char>(character - 'A' + 'a') : (character == '_' ? ' ' : character);
+    });
+    return words;
+}
+
+}  // namespace
+
+XMLDocument::XMLDocument() : XMLNode(detail::toHandle(new tinyxml2::XMLDocument)) {}
+
+XMLDocument::XMLDocument(void* document) : XMLNode(document), borrowed_(true) {}
+
+XMLDocument::~XMLDocument() {
+    if (!borrowed_) {
+        delete detail::toDocument(get());
+    }
+}
+
+bool XMLDocument::parseXMLString(const std::string& text) {
+    tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    return document != nullptr && document->Parse(text.c_str(), text.size()) == tinyxml2::XML_SUCCESS;
+}
+
+std::string XMLDocument::parseErrorText() const {
+    const tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    const bool failed = document != nullptr && document->Error();
+    return failed ? errorWords(document->ErrorName()) : std::string();
+}
+
+int XMLDocument::parseErrorLine() const {
+    const tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    return document == nullptr ? 0 : document->ErrorLineNum();
+}
+
+std::string XMLDocument::toXMLString(bool declaration, bool pretty) const {
+    const tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    if (document == nullptr) {
+        return {};
+    }
+    tinyxml2::XMLPrinter printer(nullptr, !pretty);
+    if (declaration) {
+        printer.PushDeclaration(R"(xml version="1.0" encoding="UTF-8" standalone="no")");
+    }
+    document->Accept(&printer);
+    return {printer.CStr(), static_cast<std::size_t>(printer.CStrSize() - 1)};  // without the terminating NUL
+}
+
+XMLElement XMLDocument::rootElement() const {
+    tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    return document == nullptr ? XMLElement() : XMLElement(detail::toHandle(document->FirstChildElement()));
+}
+
+XMLElement XMLDocument::appendChild(const std::string& name) const {
+    tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    return document == nullptr ? XMLElement()
+                               : XMLElement(detail::toHandle(detail::appendElement(*document, name.c_str())));
+}
+
+}  // namespace lv

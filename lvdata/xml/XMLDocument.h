@@ -1,0 +1,56 @@
+#pragma once
+
+#include <lvdata/export.h>
+#include <lvdata/xml/XMLElement.h>
+#include <lvdata/xml/XMLNode.h>
+
+#include <string>
+
+namespace lv {
+
+/// An XML document: parses text, prints itself, and gives out wrappers of the elements it holds.
+///
+/// A default-made document is its own: it is deleted with the wrapper, and every wrapper into it dangles from then on.
+/// It can be neither copied nor moved, so that no two wrappers delete one document. A document made from a handle is
+/// borrowed and never deleted. One thread at a time, together with all wrappers into it.
+class LVDATA_EXPORT XMLDocument : public XMLNode {
+public:
+    /// A new, empty document of the wrapper's own: entities are processed, white space is preserved.
+    XMLDocument();
+
+    /// Borrows a document of the XML library, handed over as an untyped handle. A handle that is null or points at
+    /// another kind of node holds no document: nothing can be parsed into it, printed from it or appended to it.
+    explicit XMLDocument(void* document);
+
+    ~XMLDocument() override;
+    XMLDocument(const XMLDocument&) = delete;
+    XMLDocument& operator=(const XMLDocument&) = delete;
+    XMLDocument(XMLDocument&&) = delete;
+    XMLDocument& operator=(XMLDocument&&) = delete;
+
+    /// Replaces the document by what `text`, a whole XML document in UTF-8, holds. Wrappers into the earlier content
+    /// dangle. True when the text is well-formed; otherwise, or when there is no document, false, and the document is
+    /// then empty. The text ends at its first NUL, if it holds one.
+    [[nodiscard]] bool parseXMLString(const std::string& text);
+
+    /// The reason why the last `parseXMLString` failed, in a few words ("mismatched element"), and the line of the text
+    /// where the XML library noticed, counted from 1. After a success: an empty string and 0.
+    [[nodiscard]] std::string parseErrorText() const;
+    [[nodiscard]] int parseErrorLine() const;
+
+    /// The document's text in UTF-8: indented by four spaces a level when `pretty`, without any line break of its own
+    /// otherwise; behind the declaration `<?xml version="1.0" encoding="UTF-8" standalone="no"?>` when `declaration`.
+    /// Empty when there is no document.
+    [[nodiscard]] std::string toXMLString(bool declaration, bool pretty) const;
+
+    /// The first element at document level, whatever its name; invalid when there is none.
+    [[nodiscard]] XMLElement rootElement() const;
+
+    /// Appends a new element at document level and returns it; invalid when there is no document.
+    XMLElement appendChild(const std::string& name) const;
+
+private:
+    bool borrowed_ = false;
+};
+
+}  // namespace lv

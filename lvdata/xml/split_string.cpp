@@ -1,0 +1,12 @@
+#include <lvdata/xml/detail/pieces.h>
+#include <lvdata/xml/split_string.h>
+
+namespace lv {
+
+std::vector<std::string> split_string(const std::string& text, const std::string& separator) {
+    std::vector<std::string> pieces;
+    detail::forEachPiece(text, separator, [&pieces](std::string_view piece) { pieces.emplace_back(piece); });
+    return pieces;
+}
+
+}  // namespace lv

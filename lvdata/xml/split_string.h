@@ -1,0 +1,23 @@
+#pragma once
+
+#include <lvdata/export.h>
+
+#include <string>
+#include <vector>
+
+namespace lv {
+
+/// The pieces of `text` between the separators, in order.
+///
+/// Empty pieces are kept: a trailing separator gives a last empty piece, and an empty text gives one empty piece. So
+/// "1||3" at "|" gives "1", "" and "3".
+///
+/// After a separator the search resumes one character behind its start, not behind its end. For a separator of one
+/// character that is the same thing; with a longer one, every piece after the first begins with the separator's tail.
+/// An empty separator separates nothing: the whole text is the only piece.
+///
+/// Never fails; may be called from any thread.
+[[nodiscard]] LVDATA_EXPORT std::vector<std::string> split_string(const std::string& text,
+                                                                  const std::string& separator);
+
+}  // namespace lv
