@@ -1,0 +1,77 @@
+#pragma once
+
+#include <lvdata/export.h>
+#include <lvdata/xml/XMLElement.h>
+#include <lvdata/xml/XMLNode.h>
+#include <lvdata/xml/property.h>
+
+#include <string>
+
+namespace lv {
+
+namespace detail {
+class Writer;
+}
+
+/// The base of every record: turns the record into XML text and back, and holds what all records share.
+///
+/// A record is a plain value: made with its defaults, filled by the application or by parsing, printed any number of
+/// times; a copy shares nothing with its source. It is one element of a document, its root element, which stands at
+/// document level or inside another record's element. One thread at a time per record, and any number of threads when
+/// all of them only read or print it; every call works on a document of its own.
+///
+/// Nothing throws but the standard library's own exceptions (`std::bad_alloc`), and nothing is logged.
+class LVDATA_EXPORT DataObject {
+public:
+    virtual ~DataObject();
+
+    /// Reads the record from its root element. False when the element is invalid or bears another name (compared
+    /// exactly); the record is then unchanged. Otherwise true: every child is optional, so what the element holds
+    /// replaces the member and sets its flag, what it lacks clears the flag and leaves the earlier value in place. Each
+    /// record states where it differs. Children that the record does not know are passed over.
+    [[nodiscard]] virtual bool parseXMLElement(XMLElement element) = 0;
+
+    /// Appends the record as a new last child of `parent`, a document or an element, and returns its root element. The
+    /// record itself stays as it is. With a parent that takes no children nothing happens and the result is invalid.
+    virtual XMLElement appendXMLElement(XMLNode& parent) const = 0;
+
+    /// Reads the record from a whole XML document in UTF-8. False, with the record unchanged, when the text is not
+    /// well-formed or `parseXMLElement` refuses the document's first element.
+    [[nodiscard]] bool parseXMLString(const std::string& text);
+
+    /// The record as a whole XML document in UTF-8: behind an XML declaration when `declaration`, indented when
+    /// `pretty`, otherwise compact.
+    [[nodiscard]] std::string toXMLString(bool declaration, bool pretty) const;
+
+    /// Appends a root element of that name to a document or an element; invalid when the parent cannot take it.
+    XMLElement appendRootXMLElement(const std::string& name, XMLNode& parent) const;
+
+    /// Sets the attributes "Version" and "MinorVersion" to the values of the two members, whatever their flags, and
+    /// returns the element.
+    XMLElement appendVersionAttribute(XMLElement element) const;
+
+    /// Reads both attributes into the two members. A missing or empty one clears the flag and leaves the number. No
+    /// number is refused, so a record read from a document of another version writes that document's numbers back.
+    void parseVersionAttribute(XMLElement element);
+
+    /// The version of the record's format, attributes "Version" and "MinorVersion". Fresh records hold the numbers of
+    /// their class with the flags clear; the flags tell whether a parsed document stated them.
+    property<unsigned int> version;
+    property<unsigned int> minorVersion;
+
+    /// Whether the records that know the element "HLGSystemGamma" by this switch write it. A record that holds others
+    /// hands its own switch to them when it is printed; their own members are neither consulted nor changed.
+    bool writeHLGSystemGamma = false;
+
+protected:
+    /// \param major, minor  the version numbers of the record's class
+    DataObject(unsigned int major, unsigned int minor) : version{major, false}, minorVersion{minor, false} {}
+
+    // Copied and moved only as part of a whole record.
+    DataObject(const DataObject&) = default;
+    DataObject& operator=(const DataObject&) = default;
+    DataObject(DataObject&&) = default;
+    DataObject& operator=(DataObject&&) = default;
+};
+
+}  // namespace lv

@@ -1,0 +1,167 @@
+#pragma once
+
+#include <lvdata/xml/XMLElement.h>
+#include <lvdata/xml/detail/element_reading.h>
+#include <lvdata/xml/property.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lv::detail {
+
+/// One direction of a visit: fills the members from the children of an element. `Writer` is the other, and offers the
+/// same operations.
+///
+/// A record's visit names each of its elements once, in the order of writing. The operation says how the member is
+/// held:
+///
+///     io.field(name, property)             an optional value; its flag is whether the element was found
+///     io.value(name, member)               a plain value; written always, left as it was when not found
+///     io.text(member)                      a plain value that is this element's own text
+///     io.attribute(name, member)           an attribute, of a property or plain; written always, whatever the flag
+///     io.constant(name, text)              an attribute that is written and never looked at
+///     io.array(name, member, lengths)      an array that counts only at these lengths
+///     io.structure(name, property, visit)  an optional structure in a child element of its own
+///     io.group(property, visit)            an optional structure spread over children of this very element
+///     io.record(property)                  a nested record; its flag is whether the record accepted its element
+///     io.recordWithSwitch(property)        the same for a record that is handed the HLG switch
+///     io.rows(name, record, visit)         the rows of a list
+///     io.keyed(name, key, text, visit)     the child elements of that name whose attribute `key` is `text`
+///     io.element(name)                     a child element, to visit further
+///     io.derive(flag, condition)           a flag that reading computes from what the members then hold
+///
+/// `value`, `attribute`, `text`, `array` on a plain vector, and the visits handed to `structure`, `group` and `rows`
+/// answer whether they found something: that becomes the flag of a structure and decides whether a row is kept.
+///
+/// A gate in front of the operation says where the directions differ or a condition holds. Behind a closed gate reading
+/// finds nothing, as if the element were missing, and nothing is written:
+///
+///     io.readWhen(condition)               closes reading
+///     io.writeWhen(condition)              closes writing
+///     io.when(condition)                   closes both
+///     io.always()                          writing does not consult the member's own flag
+class Reader {
+public:
+    explicit Reader(void* element) : element_(element) {}
+
+    [[nodiscard]] Reader readWhen(bool condition) const { return Reader(condition ? element_ : nullptr); }
+    [[nodiscard]] Reader writeWhen(bool /*condition*/) const { return *this; }
+    [[nodiscard]] Reader when(bool condition) const { return readWhen(condition); }
+    [[nodiscard]] Reader always() const { return *this; }
+
+    /// Whether there is an element to read from.
+    [[nodiscard]] bool exists() const { return element_ != nullptr; }
+
+    /// That element as the wrapper that applications know.
+    [[nodiscard]] XMLElement xmlElement() const { return XMLElement(element_); }
+
+    /// Of interest to writing only.
+    [[nodiscard]] static bool writesHLGSystemGamma() { return false; }
+
+    [[nodiscard]] Reader element(const char* name) const { return Reader(findChild(element_, name)); }
+
+    static void derive(bool& flag, bool condition) { flag = condition; }
+
+    template <class T>
+    bool attribute(const char* name, T& member) {
+        return readAttribute(element_, name, member);
+    }
+
+    template <class T>
+    bool attribute(const char* name, property<T>& member) {
+        member.hasValue = attribute(name, member.value);
+        return member.hasValue;
+    }
+
+    void constant(const char* /*name*/, const char* /*text*/) {}
+
+    template <class T>
+    bool text(T& member) {
+        return readText(element_, member);
+    }
+
+    template <class T>
+    void field(const char* name, property<T>& member) {
+        member.hasValue = value(name, member.value);
+    }
+
+    template <class T>
+    bool value(const char* name, T& member) {
+        return readText(findChild(element_, name), member);
+    }
+
+    /// Entries of another number stay in memory, but the flag is cleared.
+    template <class Number>
+    void array(const char* name, property<std::vector<Number>>& member, std::initializer_list<std::size_t> lengths) {
+        field(name, member);
+        member.hasValue = member.hasValue && std::count(lengths.begin(), lengths.end(), member.value.size()) != 0;
+    }
+
+    /// A plain vector takes any number of entries.
+    template <class Number>
+    bool array(const char* name, std::vector<Number>& member, std::size_t /*length*/) {
+        return value(name, member);
+    }
+
+    template <class T, class Visit>
+    void structure(const char* name, property<T>& member, Visit visit) {
+        element(name).group(member, visit);
+    }
+
+    template <class T, class Visit>
+    void group(property<T>& member, Visit visit) {
+        member.hasValue = visit(*this, member.value);
+    }
+
+    template <class Record>
+    void record(Record& member, bool& flag) {
+        flag = member.parseXMLElement(element(Record::rootElementName).xmlElement());
+    }
+
+    template <class Record>
+    void record(property<Record>& member) {
+        record(member.value, member.hasValue);
+    }
+
+    template <class Record>
+    void recordWithSwitch(property<Record>& member) {
+        record(member);
+    }
+
+    template <class Visit>
+    void keyed(const char* name, const char* key, std::string_view text, Visit visit) {
+        for (void* child = findChild(element_, name); child != nullptr; child = findNext(child, name)) {
+            Reader io(child);
+            std::string found;
+            if (io.attribute(key, found) && found == text) {
+                visit(io);
+            }
+        }
+    }
+
+    template <class Record, class Visit, class HasContent>
+    void rows(const char* name, Record& record, Visit visit, HasContent /*decidesWriting*/) {
+        rows(name, record, visit);
+    }
+
+    template <class Record, class Visit>
+    void rows(const char* name, Record& record, Visit visit) {
+        record.objects.clear();
+        record.parsed = true;
+        for (void* child = findChild(element_, name); child != nullptr; child = findNext(child, name)) {
+            Reader io(child);
+            if (!visit(io, record.objects.emplace_back())) {
+                record.objects.pop_back();
+            }
+        }
+    }
+
+private:
+    void* element_;
+};
+
+}  // namespace lv::detail

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace lv::detail {
+
+/// The low 32 bits of the 64-bit integer that `value * factor + 0.5` gives when it is truncated toward zero; 0 where it
+/// has no such integer (NaN, infinities, magnitudes of 2^63 and more). The product is rounded before the sum, so that
+/// every processor stores the same number.
+[[nodiscard]] std::uint32_t scaledBits(double value, double factor);
+
+/// A double as the 32-bit fixed-point number that stands for it: the value times the factor, rounded by adding one half
+/// and truncating toward zero; beyond 32 bits it wraps.
+///
+/// Unsigned numbers take a negative value as 0. Signed numbers have no such rule: with the factor 1000000, -0.3 gives
+/// -299999, since truncation is toward zero on either side. Defined for unsigned int and int.
+template <class Number>
+[[nodiscard]] Number to_fixed(double value, double factor);
+
+template <>
+[[nodiscard]] inline unsigned int to_fixed<unsigned int>(double value, double factor) {
+    return value < 0.0 ? 0U : scaledBits(value, factor);
+}
+
+template <>
+[[nodiscard]] inline int to_fixed<int>(double value, double factor) {
+    return static_cast<int>(scaledBits(value, factor));
+}
+
+/// The double that a fixed-point number stands for.
+template <class Number>
+[[nodiscard]] double from_fixed(Number stored, double factor) {
+    return static_cast<double>(stored) / factor;
+}
+
+/// A whole table of numbers, entry by entry; any length.
+template <class Number>
+[[nodiscard]] std::vector<Number> to_fixed(const std::vector<double>& values, double factor) {
+    std::vector<Number> stored;
+    stored.reserve(values.size());
+    for (const double value : values) {
+        stored.push_back(to_fixed<Number>(value, factor));
+    }
+    return stored;
+}
+
+template <class Number>
+[[nodiscard]] std::vector<double> from_fixed(const std::vector<Number>& stored, double factor) {
+    std::vector<double> values;
+    values.reserve(stored.size());
+    for (const Number number : stored) {
+        values.push_back(from_fixed(number, factor));
+    }
+    return values;
+}
+
+}  // namespace lv::detail
