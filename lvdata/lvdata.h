@@ -1,0 +1,20 @@
+#pragma once
+
+/// The whole public interface of the library.
+
+#include <lvdata/core/DataArrayObject.h>
+#include <lvdata/core/DataObject.h>
+#include <lvdata/core/colour.h>
+#include <lvdata/export.h>
+#include <lvdata/records/AssetInfo.h>
+#include <lvdata/records/CorrelationInfo.h>
+#include <lvdata/records/MeasurementData.h>
+#include <lvdata/records/MeasurementDataSecondary.h>
+#include <lvdata/records/MonitorParameter.h>
+#include <lvdata/version.h>
+#include <lvdata/xml/XMLDocument.h>
+#include <lvdata/xml/XMLElement.h>
+#include <lvdata/xml/XMLNode.h>
+#include <lvdata/xml/lexical_cast.h>
+#include <lvdata/xml/property.h>
+#include <lvdata/xml/split_string.h>
