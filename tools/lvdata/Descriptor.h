@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cerrno>
+#include <system_error>
+
+#include <unistd.h>
+
+namespace tool {
+
+/// The result of a system call; throws `std::system_error` with its reason when the call failed.
+template <class Result>
+Result checked(Result result) {
+    if (result < 0) {
+        throw std::system_error(errno, std::generic_category());
+    }
+    return result;
+}
+
+/// Owns an open file descriptor.
+class Descriptor {
+public:
+    /// Takes over what a system call returned; throws as `checked` does.
+    explicit Descriptor(int opened) : descriptor_(checked(opened)) {}
+
+    ~Descriptor() {
+        if (descriptor_ != closed) {
+            ::close(descriptor_);
+        }
+    }
+
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor(Descriptor&&) = delete;
+    Descriptor& operator=(Descriptor&&) = delete;
+
+    [[nodiscard]] int get() const { return descriptor_; }
+
+    /// Closes now; throws when the last bytes could not be stored.
+    void close() {
+        const int descriptor = descriptor_;
+        descriptor_ = closed;
+        checked(::close(descriptor));
+    }
+
+private:
+    static constexpr int closed = -1;
+    int descriptor_;
+};
+
+}  // namespace tool

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tool {
+
+/// What stands for standard input, or standard output, in place of a file's name.
+inline constexpr std::string_view standardStream = "-";
+
+/// How messages call the input of that name.
+[[nodiscard]] std::string inputName(const std::string& file);
+
+/// The whole content of the file, or of standard input. Throws `Failure` when it cannot be read.
+[[nodiscard]] std::string readInput(const std::string& file);
+
+/// Writes the text to the file, or to standard output. Throws `Failure` when that is not possible.
+///
+/// A regular file is replaced in one step by a finished new one that has its permission bits, or it is left as it was;
+/// behind a symbolic link it is the file that is replaced, not the link. Anything else that bears the name, a device or
+/// a pipe, is written into.
+void writeOutput(const std::string& file, std::string_view text);
+
+}  // namespace tool

@@ -1,0 +1,85 @@
+#include "format.h"
+
+#include "Failure.h"
+#include "files.h"
+#include "records.h"
+
+#include <lvdata/xml/XMLDocument.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+
+namespace tool {
+namespace {
+
+struct FormatOptions {
+    std::string input;
+    std::string output{standardStream};
+    bool compact = false;
+    bool noDeclaration = false;
+};
+
+int lineOf(const std::string& text, std::size_t position) {
+    const auto end = text.begin() + static_cast<std::string::difference_type>(position);
+    return 1 + static_cast<int>(std::count(text.begin(), end, '\n'));
+}
+
+void parseDocument(lv::XMLDocument& document, const std::string& text, const std::string& name) {
+    const std::size_t nul = text.find('\0');
+    if (nul != std::string::npos) {  // where the XML library would stop reading
+        throw Failure(name, "NUL character", lineOf(text, nul));
+    }
+    if (!document.parseXMLString(text)) {
+        throw Failure(name, document.parseErrorText(), document.parseErrorLine());
+    }
+}
+
+std::unique_ptr<lv::DataObject> parseRecord(const lv::XMLElement& root, const std::string& name) {
+    if (!root.isValid()) {
+        throw Failure(name, "no root element");
+    }
+    auto record = makeRecord(root.elementName());
+    if (!record || !record->parseXMLElement(root)) {
+        throw Failure(name, "unknown root element '" + root.elementName() + "', known are: " + knownRootElements());
+    }
+    return record;
+}
+
+std::unique_ptr<lv::DataObject> readRecord(const std::string& file) {
+    lv::XMLDocument document;
+    parseDocument(document, readInput(file), inputName(file));
+    return parseRecord(document.rootElement(), inputName(file));
+}
+
+void format(const FormatOptions& options) {
+    std::string text = readRecord(options.input)->toXMLString(!options.noDeclaration, !options.compact);
+    if (text.empty() || text.back() != '\n') {
+        text += '\n';
+    }
+    writeOutput(options.output, text);
+}
+
+std::string complaintIfEmpty(const std::string& name) {
+    return name.empty() ? "is empty" : "";
+}
+
+}  // namespace
+
+void addFormat(CLI::App& application) {
+    CLI::App* const command =
+        application.add_subcommand("format", "Read a record from an XML document and print it anew");
+    const auto options = std::make_shared<FormatOptions>();
+    command->add_flag("--compact", options->compact, "No indentation, no line breaks between elements");
+    command->add_flag("--no-declaration", options->noDeclaration, "No XML declaration in front");
+    command->add_option("-o,--output", options->output, "Write to FILE instead of standard output")
+        ->type_name("FILE")
+        ->check(complaintIfEmpty);
+    command->add_option("FILE", options->input, "An XML document with a record as root element; - for standard input")
+        ->type_name("")
+        ->required()
+        ->check(complaintIfEmpty);
+    command->callback([options] { format(*options); });
+}
+
+}  // namespace tool

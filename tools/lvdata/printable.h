@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tool {
+
+/// The text fit for one line of a terminal: control characters, line separators and bytes that are no UTF-8 become
+/// "\x" and two hexadecimal digits a byte; everything else stays.
+[[nodiscard]] std::string printable(std::string_view text);
+
+}  // namespace tool
