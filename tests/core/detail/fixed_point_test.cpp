@@ -1,0 +1,165 @@
+#include <lvdata/core/detail/fixed_point.h>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace lv::detail {
+namespace {
+
+using DoubleLimits = std::numeric_limits<double>;
+
+constexpr double two31 = 2147483648.0;
+constexpr double two32 = 4294967296.0;
+constexpr double two52 = 4503599627370496.0;
+constexpr double two53 = 9007199254740992.0;
+constexpr double two63 = 9223372036854775808.0;
+
+unsigned int unsignedOf(double value, double factor) {
+    return to_fixed<unsigned int>(value, factor);
+}
+
+int signedOf(double value, double factor) {
+    return to_fixed<int>(value, factor);
+}
+
+TEST(ToFixed, RoundsByAddingOneHalfAndTruncating) {
+    EXPECT_EQ(unsignedOf(1.0000004, 1e6), 1000000U);
+    EXPECT_EQ(unsignedOf(1.0000005, 1e6), 1000001U);
+    EXPECT_EQ(unsignedOf(1.2, 100.0), 120U);
+    EXPECT_EQ(unsignedOf(0.5, 255.0), 128U);
+    EXPECT_EQ(unsignedOf(1.2, 255.0), 306U);
+    EXPECT_EQ(unsignedOf(1.5, 255.0), 383U);
+    EXPECT_EQ(unsignedOf(0.5, 1e9), 500000000U);
+    EXPECT_EQ(unsignedOf(95.047, 1e6), 95047000U);
+    EXPECT_EQ(signedOf(0.0000004, 1e6), 0);
+    EXPECT_EQ(signedOf(0.0000005, 1e6), 1);
+    EXPECT_EQ(signedOf(0.3, 1e6), 300000);
+}
+
+TEST(ToFixedUnsigned, NegativeValuesGiveZero) {
+    for (const double value : {-0.2, -0.0000001, -1.0, -two32, -two63, -1e300, -DoubleLimits::denorm_min()}) {
+        EXPECT_EQ(unsignedOf(value, 1e6), 0U) << value;
+    }
+}
+
+TEST(ToFixedSigned, NegativeValuesAreTruncatedTowardZeroAfterAddingOneHalf) {
+    EXPECT_EQ(signedOf(-0.3, 1e6), -299999);
+    EXPECT_EQ(signedOf(-1.0, 1e6), -999999);
+    EXPECT_EQ(signedOf(-0.7, 1e6), -699999);
+    EXPECT_EQ(signedOf(-0.0000012, 1e6), 0);
+    EXPECT_EQ(signedOf(-0.0000016, 1e6), -1);
+    EXPECT_EQ(signedOf(-2.0, 1.0), -1);
+}
+
+TEST(ToFixed, BothZerosGiveZero) {
+    for (const double zero : {0.0, -0.0}) {
+        EXPECT_EQ(unsignedOf(zero, 1e6), 0U);
+        EXPECT_EQ(signedOf(zero, 1e6), 0);
+    }
+}
+
+TEST(ToFixed, WhatHasNo64BitIntegerGivesZero) {
+    const double infinity = DoubleLimits::infinity();
+    for (const double value : {DoubleLimits::quiet_NaN(), -DoubleLimits::quiet_NaN(), infinity, -infinity,
+                               DoubleLimits::max(), DoubleLimits::lowest(), 1e13, -1e13, 1e300, -1e300}) {
+        EXPECT_EQ(unsignedOf(value, 1e6), 0U) << value;
+        EXPECT_EQ(signedOf(value, 1e6), 0) << value;
+    }
+}
+
+TEST(ToFixed, TheGreatestNumberWitha64BitIntegerIsStillConverted) {
+    const double below63 = std::nextafter(two63, 0.0);  // 2^63 - 1024
+    EXPECT_EQ(unsignedOf(below63, 1.0), 4294966272U);
+    EXPECT_EQ(signedOf(below63, 1.0), -1024);
+    EXPECT_EQ(signedOf(-below63, 1.0), 1024);
+    EXPECT_EQ(unsignedOf(two63, 1.0), 0U);
+    EXPECT_EQ(unsignedOf(std::nextafter(two63, two63 * 2), 1.0), 0U);
+    EXPECT_EQ(signedOf(-two63, 1.0), 0);
+}
+
+TEST(ToFixed, WhatLeavesTheRangeInTheProductOnlyGivesZero) {
+    EXPECT_EQ(unsignedOf(two63 / 1e6 * 1.01, 1e6), 0U);
+    EXPECT_EQ(signedOf(-two63 / 1e6 * 1.01, 1e6), 0);
+    EXPECT_EQ(unsignedOf(1e308, 1e6), 0U);  // the product is infinite
+}
+
+TEST(ToFixedUnsigned, Beyond32BitsTheLow32BitsAreKept) {
+    EXPECT_EQ(unsignedOf(4294.967295, 1e6), 4294967295U);
+    EXPECT_EQ(unsignedOf(4294.967296, 1e6), 0U);
+    EXPECT_EQ(unsignedOf(4295.0, 1e6), 32704U);
+    EXPECT_EQ(unsignedOf(42949672.95, 100.0), 4294967295U);
+    EXPECT_EQ(unsignedOf(42949672.97, 100.0), 1U);
+    EXPECT_EQ(unsignedOf(4.294967297, 1e9), 1U);
+    EXPECT_EQ(unsignedOf(two31, 1.0), 2147483648U);
+    EXPECT_EQ(unsignedOf(two32 - 1, 1.0), 4294967295U);
+    EXPECT_EQ(unsignedOf(two32 - 0.5, 1.0), 0U);
+    EXPECT_EQ(unsignedOf(two32, 1.0), 0U);
+    EXPECT_EQ(unsignedOf(two32 + 1, 1.0), 1U);
+    EXPECT_EQ(unsignedOf(two32 * 5 + 7, 1.0), 7U);
+}
+
+TEST(ToFixedSigned, Beyond32BitsTheLow32BitsAreReadAsSigned) {
+    EXPECT_EQ(signedOf(two31 - 1, 1.0), 2147483647);
+    EXPECT_EQ(signedOf(two31, 1.0), std::numeric_limits<int>::min());
+    EXPECT_EQ(signedOf(two31 + 1, 1.0), -2147483647);
+    EXPECT_EQ(signedOf(two32 - 1, 1.0), -1);
+    EXPECT_EQ(signedOf(two32 + 3, 1.0), 3);
+    EXPECT_EQ(signedOf(-two31 - 0.5, 1.0), std::numeric_limits<int>::min());
+    EXPECT_EQ(signedOf(-two31 - 1.5, 1.0), 2147483647);
+    EXPECT_EQ(signedOf(-two32 - 3.5, 1.0), -3);
+    EXPECT_EQ(signedOf(2147.483648, 1e6), std::numeric_limits<int>::min());
+}
+
+TEST(ToFixed, NearTheEndOfExactDoublesTheSumIsRounded) {
+    EXPECT_EQ(unsignedOf(two52, 1.0), 0U);
+    EXPECT_EQ(unsignedOf(two52 + 1, 1.0), 2U);  // 2^52 + 1.5 is a tie, and goes to the even neighbour
+    EXPECT_EQ(unsignedOf(two53 - 1, 1.0), 0U);
+    EXPECT_EQ(unsignedOf(two53, 1.0), 0U);
+    EXPECT_EQ(unsignedOf(two53 + 2, 1.0), 2U);
+    EXPECT_EQ(signedOf(-two53 - 2, 1.0), -2);
+}
+
+TEST(ToFixed, TheProductIsRoundedBeforeTheSum) {
+    // Rounded only once, as a fused multiply-add does, each of these gives the neighbouring integer.
+    EXPECT_EQ(unsignedOf(0.0049999999999999992, 100.0), 1U);
+    EXPECT_EQ(unsignedOf(4.9999999999999993e-10, 1e9), 1U);
+    EXPECT_EQ(unsignedOf(4503599627.3704967, 1e6), 2U);
+    EXPECT_EQ(signedOf(-0.00085, 1e4), -8);
+    EXPECT_EQ(signedOf(-1.65e-8, 1e9), -16);
+    EXPECT_EQ(std::trunc(std::fma(-0.00085, 1e4, 0.5)), -7.0);
+}
+
+TEST(FromFixed, DividesByTheFactor) {
+    EXPECT_EQ(from_fixed(500000000U, 1e9), 0.5);
+    EXPECT_EQ(from_fixed(500000U, 1e6), 0.5);
+    EXPECT_EQ(from_fixed(120U, 100.0), 1.2);
+    EXPECT_EQ(from_fixed(4294967295U, 1e6), 4294.967295);
+    EXPECT_EQ(from_fixed(-299999, 1e6), -0.299999);
+    EXPECT_EQ(from_fixed(128U, 255.0), 128 / 255.0);
+    EXPECT_EQ(from_fixed(0, 1e6), 0.0);
+}
+
+TEST(FromFixed, EveryStoredUnsignedNumberComesBackFromItsDouble) {
+    for (const double factor : {100.0, 255.0, 1e4, 65535.0, 16777215.0, 1e6, 1e9}) {
+        for (std::uint64_t stored = 0; stored < std::uint64_t{1} << 32U; stored += 99991) {
+            const auto number = static_cast<unsigned int>(stored);
+            ASSERT_EQ(unsignedOf(from_fixed(number, factor), factor), number) << factor;
+        }
+        ASSERT_EQ(unsignedOf(from_fixed(4294967295U, factor), factor), 4294967295U) << factor;
+    }
+}
+
+TEST(FixedPointTable, ConvertsEntryByEntryAtAnyLength) {
+    EXPECT_TRUE(to_fixed<unsigned int>(std::vector<double>(), 1e6).empty());
+    EXPECT_EQ(to_fixed<unsigned int>({0.5, -1.0, 4295.0}, 1e6), (std::vector<unsigned int>{500000, 0, 32704}));
+    EXPECT_EQ(to_fixed<int>({0.5, -1.0}, 1e6), (std::vector<int>{500000, -999999}));
+    EXPECT_TRUE(from_fixed(std::vector<int>(), 1e6).empty());
+    EXPECT_EQ(from_fixed(std::vector<int>{500000, -250000}, 1e6), (std::vector<double>{0.5, -0.25}));
+}
+
+}  // namespace
+}  // namespace lv::detail

@@ -1,0 +1,164 @@
+#include <tests/support/every_record.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+// The documents of golden/<Record>/. `<name>.xml` is read into a fresh record of that class, `<name>.expected.xml` is
+// the text that it then prints; beside that, `<name>.hlg.expected.xml` is what it prints with `writeHLGSystemGamma`
+// set.
+
+namespace lv::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Maker = std::unique_ptr<DataObject> (*)();
+using Makers = std::map<std::string, Maker>;
+
+template <class Record>
+std::unique_ptr<DataObject> make() {
+    return std::make_unique<Record>();
+}
+
+template <class... Records>
+Makers makersOf(::testing::Types<Records...> /*list*/) {
+    return {{Records::rootElementName, &make<Records>}...};
+}
+
+const Makers& makers() {
+    static const Makers all = makersOf(EveryRecord());
+    return all;
+}
+
+/// A document and the text expected of it.
+struct Golden {
+    std::string record;
+    fs::path input;
+    fs::path expected;
+    bool writeHLGSystemGamma;
+};
+
+/// How a failed test names it.
+void PrintTo(const Golden& golden, std::ostream* out) {
+    *out << golden.expected;
+}
+
+constexpr const char* documentEnd = ".xml";
+constexpr const char* expectedEnd = ".expected.xml";
+constexpr const char* switchEnd = ".hlg";
+
+/// Takes `end` off the text; false when it does not end so.
+bool removeEnd(std::string& text, const std::string& end) {
+    const bool found = text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+    text.resize(found ? text.size() - end.size() : text.size());
+    return found;
+}
+
+std::vector<fs::path> entriesOf(const fs::path& folder) {
+    std::error_code ignored;  // a missing folder has no entries; a test of its own notices that
+    std::vector<fs::path> entries;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
+        entries.push_back(entry.path());
+    }
+    std::sort(entries.begin(), entries.end());
+    return entries;
+}
+
+std::vector<Golden> goldenOf(const std::string& record) {
+    std::vector<Golden> found;
+    for (const fs::path& entry : entriesOf(fs::path(LVDATA_GOLDEN_DIR) / record)) {
+        std::string name = entry.filename().string();
+        if (removeEnd(name, expectedEnd)) {
+            const bool withSwitch = removeEnd(name, switchEnd);
+            found.push_back({record, entry.parent_path() / (name + documentEnd), entry, withSwitch});
+        }
+    }
+    return found;
+}
+
+std::vector<Golden> everyGolden() {
+    std::vector<Golden> all;
+    for (const auto& [record, maker] : makers()) {
+        const std::vector<Golden> found = goldenOf(record);
+        all.insert(all.end(), found.begin(), found.end());
+    }
+    return all;
+}
+
+std::string contentOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class GoldenDocument : public ::testing::TestWithParam<Golden> {
+protected:
+    /// A fresh record that has read the text; a refusal fails the test.
+    static std::unique_ptr<DataObject> parsedFrom(const std::string& text) {
+        std::unique_ptr<DataObject> record = makers().at(GetParam().record)();
+        record->writeHLGSystemGamma = GetParam().writeHLGSystemGamma;
+        EXPECT_TRUE(record->parseXMLString(text)) << text;
+        return record;
+    }
+
+    static std::string input() { return contentOf(GetParam().input); }
+    static std::string expected() { return contentOf(GetParam().expected); }
+};
+
+std::string nameOf(const ::testing::TestParamInfo<Golden>& info) {
+    std::string name = info.param.expected.filename().string();
+    removeEnd(name, expectedEnd);
+    std::replace(name.begin(), name.end(), '.', '_');
+    return info.param.record + '_' + name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Golden, GoldenDocument, ::testing::ValuesIn(everyGolden()), nameOf);
+
+TEST_P(GoldenDocument, IsPrintedAsExpected) {
+    EXPECT_EQ(parsedFrom(input())->toXMLString(true, true), expected());
+}
+
+TEST_P(GoldenDocument, ExpectedTextIsPrintedAsItself) {
+    EXPECT_EQ(parsedFrom(expected())->toXMLString(true, true), expected());
+}
+
+TEST_P(GoldenDocument, CompactTextSaysTheSame) {
+    const std::string compactText = parsedFrom(input())->toXMLString(false, false);
+    EXPECT_EQ(parsedFrom(compactText)->toXMLString(true, true), expected());
+}
+
+TEST(GoldenFolders, EveryRecordHasDocuments) {
+    for (const auto& [record, maker] : makers()) {
+        EXPECT_FALSE(goldenOf(record).empty()) << record;
+    }
+}
+
+TEST(GoldenFolders, EveryFolderBelongsToARecord) {
+    for (const fs::path& folder : entriesOf(LVDATA_GOLDEN_DIR)) {
+        EXPECT_EQ(makers().count(folder.filename().string()), 1U) << folder;
+    }
+}
+
+TEST(GoldenFolders, EveryDocumentHasItsExpectedText) {
+    for (const auto& [record, maker] : makers()) {
+        for (const fs::path& file : entriesOf(fs::path(LVDATA_GOLDEN_DIR) / record)) {
+            std::string name = file.filename().string();
+            if (!removeEnd(name, expectedEnd)) {
+                EXPECT_TRUE(removeEnd(name, documentEnd)) << file;
+                EXPECT_TRUE(fs::exists(file.parent_path() / (name + expectedEnd))) << file;
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace lv::test

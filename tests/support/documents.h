@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+namespace lv::test {
+
+/// Variations of a document, made by the XML library alone. They take and give compact text.
+
+[[nodiscard]] std::string withRootNamed(const std::string& text, const std::string& name);
+
+/// The root's attribute set to this value.
+[[nodiscard]] std::string withRootAttribute(const std::string& text, const std::string& name, const std::string& value);
+
+/// Another digit for every digit but 0 in the text of an element: another value for every member.
+[[nodiscard]] std::string withOtherNumbers(const std::string& text);
+
+/// Behind each element that holds text alone another one of its name, with another text.
+[[nodiscard]] std::string withRepeatedLeaves(const std::string& text);
+
+/// Around each child of an element unknown elements and comments, and in each element an unknown attribute.
+[[nodiscard]] std::string withUnknownContent(const std::string& text);
+
+/// The root's children inside one more element.
+[[nodiscard]] std::string withChildrenOneLevelDeeper(const std::string& text);
+
+/// The children of an element in reverse order, save where some share a name and their order means something.
+[[nodiscard]] std::string withChildrenReversed(const std::string& text);
+
+}  // namespace lv::test

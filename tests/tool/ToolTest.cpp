@@ -1,0 +1,103 @@
+#include "ToolTest.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr unsigned int secondsToRun = 60;
+
+fs::path newFolder() {
+    std::string name = fs::temp_directory_path() / "lvdata-test-XXXXXX";
+    if (::mkdtemp(name.data()) == nullptr) {
+        throw fs::filesystem_error("mkdtemp", name, std::error_code(errno, std::generic_category()));
+    }
+    return name;
+}
+
+void writeFile(const fs::path& path, const std::string& text) {
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+std::string readFile(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool redirect(int standard, const fs::path& path, int flags) {
+    const int opened = ::open(path.c_str(), flags, 0600);
+    return opened >= 0 && ::dup2(opened, standard) >= 0 && ::close(opened) == 0;
+}
+
+void startTool(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), LVDATA_TOOL);
+    std::vector<char*> pointers;
+    std::transform(arguments.begin(), arguments.end(), std::back_inserter(pointers),
+                   [](std::string& argument) { return argument.data(); });
+    pointers.push_back(nullptr);
+    ::execv(LVDATA_TOOL, pointers.data());
+}
+
+int waitFor(pid_t process) {
+    int status = 0;
+    ::waitpid(process, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+}  // namespace
+
+ToolTest::ToolTest() : streams_(newFolder()), folder_(streams_ / "work") {
+    fs::create_directory(folder_);
+}
+
+ToolTest::~ToolTest() {
+    std::error_code ignored;
+    fs::remove_all(streams_, ignored);
+}
+
+Outcome ToolTest::run(const std::vector<std::string>& arguments, const Surroundings& around) const {
+    const fs::path input = streams_ / "input";
+    const fs::path error = streams_ / "error";
+    const fs::path output = streams_ / "output";
+    writeFile(input, around.input);
+    fs::remove(output);
+
+    const pid_t process = ::fork();
+    if (process == 0) {
+        const bool ready = ::chdir(folder_.c_str()) == 0 && redirect(STDIN_FILENO, input, O_RDONLY) &&
+                           redirect(STDOUT_FILENO, around.outputTo.empty() ? output : around.outputTo,
+                                    O_WRONLY | O_CREAT | O_APPEND) &&
+                           redirect(STDERR_FILENO, error, O_WRONLY | O_CREAT | O_TRUNC) && around.prepare();
+        ::alarm(secondsToRun);
+        if (ready) {
+            startTool(arguments);
+        }
+        ::_exit(notStarted);
+    }
+    return {waitFor(process), readFile(output), readFile(error)};
+}
+
+void ToolTest::write(const std::string& name, const std::string& text) const {
+    writeFile(path(name), text);
+}
+
+std::string ToolTest::read(const std::string& name) const {
+    return readFile(path(name));
+}
+
+std::vector<std::string> ToolTest::names() const {
+    std::vector<std::string> found;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
+        found.push_back(entry.path().filename());
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}

@@ -1,0 +1,44 @@
+#include "ToolTest.h"
+
+namespace {
+
+/// The text as a message repeats it: here as the name of a file that does not exist.
+class Printable : public ToolTest {
+protected:
+    [[nodiscard]] std::string shown(const std::string& text) const {
+        const std::string reason = ": error: No such file or directory\n";
+        std::string message = run({"format", text}).error;
+        EXPECT_EQ(message.substr(message.size() - std::min(message.size(), reason.size())), reason);
+        return message.substr(0, message.size() - reason.size());
+    }
+};
+
+TEST_F(Printable, LeavesTextOfAnyLanguage) {
+    for (const std::string text : {"plain name.xml", "Größe", "色.xml", "\U0001F3A8", "~", "\u00A0", "\uD7FF\uE000"}) {
+        EXPECT_EQ(shown(text), text);
+    }
+}
+
+TEST_F(Printable, EscapesControlCharacters) {
+    EXPECT_EQ(shown("a\nb\r\tc"), "a\\x0Ab\\x0D\\x09c");
+    EXPECT_EQ(shown("\x1B[2J"), "\\x1B[2J");
+    EXPECT_EQ(shown("\x1F \x7F"), "\\x1F \\x7F");
+}
+
+TEST_F(Printable, EscapesTheControlCharactersAndLineSeparatorsOfUnicode) {
+    EXPECT_EQ(shown("a\u0080b\u0085c\u009Fd"), "a\\xC2\\x80b\\xC2\\x85c\\xC2\\x9Fd");
+    EXPECT_EQ(shown("a\u2028b\u2029c"), "a\\xE2\\x80\\xA8b\\xE2\\x80\\xA9c");
+    EXPECT_EQ(shown("\u2027\u202F"), "\u2027\u202F");
+}
+
+TEST_F(Printable, EscapesBytesThatAreNoUtf8) {
+    EXPECT_EQ(shown("a\x85z"), "a\\x85z");       // no lead byte
+    EXPECT_EQ(shown("\xC3z"), "\\xC3z");         // no second byte
+    EXPECT_EQ(shown("\xE2\x82"), "\\xE2\\x82");  // cut off
+    EXPECT_EQ(shown("\xC0\x8A"), "\\xC0\\x8A");  // a line feed in two bytes
+    EXPECT_EQ(shown("\xE0\x80\x8A\xF0\x80\x80\x8A"), "\\xE0\\x80\\x8A\\xF0\\x80\\x80\\x8A");  // in three and four
+    EXPECT_EQ(shown("\xED\xA0\x80"), "\\xED\\xA0\\x80");                                      // a surrogate
+    EXPECT_EQ(shown("\xF4\x90\x80\x80\xF5"), "\\xF4\\x90\\x80\\x80\\xF5");  // behind the last character
+}
+
+}  // namespace
