@@ -18,7 +18,7 @@ constexpr unsigned char byteAt(std::string_view text, std::size_t index) {
 }
 
 constexpr std::size_t sequenceLength(unsigned char lead) {
-    return lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    return lead < 0x80 ? 1 : lead < 0xC0 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF8 ? 4 : 0;
 }
 
 constexpr bool isScalarValue(char32_t code, std::size_t length) {

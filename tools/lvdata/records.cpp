@@ -21,9 +21,23 @@ constexpr RecordClass known() {
 }
 
 constexpr std::array recordClasses{
-    known<lv::AssetInfo>(),        known<lv::CorrelationInfo>(),
-    known<lv::MeasurementData>(),  known<lv::MeasurementDataSecondary>(),
-    known<lv::MonitorParameter>(),
+    known<lv::AssetInfo>(),                 //
+    known<lv::BasicData>(),                 //
+    known<lv::CalibrationModeResult>(),     //
+    known<lv::CandelaMap>(),                //
+    known<lv::ColorModeSettings>(),         //
+    known<lv::CorrelationInfo>(),           //
+    known<lv::MeasurementData>(),           //
+    known<lv::MeasurementDataSecondary>(),  //
+    known<lv::MonitorConfiguration>(),      //
+    known<lv::MonitorInfo>(),               //
+    known<lv::MonitorParameter>(),          //
+    known<lv::ParameterSetting>(),          //
+    known<lv::ProfileData>(),               //
+    known<lv::ProfilePolicy>(),             //
+    known<lv::SelfCalibrationSchedule>(),   //
+    known<lv::StandardModeResult>(),        //
+    known<lv::TargetSetting>(),             //
 };
 
 }  // namespace

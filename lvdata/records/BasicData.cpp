@@ -1,0 +1,74 @@
+#include <lvdata/core/detail/colour_notation.h>
+#include <lvdata/core/detail/record.h>
+#include <lvdata/records/BasicData.h>
+
+namespace lv {
+namespace {
+
+constexpr double whiteFactor = 1e6;
+
+template <class Io, class White>
+void visitWhite(Io& io, const char* name, White& white) {
+    io.always().writeWhen(white.value.size() == detail::xyz.size()).field(name, white);
+}
+
+template <class Io, class Property>
+void visitExecutor(Io& io, Property& executorType) {
+    io.writeWhen(executorType.hasValue).element("Executor").value("Type", executorType.value);
+    io.derive(executorType.hasValue, !executorType.value.empty());
+}
+
+constexpr auto visit = [](auto& io, auto& self) {
+    io.field("UsageHours", self.usageHours);
+    io.field("UsageMinutes", self.usageMinutes);
+    io.field("ColorSensorID", self.colorSensorID);
+    io.field("ColorSensorName", self.colorSensorName);
+    io.field("ColorSensorSerial", self.colorSensorSerial);
+    io.field("ColorSensorCorrection", self.colorSensorCorrection);
+    io.field("ReferenceColorSensorID", self.referenceColorSensorID);
+    io.field("ReferenceColorSensorName", self.referenceColorSensorName);
+    io.field("ReferenceColorSensorSerial", self.referenceColorSensorSerial);
+    io.field("ColorSensorCorrelationID", self.colorSensorCorrelationID);
+    io.field("ColorSensorCorrelationDate", self.colorSensorCorrelationDate);
+    io.field("ColorSensorCorrelationMatrixID", self.colorSensorCorrelationMatrixID);
+    io.field("UseColorSensorCorrelationMatrix", self.useColorSensorCorrelationMatrix);
+    visitWhite(io, "CorrelationTargetWhite", self.correlationTargetWhite);
+    visitWhite(io, "JustCalibratedWhite", self.justCalibratedWhite);
+    io.field("ExCorrectionID", self.exCorrectionID);
+    io.field("ExCorrectionName", self.exCorrectionName);
+    io.field("BackLightLightingTime", self.backLightLightingTime);
+    io.field("Software", self.software);
+    io.field("executedDate", self.executedDate);
+    io.field("DUEPriority", self.DUEPriority);
+    visitExecutor(io, self.executorType);
+};
+
+}  // namespace
+
+BasicData::BasicData() : DataObject(3, 0) {}
+
+bool BasicData::parseXMLElement(XMLElement element) {
+    return detail::parseRecord(*this, rootElementName, element, visit);
+}
+
+XMLElement BasicData::appendXMLElement(XMLNode& parent) const {
+    return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+colour BasicData::correlationTargetWhite_x() const {
+    return detail::to_colour(detail::xyz, correlationTargetWhite.value, whiteFactor);
+}
+
+void BasicData::correlationTargetWhite_x(const colour& white) {
+    correlationTargetWhite.set(detail::from_colour<unsigned int>(detail::xyz, white, whiteFactor));
+}
+
+colour BasicData::justCalibratedWhite_x() const {
+    return detail::to_colour(detail::xyz, justCalibratedWhite.value, whiteFactor);
+}
+
+void BasicData::justCalibratedWhite_x(const colour& white) {
+    justCalibratedWhite.set(detail::from_colour<unsigned int>(detail::xyz, white, whiteFactor));
+}
+
+}  // namespace lv

@@ -1,0 +1,46 @@
+#include <lvdata/core/detail/record.h>
+#include <lvdata/records/CalibrationModeResult.h>
+
+namespace lv {
+namespace {
+
+template <class Io, class EmulationLUT>
+void visitEmulationLUT(Io& io, EmulationLUT& table) {
+    auto element = io.writeWhen(table.present).element("EmulationLUT");
+    element.value("Availability", table.availability);
+    element.value("Index", table.index);
+    element.writeWhen(!table.name.empty()).value("Name", table.name);
+    io.derive(table.present, element.exists());
+}
+
+constexpr auto visitRow = [](auto& io, auto& row) {
+    io.attribute("Type", row.type);
+    io.field("Index", row.index);
+    io.field("Name", row.name);
+    io.field("CalibratedTime", row.calibratedTime);
+    io.record(row.basicData, row.hasBasicData);
+    io.record(row.measurementData, row.hasMeasurementData);
+    io.field("HasValidMeasuredBlackValue", row.hasValidMeasuredBlackValue);
+    io.record(row.monitorParameter, row.hasMonitorParameter);
+    io.always().record(row.profileData, row.hasProfileData);
+    visitEmulationLUT(io, row.emulationLUT);
+    return true;
+};
+
+constexpr auto visit = [](auto& io, auto& self) {
+    io.rows("ColorMode", self, visitRow);
+};
+
+}  // namespace
+
+CalibrationModeResult::CalibrationModeResult() : DataArrayObject(2, 0) {}
+
+bool CalibrationModeResult::parseXMLElement(XMLElement element) {
+    return detail::parseRecord(*this, rootElementName, element, visit);
+}
+
+XMLElement CalibrationModeResult::appendXMLElement(XMLNode& parent) const {
+    return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+}  // namespace lv

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <lvdata/core/DataArrayObject.h>
+#include <lvdata/export.h>
+#include <lvdata/records/ParameterSetting.h>
+#include <lvdata/records/ProfilePolicy.h>
+#include <lvdata/records/TargetSetting.h>
+
+#include <string>
+
+namespace lv {
+
+/// One colour mode: what it is, and the records that define it.
+///
+/// The text of `type` alone, set or not, chooses which nested records are written; their flags are not consulted, so an
+/// unset one is written with its defaults. Parsing takes all three whatever the type says; each flag is whether the
+/// record was found.
+class ColorModeSettingsObject {
+public:
+    /// The kind of mode, attribute "Type": written always. "Standard", "SyncSignal" and "Calibration" steer what is
+    /// written; any other text is kept and written back.
+    property<std::string> type;
+
+    /// Elements "Index", "Name" and "Availability", written when set.
+    property<unsigned int> index;
+    property<std::string> name;
+    property<unsigned int> availability;
+
+    /// Device parameters, element "ParameterSetting", written for "Standard" and "SyncSignal".
+    property<ParameterSetting> parameterSetting;
+
+    /// Calibration target, element "TargetSetting" inside an element "Target" whose attribute "Type" is "Lumivale";
+    /// written for "Calibration".
+    property<TargetSetting> targetSetting;
+
+    /// Profile-making policy, element "ProfilePolicy", written always.
+    property<ProfilePolicy> profilePolicy;
+};
+
+/// A monitor's colour modes, one element "ColorMode" per mode in list order; every such element makes a row, however
+/// empty. The record's own `writeHLGSystemGamma` is in force for the parameters and targets of all rows. Version 2.0.
+class LVDATA_EXPORT ColorModeSettings : public DataArrayObject<ColorModeSettingsObject> {
+public:
+    /// The name of the root element.
+    static constexpr const char* rootElementName = "ColorModeSettings";
+
+    ColorModeSettings();
+
+    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    XMLElement appendXMLElement(XMLNode& parent) const override;
+
+private:
+    friend class detail::Writer;
+    XMLElement appendWithSwitch(XMLNode& parent, bool hlgSwitch) const;
+};
+
+}  // namespace lv

@@ -1,0 +1,33 @@
+#include <lvdata/core/detail/record.h>
+#include <lvdata/records/MonitorConfiguration.h>
+
+namespace lv {
+namespace {
+
+constexpr auto visit = [](auto& io, auto& self) {
+    io.field("Name", self.name);
+    io.field("Model", self.model);
+    io.field("Serial", self.serial);
+    io.always().recordWithSwitch(self.colorModeSettings);
+    io.always().record(self.selfCalibrationSchedule);
+    io.field("StandardModeCalibration", self.standardModeCalibration);
+    io.field("KeyLock", self.keyLock);
+};
+
+}  // namespace
+
+MonitorConfiguration::MonitorConfiguration() : DataObject(2, 0) {}
+
+bool MonitorConfiguration::parseXMLElement(XMLElement element) {
+    return detail::parseRecord(*this, rootElementName, element, visit);
+}
+
+XMLElement MonitorConfiguration::appendXMLElement(XMLNode& parent) const {
+    return appendWithSwitch(parent, writeHLGSystemGamma);
+}
+
+XMLElement MonitorConfiguration::appendWithSwitch(XMLNode& parent, bool hlgSwitch) const {
+    return detail::appendRecord(*this, rootElementName, parent, hlgSwitch, visit);
+}
+
+}  // namespace lv

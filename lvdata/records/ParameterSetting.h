@@ -1,0 +1,103 @@
+#pragma once
+
+#include <lvdata/core/DataObject.h>
+#include <lvdata/export.h>
+
+#include <string>
+
+namespace lv {
+
+/// The display parameters that a colour mode is set to: brightness, white point, gamma and gamut, each tagged by a type
+/// that says how it is given, and one setting for the signal range "Limited109".
+///
+/// The elements of the four parameters are written always with their attribute "Type"; only the children that belong to
+/// the type are written inside. Parsing takes whatever children there are, except that the type "SyncSignal" carries no
+/// values; the flag of a parameter is whether its element was found. A round trip therefore drops children that do not
+/// belong to the type. Texts and units are the application's unless said otherwise. Version 2.0.
+class LVDATA_EXPORT ParameterSetting : public DataObject {
+public:
+    /// The name of the root element.
+    static constexpr const char* rootElementName = "ParameterSetting";
+
+    struct brightness_t {
+        /// Attribute "Type": "Candela", "Percent" or "SyncSignal".
+        std::string type;
+
+        /// The brightness in the unit that the type names. Element "Value", written for "Candela" and "Percent".
+        unsigned int value = 0;
+    };
+
+    struct white_point_t {
+        /// Attribute "Type": "Temperature" or "Fixed".
+        std::string type;
+
+        /// The colour temperature. Element "Temperature", written for that type.
+        unsigned int temperature = 0;
+
+        /// The name of a standard white point. Element "Fixed", written for that type.
+        std::string fixed;
+    };
+
+    struct LVDATA_EXPORT gamma_t {
+        /// Attribute "Type": "Value", "Fixed" or "SyncSignal".
+        std::string type;
+
+        /// Gamma times 100. Element "Value", written for that type.
+        unsigned int value = 0;
+
+        /// The name of a standard curve; "PQ" and "HLG" (ITU-R BT.2100) are the two that carry clipping. Element
+        /// "Fixed", written for that type.
+        std::string fixed;
+
+        /// Clipping of a PQ or HLG curve. Element "PQHLGClipping", written for the type "Fixed" with one of the two.
+        std::string pqhlgClipping;
+
+        /// System gamma of HLG times 100. Element "HLGSystemGamma", written for every type when the record that is
+        /// printed has `writeHLGSystemGamma` set.
+        unsigned int hlgSystemGamma = 0;
+
+        /// Both gammas as fractions. The setters store the value times 100 plus 0.5, truncated, 0 for a negative or a
+        /// NaN, the low 32 bits of what is larger; they change neither the type nor any flag.
+        [[nodiscard]] double value_x() const;
+        void value_x(double exponent);
+        [[nodiscard]] double hlgSystemGamma_x() const;
+        void hlgSystemGamma_x(double exponent);
+    };
+
+    struct gamut_t {
+        /// Attribute "Type": "Fixed" or "SyncSignal".
+        std::string type;
+
+        /// The name of a standard gamut. Element "Fixed", written for that type.
+        std::string fixed;
+
+        /// Gamut clipping. Element "Clipping", read and written for every type.
+        unsigned int clipping = 0;
+    };
+
+    ParameterSetting();
+
+    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    XMLElement appendXMLElement(XMLNode& parent) const override;
+
+    /// Element "Brightness".
+    property<brightness_t> brightness;
+
+    /// Element "WhitePoint".
+    property<white_point_t> whitePoint;
+
+    /// Element "Gamma".
+    property<gamma_t> gamma;
+
+    /// Element "Gamut".
+    property<gamut_t> gamut;
+
+    /// Element "Limited109Setting", written when set.
+    property<unsigned int> limited109Setting;
+
+private:
+    friend class detail::Writer;
+    XMLElement appendWithSwitch(XMLNode& parent, bool hlgSwitch) const;
+};
+
+}  // namespace lv
