@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lvdata/core/DataObject.h>
+#include <lvdata/export.h>
 
 #include <vector>
 
@@ -13,7 +14,7 @@ namespace lv {
 /// element of the right name empties the list first, and only a root element of another name leaves the old rows in
 /// place.
 template <class Row>
-class DataArrayObject : public DataObject {
+class LVDATA_EXPORT DataArrayObject : public DataObject {
 public:
     /// The rows in document order, reached directly: filled before printing, read after parsing.
     std::vector<Row> objects;

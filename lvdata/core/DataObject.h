@@ -27,16 +27,17 @@ public:
 
     /// Reads the record from its root element. False when the element is invalid or bears another name (compared
     /// exactly); the record is then unchanged. Otherwise true: every child is optional, so what the element holds
-    /// replaces the member and sets its flag, what it lacks clears the flag and leaves the earlier value in place. Each
-    /// record states where it differs. Children that the record does not know are passed over.
+    /// replaces the member and sets its flag, what it lacks clears the flag and leaves the earlier value in place. A
+    /// string whose element has no text keeps its value with the flag set; a number without text counts as missing.
+    /// Each record states where it differs. Children that the record does not know are passed over.
     [[nodiscard]] virtual bool parseXMLElement(XMLElement element) = 0;
 
     /// Appends the record as a new last child of `parent`, a document or an element, and returns its root element. The
     /// record itself stays as it is. With a parent that takes no children nothing happens and the result is invalid.
     virtual XMLElement appendXMLElement(XMLNode& parent) const = 0;
 
-    /// Reads the record from a whole XML document in UTF-8. False, with the record unchanged, when the text is not
-    /// well-formed or `parseXMLElement` refuses the document's first element.
+    /// Reads the record from a whole XML document in UTF-8. False, with the record unchanged, when the XML library
+    /// refuses the text or `parseXMLElement` refuses the document's first element.
     [[nodiscard]] bool parseXMLString(const std::string& text);
 
     /// The record as a whole XML document in UTF-8: behind an XML declaration when `declaration`, indented when

@@ -74,8 +74,9 @@ public:
 
     /// \name The white points as colours
     /// The getters return X, Y and Z, the stored values divided by 1000000, or an all-zero colour when fewer than three
-    /// are stored; the flag is not consulted. The setters store three values, each times 1000000 plus 0.5, truncated, 0
-    /// for a negative or a NaN, the low 32 bits of what is larger, and set the flag.
+    /// are stored; the flag is not consulted. The setters store three values, each times 1000000 plus 0.5, truncated,
+    /// and the low 32 bits of what is larger; 0 for negatives, NaN, infinities and magnitudes of 2^63 and more. They
+    /// set the flag.
     /// @{
     [[nodiscard]] colour correlationTargetWhite_x() const;
     void correlationTargetWhite_x(const colour& white);

@@ -62,6 +62,8 @@ public:
     EmulationLUT emulationLUT;
 };
 
+using EmulationLUT = CalibrationModeResultObject::EmulationLUT;
+
 /// The outcomes of the last calibrations, one element "ColorMode" per colour mode in list order: nothing is merged or
 /// sorted, and every such element makes a row, however empty. Version 2.0.
 class LVDATA_EXPORT CalibrationModeResult : public DataArrayObject<CalibrationModeResultObject> {

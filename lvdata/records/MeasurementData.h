@@ -18,7 +18,7 @@ namespace lv {
 /// The getters return a colour with only their own members filled, each the stored integer divided by the factor; all
 /// of it is zero when the vector holds too few entries, and further entries are ignored. The setters replace their own
 /// vector and nothing else: value times factor plus 0.5, truncated toward zero, without an upper limit; NaN, infinities
-/// and products of 2^63 and more store 0, and what exceeds 32 bits keeps its low 32 bits.
+/// and magnitudes of 2^63 and more store 0, and what exceeds 32 bits keeps its low 32 bits.
 class LVDATA_EXPORT MeasurementDataObject {
 public:
     /// R, G, B: 3 code values 0 to 255, element "RGB".

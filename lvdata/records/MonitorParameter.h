@@ -3,7 +3,6 @@
 #include <lvdata/core/DataObject.h>
 #include <lvdata/export.h>
 
-#include <string>
 #include <vector>
 
 namespace lv {
@@ -14,9 +13,10 @@ namespace lv {
 /// Fractions are stored in fixed point, as the document carries them. The `_x` accessors convert: a getter divides the
 /// stored value by its factor, whether or not the flag is set; a setter stores the value times the factor plus 0.5,
 /// truncated toward zero, and sets the flag. Negative input becomes 0 in the unsigned fields. Nothing fails: NaN,
-/// infinities and products of 2^63 and more store 0, and what exceeds 32 bits keeps its low 32 bits.
+/// infinities and magnitudes of 2^63 and more store 0, and what exceeds 32 bits keeps its low 32 bits.
 ///
-/// All members are written only when set, as children of the root element under their own names. Version 4.0.
+/// Unless said otherwise a member is written when it is set, as a child of the root element under its own name.
+/// Version 4.0.
 class LVDATA_EXPORT MonitorParameter : public DataObject {
 public:
     /// The name of the root element.

@@ -11,9 +11,10 @@ namespace lv {
 /// that says how it is given, and one setting for the signal range "Limited109".
 ///
 /// The elements of the four parameters are written always with their attribute "Type"; only the children that belong to
-/// the type are written inside. Parsing takes whatever children there are, except that the type "SyncSignal" carries no
-/// values; the flag of a parameter is whether its element was found. A round trip therefore drops children that do not
-/// belong to the type. Texts and units are the application's unless said otherwise. Version 2.0.
+/// the type are written inside. Parsing takes whatever children there are, except that for the type "SyncSignal"
+/// brightness and gamma read none and the gamut does not read "Fixed"; the flag of a parameter is whether its element
+/// was found. A round trip therefore drops children that do not belong to the type. Texts and units are the
+/// application's unless said otherwise. Version 2.0.
 class LVDATA_EXPORT ParameterSetting : public DataObject {
 public:
     /// The name of the root element.
@@ -56,8 +57,9 @@ public:
         /// printed has `writeHLGSystemGamma` set.
         unsigned int hlgSystemGamma = 0;
 
-        /// Both gammas as fractions. The setters store the value times 100 plus 0.5, truncated, 0 for a negative or a
-        /// NaN, the low 32 bits of what is larger; they change neither the type nor any flag.
+        /// Both gammas as fractions. The setters store the value times 100 plus 0.5, truncated, and the low 32 bits of
+        /// what is larger; 0 for negatives, NaN, infinities and magnitudes of 2^63 and more. They change neither the
+        /// type nor any flag.
         [[nodiscard]] double value_x() const;
         void value_x(double exponent);
         [[nodiscard]] double hlgSystemGamma_x() const;

@@ -13,8 +13,8 @@ namespace lv {
 /// white and black, once for the full panel and once for the state "Limited109", and a target curve per channel.
 ///
 /// Tristimulus values and curves are stored in fixed point, times 1000000. The `_x` accessors convert: getters divide;
-/// setters store the value times 1000000 plus 0.5, truncated, 0 for a negative or a NaN, and the low 32 bits of what is
-/// larger. Version 2.0.
+/// setters store the value times 1000000 plus 0.5, truncated, and the low 32 bits of what is larger; 0 for negatives,
+/// NaN, infinities and magnitudes of 2^63 and more. Version 2.0.
 class LVDATA_EXPORT ProfileData : public DataObject {
 public:
     /// The name of the root element.

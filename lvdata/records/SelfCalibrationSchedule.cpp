@@ -12,7 +12,7 @@ enum Kind : unsigned int {
     everySomeWeeks = 0x02,
     everySomeHours = 0x03,
     once = 0x11,
-    everySomeHoursToo = 0x1F,
+    everySomeHours1F = 0x1F,
     daily = 0x20,
     weekly = 0x21,
     monthly = 0x32,
@@ -38,7 +38,7 @@ void visitFields(Io& io, Self& self) {
     const unsigned int kind = self.type.value;
     io.writeWhen(isIn({everySomeMonths}, kind)).field("IntervalMonth", self.intervalMonth);
     io.writeWhen(isIn({everySomeWeeks}, kind)).field("IntervalWeek", self.intervalWeek);
-    io.writeWhen(isIn({everySomeHours, everySomeHoursToo}, kind)).field("IntervalHour", self.intervalHour);
+    io.writeWhen(isIn({everySomeHours, everySomeHours1F}, kind)).field("IntervalHour", self.intervalHour);
     io.writeWhen(isIn({quarterly}, kind)).field("MonthOfQuarter", self.monthOfQuarter);
     io.writeWhen(isIn({halfYearly}, kind)).field("MonthOfBiannual", self.monthOfBiannual);
     io.writeWhen(isIn({once}, kind)).field("Year", self.year);

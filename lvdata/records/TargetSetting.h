@@ -16,12 +16,14 @@ namespace lv {
 /// newer ones that name a standard ("WhitePointV7", "GammaV7", "GamutV7"). Each is held, parsed and written by itself;
 /// neither is converted into the other.
 ///
-/// Every member of the record is written only when it is set. A structure has an attribute or a member "type", compared
-/// exactly, that decides which of its children are written; parsing takes whatever children there are, and a missing
-/// one leaves its member as it was. A round trip therefore drops children that do not belong to the type.
+/// Every member of the record is written only when it is set. Levels, white points, standards and curves have a type,
+/// compared exactly, that decides which of their children are written; where something else decides, the member's
+/// comment says so. Parsing takes whatever children there are, and a missing one leaves its member as it was. A round
+/// trip therefore drops children that are not to be written.
 ///
-/// Fractions are stored in fixed point: setters store the value times a factor plus 0.5, truncated, 0 for a negative or
-/// a NaN, the low 32 bits of what is larger; getters divide. They touch no flag. Version 3.2.
+/// Fractions are stored in fixed point: setters store the value times a factor plus 0.5, truncated, and the low 32 bits
+/// of what is larger; 0 for negatives, NaN, infinities and magnitudes of 2^63 and more. Getters divide. They touch no
+/// flag. Version 3.2.
 class LVDATA_EXPORT TargetSetting : public DataObject {
 public:
     /// The name of the root element.
@@ -156,6 +158,8 @@ public:
 
     /// Fine corrections, in the monitor's adjustment steps; unscaled and unchecked.
     struct advanced_settings_t {
+        using black_level_t = TargetSetting::black_level_t;
+
         /// One correction for each of six colours: elements "red" to "yellow".
         struct advanced_settings_six_colors_t {
             int red = 0;

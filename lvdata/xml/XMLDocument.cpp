@@ -25,19 +25,21 @@ std::string errorWords(std::string_view identifier) {
 
 }  // namespace
 
-XMLDocument::XMLDocument() : XMLNode(detail::toHandle(new tinyxml2::XMLDocument)) {}
+XMLDocument::XMLDocument() : XMLNode(detail::toHandle(new tinyxml2::XMLDocument)), owned_(get()) {}
 
-XMLDocument::XMLDocument(void* document) : XMLNode(document), borrowed_(true) {}
+XMLDocument::XMLDocument(void* document) : XMLNode(document) {}
 
 XMLDocument::~XMLDocument() {
-    if (!borrowed_) {
-        delete detail::toDocument(get());
-    }
+    delete detail::toDocument(owned_);
 }
 
 bool XMLDocument::parseXMLString(const std::string& text) {
     tinyxml2::XMLDocument* const document = detail::toDocument(get());
-    return document != nullptr && document->Parse(text.c_str(), text.size()) == tinyxml2::XML_SUCCESS;
+    if (document == nullptr || document->Parse(text.c_str(), text.size()) != tinyxml2::XML_SUCCESS) {
+        return false;
+    }
+    document->SetBOM(false);  // else the printer would put the mark behind the declaration
+    return true;
 }
 
 std::string XMLDocument::parseErrorText() const {

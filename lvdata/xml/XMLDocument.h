@@ -29,18 +29,21 @@ public:
     XMLDocument& operator=(XMLDocument&&) = delete;
 
     /// Replaces the document by what `text`, a whole XML document in UTF-8, holds. Wrappers into the earlier content
-    /// dangle. True when the text is well-formed; otherwise, or when there is no document, false, and the document is
-    /// then empty. The text ends at its first NUL, if it holds one.
+    /// dangle. True when the XML library accepts the text, which it does with a little more than well-formed documents
+    /// (several elements at document level, unknown entities); otherwise, or when there is no document, false, and the
+    /// document is then empty. The text ends at its first NUL, if it holds one. A byte order mark is passed over.
     [[nodiscard]] bool parseXMLString(const std::string& text);
 
     /// The reason why the last `parseXMLString` failed, in a few words ("mismatched element"), and the line of the text
-    /// where the XML library noticed, counted from 1. After a success: an empty string and 0.
+    /// where the XML library noticed, counted from 1; 0 for a text without anything. After a success: an empty string
+    /// and 0.
     [[nodiscard]] std::string parseErrorText() const;
     [[nodiscard]] int parseErrorLine() const;
 
     /// The document's text in UTF-8: indented by four spaces a level when `pretty`, without any line break of its own
     /// otherwise; behind the declaration `<?xml version="1.0" encoding="UTF-8" standalone="no"?>` when `declaration`.
-    /// Empty when there is no document.
+    /// A declaration that was parsed is part of the document and printed in any case, so ask for one only where there
+    /// is none. Empty when there is no document.
     [[nodiscard]] std::string toXMLString(bool declaration, bool pretty) const;
 
     /// The first element at document level, whatever its name; invalid when there is none.
@@ -50,7 +53,7 @@ public:
     XMLElement appendChild(const std::string& name) const;
 
 private:
-    bool borrowed_ = false;
+    void* owned_ = nullptr;  // what the destructor deletes: the handle itself may be assigned through the base class
 };
 
 }  // namespace lv

@@ -12,14 +12,16 @@ namespace lv {
 /// An element of an XML document, with typed access to its text, attributes and children.
 ///
 /// A handle like `XMLNode`, narrowed to an element at every operation: a wrapper whose node is of another kind behaves
-/// as an invalid one. No operation throws or reports an error. Failure shows as an invalid returned wrapper and an
-/// untouched output argument, so calls can be chained without checks; a missing child, a missing attribute and an
-/// invalid receiver look the same. One thread at a time, together with the document.
+/// as an invalid one. No operation reports an error or throws, but for `std::bad_alloc`. Failure shows as an invalid
+/// returned wrapper and an untouched output argument, so calls can be chained without checks; a missing child, a
+/// missing attribute and an invalid receiver look the same. One thread at a time, together with the document.
 ///
 /// Names and text are C strings to the XML library: they end at their first NUL.
 class LVDATA_EXPORT XMLElement : public XMLNode {
 public:
     XMLElement() = default;
+
+    /// Wraps a node handed over as `XMLNode` takes it; one that is no element behaves as none.
     explicit XMLElement(void* node) : XMLNode(node) {}
 
     /// The tag name; "" when invalid.
@@ -32,8 +34,9 @@ public:
     [[nodiscard]] std::vector<XMLElement> getElements(const std::string& name) const;
 
     /// \name Reading the element's own text
-    /// The text is what stands before the first child element, comments in front of it passed over; entities are
-    /// resolved. Each returns this element when it found what it looks for, else an invalid one with `out` untouched.
+    /// The text is the first piece of text or CDATA section, unless a child element stands in front of it; comments in
+    /// front are passed over, anything behind it ends it. Nothing but white space is no text; entities are resolved.
+    /// Each returns this element when it found what it looks for, else an invalid one with `out` untouched.
     /// @{
 
     /// Found whenever the element is valid; without any text `out` stays untouched all the same.
@@ -88,7 +91,7 @@ public:
 
     /// \name Attributes
     /// A string attribute is found when it exists, also when it is empty; a number only when it is not empty. The
-    /// setters create or replace the attribute and return this element, an invalid one included.
+    /// setters create or replace the attribute and return this wrapper, also when it is no element and nothing was set.
     /// @{
     XMLElement getAttributeString(const std::string& name, std::string& out) const;
     XMLElement getAttributeInt(const std::string& name, int& out) const;

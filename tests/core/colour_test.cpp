@@ -1,7 +1,7 @@
 #include <lvdata/core/colour.h>
 
 #include <array>
-#include <cstring>
+#include <cstddef>
 #include <new>
 #include <type_traits>
 
@@ -19,9 +19,9 @@ constexpr std::array<double colour::*, 18> inOrder = {
     &colour::extra0, &colour::L,       &colour::a,      &colour::b,     &colour::extra1, &colour::extra2};
 
 TEST(Colour, DefaultMadeIsAllZero) {
-    alignas(colour) unsigned char memory[sizeof(colour)];
-    std::memset(memory, 0xA5, sizeof memory);  // what is not initialised shows
-    const auto* const made = new (memory) colour;
+    alignas(colour) std::array<unsigned char, sizeof(colour)> memory{};
+    memory.fill(0xA5);  // what is not initialised shows
+    const auto* const made = new (memory.data()) colour;
     for (const auto member : inOrder) {
         EXPECT_EQ(made->*member, 0.0);
     }

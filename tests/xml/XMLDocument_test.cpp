@@ -2,6 +2,7 @@
 
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <tinyxml2.h>
@@ -108,11 +109,12 @@ TEST(XMLDocumentParse, ReplacesWhatTheDocumentHeld) {
 }
 
 TEST(XMLDocumentParse, RefusesTextThatIsNotWellFormedAndTellsReasonAndLine) {
-    const struct {
+    struct Case {
         std::string text;
         std::string reason;
         int line;
-    } cases[] = {
+    };
+    const std::vector<Case> cases = {
         {"text", "parsing text", 1},
         {"<A", "parsing element", 1},
         {"<A>", "mismatched element", 1},
@@ -221,6 +223,23 @@ TEST(XMLDocumentBorrowed, WithoutADocumentDoesNothing) {
     callers.Print(&printer);
     EXPECT_STREQ(printer.CStr(), "<A>text</A>");
 }
+
+TEST(XMLDocumentParse, ByteOrderMarkIsPassedOverAndNotPrinted) {
+    XMLDocument document;
+    ASSERT_TRUE(document.parseXMLString("\xEF\xBB\xBF<A/>"));
+    EXPECT_EQ(document.rootElement().elementName(), "A");
+    EXPECT_EQ(document.toXMLString(false, false), "<A/>");
+    EXPECT_EQ(document.toXMLString(true, false), R"(<?xml version="1.0" encoding="UTF-8" standalone="no"?><A/>)");
+}
+
+TEST(XMLDocument, HandleAssignedThroughTheBaseLeavesOwnershipAlone) {
+    XMLDocument first;
+    XMLDocument second;
+    second.appendChild("Second");
+    XMLNode& handle = first;
+    handle = second;
+    EXPECT_EQ(first.rootElement().elementName(), "Second");
+}  // each deletes its own: the address sanitizer would tell
 
 }  // namespace
 }  // namespace lv

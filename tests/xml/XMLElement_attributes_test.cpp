@@ -2,6 +2,7 @@
 #include <tests/support/ParsedDocument.h>
 
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -63,11 +64,13 @@ TEST(XMLElementAttribute, EmptyIsFoundAsTextButNotAsANumber) {
 }
 
 TEST(XMLElementAttribute, NumbersConvertAsLexicalCastDoes) {
-    const struct {
+    struct Case {
         const char* text;
         int number;
         unsigned int count;
-    } cases[] = {{"7", 7, 7}, {" 7 ", 7, 7}, {" ", 0, 0}, {"abc", 0, 0}, {"-1", -1, 4294967295U}, {"3.9", 3, 3}};
+    };
+    const std::vector<Case> cases = {{"7", 7, 7},   {" 7 ", 7, 7},           {" ", 0, 0},
+                                     {"abc", 0, 0}, {"-1", -1, 4294967295U}, {"3.9", 3, 3}};
     for (const auto& [text, number, count] : cases) {
         const ParsedDocument parsed(std::string("<A n='") + text + "'/>");
         const Attribute read(parsed.root(), "n");

@@ -17,8 +17,8 @@ std::string document(const std::string& text) {
 }
 
 /// What an element can hold that is no text of its own.
-const char* const noTexts[] = {"<A/>",         "<A></A>",   "<A>  \n </A>", "<A><!-- 5 --></A>", "<A><B>5</B></A>",
-                               "<A><B/>5</A>", "<A a='5'/>"};
+const std::vector<const char*> noTexts = {
+    "<A/>", "<A></A>", "<A>  \n </A>", "<A><!-- 5 --></A>", "<A><B>5</B></A>", "<A><B/>5</A>", "<A a='5'/>"};
 
 template <class Kind>
 class XMLElementReading : public testing::Test {};
@@ -94,10 +94,11 @@ TEST(XMLElementGetStringValue, EmptyTextIsTextAndEmptiesOut) {
 }
 
 TEST(XMLElementGetStringValue, TakesTheTextAsXmlMeansIt) {
-    const struct {
+    struct Case {
         const char* content;
         const char* text;
-    } cases[] = {
+    };
+    const std::vector<Case> cases = {
         {"&lt;&amp;&gt;&quot;&apos;", "<&>\"'"},     // entities
         {"&#181;m &#xB5;m", "\xC2\xB5m \xC2\xB5m"},  // numeric references
         {"\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8", "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8"},
@@ -121,21 +122,22 @@ TEST(XMLElementGetStringValue, TakesTheTextAsXmlMeansIt) {
 }
 
 TEST(XMLElementGetIntValue, ConvertsAsLexicalCastDoes) {
-    const struct {
+    struct Case {
         const char* text;
         int number;
         unsigned int count;
-    } cases[] = {{"7", 7, 7},
-                 {" 7 ", 7, 7},
-                 {"7 8", 7, 7},
-                 {"-1", -1, 4294967295U},
-                 {"99999999999", 2147483647, 4294967295U},
-                 {"abc", 0, 0},
-                 {"12abc", 12, 12},
-                 {"true", 0, 0},
-                 {"&#52;2", 42, 42},
-                 {"<![CDATA[42]]>", 42, 42},
-                 {"<!-- 1 -->42<!-- 2 -->", 42, 42}};
+    };
+    const std::vector<Case> cases = {{"7", 7, 7},
+                                     {" 7 ", 7, 7},
+                                     {"7 8", 7, 7},
+                                     {"-1", -1, 4294967295U},
+                                     {"99999999999", 2147483647, 4294967295U},
+                                     {"abc", 0, 0},
+                                     {"12abc", 12, 12},
+                                     {"true", 0, 0},
+                                     {"&#52;2", 42, 42},
+                                     {"<![CDATA[42]]>", 42, 42},
+                                     {"<!-- 1 -->42<!-- 2 -->", 42, 42}};
     for (const auto& [text, number, count] : cases) {
         const ParsedDocument parsed(document(text));
         int signedOut = 9;
@@ -160,12 +162,13 @@ TEST(XMLElementGetIntValue, TextOfWhiteSpaceAloneIsFoundAndReadsAsZero) {
 }
 
 TEST(XMLElementGetBoolValue, TrueTextsAreTrueAndEverythingElseIsFalse) {
-    const struct {
+    struct Case {
         const char* text;
         bool truth;
-    } cases[] = {{"true", true},   {"TRUE", true},   {"True", false},  {"tRUE", false},
-                 {"1", false},     {"yes", false},   {"false", false}, {"FALSE", false},
-                 {" true", false}, {"true ", false}, {"trueX", false}};
+    };
+    const std::vector<Case> cases = {{"true", true},   {"TRUE", true},   {"True", false},  {"tRUE", false},
+                                     {"1", false},     {"yes", false},   {"false", false}, {"FALSE", false},
+                                     {" true", false}, {"true ", false}, {"trueX", false}};
     for (const auto& [text, truth] : cases) {
         const ParsedDocument parsed(document(text));
         bool out = !truth;
@@ -181,7 +184,7 @@ struct ArrayCase {
 };
 
 TEST(XMLElementGetIntArray, SplitsTheOwnTextAtTheSeparatorAndSkipsEmptyPieces) {
-    const ArrayCase cases[] = {
+    const std::vector<ArrayCase> cases = {
         {"1|2|3", "|", {1, 2, 3}},      {"5", "|", {5}},        {"1||2|", "|", {1, 2}}, {"|", "|", {}},
         {" 7 |abc|8x", "|", {7, 0, 8}}, {" ||9", "|", {0, 9}},  {"1,2", ",", {1, 2}},   {"1|2", ",", {1}},
         {"1, 2", ", ", {1, 2}},         {"1::2", "::", {1, 0}}, {"1|2", "", {1}},

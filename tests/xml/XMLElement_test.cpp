@@ -81,7 +81,7 @@ std::ostream& operator<<(std::ostream& stream, const OtherNode& node) {
     return stream << node.name;
 }
 
-const OtherNode otherNodes[] = {
+const std::vector<OtherNode> otherNodes = {
     {"Nothing",
      [](tinyxml2::XMLDocument& /*document*/) -> tinyxml2::XMLNode* {
          return nullptr;

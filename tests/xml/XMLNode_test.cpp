@@ -1,6 +1,7 @@
 #include <lvdata/xml/XMLNode.h>
 
 #include <type_traits>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <tinyxml2.h>
@@ -60,10 +61,11 @@ TEST_F(XMLNodeOfDocument, HandsTheHandleOutAsItCame) {
 
 TEST_F(XMLNodeOfDocument, CopyingCopiesTheHandle) {
     const XMLNode wrapper(element());
-    const XMLNode copy = wrapper;
+    const std::vector<XMLNode> copies(2, wrapper);
     XMLNode assigned;
     assigned = wrapper;
-    EXPECT_EQ(copy.get(), wrapper.get());
+    EXPECT_EQ(copies.front().get(), wrapper.get());
+    EXPECT_EQ(copies.back().get(), wrapper.get());
     EXPECT_EQ(assigned.get(), wrapper.get());
 }
 

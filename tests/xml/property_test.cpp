@@ -1,6 +1,7 @@
 #include <lvdata/xml/property.h>
 
-#include <cstring>
+#include <array>
+#include <cstddef>
 #include <new>
 #include <string>
 #include <type_traits>
@@ -26,8 +27,9 @@ class PropertyOf : public testing::Test {};
 struct TypeName {
     template <class T>
     static std::string GetName(int index) {
-        constexpr const char* names[] = {"int", "unsigned", "bool", "string", "ints", "unsigneds", "structure"};
-        return names[index];
+        const std::array<const char*, 7> names = {"int",  "unsigned",  "bool",     "string",
+                                                  "ints", "unsigneds", "structure"};
+        return names.at(static_cast<std::size_t>(index));
     }
 };
 
@@ -37,9 +39,9 @@ TYPED_TEST_SUITE(PropertyOf, Types, TypeName);
 
 TYPED_TEST(PropertyOf, DefaultMadeHasZeroValueAndClearFlag) {
     using Property = property<TypeParam>;
-    alignas(Property) unsigned char memory[sizeof(Property)];
-    std::memset(memory, 0xA5, sizeof memory);  // what is not initialised shows
-    auto* const made = new (memory) Property;
+    alignas(Property) std::array<unsigned char, sizeof(Property)> memory{};
+    memory.fill(0xA5);  // what is not initialised shows
+    auto* const made = new (memory.data()) Property;
     EXPECT_TRUE(made->value == TypeParam());
     EXPECT_FALSE(made->hasValue);
     made->~Property();

@@ -52,7 +52,9 @@ public:
 
     template <class T>
     bool attribute(const char* name, const T& member) {
-        setAttribute(element_, name, member);
+        if (exists()) {
+            setAttribute(element_, name, member);
+        }
         return exists();
     }
 
@@ -65,20 +67,22 @@ public:
 
     template <class T>
     bool text(const T& member) {
-        setText(element_, member);
+        if (exists()) {
+            setText(element_, member);
+        }
         return exists();
     }
 
     template <class T>
     void field(const char* name, const property<T>& member) {
-        if (member.hasValue || always_) {
+        if (writes(member.hasValue)) {
             value(name, member.value);
         }
     }
 
     template <class T>
     bool value(const char* name, const T& member) {
-        return appendChild(element_, name, member) != nullptr;
+        return exists() && appendChild(element_, name, member) != nullptr;
     }
 
     template <class Number>
@@ -96,7 +100,7 @@ public:
 
     template <class T, class Visit>
     void structure(const char* name, const property<T>& member, Visit visit) {
-        if (member.hasValue || always_) {
+        if (writes(member.hasValue)) {
             Writer io = element(name);
             visit(io, member.value);
         }
@@ -104,7 +108,7 @@ public:
 
     template <class T, class Visit>
     void group(const property<T>& member, Visit visit) {
-        if (member.hasValue || always_) {
+        if (writes(member.hasValue)) {
             Writer io(element_, writeHLGSystemGamma_);
             visit(io, member.value);
         }
@@ -112,7 +116,7 @@ public:
 
     template <class Record>
     void record(const Record& member, bool flag) {
-        if (flag || always_) {
+        if (writes(flag)) {
             XMLElement parent = xmlElement();
             member.appendXMLElement(parent);
         }
@@ -125,14 +129,14 @@ public:
 
     template <class Record>
     void recordWithSwitch(const property<Record>& member) {
-        if (member.hasValue || always_) {
+        if (writes(member.hasValue)) {
             XMLElement parent = xmlElement();
             member.value.appendWithSwitch(parent, writeHLGSystemGamma_);
         }
     }
 
     template <class Visit>
-    void keyed(const char* name, const char* key, const std::string& text, Visit visit) {
+    void keyed(const char* name, const char* key, const char* text, Visit visit) {
         Writer io = element(name);
         io.constant(key, text);
         visit(io);
@@ -146,7 +150,7 @@ public:
     template <class Record, class Visit, class HasContent>
     void rows(const char* name, const Record& record, Visit visit, HasContent hasContent) {
         for (const auto& row : record.objects) {
-            if (hasContent(row)) {
+            if (exists() && hasContent(row)) {
                 Writer io = element(name);
                 visit(io, row);
             }
@@ -154,6 +158,9 @@ public:
     }
 
 private:
+    /// Whether a member with that flag is written: not behind a closed gate, where no text shall even be made.
+    [[nodiscard]] bool writes(bool flag) const { return exists() && (flag || always_); }
+
     void* element_;
     bool writeHLGSystemGamma_;
     bool always_ = false;

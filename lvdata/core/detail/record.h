@@ -27,7 +27,7 @@ template <class Record, class Visit>
 template <class Record, class Visit>
 XMLElement appendRecord(const Record& record, const std::string& rootName, XMLNode& parent, bool writeHLGSystemGamma,
                         Visit visit) {
-    const XMLElement root = record.appendRootXMLElement(rootName, parent);
+    XMLElement root = record.appendRootXMLElement(rootName, parent);
     record.appendVersionAttribute(root);
     Writer io(root.get(), writeHLGSystemGamma);
     visit(io, record);

@@ -7,7 +7,7 @@
 namespace lv::detail {
 
 /// What separates the values of an array in every document.
-inline constexpr char arraySeparator[] = "|";
+inline constexpr const char* arraySeparator = "|";
 
 /// The first child element of that name, as a handle; null when there is none or `parent` is no element.
 [[nodiscard]] void* findChild(void* parent, const char* name);

@@ -51,7 +51,7 @@ Scanned scan(std::string_view text) {
 
 template <class Number>
 void appendDecimal(std::string& text, Number value) {
-    std::array<char, std::numeric_limits<Number>::digits10 + 2> digits;  // one digit more than digits10, and a sign
+    std::array<char, std::numeric_limits<Number>::digits10 + 2> digits{};  // one digit more than digits10, and a sign
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
     text.append(digits.data(), end);
 }

@@ -6,9 +6,10 @@
 namespace lv::detail {
 
 /// The number at the start of `text`, read where it lies; `lexical_cast` states the rules.
-/// Defined for int and unsigned int.
+/// Defined for int and unsigned int. (g++ exports specialisations whatever the file's default says, hence the
+/// attribute.)
 template <class Number>
-[[nodiscard]] Number parseNumber(std::string_view text);
+[[nodiscard, gnu::visibility("hidden")]] Number parseNumber(std::string_view text);
 
 /// Appends the decimal text of `value` to `text`; allocates only where `text` has to grow.
 void appendNumber(std::string& text, int value);

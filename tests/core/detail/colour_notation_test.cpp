@@ -11,9 +11,10 @@ namespace lv::detail {
 namespace {
 
 /// A colour's members in their order.
-std::array<double, 18> membersOf(const colour& c) {
-    return {c.cyan, c.magenta, c.yellow, c.black,  c.red, c.green, c.blue, c.X,      c.Y,
-            c.Z,    c.x,       c.y,      c.extra0, c.L,   c.a,     c.b,    c.extra1, c.extra2};
+std::array<double, 18> membersOf(const colour& source) {
+    return {source.cyan,   source.magenta, source.yellow, source.black, source.red,    source.green,
+            source.blue,   source.X,       source.Y,      source.Z,     source.x,      source.y,
+            source.extra0, source.L,       source.a,      source.b,     source.extra1, source.extra2};
 }
 
 /// Eighteen zeros, but for these values from the given place on.
