@@ -7,10 +7,22 @@
 #include <gtest/gtest.h>
 
 #include <lvdata/records/AssetInfo.h>
+#include <lvdata/records/BasicData.h>
+#include <lvdata/records/CalibrationModeResult.h>
+#include <lvdata/records/CandelaMap.h>
+#include <lvdata/records/ColorModeSettings.h>
 #include <lvdata/records/CorrelationInfo.h>
 #include <lvdata/records/MeasurementData.h>
 #include <lvdata/records/MeasurementDataSecondary.h>
+#include <lvdata/records/MonitorConfiguration.h>
+#include <lvdata/records/MonitorInfo.h>
 #include <lvdata/records/MonitorParameter.h>
+#include <lvdata/records/ParameterSetting.h>
+#include <lvdata/records/ProfileData.h>
+#include <lvdata/records/ProfilePolicy.h>
+#include <lvdata/records/SelfCalibrationSchedule.h>
+#include <lvdata/records/StandardModeResult.h>
+#include <lvdata/records/TargetSetting.h>
 
 #include <string>
 
@@ -19,10 +31,22 @@ namespace lv::test {
 /// What the tests run for that must hold for every record. A new record is one line here.
 using EveryRecord = ::testing::Types<  //
     AssetInfo,                         //
+    BasicData,                         //
+    CalibrationModeResult,             //
+    CandelaMap,                        //
+    ColorModeSettings,                 //
     CorrelationInfo,                   //
     MeasurementData,                   //
     MeasurementDataSecondary,          //
-    MonitorParameter>;
+    MonitorConfiguration,              //
+    MonitorInfo,                       //
+    MonitorParameter,                  //
+    ParameterSetting,                  //
+    ProfileData,                       //
+    ProfilePolicy,                     //
+    SelfCalibrationSchedule,           //
+    StandardModeResult,                //
+    TargetSetting>;
 
 /// Names the tests after their record.
 struct RecordName {

@@ -4,6 +4,7 @@
 
 #include <lvdata/records/MeasurementDataSecondary.h>
 
+#include <set>
 #include <string>
 #include <type_traits>
 
@@ -17,6 +18,18 @@ template <class Record>
 template <>
 [[nodiscard]] AssetInfo filled<AssetInfo>();
 template <>
+[[nodiscard]] BasicData filled<BasicData>();
+template <>
+[[nodiscard]] CalibrationModeResult filled<CalibrationModeResult>();
+template <>
+[[nodiscard]] CalibrationModeResultObject filled<CalibrationModeResultObject>();
+template <>
+[[nodiscard]] CandelaMap filled<CandelaMap>();
+template <>
+[[nodiscard]] ColorModeSettings filled<ColorModeSettings>();
+template <>
+[[nodiscard]] ColorModeSettingsObject filled<ColorModeSettingsObject>();
+template <>
 [[nodiscard]] CorrelationInfo filled<CorrelationInfo>();
 template <>
 [[nodiscard]] MeasurementData filled<MeasurementData>();
@@ -25,7 +38,25 @@ template <>
 template <>
 [[nodiscard]] MeasurementDataSecondary filled<MeasurementDataSecondary>();
 template <>
+[[nodiscard]] MonitorConfiguration filled<MonitorConfiguration>();
+template <>
+[[nodiscard]] MonitorInfo filled<MonitorInfo>();
+template <>
 [[nodiscard]] MonitorParameter filled<MonitorParameter>();
+template <>
+[[nodiscard]] ParameterSetting filled<ParameterSetting>();
+template <>
+[[nodiscard]] PrimaryColours filled<PrimaryColours>();
+template <>
+[[nodiscard]] ProfileData filled<ProfileData>();
+template <>
+[[nodiscard]] ProfilePolicy filled<ProfilePolicy>();
+template <>
+[[nodiscard]] SelfCalibrationSchedule filled<SelfCalibrationSchedule>();
+template <>
+[[nodiscard]] StandardModeResult filled<StandardModeResult>();
+template <>
+[[nodiscard]] TargetSetting filled<TargetSetting>();
 template <>
 [[nodiscard]] colour filled<colour>();
 
@@ -47,8 +78,8 @@ inline constexpr bool hasRows = false;
 template <class Record>
 inline constexpr bool hasRows<Record, std::void_t<decltype(Record::objects)>> = true;
 
-/// A description in which the flags of the outermost members are clear.
-[[nodiscard]] std::string withClearFlags(const std::string& description);
+/// A description in which the flags of the outermost members are clear, save those of the members named.
+[[nodiscard]] std::string withClearFlags(const std::string& description, const std::set<std::string>& except = {});
 
 /// How `filled` looks when it has read a root element without attributes and children: the values stay, the flags are
 /// clear, the rows are gone. A record that keeps some flag on purpose specialises this.
@@ -60,5 +91,36 @@ template <class Record>
     }
     return withClearFlags(describe(record));
 }
+
+// The records that lose or keep something on purpose.
+
+template <>
+[[nodiscard]] std::string filledAfterEmptyRoot<BasicData>();
+template <>
+[[nodiscard]] CalibrationModeResult filledAndParsedBack<CalibrationModeResult>();
+template <>
+[[nodiscard]] CalibrationModeResultObject filledAndParsedBack<CalibrationModeResultObject>();
+template <>
+[[nodiscard]] ColorModeSettings filledAndParsedBack<ColorModeSettings>();
+template <>
+[[nodiscard]] MonitorConfiguration filledAndParsedBack<MonitorConfiguration>();
+template <>
+[[nodiscard]] MonitorInfo filledAndParsedBack<MonitorInfo>();
+template <>
+[[nodiscard]] ParameterSetting filledAndParsedBack<ParameterSetting>();
+template <>
+[[nodiscard]] std::string filledAfterEmptyRoot<ProfileData>();
+template <>
+[[nodiscard]] ProfileData filledAndParsedBack<ProfileData>();
+template <>
+[[nodiscard]] SelfCalibrationSchedule filledAndParsedBack<SelfCalibrationSchedule>();
+template <>
+[[nodiscard]] std::string filledAfterEmptyRoot<StandardModeResult>();
+template <>
+[[nodiscard]] StandardModeResult filledAndParsedBack<StandardModeResult>();
+template <>
+[[nodiscard]] std::string filledAfterEmptyRoot<TargetSetting>();
+template <>
+[[nodiscard]] TargetSetting filledAndParsedBack<TargetSetting>();
 
 }  // namespace lv::test

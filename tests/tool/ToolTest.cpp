@@ -33,7 +33,7 @@ std::string readFile(const fs::path& path) {
 }
 
 bool redirect(int standard, const fs::path& path, int flags) {
-    const int opened = ::open(path.c_str(), flags, 0600);
+    const int opened = ::open(path.c_str(), flags, 0600);  // NOLINT(cppcoreguidelines-pro-type-vararg)
     return opened >= 0 && ::dup2(opened, standard) >= 0 && ::close(opened) == 0;
 }
 

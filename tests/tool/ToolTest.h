@@ -28,7 +28,7 @@ inline constexpr int notStarted = 127;
 
 /// Runs the tool in a folder of the test's own, which goes with the test.
 class ToolTest : public testing::Test {
-protected:
+public:
     ToolTest();
     ~ToolTest() override;
     ToolTest(const ToolTest&) = delete;
@@ -36,6 +36,7 @@ protected:
     ToolTest(ToolTest&&) = delete;
     ToolTest& operator=(ToolTest&&) = delete;
 
+protected:
     /// Runs the tool with the folder as its current one.
     Outcome run(const std::vector<std::string>& arguments, const Surroundings& around = {}) const;
 

@@ -2,6 +2,7 @@
 
 #include <lvdata/records/AssetInfo.h>
 #include <lvdata/records/MeasurementData.h>
+#include <lvdata/records/TargetSetting.h>
 
 #include <gmock/gmock.h>
 
@@ -105,6 +106,15 @@ TEST_F(Format, FormattingAgainChangesNothing) {
         EXPECT_EQ(run(command, {once}), printed(once));
         EXPECT_EQ(run({"format", "-", "--no-declaration"}, {once}), printed(tidy));
     }
+}
+
+TEST_F(Format, WritesTheHlgSystemGammaOnlyWhenTold) {
+    lv::TargetSetting target;
+    write("in.xml", "<TargetSetting><Gamma><Red/><HLGSystemGamma>120</HLGSystemGamma></Gamma></TargetSetting>");
+    ASSERT_TRUE(target.parseXMLString(run({"format", "in.xml"}).output));
+    EXPECT_EQ(target.gamma.value.hlgSystemGamma, 0U);
+    ASSERT_TRUE(target.parseXMLString(run({"format", "--hlg-system-gamma", "in.xml"}).output));
+    EXPECT_EQ(target.gamma.value.hlgSystemGamma, 120U);
 }
 
 TEST_F(Format, PrintsAnEmptyRecord) {

@@ -61,9 +61,9 @@ TEST_F(CommandLine, ReportsLackOfMemory) {
     if (LVDATA_SANITIZED) {
         GTEST_SKIP() << "sanitizers reserve more memory than a limit could leave";
     }
-    write("in.xml", "<AssetInfo><Asset1>" + std::string(20'000'000, 'x') + "</Asset1></AssetInfo>");
+    write("in.xml", "<AssetInfo><Asset1>" + std::string(8'000'000, 'x') + "</Asset1></AssetInfo>");
     const auto limitMemory = [] {
-        const rlimit limit{40'000'000, 40'000'000};
+        const rlimit limit{30'000'000, 30'000'000};
         return ::setrlimit(RLIMIT_AS, &limit) == 0;
     };
     EXPECT_EQ(run({"format", "in.xml"}, {"", "", limitMemory}), failed("lvdata: error: out of memory"));

@@ -96,7 +96,7 @@ std::string sixColours(const std::string& adjustment) {
 }
 
 std::string monitorParameter() {
-    return "<MonitorParameter Version=\"4\" MinorVersion=\"0\">" + element("Brightness", "120") +
+    return R"(<MonitorParameter Version="4" MinorVersion="0">)" + element("Brightness", "120") +
            element("Contrast", "50") + element("isHDRLUT", "1") + table("RedLUT", 977517) + table("GreenLUT", 977516) +
            table("BlueLUT", 977515) + element("HLGSystemGamma", "120") + element("HLGClipping", "1") +
            sixColours("Hue") + sixColours("Saturation") + sixColours("Lightness") + element("RedGain", "1000000") +

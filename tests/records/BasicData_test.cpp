@@ -1,0 +1,246 @@
+#include <tests/support/round_trip.h>
+#include <tests/support/samples.h>
+
+#include <gtest/gtest.h>
+
+#include <lvdata/records/BasicData.h>
+
+#include <array>
+#include <string>
+
+namespace lv::test {
+namespace {
+
+struct Number {
+    std::string element;
+    property<unsigned int> BasicData::*member;
+};
+
+const std::array everyNumber = {Number{"UsageHours", &BasicData::usageHours},
+                                Number{"UsageMinutes", &BasicData::usageMinutes},
+                                Number{"ColorSensorID", &BasicData::colorSensorID},
+                                Number{"ColorSensorCorrection", &BasicData::colorSensorCorrection},
+                                Number{"ReferenceColorSensorID", &BasicData::referenceColorSensorID},
+                                Number{"ColorSensorCorrelationID", &BasicData::colorSensorCorrelationID},
+                                Number{"ColorSensorCorrelationMatrixID", &BasicData::colorSensorCorrelationMatrixID},
+                                Number{"ExCorrectionID", &BasicData::exCorrectionID},
+                                Number{"BackLightLightingTime", &BasicData::backLightLightingTime},
+                                Number{"DUEPriority", &BasicData::DUEPriority}};
+
+struct Text {
+    std::string element;
+    property<std::string> BasicData::*member;
+};
+
+const std::array everyText = {Text{"ColorSensorName", &BasicData::colorSensorName},
+                              Text{"ColorSensorSerial", &BasicData::colorSensorSerial},
+                              Text{"ReferenceColorSensorName", &BasicData::referenceColorSensorName},
+                              Text{"ReferenceColorSensorSerial", &BasicData::referenceColorSensorSerial},
+                              Text{"ColorSensorCorrelationDate", &BasicData::colorSensorCorrelationDate},
+                              Text{"UseColorSensorCorrelationMatrix", &BasicData::useColorSensorCorrelationMatrix},
+                              Text{"ExCorrectionName", &BasicData::exCorrectionName},
+                              Text{"Software", &BasicData::software},
+                              Text{"executedDate", &BasicData::executedDate}};
+
+std::string element(const std::string& name, const std::string& content) {
+    return '<' + name + '>' + content + "</" + name + '>';
+}
+
+std::string written(const std::string& children) {
+    return R"(<BasicData Version="3" MinorVersion="0">)" + children + "</BasicData>";
+}
+
+BasicData parsedFrom(const std::string& children) {
+    return parsed<BasicData>(documentOf<BasicData>(children));
+}
+
+/// How `filled` looks when it has read a document with one child alone; `change` makes what that child sets.
+template <class Change>
+std::string filledAfterOneChild(Change change) {
+    BasicData record = filled<BasicData>();
+    change(record);
+    return describe(record);
+}
+
+void clearFlags(BasicData& record) {
+    for (const auto& number : everyNumber) {
+        (record.*number.member).hasValue = false;
+    }
+    for (const auto& text : everyText) {
+        (record.*text.member).hasValue = false;
+    }
+    record.correlationTargetWhite.hasValue = false;
+    record.justCalibratedWhite.hasValue = false;
+}
+
+TEST(BasicData, DefaultRecordWritesTheRootWithItsVersionAndNoChild) {
+    EXPECT_EQ(compact(BasicData()), R"(<BasicData Version="3" MinorVersion="0"/>)");
+}
+
+TEST(BasicData, FilledRecordWritesAllElementsInOrder) {
+    EXPECT_EQ(compact(filled<BasicData>()),
+              R"(<BasicData Version="41" MinorVersion="43">)"
+              "<UsageHours>1234</UsageHours><UsageMinutes>56</UsageMinutes>"
+              "<ColorSensorID>3</ColorSensorID><ColorSensorName>Sensor 4</ColorSensorName>"
+              "<ColorSensorSerial>SN-0005</ColorSensorSerial><ColorSensorCorrection>6</ColorSensorCorrection>"
+              "<ReferenceColorSensorID>7</ReferenceColorSensorID>"
+              "<ReferenceColorSensorName>Reference 8</ReferenceColorSensorName>"
+              "<ReferenceColorSensorSerial>SN-0009</ReferenceColorSensorSerial>"
+              "<ColorSensorCorrelationID>10</ColorSensorCorrelationID>"
+              "<ColorSensorCorrelationDate>2024-03-11</ColorSensorCorrelationDate>"
+              "<ColorSensorCorrelationMatrixID>12</ColorSensorCorrelationMatrixID>"
+              "<UseColorSensorCorrelationMatrix>true 13</UseColorSensorCorrelationMatrix>"
+              "<CorrelationTargetWhite>95047000|100000000|108883000</CorrelationTargetWhite>"
+              "<JustCalibratedWhite>95100000|100200000|108700000</JustCalibratedWhite>"
+              "<ExCorrectionID>16</ExCorrectionID><ExCorrectionName>Correction 17</ExCorrectionName>"
+              "<BackLightLightingTime>18</BackLightLightingTime><Software>Calibrator 1.9</Software>"
+              "<executedDate>2024-03-20</executedDate><DUEPriority>21</DUEPriority>"
+              "<Executor><Type>Operator 22</Type></Executor>"
+              "</BasicData>");
+}
+
+TEST(BasicData, ElementWhoseNameDiffersOnlyInCaseIsRefused) {
+    for (const char* name : {"basicData", "Basicdata", "BASICDATA"}) {
+        BasicData record = filled<BasicData>();
+        EXPECT_FALSE(record.parseXMLString(element(name, "<UsageHours>9</UsageHours>")));
+        EXPECT_EQ(describe(record), describe(filled<BasicData>())) << name;
+    }
+}
+
+TEST(BasicData, UseColorSensorCorrelationMatrixWithTrueIsKeptAndWrittenBackAsText) {
+    for (const char* text : {"true", "TRUE", "True", "0", "yes"}) {
+        const std::string child = element("UseColorSensorCorrelationMatrix", text);
+        const BasicData record = parsedFrom(child);
+        EXPECT_EQ(record.useColorSensorCorrelationMatrix, (property<std::string>{text, true}));
+        EXPECT_EQ(compact(record), written(child));
+    }
+}
+
+TEST(BasicData, EachNumberIsWrittenAloneUnderItsOwnNameAndReadBackAlone) {
+    for (const auto& [name, member] : everyNumber) {
+        BasicData record;
+        (record.*member).set(4294967295U);
+        EXPECT_EQ(compact(record), written(element(name, "4294967295")));
+        EXPECT_EQ(describe(parsedFrom(element(name, "4294967295"))), describe(record));
+    }
+}
+
+TEST(BasicData, EachTextIsWrittenAloneUnderItsOwnNameAndReadBackAlone) {
+    for (const auto& [name, member] : everyText) {
+        BasicData record;
+        (record.*member).set(" 007 & <x>");
+        EXPECT_EQ(compact(record), written(element(name, " 007 &amp; &lt;x&gt;")));
+        EXPECT_EQ(describe(parsedFrom(element(name, " 007 &#38; &lt;x&gt;"))), describe(record));
+    }
+}
+
+TEST(BasicData, NumbersThatAreUnsetAreNotWritten) {
+    for (const auto& [name, member] : everyNumber) {
+        BasicData record;
+        (record.*member).value = 5;
+        EXPECT_EQ(compact(record), compact(BasicData())) << name;
+    }
+}
+
+TEST(BasicData, TextsThatAreUnsetAreNotWritten) {
+    for (const auto& [name, member] : everyText) {
+        BasicData record;
+        (record.*member).value = "text";
+        EXPECT_EQ(compact(record), compact(BasicData())) << name;
+    }
+}
+
+TEST(BasicData, ZeroIsWrittenWhenItIsSet) {
+    for (const auto& [name, member] : everyNumber) {
+        BasicData record;
+        (record.*member).hasValue = true;
+        EXPECT_EQ(compact(record), written(element(name, "0")));
+    }
+}
+
+TEST(BasicData, EmptyTextIsWrittenWhenItIsSetAndComesBackSet) {
+    for (const auto& [name, member] : everyText) {
+        BasicData record;
+        (record.*member).hasValue = true;
+        EXPECT_EQ(compact(record), written(element(name, "")));
+        EXPECT_EQ(describe(parsedFrom(element(name, ""))), describe(record));
+    }
+}
+
+TEST(BasicData, EmptyNumberCountsAsMissingAndKeepsTheEarlierOne) {
+    for (const auto& [name, member] : everyNumber) {
+        BasicData record;
+        (record.*member).set(5);
+        ASSERT_TRUE(record.parseXMLString(documentOf<BasicData>('<' + name + "/>")));
+        EXPECT_EQ(record.*member, (property<unsigned int>{5, false})) << name;
+    }
+}
+
+TEST(BasicData, ElementWithoutTextSetsTheFlagAndKeepsTheEarlierText) {
+    for (const auto& [name, member] : everyText) {
+        BasicData record;
+        (record.*member).value = "earlier";
+        ASSERT_TRUE(record.parseXMLString(documentOf<BasicData>('<' + name + "/>")));
+        EXPECT_EQ(record.*member, (property<std::string>{"earlier", true})) << name;
+    }
+}
+
+TEST(BasicData, NumbersReadAsUnsignedWithoutEverFailing) {
+    for (const auto& [name, member] : everyNumber) {
+        const auto read = [&name = name, &member = member](const std::string& text) {
+            return parsedFrom(element(name, text)).*member;
+        };
+        EXPECT_EQ(read("-1"), (property<unsigned int>{4294967295U, true})) << name;
+        EXPECT_EQ(read("99999999999"), (property<unsigned int>{4294967295U, true})) << name;
+        EXPECT_EQ(read(" 12.9"), (property<unsigned int>{12, true})) << name;
+        EXPECT_EQ(read("abc"), (property<unsigned int>{0, true})) << name;
+    }
+}
+
+TEST(BasicData, OneNumberAloneClearsTheFlagsOfAllOthersAndKeepsTheirValues) {
+    for (const auto& [name, member] : everyNumber) {
+        BasicData record = filled<BasicData>();
+        ASSERT_TRUE(record.parseXMLString(R"(<BasicData Version="41" MinorVersion="43">)" + element(name, "77") +
+                                          "</BasicData>"));
+        EXPECT_EQ(describe(record), filledAfterOneChild([&member = member](BasicData& expected) {
+                      clearFlags(expected);
+                      (expected.*member).set(77);
+                  }));
+    }
+}
+
+TEST(BasicData, OneTextAloneClearsTheFlagsOfAllOthersAndKeepsTheirValues) {
+    for (const auto& [name, member] : everyText) {
+        BasicData record = filled<BasicData>();
+        ASSERT_TRUE(record.parseXMLString(R"(<BasicData Version="41" MinorVersion="43">)" + element(name, "new") +
+                                          "</BasicData>"));
+        EXPECT_EQ(describe(record), filledAfterOneChild([&member = member](BasicData& expected) {
+                      clearFlags(expected);
+                      (expected.*member).set("new");
+                  }));
+    }
+}
+
+TEST(BasicData, ExecutedDateHasASmallInitialUnlikeItsNeighbours) {
+    const BasicData record = parsedFrom("<ExecutedDate>2024</ExecutedDate><software>s</software>");
+    EXPECT_EQ(describe(record), describe(BasicData()));
+    EXPECT_EQ(parsedFrom("<executedDate>2024</executedDate>").executedDate, (property<std::string>{"2024", true}));
+}
+
+TEST(BasicData, NamesOfElementsAreComparedWithTheirCase) {
+    for (const char* child :
+         {"<usageHours>1</usageHours>", "<UsageHOURS>1</UsageHOURS>", "<DuePriority>1</DuePriority>",
+          "<ColorSensorId>1</ColorSensorId>", "<backLightLightingTime>1</backLightLightingTime>",
+          "<correlationTargetWhite>1|2|3</correlationTargetWhite>", "<ColourSensorName>a</ColourSensorName>"}) {
+        EXPECT_EQ(describe(parsedFrom(child)), describe(BasicData())) << child;
+    }
+}
+
+TEST(BasicData, MisplacedElementsAreNotRead) {
+    const BasicData record = parsedFrom("<Executor><UsageHours>1</UsageHours><Software>s</Software></Executor>"
+                                        "<BasicData><UsageMinutes>2</UsageMinutes></BasicData>");
+    EXPECT_EQ(describe(record), describe(BasicData()));
+}
+
+}  // namespace
+}  // namespace lv::test

@@ -1,0 +1,299 @@
+#include <tests/support/round_trip.h>
+#include <tests/support/samples.h>
+
+#include <gtest/gtest.h>
+
+#include <lvdata/records/SelfCalibrationSchedule.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace lv::test {
+namespace {
+
+struct Field {
+    std::string element;
+    property<unsigned int> SelfCalibrationSchedule::*member;
+};
+
+const std::array everyField = {Field{"IntervalMonth", &SelfCalibrationSchedule::intervalMonth},
+                               Field{"IntervalWeek", &SelfCalibrationSchedule::intervalWeek},
+                               Field{"IntervalHour", &SelfCalibrationSchedule::intervalHour},
+                               Field{"ThWeek", &SelfCalibrationSchedule::thWeek},
+                               Field{"Weekday", &SelfCalibrationSchedule::weekday},
+                               Field{"Hour", &SelfCalibrationSchedule::hour},
+                               Field{"Minute", &SelfCalibrationSchedule::minute},
+                               Field{"Year", &SelfCalibrationSchedule::year},
+                               Field{"Month", &SelfCalibrationSchedule::month},
+                               Field{"Day", &SelfCalibrationSchedule::day},
+                               Field{"MonthOfQuarter", &SelfCalibrationSchedule::monthOfQuarter},
+                               Field{"MonthOfBiannual", &SelfCalibrationSchedule::monthOfBiannual}};
+
+using Names = std::vector<std::string>;
+
+/// The elements of a kind in the order of writing; none for kinds that are not listed.
+const std::map<unsigned int, Names> namesOfKind = {{1, {"IntervalMonth", "ThWeek", "Weekday", "Hour", "Minute"}},
+                                                   {2, {"IntervalWeek", "Weekday", "Hour", "Minute"}},
+                                                   {3, {"IntervalHour"}},
+                                                   {17, {"Year", "Month", "Day", "Hour", "Minute"}},
+                                                   {31, {"IntervalHour"}},
+                                                   {32, {"Hour", "Minute"}},
+                                                   {33, {"Weekday", "Hour", "Minute"}},
+                                                   {50, {"ThWeek", "Weekday", "Hour", "Minute"}},
+                                                   {51, {"MonthOfQuarter", "ThWeek", "Weekday", "Hour", "Minute"}},
+                                                   {52, {"MonthOfBiannual", "ThWeek", "Weekday", "Hour", "Minute"}},
+                                                   {53, {"Month", "ThWeek", "Weekday", "Hour", "Minute"}}};
+
+Names namesOf(unsigned int kind) {
+    const auto found = namesOfKind.find(kind);
+    return found == namesOfKind.end() ? Names() : found->second;
+}
+
+/// Kinds 0 to 60, and some that share low bytes or bits with known ones.
+std::vector<unsigned int> everyKind() {
+    std::vector<unsigned int> kinds;
+    for (unsigned int kind = 0; kind <= 60; ++kind) {
+        kinds.push_back(kind);
+    }
+    kinds.insert(kinds.end(), {100, 129, 255, 256, 257, 273, 0x135, 0x10001, 0x7FFFFFFF, 0x80000001, 4294967295U});
+    return kinds;
+}
+
+std::string element(const std::string& name, const std::string& content) {
+    return '<' + name + '>' + content + "</" + name + '>';
+}
+
+std::string ofKind(unsigned int kind, const std::string& children) {
+    const std::string start = "<Type Type=\"" + std::to_string(kind) + '"';
+    return children.empty() ? start + "/>" : start + '>' + children + "</Type>";
+}
+
+std::string written(const std::string& children) {
+    return R"(<SelfCalibrationSchedule Version="1" MinorVersion="0">)" + children + "</SelfCalibrationSchedule>";
+}
+
+SelfCalibrationSchedule parsedFrom(const std::string& children) {
+    return parsed<SelfCalibrationSchedule>(documentOf<SelfCalibrationSchedule>(children));
+}
+
+/// Another number for every field.
+unsigned int numberOf(const std::string& name) {
+    unsigned int index = 0;
+    while (everyField.at(index).element != name) {
+        ++index;
+    }
+    return 101 + index;
+}
+
+std::string elementWithNumber(const std::string& name) {
+    return element(name, std::to_string(numberOf(name)));
+}
+
+const std::string timingElement = "<Timing>T</Timing>";
+
+SelfCalibrationSchedule withEveryFieldSet(unsigned int kind) {
+    SelfCalibrationSchedule record;
+    record.type.set(kind);
+    for (const auto& [name, member] : everyField) {
+        (record.*member).set(numberOf(name));
+    }
+    record.timing.set("T");
+    return record;
+}
+
+std::string elementsOf(unsigned int kind, const std::string& leftOut = "") {
+    std::string text;
+    for (const std::string& name : namesOf(kind)) {
+        text += name == leftOut ? "" : elementWithNumber(name);
+    }
+    return text;
+}
+
+TEST(SelfCalibrationSchedule, FreshRecordIsWrittenAsAnEmptyElementOfVersion10) {
+    EXPECT_EQ(compact(SelfCalibrationSchedule()), R"(<SelfCalibrationSchedule Version="1" MinorVersion="0"/>)");
+}
+
+TEST(SelfCalibrationSchedule, FilledRecordWritesTheElementsOfItsKindInOrder) {
+    EXPECT_EQ(compact(filled<SelfCalibrationSchedule>()),
+              R"(<SelfCalibrationSchedule Version="41" MinorVersion="43"><Type Type="53">)"
+              "<Month>11</Month><ThWeek>4</ThWeek><Weekday>5</Weekday><Hour>21</Hour><Minute>45</Minute>"
+              "<Timing>Timing 7</Timing></Type></SelfCalibrationSchedule>");
+}
+
+TEST(SelfCalibrationSchedule, EachKindWithEveryFieldSetWritesItsOwnFieldsAndTiming) {
+    for (const unsigned int kind : everyKind()) {
+        EXPECT_EQ(compact(withEveryFieldSet(kind)), written(ofKind(kind, elementsOf(kind) + timingElement)));
+    }
+}
+
+TEST(SelfCalibrationSchedule, Kind2WithEveryFieldSetWritesIntervalWeekWeekdayHourMinuteAndTimingAlone) {
+    SelfCalibrationSchedule record = filled<SelfCalibrationSchedule>();
+    record.type.set(2);
+    EXPECT_EQ(compact(record), R"(<SelfCalibrationSchedule Version="41" MinorVersion="43"><Type Type="2">)"
+                               "<IntervalWeek>3</IntervalWeek><Weekday>5</Weekday><Hour>21</Hour><Minute>45</Minute>"
+                               "<Timing>Timing 7</Timing></Type></SelfCalibrationSchedule>");
+}
+
+TEST(SelfCalibrationSchedule, Kinds3And31BothWriteOnlyIntervalHourAndTiming) {
+    for (const unsigned int kind : {3U, 31U}) {
+        EXPECT_EQ(compact(withEveryFieldSet(kind)),
+                  written(ofKind(kind, "<IntervalHour>103</IntervalHour>" + timingElement)));
+    }
+}
+
+TEST(SelfCalibrationSchedule, EachFieldUnsetInTurnIsLeftOutWithoutAnEmptyElement) {
+    for (const unsigned int kind : everyKind()) {
+        for (const auto& [name, member] : everyField) {
+            SelfCalibrationSchedule record = withEveryFieldSet(kind);
+            (record.*member).hasValue = false;
+            EXPECT_EQ(compact(record), written(ofKind(kind, elementsOf(kind, name) + timingElement)));
+        }
+    }
+}
+
+TEST(SelfCalibrationSchedule, Kind17WithoutAnHourWritesYearMonthDayAndMinuteAndNoEmptyHour) {
+    SelfCalibrationSchedule record = withEveryFieldSet(17);
+    record.timing = {};
+    record.hour = {};
+    EXPECT_EQ(
+        compact(record),
+        written(R"(<Type Type="17"><Year>108</Year><Month>109</Month><Day>110</Day><Minute>107</Minute></Type>)"));
+}
+
+TEST(SelfCalibrationSchedule, EachFieldAloneIsWrittenForTheKindsItBelongsToOnly) {
+    for (const unsigned int kind : everyKind()) {
+        const Names names = namesOf(kind);
+        for (const auto& [name, member] : everyField) {
+            SelfCalibrationSchedule record;
+            record.type.set(kind);
+            (record.*member).set(numberOf(name));
+            const bool belongs = std::count(names.begin(), names.end(), name) != 0;
+            EXPECT_EQ(compact(record), written(ofKind(kind, belongs ? elementWithNumber(name) : "")));
+        }
+    }
+}
+
+TEST(SelfCalibrationSchedule, TimingIsWrittenForEveryKindAndOnlyWhenSet) {
+    for (const unsigned int kind : everyKind()) {
+        SelfCalibrationSchedule record;
+        record.type.set(kind);
+        record.timing.value = "T";
+        EXPECT_EQ(compact(record), written(ofKind(kind, "")));
+        record.timing.hasValue = true;
+        EXPECT_EQ(compact(record), written(ofKind(kind, timingElement)));
+    }
+}
+
+TEST(SelfCalibrationSchedule, NothingButTheRootIsWrittenWithoutAType) {
+    SelfCalibrationSchedule onlyTiming;
+    onlyTiming.timing.set("T");
+    EXPECT_EQ(compact(onlyTiming), compact(SelfCalibrationSchedule()));
+    for (const unsigned int kind : everyKind()) {
+        SelfCalibrationSchedule record = withEveryFieldSet(kind);
+        record.type.hasValue = false;
+        EXPECT_EQ(compact(record), compact(SelfCalibrationSchedule())) << kind;
+    }
+}
+
+/// All fields and the timing as elements; the kinds' own and foreign ones alike.
+std::string everyElement() {
+    std::string text;
+    for (const auto& [name, member] : everyField) {
+        text += elementWithNumber(name);
+    }
+    return text + timingElement;
+}
+
+TEST(SelfCalibrationSchedule, EachKindIsReadWithItsOwnAndWithForeignFields) {
+    for (const unsigned int kind : everyKind()) {
+        const auto record = parsedFrom(ofKind(kind, everyElement()));
+        EXPECT_EQ(describe(record), describe(withEveryFieldSet(kind))) << kind;
+        EXPECT_EQ(compact(record), written(ofKind(kind, elementsOf(kind) + timingElement)));
+    }
+}
+
+TEST(SelfCalibrationSchedule, EachFieldIsReadAloneUnderEveryKindAndSetsNothingElse) {
+    for (const unsigned int kind : everyKind()) {
+        for (const auto& [name, member] : everyField) {
+            SelfCalibrationSchedule expected;
+            expected.type.set(kind);
+            (expected.*member).set(numberOf(name));
+            EXPECT_EQ(describe(parsedFrom(ofKind(kind, elementWithNumber(name)))), describe(expected)) << name;
+        }
+    }
+}
+
+TEST(SelfCalibrationSchedule, YearUnderKind32IsReadAndDroppedWhenWrittenBack) {
+    const auto record = parsedFrom(R"(<Type Type="32"><Year>2026</Year><Hour>7</Hour></Type>)");
+    EXPECT_EQ(record.year, (property<unsigned int>{2026, true}));
+    EXPECT_EQ(compact(record), written(R"(<Type Type="32"><Hour>7</Hour></Type>)"));
+}
+
+TEST(SelfCalibrationSchedule, TypeWithoutTheAttributeLeavesTheKindUnsetAndReadsTheFields) {
+    SelfCalibrationSchedule expected = withEveryFieldSet(0);
+    expected.type = {};
+    const auto record = parsedFrom(element("Type", everyElement()));
+    EXPECT_EQ(describe(record), describe(expected));
+    EXPECT_EQ(compact(record), compact(SelfCalibrationSchedule()));
+}
+
+TEST(SelfCalibrationSchedule, FieldsOutsideTheFirstTypeAreNotRead) {
+    SelfCalibrationSchedule expected;
+    expected.type.set(53);
+    EXPECT_EQ(describe(parsedFrom(everyElement() + R"(<Type Type="53"/>)")), describe(expected));
+    EXPECT_EQ(describe(parsedFrom(everyElement())), describe(SelfCalibrationSchedule()));
+    EXPECT_EQ(describe(parsedFrom(R"(<Type Type="53"/>)" + ofKind(2, everyElement()))), describe(expected));
+}
+
+TEST(SelfCalibrationSchedule, SecondDocumentClearsTheFlagsOfWhatItLacksAndKeepsTheValues) {
+    for (const auto& [name, member] : everyField) {
+        SelfCalibrationSchedule record = withEveryFieldSet(53);
+        ASSERT_TRUE(record.parseXMLString(documentOf<SelfCalibrationSchedule>(ofKind(2, element(name, "4294967295")))));
+        SelfCalibrationSchedule expected = withEveryFieldSet(2);
+        for (const Field& other : everyField) {
+            (expected.*other.member).hasValue = false;
+        }
+        expected.timing.hasValue = false;
+        (expected.*member).set(4294967295U);
+        EXPECT_EQ(describe(record), describe(expected)) << name;
+    }
+}
+
+TEST(SelfCalibrationSchedule, MissingTypeLeavesEveryMemberUnsetWithItsValue) {
+    SelfCalibrationSchedule record = withEveryFieldSet(53);
+    ASSERT_TRUE(record.parseXMLString("<SelfCalibrationSchedule/>"));
+    EXPECT_EQ(describe(record), withClearFlags(describe(withEveryFieldSet(53))));
+}
+
+TEST(SelfCalibrationSchedule, EmptyFieldCountsAsMissingAndEmptyTimingAsSet) {
+    for (const auto& [name, member] : everyField) {
+        EXPECT_EQ((parsedFrom(element("Type", '<' + name + "/>")).*member), (property<unsigned int>{0, false})) << name;
+    }
+    EXPECT_EQ(parsedFrom("<Type><Timing/></Type>").timing, (property<std::string>{"", true}));
+}
+
+TEST(SelfCalibrationSchedule, NumbersAreReadAsUnsignedWithoutEverFailing) {
+    const std::map<std::string, unsigned int> numbers = {
+        {"-1", 4294967295U}, {"99999999999", 4294967295U}, {" 12.9", 12}, {"007", 7}, {"abc", 0}, {"0x11", 0}};
+    for (const auto& [text, number] : numbers) {
+        for (const auto& [name, member] : everyField) {
+            EXPECT_EQ((parsedFrom(element("Type", element(name, text))).*member),
+                      (property<unsigned int>{number, true}));
+        }
+        EXPECT_EQ(parsedFrom("<Type Type=\"" + text + "\"/>").type, (property<unsigned int>{number, true})) << text;
+    }
+    EXPECT_EQ(parsedFrom(R"(<Type Type=""/>)").type, (property<unsigned int>{0, false}));
+}
+
+TEST(SelfCalibrationSchedule, NamesInAnotherCaseAreNotFound) {
+    EXPECT_EQ(describe(parsedFrom("<type Type=\"53\">" + everyElement() + "</type>")),
+              describe(SelfCalibrationSchedule()));
+    EXPECT_EQ(describe(parsedFrom(R"(<Type type="53"><hour>1</hour><TIMING>T</TIMING></Type>)")),
+              describe(SelfCalibrationSchedule()));
+}
+
+}  // namespace
+}  // namespace lv::test

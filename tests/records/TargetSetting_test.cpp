@@ -1,0 +1,292 @@
+#include <tests/support/round_trip.h>
+#include <tests/support/samples.h>
+
+#include <gtest/gtest.h>
+
+#include <lvdata/records/TargetSetting.h>
+
+#include <array>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace lv::test {
+namespace {
+
+std::string element(const std::string& name, const std::string& content) {
+    return '<' + name + '>' + content + "</" + name + '>';
+}
+
+std::string written(const std::string& children) {
+    return R"(<TargetSetting Version="3" MinorVersion="2">)" + children + "</TargetSetting>";
+}
+
+TargetSetting parsedFrom(const std::string& children) {
+    return parsed<TargetSetting>(documentOf<TargetSetting>(children));
+}
+
+struct Text {
+    std::string element;
+    property<std::string> TargetSetting::*member;
+};
+
+const std::array everyText = {Text{"LumivaleVersion", &TargetSetting::lumivaleVersion},
+                              Text{"FineContrast", &TargetSetting::fineContrast},
+                              Text{"CreationType", &TargetSetting::creationType},
+                              Text{"OptimizeForLimited109", &TargetSetting::optimizeForLimited109}};
+
+/// A member of the record and the text that it has when it alone is set and holds nothing but defaults.
+struct Member {
+    std::string text;
+    std::function<bool&(TargetSetting&)> flag;
+};
+
+const std::vector<Member>& everyMember() {
+    static const std::vector<Member> all = {
+        {"<LumivaleVersion></LumivaleVersion>",
+         [](auto& record) -> bool& {
+             return record.lumivaleVersion.hasValue;
+         }},
+        {"<FineContrast></FineContrast>",
+         [](auto& record) -> bool& {
+             return record.fineContrast.hasValue;
+         }},
+        {R"(<Brightness Type=""/>)",
+         [](auto& record) -> bool& {
+             return record.brightness.hasValue;
+         }},
+        {R"(<BlackLevel Type=""/>)",
+         [](auto& record) -> bool& {
+             return record.blackLevel.hasValue;
+         }},
+        {R"(<WhitePoint Type=""/>)",
+         [](auto& record) -> bool& {
+             return record.whitePoint.hasValue;
+         }},
+        {R"(<WhitePointV7 Type=""/>)",
+         [](auto& record) -> bool& {
+             return record.whitePointV7.hasValue;
+         }},
+        {R"(<Gamma><Red Type=""/><Green Type=""/><Blue Type=""/></Gamma>)",
+         [](auto& record) -> bool& {
+             return record.gamma.hasValue;
+         }},
+        {R"(<GammaV7 Type=""/>)",
+         [](auto& record) -> bool& {
+             return record.gammaV7.hasValue;
+         }},
+        {"<Gamut><GamutClipping><Value>0</Value></GamutClipping></Gamut>",
+         [](auto& record) -> bool& {
+             return record.gamut.hasValue;
+         }},
+        {R"(<GamutV7 Type=""/>)",
+         [](auto& record) -> bool& {
+             return record.gamutV7.hasValue;
+         }},
+        {"<GrayBalance><Type>0</Type></GrayBalance>",
+         [](auto& record) -> bool& {
+             return record.grayBalance.hasValue;
+         }},
+        {"<CreationType></CreationType>",
+         [](auto& record) -> bool& {
+             return record.creationType.hasValue;
+         }},
+        {"<AdvancedSettings/>",
+         [](auto& record) -> bool& {
+             return record.advancedSettings.hasValue;
+         }},
+        {"<OptimizeForLimited109></OptimizeForLimited109>", [](auto& record) -> bool& {
+             return record.optimizeForLimited109.hasValue;
+         }}};
+    return all;
+}
+
+/// `filled` as it looks when it has read a document without any child.
+TargetSetting filledWithClearFlags() {
+    TargetSetting record = filled<TargetSetting>();
+    record.version.hasValue = record.minorVersion.hasValue = false;
+    for (const auto& [text, flag] : everyMember()) {
+        flag(record) = false;
+    }
+    auto& settings = record.advancedSettings.value;
+    settings.hue.hasValue = settings.saturation.hasValue = settings.blackLevel.hasValue = false;
+    settings.sixColorsHue.hasValue = settings.sixColorsSaturation.hasValue = false;
+    settings.sixColorsLightness.hasValue = false;
+    return record;
+}
+
+TEST(TargetSetting, FreshRecordWritesTheRootWithVersion32AndNoChild) {
+    EXPECT_EQ(compact(TargetSetting()), R"(<TargetSetting Version="3" MinorVersion="2"/>)");
+}
+
+TEST(TargetSetting, FreshRecordWithTheSwitchWritesNoChildEither) {
+    TargetSetting record;
+    record.writeHLGSystemGamma = true;
+    EXPECT_EQ(compact(record), compact(TargetSetting()));
+}
+
+TEST(TargetSetting, FilledRecordWritesAllElementsOfItsTypesInOrder) {
+    const std::string expected =
+        R"(<TargetSetting Version="41" MinorVersion="43">)"
+        "<LumivaleVersion>7.1.2</LumivaleVersion><FineContrast>Contrast 1</FineContrast>"
+        R"(<Brightness Type="Value"><Value>123</Value></Brightness>)"
+        R"(<BlackLevel Type="Value"><Value>24</Value></BlackLevel>)"
+        R"(<WhitePoint Type="Coordinate"><x>3127</x><y>3291</y></WhitePoint>)"
+        R"(<WhitePointV7 Type="Standard"><Standard>White 65</Standard></WhitePointV7>)"
+        R"(<Gamma><Red Type="Lut"><Lut>1|22|333</Lut></Red>)"
+        R"(<Green Type="Lut24"><Lut24>888|9999|16777215</Lut24></Green>)"
+        R"(<Blue Type="Formula"><Formula>223</Formula></Blue><HLGSystemGamma>126</HLGSystemGamma>)"
+        "<ImportedLutFile><FileName>curve2.txt</FileName></ImportedLutFile></Gamma>"
+        R"(<GammaV7 Type="Standard"><Standard>Curve 24</Standard></GammaV7>)"
+        R"(<Gamut><Red Type="Coordinate"><x>6401</x><y>3302</y></Red>)"
+        R"(<Green Type="Coordinate"><x>3003</x><y>6004</y></Green>)"
+        R"(<Blue Type="Coordinate"><x>1505</x><y>606</y></Blue>)"
+        "<ProfileName>Profile 3</ProfileName><GamutClipping><Value>45</Value></GamutClipping></Gamut>"
+        R"(<GamutV7 Type="Standard"><Standard>Gamut 709</Standard></GamutV7>)"
+        "<GrayBalance><Type>3</Type></GrayBalance><CreationType>Creation 4</CreationType>"
+        "<AdvancedSettings><hue>-31</hue><saturation>32</saturation>"
+        "<blackLevel><red>33</red><green>-34</green><blue>35</blue></blackLevel><sixColors>"
+        "<hue><red>1</red><green>-2</green><blue>3</blue>"
+        "<cyan>-4</cyan><magenta>5</magenta><yellow>-6</yellow></hue>"
+        "<saturation><red>-11</red><green>12</green><blue>-13</blue>"
+        "<cyan>14</cyan><magenta>-15</magenta><yellow>16</yellow></saturation>"
+        "<lightness><red>21</red><green>-22</green><blue>23</blue>"
+        "<cyan>-24</cyan><magenta>25</magenta><yellow>-26</yellow></lightness></sixColors></AdvancedSettings>"
+        "<OptimizeForLimited109>Limited 109</OptimizeForLimited109></TargetSetting>";
+    EXPECT_EQ(compact(filled<TargetSetting>()), expected);
+}
+
+TEST(TargetSetting, EachMemberIsWrittenAloneAndOnlyWhenSet) {
+    for (const auto& [text, flag] : everyMember()) {
+        TargetSetting record;
+        flag(record) = true;
+        EXPECT_EQ(compact(record), written(text));
+    }
+}
+
+TEST(TargetSetting, NoMemberIsWrittenForTheValueBehindItsClearedFlag) {
+    TargetSetting record = filledWithClearFlags();
+    record.advancedSettings.value = filled<TargetSetting>().advancedSettings.value;
+    EXPECT_EQ(compact(record), R"(<TargetSetting Version="41" MinorVersion="43"/>)");
+}
+
+TEST(TargetSetting, EachMemberLeftOutChangesNoOther) {
+    for (const auto& [text, flag] : everyMember()) {
+        TargetSetting record = filled<TargetSetting>();
+        record.writeHLGSystemGamma = true;
+        flag(record) = false;
+        TargetSetting back = parsed<TargetSetting>(compact(record));
+        EXPECT_FALSE(flag(back)) << text;
+        back.writeHLGSystemGamma = true;
+        for (const auto& [otherText, otherFlag] : everyMember()) {
+            EXPECT_EQ(otherFlag(back), text != otherText) << otherText;
+        }
+        EXPECT_EQ(compact(back), compact(record));
+    }
+}
+
+TEST(TargetSetting, DocumentWithoutChildrenClearsEveryFlagAndKeepsEveryValue) {
+    TargetSetting record = filled<TargetSetting>();
+    ASSERT_TRUE(record.parseXMLString("<TargetSetting/>"));
+    EXPECT_EQ(describe(record), describe(filledWithClearFlags()));
+}
+
+TEST(TargetSetting, EachTextIsReadAloneIntoARecordThatHoldsOthers) {
+    for (const auto& [name, member] : everyText) {
+        TargetSetting record = filled<TargetSetting>();
+        ASSERT_TRUE(record.parseXMLString(documentOf<TargetSetting>(element(name, "new"))));
+        TargetSetting expected = filledWithClearFlags();
+        (expected.*member).set("new");
+        EXPECT_EQ(describe(record), describe(expected)) << name;
+    }
+}
+
+TEST(TargetSetting, EmptyTextElementIsSetAndLeavesTheText) {
+    for (const auto& [name, member] : everyText) {
+        TargetSetting record = filled<TargetSetting>();
+        ASSERT_TRUE(record.parseXMLString(documentOf<TargetSetting>('<' + name + "/>")));
+        TargetSetting expected = filledWithClearFlags();
+        (expected.*member).hasValue = true;
+        EXPECT_EQ(describe(record), describe(expected)) << name;
+    }
+}
+
+TEST(TargetSetting, TextIsEscapedAndComesBack) {
+    for (const auto& [name, member] : everyText) {
+        TargetSetting record;
+        (record.*member).set(R"(<a> & "b" 'c')");
+        EXPECT_EQ(parsed<TargetSetting>(compact(record)).*member, record.*member) << name;
+    }
+}
+
+TEST(TargetSetting, GrayBalanceIsTheTextOfTheTypeInsideIt) {
+    TargetSetting record;
+    record.grayBalance.set(4294967295U);
+    EXPECT_EQ(compact(record), written("<GrayBalance><Type>4294967295</Type></GrayBalance>"));
+    TargetSetting expected;
+    expected.grayBalance.set(7);
+    EXPECT_EQ(describe(parsedFrom("<GrayBalance><Type>7</Type></GrayBalance>")), describe(expected));
+}
+
+TEST(TargetSetting, GrayBalanceIsSetOnlyByATypeWithText) {
+    const auto read = [](const std::string& children) {
+        TargetSetting record;
+        record.grayBalance.set(5);
+        EXPECT_TRUE(record.parseXMLString(documentOf<TargetSetting>(children)));
+        return record.grayBalance;
+    };
+    EXPECT_EQ(read("<GrayBalance><Type>abc</Type></GrayBalance>"), (property<unsigned int>{0, true}));
+    EXPECT_EQ(read("<GrayBalance><Type>-1</Type></GrayBalance>"), (property<unsigned int>{4294967295U, true}));
+    for (const char* text :
+         {"", "<GrayBalance/>", "<GrayBalance>6</GrayBalance>", R"(<GrayBalance Type="6"/>)",
+          "<GrayBalance><Type/></GrayBalance>", "<Type>6</Type>", "<GrayBalance><type>6</type></GrayBalance>"}) {
+        EXPECT_EQ(read(text), (property<unsigned int>{5, false})) << text;
+    }
+}
+
+TEST(TargetSetting, BothGenerationsAreHeldReadAndWrittenSideBySide) {
+    const std::string both = R"(<WhitePoint Type="Temperature"><Temperature>6500</Temperature></WhitePoint>)"
+                             R"(<WhitePointV7 Type="Standard"><Standard>D65</Standard></WhitePointV7>)"
+                             R"(<Gamma><Red Type="PQ"/><Green Type="PQ"/><Blue Type="PQ"/>)"
+                             R"(<PQHLGClipping>Hard</PQHLGClipping></Gamma>)"
+                             R"(<GammaV7 Type="Standard"><Standard>PQ</Standard></GammaV7>)"
+                             "<Gamut><GamutClipping><Value>1</Value></GamutClipping></Gamut>"
+                             R"(<GamutV7 Type="Standard"><Standard>Wide</Standard></GamutV7>)";
+    const auto record = parsedFrom(both);
+    TargetSetting expected;
+    expected.whitePoint.set({"Temperature", 6500, 0, 0});
+    expected.whitePointV7.set({"Standard", "D65"});
+    const TargetSetting::gamma_t::gamma_color curve = {"PQ", 0, {}, {}};
+    expected.gamma.set({curve, curve, curve, "Hard", 0, {}});
+    expected.gammaV7.set({"Standard", "PQ"});
+    expected.gamut.value.gamutClipping = 1;
+    expected.gamut.hasValue = true;
+    expected.gamutV7.set({"Standard", "Wide"});
+    EXPECT_EQ(describe(record), describe(expected));
+    EXPECT_EQ(compact(record), written(both));
+}
+
+TEST(TargetSetting, NoGenerationSetsTheOther) {
+    const auto newer = parsedFrom(R"(<WhitePointV7 Type=""/><GammaV7 Type=""/><GamutV7 Type=""/>)");
+    EXPECT_FALSE(newer.whitePoint.hasValue || newer.gamma.hasValue || newer.gamut.hasValue);
+    EXPECT_TRUE(newer.whitePointV7.hasValue && newer.gammaV7.hasValue && newer.gamutV7.hasValue);
+    const auto older = parsedFrom(R"(<WhitePoint Type=""/><Gamma><Red/></Gamma><Gamut/>)");
+    EXPECT_TRUE(older.whitePoint.hasValue && older.gamma.hasValue && older.gamut.hasValue);
+    EXPECT_FALSE(older.whitePointV7.hasValue || older.gammaV7.hasValue || older.gamutV7.hasValue);
+}
+
+TEST(TargetSetting, CopyOwnsItsCurvesAndSettings) {
+    const auto original = filled<TargetSetting>();
+    TargetSetting copy = original;
+    copy.gamma.value.red.lut.at(0) = 9;
+    copy.gamma.value.green.lut24.clear();
+    copy.gamma.value.importedLutFile.fileName = "other";
+    copy.advancedSettings.value.sixColorsHue.value.cyan = 9;
+    copy.gamut.value.profileName += '!';
+    EXPECT_EQ(describe(original), describe(filled<TargetSetting>()));
+    const TargetSetting::gamma_t gamma = original.gamma.value;
+    EXPECT_EQ(describe(gamma), describe(original.gamma.value));
+}
+
+}  // namespace
+}  // namespace lv::test
