@@ -18,6 +18,7 @@ struct FormatOptions {
     std::string output{standardStream};
     bool compact = false;
     bool noDeclaration = false;
+    bool hlgSystemGamma = false;
 };
 
 int lineOf(const std::string& text, std::size_t position) {
@@ -53,7 +54,9 @@ std::unique_ptr<lv::DataObject> readRecord(const std::string& file) {
 }
 
 void format(const FormatOptions& options) {
-    std::string text = readRecord(options.input)->toXMLString(!options.noDeclaration, !options.compact);
+    const auto record = readRecord(options.input);
+    record->writeHLGSystemGamma = options.hlgSystemGamma;
+    std::string text = record->toXMLString(!options.noDeclaration, !options.compact);
     if (text.empty() || text.back() != '\n') {
         text += '\n';
     }
@@ -72,6 +75,8 @@ void addFormat(CLI::App& application) {
     const auto options = std::make_shared<FormatOptions>();
     command->add_flag("--compact", options->compact, "No indentation, no line breaks between elements");
     command->add_flag("--no-declaration", options->noDeclaration, "No XML declaration in front");
+    command->add_flag("--hlg-system-gamma", options->hlgSystemGamma,
+                      "Write the HLG system gamma of colour modes, which records leave out unless told to write it");
     command->add_option("-o,--output", options->output, "Write to FILE instead of standard output")
         ->type_name("FILE")
         ->check(complaintIfEmpty);
