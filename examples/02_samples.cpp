@@ -6,10 +6,12 @@
 
 #include <lvdata/lvdata.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <iostream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -78,9 +80,8 @@ Triple panelXYZ(const Triple& linear) {
 /// The measured colour of three code values in cd/m2, to the 0.0001 that the instrument shows.
 Triple measured(const std::array<int, 3>& codes) {
     Triple linear{};
-    for (std::size_t channel = 0; channel < 3; ++channel) {
-        linear[channel] = std::pow(codes[channel] / 255.0, panelGamma);
-    }
+    std::transform(codes.begin(), codes.end(), linear.begin(),
+                   [](int code) { return std::pow(code / 255.0, panelGamma); });
     const Triple shown = colorimetry::scaled(whiteLuminance - blackLuminance, panelXYZ(linear));
     return roundedTo(0.0001, colorimetry::sum(shown, colorimetry::scaled(blackLuminance, blackPoint)));
 }
@@ -136,7 +137,8 @@ int print(const lv::DataObject& record) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::string name = argc > 1 ? argv[1] : "";
+    const std::vector<std::string> arguments(argv, std::next(argv, argc));
+    const std::string name = arguments.size() > 1 ? arguments[1] : "";
     if (name == "MonitorParameter") {
         return print(monitorParameter());
     }

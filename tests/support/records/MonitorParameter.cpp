@@ -1,4 +1,5 @@
 #include <tests/support/samples.h>
+#include <tests/support/six_colours.h>
 
 #include <cstddef>
 #include <numeric>
@@ -17,12 +18,7 @@ std::vector<Number> numbersFrom(Number first, std::size_t count) {
 }  // namespace
 
 void describe(Description& out, const MonitorParameter::six_colors_t& colours) {
-    out.member("red", colours.red);
-    out.member("green", colours.green);
-    out.member("blue", colours.blue);
-    out.member("cyan", colours.cyan);
-    out.member("magenta", colours.magenta);
-    out.member("yellow", colours.yellow);
+    describeSixColours(out, colours);
 }
 
 void describe(Description& out, const MonitorParameter& record) {

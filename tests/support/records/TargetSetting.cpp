@@ -1,4 +1,5 @@
 #include <tests/support/samples.h>
+#include <tests/support/six_colours.h>
 
 namespace lv::test {
 namespace {
@@ -82,12 +83,7 @@ void describe(Description& out, const TargetSetting::black_level_t& tint) {
 }
 
 void describe(Description& out, const Settings::advanced_settings_six_colors_t& colours) {
-    out.member("red", colours.red);
-    out.member("green", colours.green);
-    out.member("blue", colours.blue);
-    out.member("cyan", colours.cyan);
-    out.member("magenta", colours.magenta);
-    out.member("yellow", colours.yellow);
+    describeSixColours(out, colours);
 }
 
 void describe(Description& out, const Settings& settings) {
