@@ -2,11 +2,6 @@
 #include <lvdata/xml/XMLDocument.h>
 
 namespace lv {
-namespace {
-
-constexpr int documentType = 1;
-
-}  // namespace
 
 DataObject::~DataObject() = default;
 
@@ -22,7 +17,7 @@ std::string DataObject::toXMLString(bool declaration, bool pretty) const {
 }
 
 XMLElement DataObject::appendRootXMLElement(const std::string& name, XMLNode& parent) const {
-    if (parent.type() == documentType) {
+    if (parent.type() == XMLNode::documentType) {
         return XMLDocument(parent.get()).appendChild(name);
     }
     return XMLElement(parent.get()).appendChild(name);

@@ -7,9 +7,9 @@ XMLNode::~XMLNode() = default;
 
 int XMLNode::type() const {
     if (detail::toDocument(node_) != nullptr) {
-        return 1;
+        return documentType;
     }
-    return detail::toElement(node_) != nullptr ? 2 : 0;
+    return detail::toElement(node_) != nullptr ? elementType : otherType;
 }
 
 }  // namespace lv

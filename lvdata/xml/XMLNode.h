@@ -29,6 +29,11 @@ public:
     /// Whether there is a node.
     [[nodiscard]] bool isValid() const { return node_ != nullptr; }
 
+    /// What `type` answers for a document, for an element, and for anything else.
+    static constexpr int documentType = 1;
+    static constexpr int elementType = 2;
+    static constexpr int otherType = 0;
+
     /// The kind of node: 1 for a document, 2 for an element, 0 for anything else and for an invalid wrapper.
     [[nodiscard]] int type() const;
 

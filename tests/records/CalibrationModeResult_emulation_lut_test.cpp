@@ -6,12 +6,14 @@
 #include <lvdata/records/CalibrationModeResult.h>
 
 #include <string>
+#include <type_traits>
 
 namespace lv::test {
 namespace {
 
 using Row = CalibrationModeResultObject;
 using Table = Row::EmulationLUT;
+static_assert(std::is_same_v<lv::EmulationLUT, Table>, "the type goes by both names");
 
 /// A document of one row with these children.
 std::string documentWith(const std::string& children) {

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <string>
+#include <type_traits>
 
 namespace lv::test {
 namespace {
@@ -15,6 +16,7 @@ namespace {
 using Settings = TargetSetting::advanced_settings_t;
 using Colours = Settings::advanced_settings_six_colors_t;
 using Tint = TargetSetting::black_level_t;
+static_assert(std::is_same_v<Settings::black_level_t, Tint>, "the type goes by both names");
 
 struct Number {
     std::string name;
