@@ -3,6 +3,7 @@
 // that every machine prints the same text.
 
 #include "support/colorimetry.h"
+#include "support/measurement_row.h"
 
 #include <lvdata/lvdata.h>
 
@@ -94,22 +95,7 @@ Triple lab(const Triple& xyz) {
 /// The row of a shown colour, three code values.
 lv::MeasurementDataObject measurement(const std::array<int, 3>& codes) {
     const Triple xyz = measured(codes);
-    const Triple cielab = lab(xyz);
-    lv::colour colour;
-    colour.red = codes[0] / 255.0;
-    colour.green = codes[1] / 255.0;
-    colour.blue = codes[2] / 255.0;
-    colour.X = xyz[0];
-    colour.Y = xyz[1];
-    colour.Z = xyz[2];
-    colour.L = cielab[0];
-    colour.a = cielab[1];
-    colour.b = cielab[2];
-    lv::MeasurementDataObject row;
-    row.RGB_x(colour);
-    row.XYZ_x(colour);
-    row.CIELAB_x(colour);
-    return row;
+    return measurementRow({codes[0] / 255.0, codes[1] / 255.0, codes[2] / 255.0}, xyz, lab(xyz));
 }
 
 /// A grey ramp, a ramp of each primary, and the secondary colours.

@@ -1,5 +1,7 @@
 #include "measurements.h"
 
+#include "../measurement_row.h"
+
 #include <array>
 #include <vector>
 
@@ -58,18 +60,7 @@ std::vector<std::array<double, 4>> inkPatches() {
 lv::MeasurementDataObject measurement(const Display& display, Instrument& instrument, const Triple& shown) {
     const Triple xyz = instrument.measure(display.shows(shown));
     const Triple lab = colorimetry::roundedTo(0.01, colorimetry::lab(xyz, display.shows(whiteSignals)));
-    lv::colour colour = xyzColour(xyz);
-    colour.red = shown[0];
-    colour.green = shown[1];
-    colour.blue = shown[2];
-    colour.L = lab[0];
-    colour.a = lab[1];
-    colour.b = lab[2];
-    lv::MeasurementDataObject row;
-    row.RGB_x(colour);
-    row.XYZ_x(colour);
-    row.CIELAB_x(colour);
-    return row;
+    return measurementRow(shown, xyz, lab);
 }
 
 lv::MeasurementDataObject inkMeasurement(const Display& display, Instrument& instrument,
