@@ -1,5 +1,6 @@
 #include <lvdata/core/DataObject.h>
 #include <lvdata/xml/XMLDocument.h>
+#include <lvdata/xml/detail/own_document.h>
 
 namespace lv {
 
@@ -7,11 +8,18 @@ DataObject::~DataObject() = default;
 
 bool DataObject::parseXMLString(const std::string& text) {
     XMLDocument document;
-    return document.parseXMLString(text) && parseXMLElement(document.rootElement());
+    if (!document.parseXMLString(text)) {
+        return false;
+    }
+    const detail::SourceInUse source(document.get(), text);
+    return parseXMLElement(document.rootElement());
 }
 
 std::string DataObject::toXMLString(bool declaration, bool pretty) const {
     XMLDocument document;
+    if (!pretty) {
+        detail::expectCompactText(document.get());
+    }
     appendXMLElement(document);
     return document.toXMLString(declaration, pretty);
 }

@@ -1,5 +1,7 @@
 #include <lvdata/xml/XMLDocument.h>
+#include <lvdata/xml/detail/Printer.h>
 #include <lvdata/xml/detail/handle.h>
+#include <lvdata/xml/detail/own_document.h>
 
 #include <algorithm>
 #include <string_view>
@@ -25,7 +27,7 @@ std::string errorWords(std::string_view identifier) {
 
 }  // namespace
 
-XMLDocument::XMLDocument() : XMLNode(detail::toHandle(new tinyxml2::XMLDocument)), owned_(get()) {}
+XMLDocument::XMLDocument() : XMLNode(detail::toHandle(detail::makeDocument())), owned_(get()) {}
 
 XMLDocument::XMLDocument(void* document) : XMLNode(document) {}
 
@@ -58,12 +60,12 @@ std::string XMLDocument::toXMLString(bool declaration, bool pretty) const {
     if (document == nullptr) {
         return {};
     }
-    tinyxml2::XMLPrinter printer(nullptr, !pretty);
+    detail::Printer printer(!pretty);
     if (declaration) {
         printer.PushDeclaration(R"(xml version="1.0" encoding="UTF-8" standalone="no")");
     }
     document->Accept(&printer);
-    return {printer.CStr(), static_cast<std::size_t>(printer.CStrSize() - 1)};  // without the terminating NUL
+    return std::string(printer.text());
 }
 
 XMLElement XMLDocument::rootElement() const {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <lvdata/records/MeasurementData.h>
+#include <lvdata/xml/XMLDocument.h>
 
 #include <array>
 #include <string>
@@ -259,6 +260,31 @@ TEST(MeasurementData, ThousandRowsComeBackInOrder) {
         data.objects.emplace_back().XYZ = {index, -index, index * 2};
     }
     EXPECT_EQ(describeRows(parsed<MeasurementData>(compact(data)).objects), describe(data));
+}
+
+/// An application's record that looks at what it inherits once more, and adds to it.
+class CountedMeasurements : public MeasurementData {
+public:
+    XMLElement appendXMLElement(XMLNode& parent) const override {
+        XMLElement root = MeasurementData::appendXMLElement(parent);
+        return root.setAttributeInt("Count", static_cast<int>(root.getElements("Measurements").size()));
+    }
+};
+
+TEST(MeasurementData, AnApplicationsOwnRecordFindsTheRowsThatItInherits) {
+    CountedMeasurements data;
+    data.objects.resize(3);
+    for (auto& row : data.objects) {
+        row.RGB = {1, 2, 3};
+    }
+    for (const bool pretty : {false, true}) {
+        XMLDocument document;
+        ASSERT_TRUE(document.parseXMLString(data.toXMLString(false, pretty)));
+        int count = 0;
+        EXPECT_TRUE(document.rootElement().getAttributeInt("Count", count).isValid());
+        EXPECT_EQ(count, 3);
+        EXPECT_EQ(document.rootElement().getElements("Measurements").size(), 3U);
+    }
 }
 
 }  // namespace

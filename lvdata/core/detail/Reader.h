@@ -46,9 +46,9 @@ namespace lv::detail {
 ///     io.always()                          writing does not consult the member's own flag
 class Reader {
 public:
-    explicit Reader(void* element) : element_(element) {}
+    explicit Reader(void* element) : element_(element), children_(element) {}
 
-    [[nodiscard]] Reader readWhen(bool condition) const { return Reader(condition ? element_ : nullptr); }
+    [[nodiscard]] Reader readWhen(bool condition) const { return condition ? *this : Reader(nullptr); }
     [[nodiscard]] Reader writeWhen(bool /*condition*/) const { return *this; }
     [[nodiscard]] Reader when(bool condition) const { return readWhen(condition); }
     [[nodiscard]] Reader always() const { return *this; }
@@ -62,7 +62,7 @@ public:
     /// Of interest to writing only.
     [[nodiscard]] static bool writesHLGSystemGamma() { return false; }
 
-    [[nodiscard]] Reader element(const char* name) const { return Reader(findChild(element_, name)); }
+    [[nodiscard]] Reader element(const char* name) const { return Reader(children_.find(name)); }
 
     static void derive(bool& flag, bool condition) { flag = condition; }
 
@@ -91,7 +91,7 @@ public:
 
     template <class T>
     bool value(const char* name, T& member) {
-        return readText(findChild(element_, name), member);
+        return readText(children_.find(name), member);
     }
 
     /// Entries of another number stay in memory, but the flag is cleared.
@@ -162,6 +162,7 @@ public:
 
 private:
     void* element_;
+    mutable ChildFinder children_;  // remembers how far it came; what it answers does not depend on that
 };
 
 }  // namespace lv::detail

@@ -2,6 +2,7 @@
 
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/detail/element_writing.h>
+#include <lvdata/xml/detail/own_document.h>
 #include <lvdata/xml/property.h>
 
 #include <algorithm>
@@ -153,6 +154,7 @@ public:
             if (exists() && hasContent(row)) {
                 Writer io = element(name);
                 visit(io, row);
+                finishElement(io.element_);
             }
         }
     }

@@ -3,8 +3,10 @@
 #include <lvdata/core/DataObject.h>
 #include <lvdata/core/detail/Reader.h>
 #include <lvdata/core/detail/Writer.h>
+#include <lvdata/xml/detail/own_document.h>
 
 #include <string>
+#include <typeinfo>
 
 namespace lv::detail {
 
@@ -27,6 +29,9 @@ template <class Record, class Visit>
 template <class Record, class Visit>
 XMLElement appendRecord(const Record& record, const std::string& rootName, XMLNode& parent, bool writeHLGSystemGamma,
                         Visit visit) {
+    if (typeid(record) == typeid(Record)) {  // a class derived by the application may look at its rows once more
+        startPieces(parent.get());
+    }
     XMLElement root = record.appendRootXMLElement(rootName, parent);
     record.appendVersionAttribute(root);
     Writer io(root.get(), writeHLGSystemGamma);

@@ -1,7 +1,9 @@
 #include <lvdata/xml/detail/element_reading.h>
 #include <lvdata/xml/detail/handle.h>
 #include <lvdata/xml/detail/number_text.h>
-#include <lvdata/xml/detail/pieces.h>
+#include <lvdata/xml/detail/own_document.h>
+
+#include <cstring>
 
 #include <tinyxml2.h>
 
@@ -13,6 +15,14 @@ std::string_view textOf(void* handle) {
     const tinyxml2::XMLElement* const element = toElement(handle);
     const char* const text = element == nullptr ? nullptr : element->GetText();
     return text == nullptr ? std::string_view() : std::string_view(text);
+}
+
+/// The same for an array: read where it lies in the document's source, if that is at hand.
+std::string_view arrayTextOf(void* handle) {
+    const tinyxml2::XMLElement* const element = toElement(handle);
+    const SourceText* const source = element == nullptr ? nullptr : sourceInUse(*element);
+    const std::string_view text = source == nullptr ? std::string_view() : source->plainTextOf(element->Value());
+    return text.empty() ? textOf(handle) : text;
 }
 
 /// The attribute's text; null when there is no element or no such attribute.
@@ -35,12 +45,7 @@ bool convert(std::string_view text, std::vector<Number>& out, std::string_view s
     if (text.empty()) {
         return false;
     }
-    out.clear();
-    forEachPiece(text, separator, [&out](std::string_view piece) {
-        if (!piece.empty()) {
-            out.push_back(parseNumber<Number>(piece));
-        }
-    });
+    parseNumbers(text, separator, out);
     return true;
 }
 
@@ -59,6 +64,24 @@ void* findChild(void* parent, const char* name) {
 
 void* findNext(void* element, const char* name) {
     return toHandle(toNode(element)->NextSiblingElement(name));
+}
+
+ChildFinder::ChildFinder(void* parent) {
+    tinyxml2::XMLElement* const element = toElement(parent);
+    next_ = element == nullptr ? nullptr : element->FirstChildElement();
+}
+
+void* ChildFinder::find(const char* name) {
+    tinyxml2::XMLNode* const next = toNode(next_);
+    for (tinyxml2::XMLNode* child = next; child != nullptr; child = child->NextSiblingElement()) {
+        if (std::strcmp(child->Value(), name) == 0) {
+            if (child == next) {
+                next_ = child->NextSiblingElement();
+            }
+            return child;
+        }
+    }
+    return nullptr;
 }
 
 bool readText(void* element, std::string& out) {
@@ -87,11 +110,11 @@ bool readText(void* element, bool& out) {
 }
 
 bool readText(void* element, std::vector<int>& out, std::string_view separator) {
-    return convert(textOf(element), out, separator);
+    return convert(arrayTextOf(element), out, separator);
 }
 
 bool readText(void* element, std::vector<unsigned int>& out, std::string_view separator) {
-    return convert(textOf(element), out, separator);
+    return convert(arrayTextOf(element), out, separator);
 }
 
 bool readAttribute(void* element, const char* name, std::string& out) {

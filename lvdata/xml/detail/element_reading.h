@@ -15,6 +15,21 @@ inline constexpr const char* arraySeparator = "|";
 /// The next element of that name among the siblings behind `element`; null when there is none.
 [[nodiscard]] void* findNext(void* element, const char* name);
 
+/// Finds child elements by name, at once where they are asked for in the order in which they stand.
+///
+/// The children found one after another from the first on are not looked at again, so no name may be asked for twice.
+/// Each answer then is the first child of that name, in whatever order they stand and are asked for; null when there is
+/// none or the parent is no element.
+class ChildFinder {
+public:
+    explicit ChildFinder(void* parent);
+
+    [[nodiscard]] void* find(const char* name);
+
+private:
+    void* next_;  // the first child not yet found in unbroken order
+};
+
 /// Reads the text of the element behind a handle. True when it was found, else `out` is untouched; the getters of
 /// `XMLElement` state for each type what counts as found and how it is converted.
 [[nodiscard]] bool readText(void* element, std::string& out);

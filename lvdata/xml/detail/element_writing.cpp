@@ -20,18 +20,6 @@ void* appendWithText(void* parent, const char* name, const char* text) {
     return child;
 }
 
-template <class Number>
-std::string joined(const std::vector<Number>& values, std::string_view separator) {
-    std::string text;
-    std::string_view before;
-    for (const Number value : values) {
-        text += before;
-        appendNumber(text, value);
-        before = separator;
-    }
-    return text;
-}
-
 void setAttributeText(void* handle, const char* name, const char* value) {
     tinyxml2::XMLElement* const element = toElement(handle);
     if (element != nullptr) {
@@ -63,11 +51,11 @@ void* appendChild(void* parent, const char* name, bool value) {
 }
 
 void* appendChild(void* parent, const char* name, const std::vector<int>& values, std::string_view separator) {
-    return appendWithText(parent, name, joined(values, separator).c_str());
+    return appendWithText(parent, name, joinNumbers(values, separator).c_str());
 }
 
 void* appendChild(void* parent, const char* name, const std::vector<unsigned int>& values, std::string_view separator) {
-    return appendWithText(parent, name, joined(values, separator).c_str());
+    return appendWithText(parent, name, joinNumbers(values, separator).c_str());
 }
 
 void setText(void* element, unsigned int value) {
@@ -75,7 +63,7 @@ void setText(void* element, unsigned int value) {
 }
 
 void setText(void* element, const std::vector<unsigned int>& values) {
-    addText(element, joined(values, arraySeparator).c_str());
+    addText(element, joinNumbers(values, arraySeparator).c_str());
 }
 
 void setAttribute(void* element, const char* name, const std::string& value) {

@@ -1,7 +1,11 @@
+#include <lvdata/xml/detail/EightDigits.h>
 #include <lvdata/xml/detail/number_text.h>
+#include <lvdata/xml/detail/pieces.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -49,9 +53,61 @@ Scanned scan(std::string_view text) {
     return result;
 }
 
+/// Digits that a number of any type can hold without a look at its range.
+constexpr std::ptrdiff_t safeDigits = std::numeric_limits<int>::digits10;
+
+/// The end of the digits that `text` begins with; their value goes to `number` when they are few enough to be safe.
+template <class Number>
+const char* scanPlain(const char* at, const char* end, Number& number) {
+    std::ptrdiff_t left = safeDigits;
+    number = 0;
+    if (static_cast<std::size_t>(end - at) >= EightDigits::size) {
+        const EightDigits digits(at);
+        const unsigned int count = digits.count();
+        number = count == 0 ? 0 : static_cast<Number>(digits.value(count));
+        at += count;
+        left = count < EightDigits::size ? 0 : left - count;
+    }
+    for (; left != 0 && at != end && isDigit(*at); --left, ++at) {
+        number = number * 10 + static_cast<Number>(*at - '0');
+    }
+    return at;
+}
+
+/// Pieces of plain digits between single characters, which is what documents hold; any other piece the long way.
+template <class Number>
+Number* convertPieces(std::string_view text, char separator, Number* out) {
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    while (at < end) {
+        const char* stop = scanPlain(at, end, *out);
+        if (stop == at || (stop != end && *stop != separator)) {
+            stop = std::find(stop, end, separator);
+            *out = parseNumber<Number>(std::string_view(at, static_cast<std::size_t>(stop - at)));
+        }
+        out += stop == at ? 0 : 1;
+        at = stop + 1;
+    }
+    return out;
+}
+
+template <class Number>
+void convertPieces(std::string_view text, std::string_view separator, std::vector<Number>& out) {
+    out.clear();
+    forEachPiece(text, separator, [&out](std::string_view piece) {
+        if (!piece.empty()) {
+            out.push_back(parseNumber<Number>(piece));
+        }
+    });
+}
+
+/// The most characters that a number takes: one digit more than digits10, and a sign.
+template <class Number>
+constexpr std::size_t maxDigits = std::numeric_limits<Number>::digits10 + 2;
+
 template <class Number>
 void appendDecimal(std::string& text, Number value) {
-    std::array<char, std::numeric_limits<Number>::digits10 + 2> digits{};  // one digit more than digits10, and a sign
+    std::array<char, maxDigits<Number>> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
     text.append(digits.data(), end);
 }
@@ -79,6 +135,39 @@ unsigned int parseNumber<unsigned int>(std::string_view text) {
     const auto magnitude = static_cast<unsigned int>(number.magnitude);
     return number.negative ? 0U - magnitude : magnitude;
 }
+
+template <class Number>
+void parseNumbers(std::string_view text, std::string_view separator, std::vector<Number>& out) {
+    if (separator.size() != 1) {
+        convertPieces(text, separator, out);
+        return;
+    }
+    const auto separators = std::count(text.begin(), text.end(), separator.front());
+    out.resize(static_cast<std::size_t>(separators) + 1);
+    const Number* const end = convertPieces(text, separator.front(), out.data());
+    out.resize(static_cast<std::size_t>(end - out.data()));
+}
+
+template void parseNumbers(std::string_view text, std::string_view separator, std::vector<int>& out);
+template void parseNumbers(std::string_view text, std::string_view separator, std::vector<unsigned int>& out);
+
+template <class Number>
+std::string joinNumbers(const std::vector<Number>& values, std::string_view separator) {
+    std::string text(values.size() * (maxDigits<Number> + separator.size()), '\0');
+    char* at = text.data();
+    char* const end = at + text.size();
+    for (const Number& value : values) {
+        if (&value != values.data()) {
+            at = std::copy(separator.begin(), separator.end(), at);
+        }
+        at = std::to_chars(at, end, value).ptr;
+    }
+    text.resize(static_cast<std::size_t>(at - text.data()));
+    return text;
+}
+
+template std::string joinNumbers(const std::vector<int>& values, std::string_view separator);
+template std::string joinNumbers(const std::vector<unsigned int>& values, std::string_view separator);
 
 void appendNumber(std::string& text, int value) {
     appendDecimal(text, value);

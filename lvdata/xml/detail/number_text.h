@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lv::detail {
 
@@ -10,6 +11,16 @@ namespace lv::detail {
 /// attribute.)
 template <class Number>
 [[nodiscard, gnu::visibility("hidden")]] Number parseNumber(std::string_view text);
+
+/// Replaces `out` by the numbers of the pieces of `text` between the separators, in order; empty pieces are skipped.
+/// `split_string` states where a piece ends. Nothing is copied, and `out` is sized once for the usual separator of one
+/// character. Defined for int and unsigned int.
+template <class Number>
+void parseNumbers(std::string_view text, std::string_view separator, std::vector<Number>& out);
+
+/// The decimal texts of all values, joined by the separator, in one buffer. Defined for int and unsigned int.
+template <class Number>
+[[nodiscard]] std::string joinNumbers(const std::vector<Number>& values, std::string_view separator);
 
 /// Appends the decimal text of `value` to `text`; allocates only where `text` has to grow.
 void appendNumber(std::string& text, int value);

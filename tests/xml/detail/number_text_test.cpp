@@ -3,8 +3,13 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <lvdata/xml/lexical_cast.h>
+#include <lvdata/xml/split_string.h>
 
 namespace lv::detail {
 namespace {
@@ -27,6 +32,69 @@ TEST(ParseNumber, ViewsThatEndBehindSpaceOrSignGiveZero) {
 TEST(ParseNumber, ANulEndsTheNumberLikeAnyOtherCharacter) {
     EXPECT_EQ(parseNumber<int>(std::string_view("1\0002", 3)), 1);
     EXPECT_EQ(parseNumber<int>(std::string_view("\0005", 2)), 0);
+}
+
+template <class Number>
+std::vector<Number> parsed(std::string_view text, std::string_view separator = "|") {
+    std::vector<Number> numbers(3, Number{77});
+    parseNumbers(text, separator, numbers);
+    return numbers;
+}
+
+/// The same by the public functions, a string for each piece.
+template <class Number>
+std::vector<Number> converted(const std::string& text, const std::string& separator = "|") {
+    std::vector<Number> numbers;
+    for (const std::string& piece : split_string(text, separator)) {
+        if (!piece.empty()) {
+            numbers.push_back(lexical_cast<Number>(piece));
+        }
+    }
+    return numbers;
+}
+
+TEST(ParseNumbers, GiveWhatThePiecesGiveOneByOne) {
+    for (const char* text :
+         {"", "|", "||", "1", "1|", "|1", "1||3", "12345678|1234567|123456789|1234567890|12345678901|99999999999999",
+          "4294967295|4294967296|2147483647|2147483648|-2147483648|-2147483649|-1|+7|-", " 5|5 |\t6\n| | 7 8|",
+          "a|1a|a1|1.5|--1|+-1|0x10", "000000000000000001|00000000|000000007|0", "12345678", "123456789", "1234567|",
+          "99999999|999999999|1000000000", "1 2345678|1", "1/2|3:4|\xFF|1\xFF", "12345678x|2"}) {
+        EXPECT_EQ(parsed<int>(text), converted<int>(text)) << text;
+        EXPECT_EQ(parsed<unsigned int>(text), converted<unsigned int>(text)) << text;
+    }
+}
+
+TEST(ParseNumbers, EveryLengthOfNumberInEveryPlace) {
+    const std::string digits = "123456789012";
+    for (std::size_t first = 0; first <= digits.size(); ++first) {
+        for (std::size_t second = 0; second <= digits.size(); ++second) {
+            const std::string text = digits.substr(0, first) + '|' + digits.substr(0, second);
+            EXPECT_EQ(parsed<int>(text), converted<int>(text)) << text;
+            EXPECT_EQ(parsed<unsigned int>(text), converted<unsigned int>(text)) << text;
+        }
+    }
+}
+
+TEST(ParseNumbers, SeparatorsOfNoneAndOfSeveralCharacters) {
+    for (const char* separator : {"", "|", ",", ", ", "12", "--"}) {
+        for (const char* text : {"1, 2, 3", "1|2", "9123124", "1--2---3", ", "}) {
+            EXPECT_EQ(parsed<int>(text, separator), converted<int>(text, separator)) << text << " at " << separator;
+        }
+    }
+}
+
+TEST(ParseNumbers, StopAtTheEndOfTheView) {
+    EXPECT_THAT(parsed<int>(std::string_view("1|23456789").substr(0, 4)), ::testing::ElementsAre(1, 23));
+}
+
+TEST(JoinNumbers, PutTheSeparatorBetweenThem) {
+    using Limits = std::numeric_limits<int>;
+    EXPECT_EQ(joinNumbers(std::vector<int>{}, "|"), "");
+    EXPECT_EQ(joinNumbers(std::vector<int>{5}, "|"), "5");
+    EXPECT_EQ(joinNumbers(std::vector<int>{Limits::min(), 0, Limits::max()}, "|"), "-2147483648|0|2147483647");
+    EXPECT_EQ(joinNumbers(std::vector<unsigned int>{4294967295U, 4294967295U}, "|"), "4294967295|4294967295");
+    EXPECT_EQ(joinNumbers(std::vector<unsigned int>{1, 2, 3}, ", "), "1, 2, 3");
+    EXPECT_EQ(joinNumbers(std::vector<unsigned int>{1, 2, 3}, ""), "123");
 }
 
 TEST(AppendNumber, KeepsTheTextInFrontOfIt) {

@@ -1,0 +1,72 @@
+#include <lvdata/xml/detail/element_reading.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <tinyxml2.h>
+
+namespace lv::detail {
+namespace {
+
+class ChildFinderTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_EQ(document_.Parse("<r><!-- --><a>1</a>text<b>2</b><a>3</a><c>4</c><b>5</b><d>6</d></r>"),
+                  tinyxml2::XML_SUCCESS);
+    }
+
+    [[nodiscard]] void* parent() { return static_cast<tinyxml2::XMLNode*>(document_.RootElement()); }
+
+    /// The text of the child that was found; "none" without one.
+    static std::string textOf(void* child) {
+        std::string text = "none";
+        (void)readText(child, text);
+        return text;
+    }
+
+private:
+    tinyxml2::XMLDocument document_;
+};
+
+TEST_F(ChildFinderTest, FindsTheFirstOfEachNameInTheirOrder) {
+    ChildFinder children(parent());
+    EXPECT_EQ(textOf(children.find("a")), "1");
+    EXPECT_EQ(textOf(children.find("b")), "2");
+    EXPECT_EQ(textOf(children.find("c")), "4");
+    EXPECT_EQ(textOf(children.find("d")), "6");
+}
+
+TEST_F(ChildFinderTest, FindsTheFirstOfEachNameInAnyOrder) {
+    ChildFinder children(parent());
+    EXPECT_EQ(textOf(children.find("d")), "6");
+    EXPECT_EQ(textOf(children.find("b")), "2");
+    EXPECT_EQ(textOf(children.find("a")), "1");
+    EXPECT_EQ(textOf(children.find("c")), "4");
+}
+
+TEST_F(ChildFinderTest, AMissingNameHindersNoOther) {
+    ChildFinder children(parent());
+    EXPECT_EQ(textOf(children.find("a")), "1");
+    EXPECT_EQ(children.find("e"), nullptr);
+    EXPECT_EQ(children.find("B"), nullptr);
+    EXPECT_EQ(textOf(children.find("b")), "2");
+}
+
+TEST_F(ChildFinderTest, ACopyFindsTheSame) {
+    ChildFinder children(parent());
+    EXPECT_EQ(textOf(children.find("a")), "1");
+    ChildFinder copy = children;
+    EXPECT_EQ(textOf(copy.find("b")), "2");
+    EXPECT_EQ(textOf(children.find("c")), "4");
+    EXPECT_EQ(textOf(children.find("d")), "6");
+}
+
+TEST_F(ChildFinderTest, FindsNothingWithoutAnElement) {
+    tinyxml2::XMLDocument document;
+    EXPECT_EQ(ChildFinder(nullptr).find("a"), nullptr);
+    EXPECT_EQ(ChildFinder(static_cast<tinyxml2::XMLNode*>(&document)).find("a"), nullptr);
+}
+
+}  // namespace
+}  // namespace lv::detail
