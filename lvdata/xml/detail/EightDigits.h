@@ -10,25 +10,25 @@ namespace lv::detail {
 /// The first character is in the lowest byte, on every processor; compilers make one load of it.
 class EightDigits {
 public:
-    static constexpr unsigned int size = 8;
+    static constexpr std::size_t size = 8;
 
     /// \param text  at least `size` characters
     explicit EightDigits(const char* text) {
-        for (unsigned int index = 0; index < size; ++index) {
+        for (std::size_t index = 0; index < size; ++index) {
             digits_ |= std::uint64_t{static_cast<unsigned char>(text[index])} << (8 * index);
         }
         digits_ ^= everyByte * '0';  // digits become their values, everything else is more than 9
     }
 
     /// How many of the characters in front are digits.
-    [[nodiscard]] unsigned int count() const {
+    [[nodiscard]] std::size_t count() const {
         // The top bit of a byte beyond 9; a carry out of such a byte disturbs only those behind it.
         const std::uint64_t others = ((digits_ + everyByte * (0x80 - 10)) | digits_) & (everyByte * 0x80);
-        return others == 0 ? size : static_cast<unsigned int>(__builtin_ctzll(others)) / 8;
+        return others == 0 ? size : static_cast<std::size_t>(__builtin_ctzll(others)) / 8;
     }
 
     /// The number that the first `count` digits make; at least one.
-    [[nodiscard]] std::uint32_t value(unsigned int count) const {
+    [[nodiscard]] std::uint32_t value(std::size_t count) const {
         std::uint64_t digits = digits_ << (8 * (size - count));  // zeros in front up to eight digits
         digits = digits * 10 + (digits >> 8U);                   // pairs, in every other byte
         const std::uint64_t pairs = 0x000000FF000000FF;

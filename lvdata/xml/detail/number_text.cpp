@@ -53,40 +53,45 @@ Scanned scan(std::string_view text) {
     return result;
 }
 
-/// Digits that a number of any type can hold without a look at its range.
-constexpr std::ptrdiff_t safeDigits = std::numeric_limits<int>::digits10;
-
-/// The end of the digits that `text` begins with; their value goes to `number` when they are few enough to be safe.
+/// Converts the pieces of `digits` digits at the front of `text`, each with its separator behind it, and nothing but
+/// digits in them; steps over them. That neighbours are equally long is what makes tables fast: the next piece can be
+/// begun before the last is understood.
 template <class Number>
-const char* scanPlain(const char* at, const char* end, Number& number) {
-    std::ptrdiff_t left = safeDigits;
-    number = 0;
-    if (static_cast<std::size_t>(end - at) >= EightDigits::size) {
-        const EightDigits digits(at);
-        const unsigned int count = digits.count();
-        number = count == 0 ? 0 : static_cast<Number>(digits.value(count));
-        at += count;
-        left = count < EightDigits::size ? 0 : left - count;
+Number* convertRun(std::string_view& text, char separator, std::size_t digits, Number* out) {
+    while (text.size() >= EightDigits::size && text[digits] == separator) {
+        const EightDigits piece(text.data());
+        if (piece.count() != digits) {
+            break;
+        }
+        *out++ = static_cast<Number>(piece.value(digits));
+        text.remove_prefix(digits + 1);
     }
-    for (; left != 0 && at != end && isDigit(*at); --left, ++at) {
-        number = number * 10 + static_cast<Number>(*at - '0');
-    }
-    return at;
+    return out;
 }
 
-/// Pieces of plain digits between single characters, which is what documents hold; any other piece the long way.
+/// The same for the pieces of any length that fits, one to seven digits.
+template <class Number>
+Number* convertShortPieces(std::string_view& text, char separator, Number* out) {
+    while (text.size() >= EightDigits::size) {
+        const std::size_t digits = EightDigits(text.data()).count();
+        if (digits == 0 || digits == EightDigits::size || text[digits] != separator) {
+            break;
+        }
+        out = convertRun(text, separator, digits, out);
+    }
+    return out;
+}
+
+/// Writes the numbers of all pieces behind each other from `out` on, and returns the end of them.
 template <class Number>
 Number* convertPieces(std::string_view text, char separator, Number* out) {
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    while (at < end) {
-        const char* stop = scanPlain(at, end, *out);
-        if (stop == at || (stop != end && *stop != separator)) {
-            stop = std::find(stop, end, separator);
-            *out = parseNumber<Number>(std::string_view(at, static_cast<std::size_t>(stop - at)));
+    while (!text.empty()) {
+        out = convertShortPieces(text, separator, out);
+        const std::string_view piece = text.substr(0, text.find(separator));
+        if (!piece.empty()) {
+            *out++ = parseNumber<Number>(piece);
         }
-        out += stop == at ? 0 : 1;
-        at = stop + 1;
+        text.remove_prefix(std::min(piece.size() + 1, text.size()));
     }
     return out;
 }
