@@ -53,13 +53,37 @@ Scanned scan(std::string_view text) {
     return result;
 }
 
+/// Up to nine digits in front of a text, which fit into a number of any type without a look at its range.
+class FrontDigits {
+public:
+    static constexpr std::size_t most = EightDigits::size + 1;
+
+    /// \param text  at least `most` characters
+    explicit FrontDigits(const char* text) : first_(text), ninth_(text[EightDigits::size]) {}
+
+    [[nodiscard]] std::size_t count() const {
+        const std::size_t count = first_.count();
+        return count == EightDigits::size && isDigit(ninth_) ? most : count;
+    }
+
+    /// The number that the first `count` digits make; at least one.
+    [[nodiscard]] std::uint32_t value(std::size_t count) const {
+        return count == most ? first_.value(EightDigits::size) * 10 + static_cast<std::uint32_t>(ninth_ - '0')
+                             : first_.value(count);
+    }
+
+private:
+    EightDigits first_;
+    char ninth_;
+};
+
 /// Converts the pieces of `digits` digits at the front of `text`, each with its separator behind it, and nothing but
 /// digits in them; steps over them. That neighbours are equally long is what makes tables fast: the next piece can be
 /// begun before the last is understood.
 template <class Number>
 Number* convertRun(std::string_view& text, char separator, std::size_t digits, Number* out) {
-    while (text.size() >= EightDigits::size && text[digits] == separator) {
-        const EightDigits piece(text.data());
+    while (text.size() > FrontDigits::most && text[digits] == separator) {
+        const FrontDigits piece(text.data());
         if (piece.count() != digits) {
             break;
         }
@@ -69,12 +93,12 @@ Number* convertRun(std::string_view& text, char separator, std::size_t digits, N
     return out;
 }
 
-/// The same for the pieces of any length that fits, one to seven digits.
+/// The same for the pieces of any length that fits.
 template <class Number>
 Number* convertShortPieces(std::string_view& text, char separator, Number* out) {
-    while (text.size() >= EightDigits::size) {
-        const std::size_t digits = EightDigits(text.data()).count();
-        if (digits == 0 || digits == EightDigits::size || text[digits] != separator) {
+    while (text.size() > FrontDigits::most) {
+        const std::size_t digits = FrontDigits(text.data()).count();
+        if (digits == 0 || text[digits] != separator) {
             break;
         }
         out = convertRun(text, separator, digits, out);
