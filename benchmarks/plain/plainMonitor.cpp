@@ -1,0 +1,13 @@
+#include <benchmarks/MonitorOf.h>
+
+#include <lvdata/records/MonitorInfo.h>
+
+// Compiled with `lv` renamed: this is the record over the plain sources beside this file.
+
+namespace benchmarks {
+
+std::unique_ptr<Monitor> plainMonitor() {
+    return std::make_unique<MonitorOf<lv::MonitorInfo>>();
+}
+
+}  // namespace benchmarks
