@@ -1,0 +1,102 @@
+#!/usr/bin/env python3
+"""report.py RESULTS.json [CHART.svg]: the ratios of a benchmark run as a Markdown table, and as a bar chart."""
+
+import json
+import sys
+
+DOCUMENTS = ["small", "typical", "wide", "arrays"]
+STYLES = ["lvdata", "pugixml", "plain"]
+OPERATIONS = ["parse", "print"]
+
+
+def least_times(results):
+    """The least time of each benchmark over its repetitions, in nanoseconds."""
+    scale = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+    times = {}
+    for run in results["benchmarks"]:
+        if run["run_type"] == "iteration":
+            time = run["real_time"] * scale[run["time_unit"]]
+            times[run["run_name"]] = min(time, times.get(run["run_name"], time))
+    return times
+
+
+def ratio(times, name, reference):
+    return times[name] / times[reference] if name in times and reference in times else None
+
+
+def row(title, cells):
+    texts = ["-" if cell is None else f"{cell:.2f}" for cell in cells]
+    return f"| {title} | " + " | ".join(texts) + " |"
+
+
+def ratio_rows(times):
+    """Title and one ratio for each document, style by style."""
+    for style in STYLES:
+        for operation in OPERATIONS:
+            ratios = [
+                ratio(times, f"{operation}/{style}/{document}", f"{operation}/bare/{document}")
+                for document in DOCUMENTS
+            ]
+            if any(cell is not None for cell in ratios):
+                yield f"{operation}, {style}", ratios
+
+
+def growth_lines(times):
+    for operation in OPERATIONS:
+        name = f"{operation}/lvdata/typical"
+        factors = [ratio(times, f"{name} x{factor}", name) for factor in (2, 4, 8, 16)]
+        yield row(f"{operation}, typical x 2, 4, 8, 16", factors)
+    for what, small, large in (("unknown children", 1000, 4000), ("rows", 25000, 100000)):
+        factor = ratio(times, f"parse/lvdata/{what} x{large}", f"parse/lvdata/{what} x{small}")
+        yield row(f"parse, four times the {what}", [factor])
+    one, two = (f"round trip threads/lvdata/typical/real_time/threads:{count}" for count in (1, 2))
+    # With two threads the time is that of one iteration by both, shared out.
+    yield row("work of two threads, that of one being 1", [ratio(times, one, two)])
+
+
+def table(times):
+    yield "| Ratio to the XML library alone | " + " | ".join(DOCUMENTS) + " |"
+    yield "|---|" + "--:|" * len(DOCUMENTS)
+    yield from (row(title, ratios) for title, ratios in ratio_rows(times))
+    yield ""
+    yield from growth_lines(times)
+
+
+def bar(left, top, length, label, colour):
+    return (
+        f'<rect x="{left}" y="{top}" width="{length:.1f}" height="14" fill="{colour}"/>'
+        f'<text x="{left + length + 6:.1f}" y="{top + 11}">{label}</text>'
+    )
+
+
+def chart(times):
+    """Horizontal bars, one for each ratio; those beyond the width are cut and say their number."""
+    colours = {"lvdata": "#2a7", "pugixml": "#68c", "plain": "#c96"}
+    unit, widest, top = 40, 400, 30
+    parts = []
+    for title, ratios in ratio_rows(times):
+        for document, value in zip(DOCUMENTS, ratios):
+            if value is None:
+                continue
+            style = title.split(", ")[1]
+            parts.append(f'<text x="4" y="{top + 11}">{title}, {document}</text>')
+            parts.append(bar(180, top, min(value * unit, widest), f"{value:.2f}", colours[style]))
+            top += 18
+    heading = '<text x="4" y="18" font-weight="bold">Time as a multiple of the XML library alone</text>'
+    return (
+        f'<svg xmlns="http://www.w3.org/2000/svg" width="640" height="{top + 8}" '
+        f'font-family="sans-serif" font-size="11">\n{heading}\n' + "\n".join(parts) + "\n</svg>\n"
+    )
+
+
+def main():
+    with open(sys.argv[1], encoding="utf-8") as file:
+        times = least_times(json.load(file))
+    print("\n".join(table(times)))
+    if len(sys.argv) > 2:
+        with open(sys.argv[2], "w", encoding="utf-8") as file:
+            file.write(chart(times))
+
+
+if __name__ == "__main__":
+    main()
