@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+// What documents hold that nobody expects.
+
+namespace differential {
+
+/// Number texts with signs, blanks, letters and too many digits.
+[[nodiscard]] const std::vector<std::string>& oddNumbers();
+
+/// Put into a text: entities, line ends, comments, sections, other elements.
+[[nodiscard]] const std::vector<std::string>& oddInTexts();
+
+/// Put into a start tag, behind its name or in front of its end.
+[[nodiscard]] const std::vector<std::string>& oddInTags();
+
+/// Put in front of the root element.
+[[nodiscard]] const std::vector<std::string>& oddInFront();
+
+}  // namespace differential
