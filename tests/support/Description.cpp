@@ -4,6 +4,25 @@
 #include <sstream>
 
 namespace lv::test {
+namespace {
+
+/// One line whatever the text holds, and no two texts alike.
+std::string escaped(char character) {
+    if (character == '\n') {
+        return "\\n";
+    }
+    if (character == '\\' || character == '"') {
+        return {'\\', character};
+    }
+    const auto code = static_cast<unsigned char>(character);
+    if (code >= 0x20 && code != 0x7f) {
+        return {character};
+    }
+    constexpr const char* digits = "0123456789abcdef";
+    return {'\\', 'x', digits[code / 16], digits[code % 16]};
+}
+
+}  // namespace
 
 std::string textOf(int value) {
     return std::to_string(value);
@@ -25,7 +44,11 @@ std::string textOf(double value) {
 }
 
 std::string textOf(const std::string& value) {
-    return '"' + value + '"';
+    std::string text = "\"";
+    for (const char character : value) {
+        text += escaped(character);
+    }
+    return text + '"';
 }
 
 }  // namespace lv::test

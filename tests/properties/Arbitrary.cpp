@@ -1,0 +1,85 @@
+#include <tests/properties/Arbitrary.h>
+
+#include <algorithm>
+
+namespace lv::test {
+namespace {
+
+using Pieces = std::vector<std::string>;
+
+const Pieces& xmlPieces() {
+    static const Pieces pieces = {
+        "a",          "Value",     "0",      "12",     "|",
+        "1|2|3",      " ",         "  ",     "\t",     "\n",
+        "<",          ">",         "&",      "\"",     "'",
+        "]]>",        "<![CDATA[", "<!-- ",  " -->",   "<a/>",
+        "</a>",       "&amp;",     "&#65;",  "&lt;",   "&nbsp;",
+        "?>",         "\\",        "%s",     "\r",     "\r\n",
+        "\n\r",       "\u00e9",    "\u2028", "\ufffd", "\u6f22\u5b57",
+        "\U0001f3a8", "e\u0301",   "\u00a0", "\ufeff", std::string(3000, 'x'),
+    };
+    return pieces;
+}
+
+const Pieces& otherPieces() {
+    static const Pieces pieces = {
+        std::string(1, '\0'), "\x01", "\v", "\f", "\x1b", "\x7f", "\x80", "\xff\xfe", "\xc3", "\xed\xa0\x80",
+    };
+    return pieces;
+}
+
+}  // namespace
+
+std::size_t Arbitrary::below(std::size_t end) {
+    return static_cast<std::size_t>(random_.next() % end);
+}
+
+unsigned int Arbitrary::number() {
+    static const std::vector<unsigned int> limits = {0, 1, 9, 10, 99, 2147483647, 2147483648, 4294967295};
+    return oneIn(2) ? oneOf(limits) : static_cast<unsigned int>(random_.next());
+}
+
+std::string Arbitrary::text() {
+    std::string text;
+    for (std::size_t count = below(4); count != 0; --count) {
+        text += oneOf(texts_ == Texts::any && oneIn(4) ? otherPieces() : xmlPieces());
+    }
+    return text;
+}
+
+std::size_t Arbitrary::length(const MemberTraits& traits) {
+    static const std::vector<std::size_t> lengths = {0, 0, 1, 2, 3, 4, 5, 8, 9, 10, 255, 257};
+    return traits.lengths.empty() || oneIn(3) ? oneOf(lengths) : oneOf(traits.lengths);
+}
+
+void Arbitrary::visit(bool& member) {
+    member = oneIn(2);
+}
+
+void Arbitrary::visit(int& member) {
+    member = static_cast<int>(number());
+}
+
+void Arbitrary::visit(unsigned int& member, const MemberTraits& traits) {
+    member = traits.numbers.empty() || oneIn(4) ? number() : oneOf(traits.numbers);
+}
+
+void Arbitrary::visit(std::string& member, const MemberTraits& traits) {
+    member = traits.texts.empty() || oneIn(4) ? text() : oneOf(traits.texts);
+}
+
+void Arbitrary::visit(std::vector<int>& member, const MemberTraits& traits) {
+    member.resize(length(traits));
+    std::generate(member.begin(), member.end(), [this] { return static_cast<int>(number()); });
+}
+
+void Arbitrary::visit(std::vector<unsigned int>& member, const MemberTraits& traits) {
+    member.resize(length(traits));
+    std::generate(member.begin(), member.end(), [this] { return number(); });
+}
+
+std::size_t Arbitrary::rowCount(std::size_t /*present*/) {
+    return below(4);
+}
+
+}  // namespace lv::test

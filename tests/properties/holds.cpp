@@ -1,0 +1,58 @@
+#include <tests/properties/holds.h>
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+#include <vector>
+
+#include <rapidcheck.h>
+
+namespace lv::test {
+namespace {
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+/// The lines of one text that are not in the other, in their order.
+std::string linesOnlyIn(const std::string& text, const std::string& other) {
+    const std::vector<std::string> lines = linesOf(other);
+    const std::set<std::string> present(lines.begin(), lines.end());
+    std::string only;
+    for (const std::string& line : linesOf(text)) {
+        only += present.count(line) == 0 ? "  " + line + '\n' : "";
+    }
+    return only;
+}
+
+}  // namespace
+
+void expectHolds(const std::function<void()>& property) {
+    const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
+    const std::string name = std::string(test->test_suite_name()) + '.' + test->name();
+    EXPECT_TRUE(rc::check(name, property));
+}
+
+void requireEqual(const std::string& actual, const std::string& expected) {
+    if (actual != expected) {
+        RC_FAIL("expected:\n" + linesOnlyIn(expected, actual) + "found:\n" + linesOnlyIn(actual, expected));
+    }
+}
+
+void requireAllLinesDiffer(const std::string& actual, const std::string& other) {
+    const std::vector<std::string> lines = linesOf(other);
+    const std::set<std::string> present(lines.begin(), lines.end());
+    for (const std::string& line : linesOf(actual)) {
+        if (present.count(line) != 0) {
+            RC_FAIL("not changed: " + line);
+        }
+    }
+}
+
+}  // namespace lv::test

@@ -1,0 +1,51 @@
+#include <tests/properties/AnyRecordTest.h>
+#include <tests/properties/edits.h>
+
+#include <tinyxml2.h>
+
+// What any document of a record does to any record.
+
+namespace lv::test {
+namespace {
+
+class ParsingOfAnyDocument : public AnyRecordTest {
+protected:
+    /// What a record printed, and others had their hands on.
+    [[nodiscard]] static std::string anyDocument() {
+        const std::string text = compactTextOf(*anyRecord());
+        return edited(text, *rc::gen::arbitrary<std::vector<Edit>>());
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Every, ParsingOfAnyDocument, testing::ValuesIn(everyRecord()), nameOf);
+
+/// The description of the record as it is to be after it has read the text.
+std::string filledByTheRules(const AnyRecord& record, const std::string& text) {
+    tinyxml2::XMLDocument document;
+    RC_ASSERT(document.Parse(text.c_str(), text.size()) == tinyxml2::XML_SUCCESS);
+    const std::unique_ptr<AnyRecord> filled = record.copy();
+    RC_ASSERT(filled->readByTheRules(Found(document.RootElement())));
+    return filled->description();
+}
+
+TEST_P(ParsingOfAnyDocument, FillsAnyRecordByTheRules) {
+    expectHolds([] {
+        const std::unique_ptr<AnyRecord> record = anyRecord()->copy();
+        const std::string text = anyDocument();
+        RC_LOG() << text << '\n';
+        const std::string expected = filledByTheRules(*record, text);
+        RC_ASSERT(record->parse(text));
+        requireEqual(record->description(), expected);
+    });
+}
+
+TEST_P(ParsingOfAnyDocument, GivesTheSameInEveryFreshRecord) {
+    expectHolds([] {
+        const std::string text = anyDocument();
+        RC_LOG() << text << '\n';
+        requireEqual(parsed(text)->description(), parsed(text)->description());
+    });
+}
+
+}  // namespace
+}  // namespace lv::test

@@ -1,0 +1,32 @@
+#include <tests/properties/AnyRecordTest.h>
+
+// The way of any record into a text and back.
+
+namespace lv::test {
+namespace {
+
+class RoundTripOfAnyRecord : public AnyRecordTest {};
+
+INSTANTIATE_TEST_SUITE_P(Every, RoundTripOfAnyRecord, testing::ValuesIn(everyRecord()), nameOf);
+
+TEST_P(RoundTripOfAnyRecord, KeepsWhatTheFormatKeepsAndDropsWhatItDrops) {
+    expectHolds([] {
+        const SharedRecord record = anyRecord();
+        const std::unique_ptr<AnyRecord> kept = record->copy();
+        kept->loseByTheRules();
+        requireEqual(parsed(compactTextOf(*record))->description(), kept->description());
+    });
+}
+
+TEST_P(RoundTripOfAnyRecord, IsTheSameFromEveryFormOfTheText) {
+    expectHolds([] {
+        const SharedRecord record = anyRecord();
+        const std::string fromCompact = parsed(compactTextOf(*record))->description();
+        for (const auto& [declaration, pretty] : everyPrintForm) {
+            requireEqual(parsed(record->text(declaration, pretty))->description(), fromCompact);
+        }
+    });
+}
+
+}  // namespace
+}  // namespace lv::test
