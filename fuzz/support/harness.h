@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+/// What every harness defines: feeds one input to the library. libFuzzer calls it, or `run_inputs.cpp` where there is
+/// no libFuzzer. By its contract it returns 0.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace lv::fuzz {
+
+/// A promise that the library did not keep. No harness catches it: libFuzzer sees the program end and keeps the input.
+class Find : public std::logic_error {
+    using std::logic_error::logic_error;
+};
+
+inline void check(bool kept, const std::string& promise) {
+    if (!kept) {
+        throw Find("not kept: " + promise);
+    }
+}
+
+inline void checkEqual(const std::string& actual, const std::string& expected, const std::string& promise) {
+    check(actual == expected, promise + "\n--- actual\n" + actual + "\n--- expected\n" + expected + "\n---");
+}
+
+}  // namespace lv::fuzz
