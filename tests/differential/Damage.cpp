@@ -9,7 +9,7 @@ const std::vector<Damage::Change> Damage::changes = {
     &Damage::removeElement,  &Damage::repeatElement, &Damage::moveElement,   &Damage::renameElement,
     &Damage::replacePiece,   &Damage::replacePiece,  &Damage::replaceText,   &Damage::lengthenText,
     &Damage::insertIntoText, &Damage::insertIntoTag, &Damage::insertInFront, &Damage::insertByte,
-    &Damage::changeByte,     &Damage::truncate};
+    &Damage::changeByte,     &Damage::truncate,      &Damage::blankText,     &Damage::closeEarly};
 
 std::string Damage::damaged(std::string document) {
     for (std::size_t left = 1 + below(4); left > 0 && !startTagsOf(document).empty(); --left) {
@@ -68,10 +68,26 @@ void Damage::replaceText(std::string& document) {
 
 void Damage::lengthenText(std::string& document) {
     const Span text = anyText(document);
-    const std::string once = document.substr(text.begin, text.size) + anyOf(oddInTexts());
+    const std::string once = document.substr(text.begin, text.size) + anyOf(below(2) == 0 ? entities() : oddInTexts());
     for (std::size_t length = 0; length < 80; length += once.size()) {
         document.insert(text.begin, once);
     }
+}
+
+void Damage::blankText(std::string& document) {
+    const Span text = anyText(document);
+    document.replace(text.begin, below(2) == 0 ? text.size : 0, anyOf(blanks()));
+}
+
+/// Makes an element the root's last child, with its end already in its start tag and its text behind that.
+void Damage::closeEarly(std::string& document) {
+    const Span tag = anyStartTag(document);
+    const Span text{tag.begin + tag.size, document.find('<', tag.begin + tag.size) - tag.begin - tag.size};
+    std::string closed = document.substr(tag.begin, tag.size + text.size);
+    closed.insert(tag.size - 1, below(2) == 0 ? "/" : " /");
+    const Span element = elementOf(document, tag);
+    document.erase(element.begin, element.size);
+    document.insert(std::min(document.rfind("</"), document.size()), closed);
 }
 
 void Damage::insertIntoText(std::string& document) {
@@ -106,7 +122,12 @@ void Damage::truncate(std::string& document) {
 }
 
 Span Damage::anyText(const std::string& document) {
-    const std::vector<Span> texts = textsOf(document);
+    std::vector<Span> texts = textsOf(document);
+    const auto firstEmpty =
+        std::stable_partition(texts.begin(), texts.end(), [](const Span& text) { return text.size != 0; });
+    if (firstEmpty != texts.begin() && below(4) != 0) {
+        texts.erase(firstEmpty, texts.end());
+    }
     return texts.empty() ? Span{0, 0} : anyOf(texts);
 }
 

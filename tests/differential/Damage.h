@@ -27,6 +27,8 @@ private:
     void replacePiece(std::string& document);
     void replaceText(std::string& document);
     void lengthenText(std::string& document);
+    void blankText(std::string& document);
+    void closeEarly(std::string& document);
     void insertIntoText(std::string& document);
     void insertIntoTag(std::string& document);
     void insertInFront(std::string& document);

@@ -122,6 +122,16 @@ const std::vector<std::string>& oddInTexts() {
     return all;
 }
 
+const std::vector<std::string>& entities() {
+    static const std::vector<std::string> all = {"&amp;", "&lt;", "&gt;", "&quot;", "&#38;"};
+    return all;
+}
+
+const std::vector<std::string>& blanks() {
+    static const std::vector<std::string> all = {" ", "   ", "\t", "\n", "\r", "\r\n", "\v", "&#32;"};
+    return all;
+}
+
 const std::vector<std::string>& oddInTags() {
     static const std::vector<std::string> all = {" A=\"x>y\"",
                                                  " A='x>y'",

@@ -13,6 +13,12 @@ namespace differential {
 /// Put into a text: entities, line ends, comments, sections, other elements.
 [[nodiscard]] const std::vector<std::string>& oddInTexts();
 
+/// Characters that are escaped in a text.
+[[nodiscard]] const std::vector<std::string>& entities();
+
+/// In front of a text or in its place.
+[[nodiscard]] const std::vector<std::string>& blanks();
+
 /// Put into a start tag, behind its name or in front of its end.
 [[nodiscard]] const std::vector<std::string>& oddInTags();
 
