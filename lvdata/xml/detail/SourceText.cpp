@@ -6,7 +6,7 @@
 namespace lv::detail {
 namespace {
 
-constexpr std::string_view blanks = " \t\n\r";
+constexpr std::string_view blanks = " \t\n\v\f\r";  // as the XML library sees it
 
 bool contains(std::string_view text, char character) {
     return text.find(character) != std::string_view::npos;

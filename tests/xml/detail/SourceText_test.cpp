@@ -58,6 +58,8 @@ TEST(SourceText, AnythingElseInFrontOfTheRootGivesNoAnswer) {
 TEST(SourceText, TextThatTheXMLLibraryChangesGivesNoAnswer) {
     EXPECT_EQ(plainText("<r><a>5&#54;</a></r>"), "");
     EXPECT_EQ(plainText("<r><a>5\r\n6</a></r>"), "");
+    EXPECT_EQ(plainText("<r><a>\v</a></r>"), "") << "blanks alone are no text";
+    EXPECT_EQ(plainText("<r><a>\f</a></r>"), "") << "blanks alone are no text";
     EXPECT_EQ(plainText("<r><a> 5</a></r>"), "");
     EXPECT_EQ(plainText("<r><a>\n</a></r>"), "");
     EXPECT_EQ(plainText("<r><a></a></r>"), "");
