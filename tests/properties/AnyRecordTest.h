@@ -7,9 +7,15 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <ostream>
 #include <string>
 
 namespace lv::test {
+
+/// How GoogleTest shows the parameter of a test.
+inline void PrintTo(const SharedRecord& fresh, std::ostream* out) {
+    *out << fresh->rootName();
+}
 
 /// A property of every record, run for each class.
 class AnyRecordTest : public testing::TestWithParam<SharedRecord> {

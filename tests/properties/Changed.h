@@ -2,6 +2,10 @@
 
 #include <tests/properties/Members.h>
 
+#include <cstddef>
+#include <string>
+#include <vector>
+
 namespace lv::test {
 
 /// Gives every member another value, and every list a row more.

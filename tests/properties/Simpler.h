@@ -2,6 +2,8 @@
 
 #include <tests/properties/Members.h>
 
+#include <cstddef>
+
 namespace lv::test {
 
 /// Makes a record simpler in one place: of all that can be set back to its default, or erased, one. What a failing case

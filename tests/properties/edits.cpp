@@ -81,6 +81,14 @@ void setAttribute(XMLElement& element, const Edit& edit) {
     element.SetAttribute(attributes.at(edit.where % attributes.size()), textOf(edit));
 }
 
+/// Another type than its children were written for.
+void retype(XMLElement& element, const Edit& edit) {
+    constexpr std::array types = {"SyncSignal", "Formula", "Lut", "Other", ""};
+    if (element.Attribute("Type") != nullptr) {
+        element.SetAttribute("Type", types.at(edit.text % types.size()));
+    }
+}
+
 void removeAttributes(XMLElement& element, const Edit& /*edit*/) {
     for (const char* name : attributes) {
         element.DeleteAttribute(name);
@@ -114,8 +122,8 @@ void remove(XMLElement& element, const Edit& /*edit*/) {
 }
 
 constexpr std::array edits = {
-    &replaceText,      &empty,        &replaceTextByCdata, &insertComment, &insertText, &setAttribute,
-    &removeAttributes, &repeatBehind, &moveToTheEnd,       &rename,        &remove,     &replaceText};
+    &replaceText, &empty,  &replaceTextByCdata, &insertComment, &insertText,   &setAttribute, &retype,
+    &retype,      &retype, &removeAttributes,   &repeatBehind,  &moveToTheEnd, &rename,       &remove};
 
 std::vector<XMLElement*> elementsOf(tinyxml2::XMLDocument& document) {
     std::vector<XMLElement*> elements = {document.RootElement()};
@@ -136,7 +144,7 @@ std::ostream& operator<<(std::ostream& out, const Edit& edit) {
 
 std::string edited(const std::string& document, const std::vector<Edit>& all) {
     tinyxml2::XMLDocument parsed;
-    parsed.Parse(document.c_str(), document.size());
+    RC_ASSERT(parsed.Parse(document.c_str(), document.size()) == tinyxml2::XML_SUCCESS);
     for (const Edit& edit : all) {
         const std::vector<XMLElement*> elements = elementsOf(parsed);
         edits.at(edit.what % edits.size())(*elements.at(edit.where % elements.size()), edit);
