@@ -167,7 +167,7 @@ unsigned int parseNumber<unsigned int>(std::string_view text) {
 
 template <class Number>
 void parseNumbers(std::string_view text, std::string_view separator, std::vector<Number>& out) {
-    if (separator.size() != 1) {
+    if (separator.size() != 1 || isDigit(separator.front())) {  // runs of digits must end at a separator
         convertPieces(text, separator, out);
         return;
     }

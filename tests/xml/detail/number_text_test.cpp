@@ -83,6 +83,16 @@ TEST(ParseNumbers, SeparatorsOfNoneAndOfSeveralCharacters) {
     }
 }
 
+TEST(ParseNumbers, ADigitSeparatesAsAnyOtherCharacterDoes) {
+    for (const char separator : std::string("0123456789")) {
+        for (const char* text : {"1234567890", "0123456789876543210", "99999999999999", "123456789|123456789"}) {
+            const std::string at(1, separator);
+            EXPECT_EQ(parsed<int>(text, at), converted<int>(text, at)) << text << " at " << at;
+            EXPECT_EQ(parsed<unsigned int>(text, at), converted<unsigned int>(text, at)) << text << " at " << at;
+        }
+    }
+}
+
 TEST(ParseNumbers, StopAtTheEndOfTheView) {
     EXPECT_THAT(parsed<int>(std::string_view("1|23456789").substr(0, 4)), ::testing::ElementsAre(1, 23));
 }
