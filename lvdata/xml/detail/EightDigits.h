@@ -20,6 +20,26 @@ public:
         digits_ ^= everyByte * '0';  // digits become their values, everything else is more than 9
     }
 
+    /// \param number  below 10 to the power of `size`; zeros are put in front
+    explicit EightDigits(std::uint32_t number) {
+        std::uint64_t digits = number / 10000U | std::uint64_t{number % 10000U} << 32U;  // two fours of digits
+        const std::uint64_t hundreds = (digits * 5243U >> 19U) & 0x0000007F0000007F;     // 5243 / 2^19: divided by 100
+        digits = hundreds | (digits - hundreds * 100U) << 16U;                           // four pairs
+        const std::uint64_t tens = (digits * 103U >> 10U) & 0x000F000F000F000F;          // 103 / 2^10: divided by 10
+        digits_ = tens | (digits - tens * 10U) << 8U;
+    }
+
+    /// Writes the characters without the zeros in front, all eight places of `out` being overwritten; returns the end.
+    char* writeNumber(char* out) const {
+        const std::uint64_t last = std::uint64_t{1} << (8 * (size - 1));  // 0 is written, too
+        const auto zeros = static_cast<std::size_t>(__builtin_ctzll(digits_ | last)) / 8;
+        const std::uint64_t characters = (digits_ >> (8 * zeros)) + everyByte * '0';
+        for (std::size_t index = 0; index < size; ++index) {
+            out[index] = static_cast<char>(characters >> (8 * index));
+        }
+        return out + (size - zeros);
+    }
+
     /// How many of the characters in front are digits.
     [[nodiscard]] std::size_t count() const {
         // The top bit of a byte beyond 9; a carry out of such a byte disturbs only those behind it.

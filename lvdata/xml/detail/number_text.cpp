@@ -61,6 +61,9 @@ public:
     /// \param text  at least `most` characters
     explicit FrontDigits(const char* text) : first_(text), ninth_(text[EightDigits::size]) {}
 
+    /// Of a text of any length.
+    explicit FrontDigits(std::string_view text) : FrontDigits(text.size() < most ? padded(text).data() : text.data()) {}
+
     [[nodiscard]] std::size_t count() const {
         const std::size_t count = first_.count();
         return count == EightDigits::size && isDigit(ninth_) ? most : count;
@@ -73,6 +76,12 @@ public:
     }
 
 private:
+    static std::array<char, most> padded(std::string_view text) {
+        std::array<char, most> characters{};
+        std::copy(text.begin(), text.end(), characters.begin());
+        return characters;
+    }
+
     EightDigits first_;
     char ninth_;
 };
@@ -93,14 +102,20 @@ Number* convertRun(std::string_view& text, char separator, std::size_t digits, N
     return out;
 }
 
-/// The same for the pieces of any length that fits.
+/// The same for the pieces of any length that fits, also with a minus in front, and for the last, which ends the text.
 template <class Number>
 Number* convertShortPieces(std::string_view& text, char separator, Number* out) {
-    while (text.size() > FrontDigits::most) {
-        const std::size_t digits = FrontDigits(text.data()).count();
-        if (digits == 0 || text[digits] != separator) {
+    while (!text.empty()) {
+        const bool negative = text.front() == '-';
+        const FrontDigits piece(text.substr(negative ? 1 : 0));
+        const std::size_t digits = piece.count();
+        const std::size_t end = digits + (negative ? 1 : 0);
+        if (digits == 0 || (end < text.size() && text[end] != separator)) {
             break;
         }
+        const auto magnitude = static_cast<Number>(piece.value(digits));
+        *out++ = negative ? Number{0} - magnitude : magnitude;
+        text.remove_prefix(std::min(end + 1, text.size()));
         out = convertRun(text, separator, digits, out);
     }
     return out;
@@ -130,15 +145,38 @@ void convertPieces(std::string_view text, std::string_view separator, std::vecto
     });
 }
 
-/// The most characters that a number takes: one digit more than digits10, and a sign.
+/// The most characters that a number takes: one digit more than digits10, and a sign. So much room is needed to write
+/// any number, too.
 template <class Number>
 constexpr std::size_t maxDigits = std::numeric_limits<Number>::digits10 + 2;
+
+char* writeDecimal(unsigned int value, char* out) {
+    constexpr unsigned int beyondEight = 100'000'000;
+    return value < beyondEight ? EightDigits(std::uint32_t{value}).writeNumber(out)
+                               : std::to_chars(out, out + std::numeric_limits<unsigned int>::digits10 + 1, value).ptr;
+}
+
+char* writeDecimal(int value, char* out) {
+    const auto magnitude = static_cast<unsigned int>(value);
+    if (value >= 0) {
+        return writeDecimal(magnitude, out);
+    }
+    *out = '-';
+    return writeDecimal(0U - magnitude, out + 1);
+}
+
+char* writeSeparator(std::string_view separator, char* out) {
+    if (separator.size() == 1) {  // no call for the usual one
+        *out = separator.front();
+        return out + 1;
+    }
+    return std::copy(separator.begin(), separator.end(), out);
+}
 
 template <class Number>
 void appendDecimal(std::string& text, Number value) {
     std::array<char, maxDigits<Number>> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-    text.append(digits.data(), end);
+    text.append(digits.data(), writeDecimal(value, digits.data()));
 }
 
 }  // namespace
@@ -167,7 +205,8 @@ unsigned int parseNumber<unsigned int>(std::string_view text) {
 
 template <class Number>
 void parseNumbers(std::string_view text, std::string_view separator, std::vector<Number>& out) {
-    if (separator.size() != 1 || isDigit(separator.front())) {  // runs of digits must end at a separator
+    const bool inNumbers = separator == "-" || (!separator.empty() && isDigit(separator.front()));
+    if (separator.size() != 1 || inNumbers) {
         convertPieces(text, separator, out);
         return;
     }
@@ -184,14 +223,10 @@ template <class Number>
 std::string joinNumbers(const std::vector<Number>& values, std::string_view separator) {
     std::string text(values.size() * (maxDigits<Number> + separator.size()), '\0');
     char* at = text.data();
-    char* const end = at + text.size();
-    for (const Number& value : values) {
-        if (&value != values.data()) {
-            at = std::copy(separator.begin(), separator.end(), at);
-        }
-        at = std::to_chars(at, end, value).ptr;
+    for (const Number value : values) {
+        at = writeSeparator(separator, writeDecimal(value, at));
     }
-    text.resize(static_cast<std::size_t>(at - text.data()));
+    text.resize(values.empty() ? 0 : static_cast<std::size_t>(at - text.data()) - separator.size());
     return text;
 }
 

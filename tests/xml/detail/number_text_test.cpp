@@ -83,6 +83,20 @@ TEST(ParseNumbers, SeparatorsOfNoneAndOfSeveralCharacters) {
     }
 }
 
+TEST(ParseNumbers, AMinusSeparatesAsAnyOtherCharacterDoes) {
+    for (const char* text : {"5-6", "5--6", "-5-6", "12345678--123456789-1", "-"}) {
+        EXPECT_EQ(parsed<int>(text, "-"), converted<int>(text, "-")) << text;
+    }
+}
+
+TEST(ParseNumbers, SignsInEveryPlace) {
+    for (const char* text : {"-1|2|3", "1|-2|3", "1|2|-3", "-1|-2|-3", "-12345678|-123456789|-1", "-|1", "1|-", "--1|5",
+                             "-1 |5", "1|-2147483648", "1|-2147483649", "-0|0"}) {
+        EXPECT_EQ(parsed<int>(text), converted<int>(text)) << text;
+        EXPECT_EQ(parsed<unsigned int>(text), converted<unsigned int>(text)) << text;
+    }
+}
+
 TEST(ParseNumbers, ADigitSeparatesAsAnyOtherCharacterDoes) {
     for (const char separator : std::string("0123456789")) {
         for (const char* text : {"1234567890", "0123456789876543210", "99999999999999", "123456789|123456789"}) {
@@ -105,6 +119,18 @@ TEST(JoinNumbers, PutTheSeparatorBetweenThem) {
     EXPECT_EQ(joinNumbers(std::vector<unsigned int>{4294967295U, 4294967295U}, "|"), "4294967295|4294967295");
     EXPECT_EQ(joinNumbers(std::vector<unsigned int>{1, 2, 3}, ", "), "1, 2, 3");
     EXPECT_EQ(joinNumbers(std::vector<unsigned int>{1, 2, 3}, ""), "123");
+}
+
+TEST(JoinNumbers, WriteEveryLengthOfNumberAndSign) {
+    std::vector<int> values;
+    std::string expected;
+    for (int value = 1; value < 1000000000; value = value * 10 + 7) {
+        for (const int each : {value, -value}) {
+            values.push_back(each);
+            expected += (expected.empty() ? "" : "|") + std::to_string(each);
+        }
+    }
+    EXPECT_EQ(joinNumbers(values, "|"), expected);
 }
 
 TEST(AppendNumber, KeepsTheTextInFrontOfIt) {
