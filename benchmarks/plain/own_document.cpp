@@ -24,6 +24,22 @@ void expectCompactText(void* /*document*/) {}
 
 void startPieces(void* /*document*/) {}
 
+bool appendPiece(void* /*parent*/, const char* /*name*/, const std::string& /*text*/) {
+    return false;
+}
+
 void finishElement(void* /*element*/) {}
+
+void placePieces(void* /*document*/) {}
+
+tinyxml2::XMLElement* appendElement(tinyxml2::XMLNode& parent, const char* name) {
+    tinyxml2::XMLElement* const child = parent.GetDocument()->NewElement(name);
+    parent.InsertEndChild(child);
+    return child;
+}
+
+void appendText(tinyxml2::XMLNode& parent, const char* text) {
+    parent.InsertEndChild(parent.GetDocument()->NewText(text));
+}
 
 }  // namespace lv::detail

@@ -60,6 +60,7 @@ std::string XMLDocument::toXMLString(bool declaration, bool pretty) const {
     if (document == nullptr) {
         return {};
     }
+    detail::placePieces(get());
     detail::Printer printer(!pretty);
     if (declaration) {
         printer.PushDeclaration(R"(xml version="1.0" encoding="UTF-8" standalone="no")");

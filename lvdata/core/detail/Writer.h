@@ -83,7 +83,7 @@ public:
 
     template <class T>
     bool value(const char* name, const T& member) {
-        return exists() && appendChild(element_, name, member) != nullptr;
+        return exists() && appendLeaf(element_, name, member);
     }
 
     template <class Number>

@@ -12,23 +12,33 @@ bool contains(std::string_view text, char character) {
     return text.find(character) != std::string_view::npos;
 }
 
-bool standsAsItIs(const tinyxml2::XMLText& node, std::string_view text) {
-    if (node.GetUserData() == &printedMark) {
-        return true;
-    }
-    return text.size() >= longText && !node.CData() && !contains(text, '&') && !contains(text, '<') &&
-           !contains(text, '>');
+bool standsAsItIs(std::string_view text) {
+    return text.size() >= longText && !contains(text, '&') && !contains(text, '<') && !contains(text, '>');
 }
 
 }  // namespace
 
-bool Printer::Visit(const tinyxml2::XMLText& text) {
-    const std::string_view value = text.Value();
-    if (!standsAsItIs(text, value)) {
-        return XMLPrinter::Visit(text);
+void Printer::pushText(const char* text) {
+    if (standsAsItIs(text)) {
+        pushMarkup(text);
+    } else {
+        PushText(text);
     }
+}
+
+void Printer::pushMarkup(std::string_view text) {
     PushText("");  // closes the start tag and keeps the indentation away
-    Write(value.data(), value.size());
+    Write(text.data(), text.size());
+}
+
+bool Printer::Visit(const tinyxml2::XMLText& text) {
+    if (text.GetUserData() == &printedMark) {
+        pushMarkup(text.Value());
+    } else if (text.CData()) {
+        PushText(text.Value(), true);
+    } else {
+        pushText(text.Value());
+    }
     return true;
 }
 

@@ -13,6 +13,9 @@ class Printer final : public tinyxml2::XMLPrinter {
 public:
     explicit Printer(bool compact) : XMLPrinter(nullptr, compact) {}
 
+    /// The text of the element that was opened last, as `PushText`.
+    void pushText(const char* text);
+
     bool Visit(const tinyxml2::XMLText& text) override;
     using XMLPrinter::Visit;
 
@@ -22,6 +25,9 @@ public:
     /// Marks a text node as markup that `Visit` shall pass on as it stands. Uses the node's user data, so for nodes
     /// only that no caller of the library gets to see.
     static void markAsPrinted(tinyxml2::XMLText& text);
+
+private:
+    void pushMarkup(std::string_view text);
 };
 
 }  // namespace lv::detail

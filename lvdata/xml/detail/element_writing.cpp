@@ -1,6 +1,7 @@
 #include <lvdata/xml/detail/element_writing.h>
 #include <lvdata/xml/detail/handle.h>
 #include <lvdata/xml/detail/number_text.h>
+#include <lvdata/xml/detail/own_document.h>
 
 #include <tinyxml2.h>
 
@@ -10,7 +11,7 @@ namespace {
 void addText(void* handle, const char* text) {
     tinyxml2::XMLElement* const element = toElement(handle);
     if (element != nullptr) {
-        element->InsertEndChild(element->GetDocument()->NewText(text));
+        appendText(*element, text);
     }
 }
 
@@ -18,6 +19,14 @@ void* appendWithText(void* parent, const char* name, const char* text) {
     void* const child = appendChild(parent, name);
     addText(child, text);
     return child;
+}
+
+bool appendLeafText(void* parent, const char* name, const std::string& text) {
+    return appendPiece(parent, name, text) || appendChild(parent, name, text) != nullptr;
+}
+
+const char* boolText(bool value) {
+    return value ? "true" : "false";
 }
 
 void setAttributeText(void* handle, const char* name, const char* value) {
@@ -47,7 +56,7 @@ void* appendChild(void* parent, const char* name, unsigned int value) {
 }
 
 void* appendChild(void* parent, const char* name, bool value) {
-    return appendWithText(parent, name, value ? "true" : "false");
+    return appendWithText(parent, name, boolText(value));
 }
 
 void* appendChild(void* parent, const char* name, const std::vector<int>& values, std::string_view separator) {
@@ -56,6 +65,30 @@ void* appendChild(void* parent, const char* name, const std::vector<int>& values
 
 void* appendChild(void* parent, const char* name, const std::vector<unsigned int>& values, std::string_view separator) {
     return appendWithText(parent, name, joinNumbers(values, separator).c_str());
+}
+
+bool appendLeaf(void* parent, const char* name, const std::string& text) {
+    return appendLeafText(parent, name, text);
+}
+
+bool appendLeaf(void* parent, const char* name, int value) {
+    return appendLeafText(parent, name, decimalText(value));
+}
+
+bool appendLeaf(void* parent, const char* name, unsigned int value) {
+    return appendLeafText(parent, name, decimalText(value));
+}
+
+bool appendLeaf(void* parent, const char* name, bool value) {
+    return appendLeafText(parent, name, boolText(value));
+}
+
+bool appendLeaf(void* parent, const char* name, const std::vector<int>& values) {
+    return appendLeafText(parent, name, joinNumbers(values, arraySeparator));
+}
+
+bool appendLeaf(void* parent, const char* name, const std::vector<unsigned int>& values) {
+    return appendLeafText(parent, name, joinNumbers(values, arraySeparator));
 }
 
 void setText(void* element, unsigned int value) {

@@ -23,6 +23,16 @@ void* appendChild(void* parent, const char* name, const std::vector<unsigned int
                   std::string_view separator = arraySeparator);
 void* appendChild(void* parent, const char* name, const char* text) = delete;  // it would be taken for a bool
 
+/// The same for a caller that needs no handle, so that the element may become text at once. False when `parent` is no
+/// element.
+bool appendLeaf(void* parent, const char* name, const std::string& text);
+bool appendLeaf(void* parent, const char* name, int value);
+bool appendLeaf(void* parent, const char* name, unsigned int value);
+bool appendLeaf(void* parent, const char* name, bool value);
+bool appendLeaf(void* parent, const char* name, const std::vector<int>& values);
+bool appendLeaf(void* parent, const char* name, const std::vector<unsigned int>& values);
+bool appendLeaf(void* parent, const char* name, const char* text) = delete;
+
 /// Gives an element its text, as the appenders above do: a text node added behind what it holds.
 void setText(void* element, unsigned int value);
 void setText(void* element, const std::vector<unsigned int>& values);

@@ -22,10 +22,4 @@ void* toHandle(tinyxml2::XMLNode* node) {
     return node;
 }
 
-tinyxml2::XMLElement* appendElement(tinyxml2::XMLNode& parent, const char* name) {
-    tinyxml2::XMLElement* const child = parent.GetDocument()->NewElement(name);
-    parent.InsertEndChild(child);
-    return child;
-}
-
 }  // namespace lv::detail

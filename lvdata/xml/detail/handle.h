@@ -18,7 +18,4 @@ namespace lv::detail {
 /// The handle of a node, the pointer to its base class `tinyxml2::XMLNode`.
 [[nodiscard]] void* toHandle(tinyxml2::XMLNode* node);
 
-/// A new last child element of `parent` in its own document.
-[[nodiscard]] tinyxml2::XMLElement* appendElement(tinyxml2::XMLNode& parent, const char* name);
-
 }  // namespace lv::detail

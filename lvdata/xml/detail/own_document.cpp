@@ -15,7 +15,8 @@ class OwnDocument final : public tinyxml2::XMLDocument {
 public:
     std::optional<SourceText> source;
     bool compactTextExpected = false;
-    std::optional<Printer> pieces;  // kept from piece to piece for its buffer
+    std::optional<Printer> pieces;              // finished elements in a row
+    tinyxml2::XMLNode* piecesParent = nullptr;  // whose last children they are; null when there are none
 };
 
 /// Null when the document is somebody else's. Asked for every array, so without the search of a dynamic_cast.
@@ -26,12 +27,31 @@ auto* toOwnDocument(Document* document) {
     return own ? static_cast<Own*>(document) : nullptr;
 }
 
-void replaceByText(tinyxml2::XMLElement& element, const char* text) {
-    tinyxml2::XMLNode* const parent = element.Parent();
-    tinyxml2::XMLText* const printed = element.GetDocument()->NewText(text);
-    Printer::markAsPrinted(*printed);
-    parent->InsertAfterChild(&element, printed);
-    parent->DeleteChild(&element);
+tinyxml2::XMLText* appendTextNode(tinyxml2::XMLNode& parent, const char* text) {
+    tinyxml2::XMLText* const node = parent.GetDocument()->NewText(text);
+    parent.InsertEndChild(node);
+    return node;
+}
+
+void place(OwnDocument* document) {
+    if (document != nullptr && document->piecesParent != nullptr) {
+        Printer::markAsPrinted(*appendTextNode(*document->piecesParent, document->pieces->CStr()));
+        document->piecesParent = nullptr;
+        document->pieces->ClearBuffer();
+    }
+}
+
+/// The printer of pieces, ready for a new last child of `parent`; null where pieces are not started.
+Printer* piecesOf(tinyxml2::XMLNode& parent) {
+    OwnDocument* const own = toOwnDocument(parent.GetDocument());
+    if (own == nullptr || !own->pieces) {
+        return nullptr;
+    }
+    if (own->piecesParent != &parent) {
+        place(own);
+        own->piecesParent = &parent;
+    }
+    return &*own->pieces;
 }
 
 }  // namespace
@@ -72,14 +92,40 @@ void startPieces(void* document) {
     }
 }
 
+bool appendPiece(void* handle, const char* name, const std::string& text) {
+    tinyxml2::XMLElement* const parent = toElement(handle);
+    Printer* const pieces = parent == nullptr ? nullptr : piecesOf(*parent);
+    if (pieces != nullptr) {
+        pieces->OpenElement(name, true);
+        pieces->pushText(text.c_str());
+        pieces->CloseElement(true);
+    }
+    return pieces != nullptr;
+}
+
 void finishElement(void* handle) {
     tinyxml2::XMLElement* const element = toElement(handle);
-    OwnDocument* const own = element == nullptr ? nullptr : toOwnDocument(element->GetDocument());
-    if (own != nullptr && own->pieces) {
-        own->pieces->ClearBuffer();
-        element->Accept(&*own->pieces);
-        replaceByText(*element, own->pieces->CStr());
+    Printer* const pieces = element == nullptr ? nullptr : piecesOf(*element->Parent());
+    if (pieces != nullptr) {
+        element->Accept(pieces);
+        element->Parent()->DeleteChild(element);
     }
+}
+
+void placePieces(void* document) {
+    place(toOwnDocument(toDocument(document)));
+}
+
+tinyxml2::XMLElement* appendElement(tinyxml2::XMLNode& parent, const char* name) {
+    place(toOwnDocument(parent.GetDocument()));
+    tinyxml2::XMLElement* const child = parent.GetDocument()->NewElement(name);
+    parent.InsertEndChild(child);
+    return child;
+}
+
+void appendText(tinyxml2::XMLNode& parent, const char* text) {
+    place(toOwnDocument(parent.GetDocument()));
+    appendTextNode(parent, text);
 }
 
 }  // namespace lv::detail
