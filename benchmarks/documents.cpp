@@ -1,25 +1,11 @@
+#include <benchmarks/Sequence.h>
 #include <benchmarks/documents.h>
 
 #include <cmath>
-#include <cstdint>
 #include <utility>
 
 namespace benchmarks {
 namespace {
-
-/// Small deterministic numbers: a linear congruential generator with the constants of Knuth's MMIX.
-class Sequence {
-public:
-    explicit Sequence(std::uint64_t seed) : state_(seed) {}
-
-    unsigned int below(unsigned int bound) {
-        state_ = state_ * 6364136223846793005U + 1442695040888963407U;
-        return static_cast<unsigned int>((state_ >> 33U) % bound);
-    }
-
-private:
-    std::uint64_t state_;
-};
 
 template <class T>
 lv::property<T> set(T value) {

@@ -1,4 +1,5 @@
 #include <benchmarks/Monitor.h>
+#include <benchmarks/bare.h>
 #include <benchmarks/documents.h>
 
 #include <benchmark/benchmark.h>
@@ -38,12 +39,6 @@ struct Text {
 
 void setRate(benchmark::State& state, const std::string& text) {
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
-}
-
-std::string printBare(const tinyxml2::XMLDocument& document) {
-    tinyxml2::XMLPrinter printer(nullptr, true);
-    document.Accept(&printer);
-    return {printer.CStr(), static_cast<std::size_t>(printer.CStrSize() - 1)};
 }
 
 void parseBare(benchmark::State& state, const std::string& text) {

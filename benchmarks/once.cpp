@@ -1,4 +1,5 @@
 #include <benchmarks/Monitor.h>
+#include <benchmarks/bare.h>
 #include <benchmarks/documents.h>
 
 #include <tinyxml2.h>
@@ -27,9 +28,7 @@ Work bareWork(const std::string& operation, const std::string& text) {
     const auto document = std::make_shared<tinyxml2::XMLDocument>();
     document->Parse(text.data(), text.size());
     return [document] {
-        tinyxml2::XMLPrinter printer(nullptr, true);
-        document->Accept(&printer);
-        const std::string printed(printer.CStr(), static_cast<std::size_t>(printer.CStrSize() - 1));
+        static_cast<void>(printBare(*document));
     };
 }
 

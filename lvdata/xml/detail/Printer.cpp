@@ -1,4 +1,5 @@
 #include <lvdata/xml/detail/Printer.h>
+#include <lvdata/xml/detail/contains.h>
 
 namespace lv::detail {
 namespace {
@@ -8,18 +9,15 @@ char printedMark;  // its address is the mark
 /// Below this length the search for characters to escape costs more than it saves.
 constexpr std::size_t longText = 64;
 
-bool contains(std::string_view text, char character) {
-    return text.find(character) != std::string_view::npos;
-}
-
-bool standsAsItIs(std::string_view text) {
+/// Whether a text needs no look at each of its characters.
+bool isLongAndPlain(std::string_view text) {
     return text.size() >= longText && !contains(text, '&') && !contains(text, '<') && !contains(text, '>');
 }
 
 }  // namespace
 
 void Printer::pushText(const char* text) {
-    if (standsAsItIs(text)) {
+    if (isLongAndPlain(text)) {
         pushMarkup(text);
     } else {
         PushText(text);

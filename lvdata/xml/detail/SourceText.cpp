@@ -1,4 +1,5 @@
 #include <lvdata/xml/detail/SourceText.h>
+#include <lvdata/xml/detail/contains.h>
 
 #include <algorithm>
 #include <cstring>
@@ -7,10 +8,6 @@ namespace lv::detail {
 namespace {
 
 constexpr std::string_view blanks = " \t\n\v\f\r";  // as the XML library sees it
-
-bool contains(std::string_view text, char character) {
-    return text.find(character) != std::string_view::npos;
-}
 
 /// Whether the XML library hands the text out as it stands: no entity, no line end that it would change, and no white
 /// space in front, which alone is no text to it.
