@@ -1,0 +1,7 @@
+#include <lvdata/xml/XMLNode.h>
+
+namespace lv {
+
+XMLNode::~XMLNode() = default;
+
+}  // namespace lv

@@ -1,0 +1,11 @@
+#include <lvdata/xml/detail/own_document.h>
+
+namespace lv::detail {
+
+// Documents are printed from their nodes alone: there are no pieces.
+
+void startPieces(void* /*document*/) {}
+
+void finishElement(void* /*element*/) {}
+
+}  // namespace lv::detail
