@@ -1,6 +1,6 @@
-#include <benchmarks/Monitor.h>
 #include <benchmarks/bare.h>
 #include <benchmarks/documents.h>
+#include <benchmarks/styles.h>
 
 #include <benchmark/benchmark.h>
 #include <tinyxml2.h>
@@ -15,22 +15,6 @@
 
 namespace benchmarks {
 namespace {
-
-struct Style {
-    std::string name;
-    std::unique_ptr<Monitor> (*make)();
-};
-
-const std::vector<Style>& styles() {
-    static const std::vector<Style> all = {
-        {"lvdata", libraryMonitor},
-        {"plain", plainMonitor},
-#ifdef LVDATA_HAVE_PUGIXML
-        {"pugixml", pugixmlMonitor},
-#endif
-    };
-    return all;
-}
 
 struct Text {
     std::string name;
