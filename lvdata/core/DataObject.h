@@ -37,11 +37,13 @@ public:
     virtual XMLElement appendXMLElement(XMLNode& parent) const = 0;
 
     /// Reads the record from a whole XML document in UTF-8. False, with the record unchanged, when the XML library
-    /// refuses the text or `parseXMLElement` refuses the document's first element.
+    /// refuses the text or `parseXMLElement` refuses the document's first element. When memory runs out on the way
+    /// (`std::bad_alloc`), each value and each flag is as it was or as the document has it, and a list may end in a row
+    /// read in part; the record stays usable, and parsing once more reads it whole.
     [[nodiscard]] bool parseXMLString(const std::string& text);
 
     /// The record as a whole XML document in UTF-8: behind an XML declaration when `declaration`, indented when
-    /// `pretty`, otherwise compact.
+    /// `pretty`, otherwise compact. Changes nothing in the record, also when memory runs out (`std::bad_alloc`).
     [[nodiscard]] std::string toXMLString(bool declaration, bool pretty) const;
 
     /// Appends a root element of that name to a document or an element; invalid when the parent cannot take it.
