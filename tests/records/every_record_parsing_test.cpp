@@ -1,4 +1,5 @@
 #include <tests/support/every_record.h>
+#include <tests/support/refusal.h>
 
 #include <gtest/gtest.h>
 
@@ -22,13 +23,6 @@ std::string withCaseChanged(std::string text) {
         character = static_cast<char>(std::isupper(byte) != 0 ? std::tolower(byte) : std::toupper(byte));
     }
     return text;
-}
-
-template <class Record>
-void expectRefusedUnchanged(Record record, const std::string& text) {
-    const std::string before = describe(record);
-    EXPECT_FALSE(record.parseXMLString(text)) << text;
-    EXPECT_EQ(describe(record), before) << text;
 }
 
 TYPED_TEST(EveryRecordParsing, ElementOfAnotherNameIsRefusedWithEveryMemberUnchanged) {

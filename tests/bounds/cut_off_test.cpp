@@ -1,0 +1,11 @@
+#include <tests/bounds/studio.h>
+
+namespace lv::test {
+namespace {
+
+TEST(CutOffDocument, IsRefusedWithoutHarm) {
+    expectPrefixesAreHarmless(97);  // prime, so that every place in an element has its turn
+}
+
+}  // namespace
+}  // namespace lv::test

@@ -1,0 +1,11 @@
+#include <tests/bounds/long_texts.h>
+
+namespace lv::test {
+namespace {
+
+TEST(LongTexts, OfAMegabyteAreHandled) {
+    expectLongTextIsHandled(1'000'000);
+}
+
+}  // namespace
+}  // namespace lv::test
