@@ -30,7 +30,9 @@ TEST_F(CommandLine, HelpOfASubcommandNamesItsOptions) {
     const Outcome help = run({"format", "--help"});
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_THAT(help.output, AllOf(HasSubstr("Usage: lvdata format "), HasSubstr("FILE"), HasSubstr("--compact"),
-                                   HasSubstr("--no-declaration"), HasSubstr("-o,--output")));
+                                   HasSubstr("--no-declaration"), HasSubstr("-o,--output"), HasSubstr("--max-size N"),
+                                   HasSubstr("--max-elements N"), HasSubstr("--max-attributes N"),
+                                   HasSubstr("--max-broken-references N")));
     EXPECT_EQ(help.error, "");
 }
 
@@ -103,6 +105,16 @@ const std::vector<Misuse> misuses{
     {"TwoOutputs", {"format", "a.xml", "-o", "b.xml", "-o", "c.xml"}, "--output"},
     {"OutputWithoutName", {"format", "a.xml", "-o"}, "--output"},
     {"OutputWithEmptyName", {"format", "a.xml", "-o", ""}, "--output"},
+    {"LimitThatIsNoNumber", {"format", "a.xml", "--max-size", "1e3"}, "--max-size: '1e3' is no number"},
+    {"LimitWithAUnit", {"format", "a.xml", "--max-size", "64M"}, "--max-size: '64M' is no number"},
+    {"LimitInOctalDigits", {"format", "a.xml", "--max-elements", "010"}, "--max-elements: '010' is no number"},
+    {"LimitThatIsNegative", {"format", "a.xml", "--max-attributes", "-1"}, "--max-attributes: '-1' is no number"},
+    {"LimitWithoutValue", {"format", "a.xml", "--max-attributes"}, "--max-attributes"},
+    {"LimitThatIsEmpty", {"format", "a.xml", "--max-attributes", ""}, "--max-attributes: '' is no number"},
+    {"LimitBeyondAGibibyte",
+     {"format", "a.xml", "--max-broken-references", "1073741825"},
+     "'1073741825' is no number from 0 to 1073741824"},
+    {"LimitBeyondAllNumbers", {"format", "a.xml", "--max-size", "99999999999999999999"}, "--max-size: '9999999"},
     {"EmptyFileName", {"format", ""}, "FILE"},
     {"LineBreakInAnArgument", {"format", "a.xml", "x\ny"}, "x\\x0Ay"},
 };

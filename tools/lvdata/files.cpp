@@ -2,8 +2,10 @@
 
 #include "Descriptor.h"
 #include "Failure.h"
+#include "limits.h"
 #include "replace_file.h"
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <optional>
@@ -17,11 +19,17 @@ namespace {
 using Path = std::filesystem::path;
 using Status = struct stat;
 
-std::string readAll(int descriptor) {
+/// Up to so many bytes; less when there are no more.
+std::string readUpTo(std::size_t count, int descriptor) {
     std::string text;
     std::array<char, 65536> block{};
-    while (const auto count = static_cast<std::size_t>(checked(::read(descriptor, block.data(), block.size())))) {
-        text.append(block.data(), count);
+    while (text.size() < count) {
+        const std::size_t wanted = std::min(block.size(), count - text.size());
+        const auto got = static_cast<std::size_t>(checked(::read(descriptor, block.data(), wanted)));
+        if (got == 0) {
+            break;
+        }
+        text.append(block.data(), got);
     }
     return text;
 }
@@ -30,9 +38,12 @@ int openFile(const Path& path, int mode) {
     return ::open(path.c_str(), mode);  // NOLINT(cppcoreguidelines-pro-type-vararg): that is how it is declared
 }
 
-std::string readFile(const Path& path) {
-    const Descriptor file(openFile(path, O_RDONLY));
-    return readAll(file.get());
+std::string readUpTo(std::size_t count, const std::string& file) {
+    if (file == standardStream) {
+        return readUpTo(count, STDIN_FILENO);
+    }
+    const Descriptor opened(openFile(file, O_RDONLY));
+    return readUpTo(count, opened.get());
 }
 
 /// Of the file behind all symbolic links; nothing when there is none.
@@ -89,12 +100,17 @@ std::string inputName(const std::string& file) {
     return file == standardStream ? "<stdin>" : file;
 }
 
-std::string readInput(const std::string& file) {
+std::string readInput(const std::string& file, std::size_t limit) {
+    std::string text;
     try {
-        return file == standardStream ? readAll(STDIN_FILENO) : readFile(file);
+        text = readUpTo(limit + 1, file);
     } catch (const std::system_error& error) {
         throw Failure(inputName(file), error.code().message());
     }
+    if (text.size() > limit) {
+        throw Failure(inputName(file), excessReason(limit, "bytes", "--max-size"));
+    }
+    return text;
 }
 
 void writeOutput(const std::string& file, std::string_view text) {

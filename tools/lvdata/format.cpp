@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "files.h"
+#include "limit_options.h"
 #include "records.h"
 
 #include <lvdata/xml/XMLDocument.h>
@@ -19,6 +20,7 @@ struct FormatOptions {
     bool compact = false;
     bool noDeclaration = false;
     bool hlgSystemGamma = false;
+    Limits limits;
 };
 
 int lineOf(const std::string& text, std::size_t position) {
@@ -26,11 +28,18 @@ int lineOf(const std::string& text, std::size_t position) {
     return 1 + static_cast<int>(std::count(text.begin(), end, '\n'));
 }
 
-void parseDocument(lv::XMLDocument& document, const std::string& text, const std::string& name) {
+/// Refuses what the XML library would misread or choke on.
+void checkText(const std::string& text, const Limits& limits, const std::string& name) {
     const std::size_t nul = text.find('\0');
     if (nul != std::string::npos) {  // where the XML library would stop reading
         throw Failure(name, "NUL character", lineOf(text, nul));
     }
+    if (const auto excess = findExcess(text, limits)) {
+        throw Failure(name, excess->reason, lineOf(text, excess->position));
+    }
+}
+
+void parseDocument(lv::XMLDocument& document, const std::string& text, const std::string& name) {
     if (!document.parseXMLString(text)) {
         throw Failure(name, document.parseErrorText(), document.parseErrorLine());
     }
@@ -47,14 +56,17 @@ std::unique_ptr<lv::DataObject> parseRecord(const lv::XMLElement& root, const st
     return record;
 }
 
-std::unique_ptr<lv::DataObject> readRecord(const std::string& file) {
+std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const Limits& limits) {
+    const std::string name = inputName(file);
+    const std::string text = readInput(file, limits.bytes);
+    checkText(text, limits, name);
     lv::XMLDocument document;
-    parseDocument(document, readInput(file), inputName(file));
-    return parseRecord(document.rootElement(), inputName(file));
+    parseDocument(document, text, name);
+    return parseRecord(document.rootElement(), name);
 }
 
 void format(const FormatOptions& options) {
-    const auto record = readRecord(options.input);
+    const auto record = readRecord(options.input, options.limits);
     record->writeHLGSystemGamma = options.hlgSystemGamma;
     std::string text = record->toXMLString(!options.noDeclaration, !options.compact);
     if (text.empty() || text.back() != '\n') {
@@ -84,6 +96,7 @@ void addFormat(CLI::App& application) {
         ->type_name("")
         ->required()
         ->check(complaintIfEmpty);
+    addLimitOptions(*command, options->limits);
     command->callback([options] { format(*options); });
 }
 
