@@ -4,7 +4,7 @@ namespace lv::test {
 namespace {
 
 TEST(CutOffDocument, IsRefusedWithoutHarm) {
-    expectPrefixesAreHarmless(97);  // prime, so that every place in an element has its turn
+    expectPrefixesAreHarmless(studioDocument(), 97);  // prime, so that every place in an element has its turn
 }
 
 }  // namespace

@@ -18,11 +18,10 @@ namespace lv::test {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// Parses the studio document cut off at each `step`-th length, and at each of the last 100, into a record that holds
-/// something. What ends before the root element does is refused, and the record stays as it was; the rest says what
-/// the whole document says.
-inline void expectPrefixesAreHarmless(std::size_t step) {
-    const std::string document = studioDocument();
+/// Parses a document of MonitorInfo cut off at each `step`-th length, and at each of the last 100, into a record that
+/// holds something. What ends before the root element does is refused, and the record stays as it was; the rest says
+/// what the whole document says.
+inline void expectPrefixesAreHarmless(const std::string& document, std::size_t step) {
     const std::string end = "</MonitorInfo>";
     const std::size_t complete = document.find(end) + end.size();
     ASSERT_LT(complete, document.size() + 1);
