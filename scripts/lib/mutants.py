@@ -1,0 +1,259 @@
+"""Finds what scripts/mutate changes in a source, and writes all the changes into the source at once.
+
+A mutant is a change at one place. Compiling each by itself would take hours, so all are compiled in: every place is
+wrapped in an expression that is what it was, but for the run whose environment names the mutant's number.
+"""
+
+import collections
+import dataclasses
+import re
+
+# Operations of a visit; a statement that calls one, or a function named visit..., is what the record says of a member.
+OPERATIONS = "field|value|attribute|constant|text|array|structure|group|record|recordWithSwitch|rows|keyed|derive"
+VISITS = re.compile(rf"(?:^|[.\s=(!])(?:{OPERATIONS}|(?:detail::)?visit\w*)\(")
+ACTION = re.compile(r"(?!return\b|static_assert\b)[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(]")
+BOOL = re.compile(r"(?:const )?bool \w+ = ")
+ANSWER = re.compile(r" (?:\|\||&&|==|!=|<|>=?) |(?:^|[.\s!])(?:exists|empty)\(\)$|^(?:true|false|any|found)$")
+
+GATE = re.compile(r"\.(?:(?:readWhen|writeWhen|when)\(|derive\([\w.]+, )")
+CONDITION = re.compile(r"\bif \(")
+CHOICE = re.compile(r"(?:\breturn|[^=!<>]=) ([^;{}?=]*?(?: == [^;{}?=]*?)?) \? ")
+ALWAYS = re.compile(r"\b(\w+)\.always\(\)")
+OPERATORS = (" = ", "|| ", "&& ", " ||", " &&")  # around one of its letters
+LOGICAL = re.compile(r" (\|\||&&) ")
+LITERAL = re.compile(r'"[^"\n]*"')
+TEXT_FOLLOWS = re.compile(r"""(?:[!=]= |\bconstant\("_*", )$""")  # else it is the name of an element or an attribute
+ROOT_NAME = re.compile(r"(?<=[ (])(?:Record::)?rootElementName\b")
+NUMBER = re.compile(r"(?<![\w.<\[])(?:0x[0-9A-F]+|\d+(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
+ENTRIES = re.compile(r"\{\s*([a-z]\w*(?:,\s+[a-z]\w*)*)\s*\}")
+CONSTANT = re.compile(r"constexpr (?!auto\b)")
+
+MUTATION_HEADER = """#pragma once
+
+#include <cstdlib>
+
+namespace lv::mutation {
+
+// Whether this run is that of the mutant of that number.
+inline bool on(int mutant) {
+    static const char* const text = std::getenv("LVDATA_MUTANT");
+    static const int active = text != nullptr ? std::atoi(text) : 0;
+    return mutant == active;
+}
+
+template <class T>
+T pick(int mutant, const T& changed, const T& original) {
+    return on(mutant) ? changed : original;
+}
+
+}  // namespace lv::mutation
+"""
+
+
+@dataclasses.dataclass
+class Mutant:
+    """Code at one place, wrapped in `before` and `after`, where @ stands for the mutant's number."""
+
+    kind: str
+    start: int
+    end: int
+    before: str
+    after: str
+    change: str  # what becomes of the code, for people
+    number: int = 0
+    key: str = ""  # names the mutant without its line, so that it stays the same when the file changes elsewhere
+    line: int = 0
+
+
+def masked(text):
+    """The text, of the same length, with comments and preprocessor lines blank and letters in quotes hidden."""
+    hide = re.compile(r"//[^\n]*|/\*.*?\*/|^#[^\n]*", re.DOTALL | re.MULTILINE)
+    text = hide.sub(lambda match: re.sub(r"[^\n]", " ", match.group()), text)
+    return LITERAL.sub(lambda match: '"' + "_" * (len(match.group()) - 2) + '"', text)
+
+
+def closing(code, position):
+    """Where the bracket that was opened just before the position is closed."""
+    depth = 1
+    while depth:
+        depth += {"(": 1, "{": 1, "[": 1, ")": -1, "}": -1, "]": -1}.get(code[position], 0)
+        position += 1
+    return position - 1
+
+
+def skip_space(code, start, end):
+    return end - len(code[start:end].lstrip())
+
+
+def statements(code):
+    """Yields (start, end) of each statement that ends with a semicolon, which is not part of it."""
+    stack, start = [], 0
+    for position, letter in enumerate(code):
+        if letter in "({":
+            is_block = letter == "{" and not code[:position].endswith("= ")
+            stack.append((is_block, start))
+            start = position + 1 if is_block else start
+        elif letter in ")}":
+            was_block, outer = stack.pop()
+            is_inner = not was_block or (stack and not stack[-1][0])  # of a statement that goes on behind it
+            start = outer if is_inner else position + 1
+        elif letter == ";" and (not stack or stack[-1][0]):
+            yield skip_space(code, start, position), position
+            start = position + 1
+
+
+def removed(kind, start, end):
+    return Mutant(kind, start, end + 1, "if (!mutation::on(@)) { ", " }", "removed")
+
+
+def inverted(kind, start, end):
+    return Mutant(kind, start, end, "(mutation::on(@) != (", "))", "inverted")
+
+
+def in_statement(code, start, end):
+    """Visits and other statements that are removed, and answers that are inverted."""
+    statement = code[start:end]
+    declared = BOOL.match(statement)
+    if ACTION.match(statement):
+        yield removed("visit" if VISITS.search(statement) else "statement", start, end)
+    elif declared:
+        yield from answer(code, start + declared.end(), end)
+    elif statement.startswith("return "):
+        yield from answer(code, start + len("return "), end)
+
+
+def answer(code, start, end):
+    expression = code[start:end]
+    if VISITS.search(expression):
+        before = f"(mutation::on(@) ? decltype({expression})() : ("
+        yield Mutant("visit", start, end, before, "))", "removed")
+    elif ANSWER.search(expression) and " ? " not in expression:
+        yield inverted("condition", start, end)
+
+
+def operand(code, position, step):
+    """Where the operand ends that lies left (step -1) or right (1) of a logical operator at the position."""
+    opening, depth = ("([{" if step > 0 else ")]}"), 0
+    while True:
+        letter, pair = code[position], code[position - 1 : position + 2]
+        if letter in "()[]{}":
+            if depth == 0 and letter not in opening:
+                break
+            depth += 1 if letter in opening else -1
+        elif depth == 0 and (letter in ";,?" or pair in OPERATORS or code.startswith("return ", position - 6)):
+            break
+        position += step
+    return position
+
+
+def operands(code):
+    """Each operand of || and && is left out once."""
+    seen = set()
+    code = code.replace("\n", " ")
+    for match in LOGICAL.finditer(code):
+        neutral = "(!mutation::on(@) && (" if match.group(1) == "||" else "(mutation::on(@) || ("
+        left = operand(code, match.start() - 1, -1) + 1
+        right = operand(code, match.end(), 1)
+        for start, end in ((left, match.start()), (match.end(), right)):
+            start, end = skip_space(code, start, end), start + len(code[start:end].rstrip())
+            if (start, end) not in seen:
+                seen.add((start, end))
+                yield Mutant("operand", start, end, neutral, "))", "left out")
+
+
+def gates(code):
+    for match in GATE.finditer(code):
+        yield inverted("gate", match.end(), closing(code, match.end()))
+    for match in CONDITION.finditer(code):
+        yield inverted("condition", match.end(), closing(code, match.end()))
+    for match in CHOICE.finditer(code):
+        yield inverted("condition", match.start(1), match.end(1))
+    for match in ALWAYS.finditer(code):
+        io = match.group(1)
+        before = f"mutation::pick<std::decay_t<decltype({io})>>(@, {io}, "
+        yield Mutant("gate", match.start(), match.end(), before, ")", "without always()")
+
+
+def texts(code, text):
+    for match in LITERAL.finditer(code):
+        original = text[match.start() : match.end()]
+        changed = original[:-1] + 'X"'
+        kind = "text" if TEXT_FOLLOWS.search(code[: match.start()]) else "name"
+        yield Mutant(kind, *match.span(), f"mutation::pick<const char*>(@, {changed}, ", ")", f"becomes {changed}")
+    for match in ROOT_NAME.finditer(code):
+        before = 'mutation::pick<const char*>(@, "X", '
+        yield Mutant("name", *match.span(), before, ")", "becomes another")
+
+
+def changed_number(original):
+    """What a number becomes: something near, and a factor another power of ten, too."""
+    is_factor = "." in original or "e" in original
+    if not is_factor or float(original) + 1 != float(original):
+        yield f"{original} + 1"
+    if is_factor and float(original) != 0:
+        yield f"{original} * 10"
+
+
+def numbers(code):
+    enums = [(match.start(), closing(code, match.end())) for match in re.finditer(r"\benum [^{;]*\{", code)]
+    for match in NUMBER.finditer(code):
+        if any(start < match.start() < end for start, end in enums):
+            continue
+        original = match.group()
+        kind = "factor" if "." in original or "e" in original else "number"
+        for changed in changed_number(original):
+            yield Mutant(kind, *match.span(), f"mutation::pick(@, {changed}, ", ")", f"becomes {changed}")
+
+
+def entries(code):
+    """The constants in lists such as {once, yearly}."""
+    for match in ENTRIES.finditer(code):
+        for entry in re.finditer(r"\w+", match.group(1)):
+            start, end = (match.start(1) + offset for offset in entry.span())
+            before = f"mutation::pick<decltype(+{entry.group()})>(@, 0xFFFF, "
+            yield Mutant("entry", start, end, before, ")", "left out")
+
+
+def find(path, text):
+    """The mutants of a source, outer ones first; `path` names it in their keys."""
+    code = masked(text)
+    found = [mutant for start, end in statements(code) for mutant in in_statement(code, start, end)]
+    found += [*gates(code), *operands(code), *texts(code, text), *numbers(code), *entries(code)]
+    found.sort(key=lambda mutant: (mutant.start, -mutant.end))
+    times = collections.Counter()
+    for mutant in found:
+        mutant.line = text.count("\n", 0, mutant.start) + 1
+        key = f"{path}: {mutant.kind}: {described(text, mutant)}"
+        times[key] += 1
+        mutant.key = key if times[key] == 1 else f"{key} ({times[key]})"
+    return found
+
+
+def described(text, mutant):
+    """What is changed in which line, on one line."""
+    place = " ".join(text[mutant.start : mutant.end].split())
+    line = " ".join(text.splitlines()[mutant.line - 1].split())
+    where = "" if line.rstrip(";") == place.rstrip(";") else f" in {line}"
+    return f"{place} {mutant.change}{where}"
+
+
+def insertions(mutants):
+    """Yields (position, text) in the order of writing: where several meet, what ends comes before what begins."""
+    pieces = []
+    for order, mutant in enumerate(mutants):
+        pieces.append((mutant.start, 1, order, mutant.before.replace("@", str(mutant.number))))
+        pieces.append((mutant.end, 0, -order, mutant.after))
+    return [(position, piece) for position, _, _, piece in sorted(pieces)]
+
+
+def instrument(text, mutants):
+    """The text with all mutants compiled in."""
+    code = masked(text)
+    changed = [start for start, end in statements(code) if any(start <= mutant.start < end for mutant in mutants)]
+    cuts = {start: len("constexpr") for start in changed if CONSTANT.match(code, start)}  # of what is now computed
+    pieces = sorted([(start, "const") for start in cuts] + insertions(mutants), key=lambda piece: piece[0])
+    result, last = ["#include <lvdata/mutation.h>\n#include <type_traits>\n"], 0
+    for position, piece in pieces:
+        result += [text[last:position], piece]
+        last = position + (cuts[position] if position in cuts else 0)
+    return "".join(result) + text[last:]
