@@ -267,7 +267,9 @@ Document arraysDocument() {
 }
 
 std::string unknownChildrenText(unsigned int children) {
-    std::string text = monitorParameter(1).toXMLString(false, false);
+    lv::MonitorParameter parameter;
+    parameter.brightness = set(120U);
+    std::string text = parameter.toXMLString(false, false);
     std::string unknown;
     for (unsigned int index = 0; index < children; ++index) {
         unknown += "<Unknown" + std::to_string(index) + ">1</Unknown" + std::to_string(index) + '>';

@@ -73,7 +73,22 @@ template <class Record>
 void parseRecord(benchmark::State& state, const std::string& text) {
     for ([[maybe_unused]] auto iteration : state) {
         Record record;
-        benchmark::DoNotOptimize(record.parseXMLString(text));
+        if (!record.parseXMLString(text)) {
+            state.SkipWithError("the text is refused");
+            break;
+        }
+    }
+    setRate(state, text);
+}
+
+template <class Record>
+void printRecord(benchmark::State& state, const std::string& text) {
+    Record record;
+    if (!record.parseXMLString(text) || record.toXMLString(false, false) != text) {
+        state.SkipWithError("the text does not come back");
+    }
+    for ([[maybe_unused]] auto iteration : state) {
+        benchmark::DoNotOptimize(record.toXMLString(false, false));
     }
     setRate(state, text);
 }
@@ -100,8 +115,10 @@ void registerRatios() {
     }
 }
 
+constexpr unsigned int greatestFactor = 16;
+
 void registerGrowth() {
-    for (const unsigned int factor : {2U, 4U, 8U, 16U}) {
+    for (const unsigned int factor : {2U, 4U, 8U, greatestFactor}) {
         registerStyle(styles().front(), {"typical x" + std::to_string(factor), typicalDocument(factor).text()});
     }
     for (const unsigned int children : {1000U, 4000U}) {
@@ -111,6 +128,8 @@ void registerGrowth() {
     for (const unsigned int rows : {25000U, 100000U}) {
         benchmark::RegisterBenchmark(("parse/lvdata/rows x" + std::to_string(rows)).c_str(),
                                      parseRecord<lv::MeasurementData>, rowsText(rows));
+        benchmark::RegisterBenchmark(("print/lvdata/rows x" + std::to_string(rows)).c_str(),
+                                     printRecord<lv::MeasurementData>, rowsText(rows));
     }
 }
 
@@ -134,10 +153,23 @@ bool comesBack(const Style& style, const Document& document) {
     return same;
 }
 
+bool comesBackBare(const Document& document) {
+    const std::string text = document.text();
+    tinyxml2::XMLDocument bare;
+    const bool same = bare.Parse(text.data(), text.size()) == tinyxml2::XML_SUCCESS && printBare(bare) == text;
+    if (!same) {
+        std::cerr << "the XML library does not print the document " << document.name << " that it parsed\n";
+    }
+    return same;
+}
+
 /// Only what is right is worth timing.
 bool everyStyleGivesEveryDocumentBack() {
     bool good = true;
-    for (const Document& document : allDocuments()) {
+    std::vector<Document> documents = allDocuments();
+    documents.push_back(typicalDocument(greatestFactor));
+    for (const Document& document : documents) {
+        good = comesBackBare(document) && good;
         for (const Style& style : styles()) {
             good = comesBack(style, document) && good;
         }

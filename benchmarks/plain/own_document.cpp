@@ -10,19 +10,22 @@ tinyxml2::XMLDocument* makeDocument() {
 
 // Documents are read and printed from their nodes alone: the source is not looked at, and there are no pieces.
 
-SourceInUse::SourceInUse(void* document, std::string_view /*source*/) : document_(document) {}
+SourceForRecord::SourceForRecord(void* document, std::string_view /*source*/, const void* /*record*/)
+    : document_(document) {}
 
-SourceInUse::~SourceInUse() {
+SourceForRecord::~SourceForRecord() {
     document_ = nullptr;
 }
+
+void useSource(void* /*element*/, const void* /*record*/) {}
 
 const SourceText* sourceInUse(const tinyxml2::XMLNode& /*node*/) {
     return nullptr;
 }
 
-void expectCompactText(void* /*document*/) {}
+void expectCompactText(void* /*document*/, const void* /*record*/) {}
 
-void startPieces(void* /*document*/) {}
+void startPieces(void* /*document*/, const void* /*record*/) {}
 
 bool appendPiece(void* /*parent*/, const char* /*name*/, const std::string& /*text*/) {
     return false;

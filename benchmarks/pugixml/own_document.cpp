@@ -4,7 +4,9 @@ namespace lv::detail {
 
 // Documents are printed from their nodes alone: there are no pieces.
 
-void startPieces(void* /*document*/) {}
+void startPieces(void* /*document*/, const void* /*record*/) {}
+
+void useSource(void* /*element*/, const void* /*record*/) {}
 
 void finishElement(void* /*element*/) {}
 

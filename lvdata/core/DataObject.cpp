@@ -11,14 +11,14 @@ bool DataObject::parseXMLString(const std::string& text) {
     if (!document.parseXMLString(text)) {
         return false;
     }
-    const detail::SourceInUse source(document.get(), text);
+    const detail::SourceForRecord source(document.get(), text, this);
     return parseXMLElement(document.rootElement());
 }
 
 std::string DataObject::toXMLString(bool declaration, bool pretty) const {
     XMLDocument document;
     if (!pretty) {
-        detail::expectCompactText(document.get());
+        detail::expectCompactText(document.get(), this);
     }
     appendXMLElement(document);
     return document.toXMLString(declaration, pretty);

@@ -40,6 +40,7 @@ public:
     /// refuses the text or `parseXMLElement` refuses the document's first element. When memory runs out on the way
     /// (`std::bad_alloc`), each value and each flag is as it was or as the document has it, and a list may end in a row
     /// read in part; the record stays usable, and parsing once more reads it whole.
+    /// \param text  no string that the record itself holds: it would change while it is read
     [[nodiscard]] bool parseXMLString(const std::string& text);
 
     /// The record as a whole XML document in UTF-8: behind an XML declaration when `declaration`, indented when

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include <tinyxml2.h>
 
@@ -66,7 +67,7 @@ std::string XMLDocument::toXMLString(bool declaration, bool pretty) const {
         printer.PushDeclaration(R"(xml version="1.0" encoding="UTF-8" standalone="no")");
     }
     document->Accept(&printer);
-    return std::string(printer.text());
+    return std::move(printer).text();
 }
 
 XMLElement XMLDocument::rootElement() const {

@@ -6,7 +6,7 @@
 namespace tool {
 namespace {
 
-/// 1 GiB: the XML library counts the characters that it prints in an `int`, and needs room twice over.
+/// 1 GiB, which no document of calibration data comes near; a parse of that much may need gigabytes many times over.
 constexpr std::size_t largest = 1'073'741'824;
 
 /// Decimal digits alone: hexadecimal and octal numbers, which would be converted, too, are refused.

@@ -10,12 +10,22 @@
 
 namespace lv::detail {
 
+/// Whether the record is of exactly that class. A class that the application derives may look at the document before or
+/// behind what it inherits, and so must find it whole.
+template <class Record>
+[[nodiscard]] bool isOfOwnClass(const Record& record) {
+    return typeid(record) == typeid(Record);
+}
+
 /// What every record's `parseXMLElement` does: refuses an element of another name, then reads the version attributes
 /// and what the record's visit names.
 template <class Record, class Visit>
 [[nodiscard]] bool parseRecord(Record& record, const std::string& rootName, const XMLElement& element, Visit visit) {
     if (element.elementName() != rootName) {
         return false;
+    }
+    if (isOfOwnClass(record)) {
+        useSource(element.get(), static_cast<const DataObject*>(&record));
     }
     record.parseVersionAttribute(element);
     Reader io(element.get());
@@ -29,8 +39,8 @@ template <class Record, class Visit>
 template <class Record, class Visit>
 XMLElement appendRecord(const Record& record, const std::string& rootName, XMLNode& parent, bool writeHLGSystemGamma,
                         Visit visit) {
-    if (typeid(record) == typeid(Record)) {  // a class derived by the application may look at its rows once more
-        startPieces(parent.get());
+    if (isOfOwnClass(record)) {
+        startPieces(parent.get(), static_cast<const DataObject*>(&record));
     }
     XMLElement root = record.appendRootXMLElement(rootName, parent);
     record.appendVersionAttribute(root);

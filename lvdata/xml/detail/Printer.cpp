@@ -9,12 +9,22 @@ char printedMark;  // its address is the mark
 /// Below this length the search for characters to escape costs more than it saves.
 constexpr std::size_t longText = 64;
 
+/// What one row of a list takes, or a few.
+constexpr std::size_t keptCapacity = 16384;
+
 /// Whether a text needs no look at each of its characters.
 bool isLongAndPlain(std::string_view text) {
     return text.size() >= longText && !contains(text, '&') && !contains(text, '<') && !contains(text, '>');
 }
 
 }  // namespace
+
+void Printer::clear() {
+    if (text_.capacity() > keptCapacity) {
+        text_ = std::string();
+    }
+    text_.clear();
+}
 
 void Printer::pushText(const char* text) {
     if (isLongAndPlain(text)) {

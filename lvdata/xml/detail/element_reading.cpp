@@ -68,7 +68,7 @@ void* findNext(void* element, const char* name) {
 
 ChildFinder::ChildFinder(void* parent) {
     tinyxml2::XMLElement* const element = toElement(parent);
-    next_ = element == nullptr ? nullptr : element->FirstChildElement();
+    next_ = element == nullptr ? nullptr : toHandle(element->FirstChildElement());
 }
 
 void* ChildFinder::find(const char* name) {
@@ -76,9 +76,9 @@ void* ChildFinder::find(const char* name) {
     for (tinyxml2::XMLNode* child = next; child != nullptr; child = child->NextSiblingElement()) {
         if (std::strcmp(child->Value(), name) == 0) {
             if (child == next) {
-                next_ = child->NextSiblingElement();
+                next_ = toHandle(child->NextSiblingElement());
             }
-            return child;
+            return toHandle(child);
         }
     }
     return nullptr;

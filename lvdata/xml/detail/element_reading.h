@@ -15,7 +15,8 @@ inline constexpr const char* arraySeparator = "|";
 /// The next element of that name among the siblings behind `element`; null when there is none.
 [[nodiscard]] void* findNext(void* element, const char* name);
 
-/// Finds child elements by name, at once where they are asked for in the order in which they stand.
+/// Finds child elements by name: at once where they are asked for in the order in which they stand, else by a walk over
+/// those that are left.
 ///
 /// The children found one after another from the first on are not looked at again, so no name may be asked for twice.
 /// Each answer then is the first child of that name, in whatever order they stand and are asked for; null when there is

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <type_traits>
 
 namespace lv::detail {
 namespace {
@@ -165,6 +166,22 @@ char* writeDecimal(int value, char* out) {
     return writeDecimal(0U - magnitude, out + 1);
 }
 
+/// How many characters the numbers take together. Compilers compare several numbers at a time, in one instruction.
+template <class Number>
+std::size_t decimalLength(const std::vector<Number>& values) {
+    std::size_t length = 0;
+    for (const Number value : values) {
+        const bool negative = std::is_signed_v<Number> && value < 0;
+        const auto magnitude = negative ? 0U - static_cast<unsigned int>(value) : static_cast<unsigned int>(value);
+        unsigned int digits = negative ? 2 : 1;
+        for (const unsigned int bound : {9U, 99U, 999U, 9999U, 99999U, 999999U, 9999999U, 99999999U, 999999999U}) {
+            digits += magnitude > bound ? 1U : 0U;
+        }
+        length += digits;
+    }
+    return length;
+}
+
 char* writeSeparator(std::string_view separator, char* out) {
     if (separator.size() == 1) {  // no call for the usual one
         *out = separator.front();
@@ -221,7 +238,7 @@ template void parseNumbers(std::string_view text, std::string_view separator, st
 
 template <class Number>
 std::string joinNumbers(const std::vector<Number>& values, std::string_view separator) {
-    std::string text(values.size() * (maxDigits<Number> + separator.size()), '\0');
+    std::string text(decimalLength(values) + values.size() * separator.size() + EightDigits::size, '\0');
     char* at = text.data();
     for (const Number value : values) {
         at = writeSeparator(separator, writeDecimal(value, at));

@@ -13,9 +13,12 @@ namespace {
 
 class OwnDocument final : public tinyxml2::XMLDocument {
 public:
+    const void* reader = nullptr;  // the record that may use the source
     std::optional<SourceText> source;
-    bool compactTextExpected = false;
-    std::optional<Printer> pieces;              // finished elements in a row
+    bool sourceIsInUse = false;
+
+    const void* writer = nullptr;               // the record that the document is made for
+    std::optional<Printer> pieces;              // elements printed one behind the other
     tinyxml2::XMLNode* piecesParent = nullptr;  // whose last children they are; null when there are none
 };
 
@@ -35,9 +38,9 @@ tinyxml2::XMLText* appendTextNode(tinyxml2::XMLNode& parent, const char* text) {
 
 void place(OwnDocument* document) {
     if (document != nullptr && document->piecesParent != nullptr) {
-        Printer::markAsPrinted(*appendTextNode(*document->piecesParent, document->pieces->CStr()));
+        Printer::markAsPrinted(*appendTextNode(*document->piecesParent, document->pieces->text().c_str()));
         document->piecesParent = nullptr;
-        document->pieces->ClearBuffer();
+        document->pieces->clear();
     }
 }
 
@@ -60,34 +63,44 @@ tinyxml2::XMLDocument* makeDocument() {
     return new OwnDocument;
 }
 
-SourceInUse::SourceInUse(void* document, std::string_view source) : document_(document) {
+SourceForRecord::SourceForRecord(void* document, std::string_view source, const void* record) : document_(document) {
     OwnDocument* const own = toOwnDocument(toDocument(document));
     const tinyxml2::XMLElement* const root = own == nullptr ? nullptr : own->FirstChildElement();
     if (root != nullptr) {
         own->source.emplace(source, root->Value());
+        own->reader = record;
     }
 }
 
-SourceInUse::~SourceInUse() {
+SourceForRecord::~SourceForRecord() {
     if (OwnDocument* const own = toOwnDocument(toDocument(document_))) {
         own->source.reset();
+        own->sourceIsInUse = false;
+    }
+}
+
+void useSource(void* handle, const void* record) {
+    tinyxml2::XMLElement* const element = toElement(handle);
+    OwnDocument* const own = element == nullptr ? nullptr : toOwnDocument(element->GetDocument());
+    if (own != nullptr && own->source && own->reader == record) {
+        own->sourceIsInUse = true;
     }
 }
 
 const SourceText* sourceInUse(const tinyxml2::XMLNode& node) {
     const OwnDocument* const own = toOwnDocument(node.GetDocument());
-    return own != nullptr && own->source ? &*own->source : nullptr;
+    return own != nullptr && own->sourceIsInUse ? &*own->source : nullptr;
 }
 
-void expectCompactText(void* document) {
+void expectCompactText(void* document, const void* record) {
     if (OwnDocument* const own = toOwnDocument(toDocument(document))) {
-        own->compactTextExpected = true;
+        own->writer = record;
     }
 }
 
-void startPieces(void* document) {
+void startPieces(void* document, const void* record) {
     OwnDocument* const own = toOwnDocument(toDocument(document));
-    if (own != nullptr && own->compactTextExpected) {
+    if (own != nullptr && own->writer == record && !own->pieces) {
         own->pieces.emplace(true);
     }
 }

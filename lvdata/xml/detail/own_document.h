@@ -17,29 +17,34 @@ namespace lv::detail {
 /// of others, and do nothing with those.
 [[nodiscard]] tinyxml2::XMLDocument* makeDocument();
 
-/// While it lives, the arrays of a document are read from the text that it was parsed from. Text and document must
-/// outlive it, and the document must not be changed meanwhile.
-class SourceInUse {
+/// While it lives, a record can read the arrays of a document from the text that the document was parsed from. Text and
+/// document must outlive it.
+class SourceForRecord {
 public:
-    SourceInUse(void* document, std::string_view source);
-    ~SourceInUse();
-    SourceInUse(const SourceInUse&) = delete;
-    SourceInUse& operator=(const SourceInUse&) = delete;
-    SourceInUse(SourceInUse&&) = delete;
-    SourceInUse& operator=(SourceInUse&&) = delete;
+    /// \param record  the only one that may: the one that is asked to read the whole document
+    SourceForRecord(void* document, std::string_view source, const void* record);
+    ~SourceForRecord();
+    SourceForRecord(const SourceForRecord&) = delete;
+    SourceForRecord& operator=(const SourceForRecord&) = delete;
+    SourceForRecord(SourceForRecord&&) = delete;
+    SourceForRecord& operator=(SourceForRecord&&) = delete;
 
 private:
     void* document_;
 };
 
+/// Takes the source into use, if there is one for that record. The document must not be changed from now on.
+void useSource(void* element, const void* record);
+
 /// The text in use for the document that the node belongs to; null when there is none.
 [[nodiscard]] const SourceText* sourceInUse(const tinyxml2::XMLNode& node);
 
-/// Announces that a document is made for nothing but one compact text.
-void expectCompactText(void* document);
+/// Announces that a document is made for nothing but the compact text of one record.
+void expectCompactText(void* document, const void* record);
 
-/// Where that was announced: from now on, what the two functions below are given becomes its text at once.
-void startPieces(void* document);
+/// Where that was announced for that record: from now on, what the two functions below are given becomes its text at
+/// once, and nobody finds it among the nodes.
+void startPieces(void* document, const void* record);
 
 /// Once pieces are started: prints a new last child element that holds nothing but a text, without making nodes of it.
 /// False when nothing was done.
@@ -49,8 +54,8 @@ void startPieces(void* document);
 /// place, so that the nodes of a long list need the memory of one row. The handle dangles from then on.
 void finishElement(void* element);
 
-/// What follows appends nodes, or reads them: puts the pieces printed so far where they belong. Nothing to do in a
-/// document without pieces.
+/// Puts the pieces printed so far where they belong, so that the document's nodes can be printed or others appended.
+/// Nothing to do in a document without pieces.
 void placePieces(void* document);
 
 /// A new last child of `parent` in its own document, behind the pieces printed so far.

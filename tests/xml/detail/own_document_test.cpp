@@ -15,35 +15,55 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// Reads an array while a source is in use that says something else than the document.
-std::vector<int> readWithSource(void* document, const XMLElement& root, const std::string& source) {
-    const SourceInUse use(document, source);
+const int theRecord = 0;  // only their addresses matter
+const int otherRecord = 0;
+
+std::vector<int> arrayOf(const XMLElement& root) {
     std::vector<int> values;
     root.getIntArray("a", values, "|");
     return values;
 }
 
-TEST(SourceInUse, ArraysAreReadFromTheSourceWhileItLives) {
-    XMLDocument document;
-    ASSERT_TRUE(document.parseXMLString("<r><a>1|2</a></r>"));
-    const XMLElement root = document.rootElement();
-    EXPECT_THAT(readWithSource(document.get(), root, "<r><a>3|4</a></r>"), ElementsAre(3, 4));
-    std::vector<int> values;
-    root.getIntArray("a", values, "|");
-    EXPECT_THAT(values, ElementsAre(1, 2)) << "the source is out of use";
+/// What `reader` reads while there is a source for the record that says something else than the document.
+std::vector<int> readWithSource(const XMLDocument& document, const std::string& source,
+                                const void* reader = &theRecord) {
+    const SourceForRecord use(document.get(), source, &theRecord);
+    useSource(document.rootElement().get(), reader);
+    return arrayOf(document.rootElement());
 }
 
-TEST(SourceInUse, DocumentsOfOthersAreReadThemselves) {
+TEST(SourceForRecord, ArraysAreReadFromTheSourceWhileItLives) {
+    XMLDocument document;
+    ASSERT_TRUE(document.parseXMLString("<r><a>1|2</a></r>"));
+    EXPECT_THAT(readWithSource(document, "<r><a>3|4</a></r>"), ElementsAre(3, 4));
+    EXPECT_THAT(arrayOf(document.rootElement()), ElementsAre(1, 2)) << "the source is out of use";
+}
+
+TEST(SourceForRecord, OnlyThatRecordTakesItIntoUse) {
+    XMLDocument document;
+    ASSERT_TRUE(document.parseXMLString("<r><a>1|2</a></r>"));
+    EXPECT_THAT(readWithSource(document, "<r><a>3|4</a></r>", &otherRecord), ElementsAre(1, 2));
+}
+
+TEST(SourceForRecord, OutOfUseUntilTheRecordTakesIt) {
+    XMLDocument document;
+    ASSERT_TRUE(document.parseXMLString("<r><a>1|2</a></r>"));
+    const SourceForRecord use(document.get(), "<r><a>3|4</a></r>", &theRecord);
+    EXPECT_THAT(arrayOf(document.rootElement()), ElementsAre(1, 2));
+}
+
+TEST(SourceForRecord, DocumentsOfOthersAreReadThemselves) {
     tinyxml2::XMLDocument others;
     ASSERT_EQ(others.Parse("<r><a>1|2</a></r>"), tinyxml2::XML_SUCCESS);
     const XMLDocument document(static_cast<tinyxml2::XMLNode*>(&others));
-    EXPECT_THAT(readWithSource(document.get(), document.rootElement(), "<r><a>3|4</a></r>"), ElementsAre(1, 2));
+    EXPECT_THAT(readWithSource(document, "<r><a>3|4</a></r>"), ElementsAre(1, 2));
 }
 
-TEST(SourceInUse, NeedsNeitherDocumentNorRoot) {
+TEST(SourceForRecord, NeedsNeitherDocumentNorRoot) {
     const XMLDocument empty;
-    const SourceInUse withoutRoot(empty.get(), "<r/>");
-    const SourceInUse withoutDocument(nullptr, "<r/>");
+    const SourceForRecord withoutRoot(empty.get(), "<r/>", &theRecord);
+    const SourceForRecord withoutDocument(nullptr, "<r/>", &theRecord);
+    useSource(nullptr, &theRecord);
     EXPECT_FALSE(empty.rootElement().isValid());
 }
 
@@ -65,20 +85,26 @@ private:
 };
 
 TEST_F(FinishElementTest, LeavesOnlyTheTextOnceAnnouncedAndStarted) {
-    expectCompactText(document());
-    startPieces(document());
+    expectCompactText(document(), &theRecord);
+    startPieces(document(), &theRecord);
     EXPECT_EQ(childrenLeft(), 0U);
     EXPECT_EQ(text(), "<r><a>5</a></r>");
 }
 
 TEST_F(FinishElementTest, DoesNothingUnlessStarted) {
-    expectCompactText(document());
+    expectCompactText(document(), &theRecord);
     EXPECT_EQ(childrenLeft(), 1U);
     EXPECT_EQ(text(), "<r><a>5</a></r>");
 }
 
+TEST_F(FinishElementTest, DoesNothingForAnotherRecord) {
+    expectCompactText(document(), &theRecord);
+    startPieces(document(), &otherRecord);
+    EXPECT_EQ(childrenLeft(), 1U);
+}
+
 TEST_F(FinishElementTest, DoesNothingUnlessAnnounced) {
-    startPieces(document());
+    startPieces(document(), &theRecord);
     EXPECT_EQ(childrenLeft(), 1U);
 }
 
@@ -91,11 +117,12 @@ TEST_F(FinishElementTest, DoesNothingWithoutAnElement) {
 class AppendPieceTest : public ::testing::Test {
 protected:
     AppendPieceTest() {
-        expectCompactText(document_.get());
-        startPieces(document_.get());
+        expectCompactText(document_.get(), &theRecord);
+        startPieces(document_.get(), &theRecord);
         root_ = document_.appendChild("r");
     }
 
+    void startAgain() { startPieces(document_.get(), &theRecord); }
     [[nodiscard]] const XMLElement& root() const { return root_; }
     [[nodiscard]] std::string text() const { return document_.toXMLString(false, false); }
 
@@ -146,6 +173,13 @@ TEST_F(AppendPieceTest, PiecesOfAFinishedElementAreInIt) {
     EXPECT_EQ(text(), "<r><row><a>1</a></row><row><a>2</a></row><b>3</b></r>");
 }
 
+TEST_F(AppendPieceTest, StartedTwiceItGoesOn) {
+    EXPECT_TRUE(appendPiece(root().get(), "a", "1"));
+    startAgain();
+    EXPECT_TRUE(appendPiece(root().get(), "b", "2"));
+    EXPECT_EQ(text(), "<r><a>1</a><b>2</b></r>");
+}
+
 TEST_F(AppendPieceTest, TheTextCanBeTakenTwice) {
     EXPECT_TRUE(appendPiece(root().get(), "a", "1"));
     EXPECT_EQ(text(), "<r><a>1</a></r>");
@@ -158,7 +192,7 @@ TEST(AppendPiece, DoesNothingWherePiecesAreNotStarted) {
     const XMLElement root = document.appendChild("r");
     EXPECT_FALSE(appendPiece(root.get(), "a", "1"));
     tinyxml2::XMLDocument others;
-    startPieces(static_cast<tinyxml2::XMLNode*>(&others));
+    startPieces(static_cast<tinyxml2::XMLNode*>(&others), &theRecord);
     EXPECT_FALSE(appendPiece(static_cast<tinyxml2::XMLNode*>(others.NewElement("r")), "a", "1"));
     EXPECT_FALSE(appendPiece(document.get(), "a", "1"));
     EXPECT_FALSE(appendPiece(nullptr, "a", "1"));
