@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""report.py RESULTS.json [CHART.svg]: the ratios of a benchmark run as a Markdown table, and as a bar chart."""
+"""report.py RESULTS.json [CHART.svg]: the ratios of a benchmark run as Markdown tables, and as a bar chart."""
 
 import json
 import sys
@@ -7,6 +7,12 @@ import sys
 DOCUMENTS = ["small", "typical", "wide", "arrays"]
 STYLES = ["lvdata", "pugixml", "plain"]
 OPERATIONS = ["parse", "print"]
+FACTORS = [2, 4, 8, 16]
+FOURFOLD = [
+    ("parse", "unknown children", 1000, 4000),
+    ("parse", "rows", 25000, 100000),
+    ("print", "rows", 25000, 100000),
+]
 
 
 def least_times(results):
@@ -41,25 +47,33 @@ def ratio_rows(times):
                 yield f"{operation}, {style}", ratios
 
 
-def growth_lines(times):
+def growth_rows(times):
     for operation in OPERATIONS:
         name = f"{operation}/lvdata/typical"
-        factors = [ratio(times, f"{name} x{factor}", name) for factor in (2, 4, 8, 16)]
-        yield row(f"{operation}, typical x 2, 4, 8, 16", factors)
-    for what, small, large in (("unknown children", 1000, 4000), ("rows", 25000, 100000)):
-        factor = ratio(times, f"parse/lvdata/{what} x{large}", f"parse/lvdata/{what} x{small}")
-        yield row(f"parse, four times the {what}", [factor])
+        yield f"{operation}, typical", [ratio(times, f"{name} x{factor}", name) for factor in FACTORS]
+
+
+def further_rows(times):
+    """Title and one figure each."""
+    for operation, what, small, large in FOURFOLD:
+        name = f"{operation}/lvdata/{what} x"
+        yield f"{operation}, {large:,} {what} to {small:,}", [ratio(times, f"{name}{large}", f"{name}{small}")]
+    # The time of two threads is that of one round trip by each, shared out.
     one, two = (f"round trip threads/lvdata/typical/real_time/threads:{count}" for count in (1, 2))
-    # With two threads the time is that of one iteration by both, shared out.
-    yield row("work of two threads, that of one being 1", [ratio(times, one, two)])
+    yield "round trips of two threads to those of one", [ratio(times, one, two)]
 
 
-def table(times):
-    yield "| Ratio to the XML library alone | " + " | ".join(DOCUMENTS) + " |"
-    yield "|---|" + "--:|" * len(DOCUMENTS)
-    yield from (row(title, ratios) for title, ratios in ratio_rows(times))
+def table(title, columns, rows):
+    yield f"| {title} | " + " | ".join(columns) + " |"
+    yield "|---|" + "--:|" * len(columns)
+    yield from (row(name, cells) for name, cells in rows)
     yield ""
-    yield from growth_lines(times)
+
+
+def tables(times):
+    yield from table("Ratio to the XML library alone", DOCUMENTS, ratio_rows(times))
+    yield from table("Cost of so many times the document", [str(factor) for factor in FACTORS], growth_rows(times))
+    yield from table("More of one thing", ["ratio"], further_rows(times))
 
 
 def bar(left, top, length, label, colour):
@@ -92,7 +106,7 @@ def chart(times):
 def main():
     with open(sys.argv[1], encoding="utf-8") as file:
         times = least_times(json.load(file))
-    print("\n".join(table(times)))
+    print("\n".join(tables(times)))
     if len(sys.argv) > 2:
         with open(sys.argv[2], "w", encoding="utf-8") as file:
             file.write(chart(times))

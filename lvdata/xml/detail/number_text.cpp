@@ -166,20 +166,18 @@ char* writeDecimal(int value, char* out) {
     return writeDecimal(0U - magnitude, out + 1);
 }
 
-/// How many characters the numbers take together. Compilers compare several numbers at a time, in one instruction.
+/// The most characters that one of the numbers takes.
 template <class Number>
-std::size_t decimalLength(const std::vector<Number>& values) {
-    std::size_t length = 0;
+std::size_t greatestLength(const std::vector<Number>& values) {
+    unsigned int greatest = 0;
+    bool negative = false;
     for (const Number value : values) {
-        const bool negative = std::is_signed_v<Number> && value < 0;
-        const auto magnitude = negative ? 0U - static_cast<unsigned int>(value) : static_cast<unsigned int>(value);
-        unsigned int digits = negative ? 2 : 1;
-        for (const unsigned int bound : {9U, 99U, 999U, 9999U, 99999U, 999999U, 9999999U, 99999999U, 999999999U}) {
-            digits += magnitude > bound ? 1U : 0U;
-        }
-        length += digits;
+        const bool below = std::is_signed_v<Number> && value < 0;
+        const auto bits = static_cast<unsigned int>(value);
+        greatest = std::max(greatest, below ? 0U - bits : bits);
+        negative |= below;
     }
-    return length;
+    return decimalText(greatest).size() + (negative ? 1 : 0);
 }
 
 char* writeSeparator(std::string_view separator, char* out) {
@@ -238,7 +236,7 @@ template void parseNumbers(std::string_view text, std::string_view separator, st
 
 template <class Number>
 std::string joinNumbers(const std::vector<Number>& values, std::string_view separator) {
-    std::string text(decimalLength(values) + values.size() * separator.size() + EightDigits::size, '\0');
+    std::string text(values.size() * (greatestLength(values) + separator.size()) + EightDigits::size, '\0');
     char* at = text.data();
     for (const Number value : values) {
         at = writeSeparator(separator, writeDecimal(value, at));
