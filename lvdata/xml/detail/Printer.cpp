@@ -9,8 +9,8 @@ char printedMark;  // its address is the mark
 /// Below this length the search for characters to escape costs more than it saves.
 constexpr std::size_t longText = 64;
 
-/// What one row of a list takes, or a few.
-constexpr std::size_t keptCapacity = 16384;
+/// What a row of a list takes, or the tables of a colour mode.
+constexpr std::size_t keptCapacity = 65536;
 
 /// Whether a text needs no look at each of its characters.
 bool isLongAndPlain(std::string_view text) {
@@ -20,10 +20,10 @@ bool isLongAndPlain(std::string_view text) {
 }  // namespace
 
 void Printer::clear() {
-    if (text_.capacity() > keptCapacity) {
-        text_ = std::string();
-    }
     text_.clear();
+    if (text_.capacity() > keptCapacity) {
+        text_.shrink_to_fit();
+    }
 }
 
 void Printer::pushText(const char* text) {
