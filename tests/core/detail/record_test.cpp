@@ -1,5 +1,6 @@
 #include <lvdata/core/DataArrayObject.h>
 #include <lvdata/core/detail/record.h>
+#include <lvdata/xml/XMLDocument.h>
 
 #include <string>
 #include <vector>
@@ -105,6 +106,35 @@ TEST(RecordOfRows, WritesTheRowsInTheOrderOfTheList) {
 TEST(RecordOfRows, UnderNothingAppendsNothing) {
     XMLNode nothing;
     EXPECT_FALSE(filledShelf().appendXMLElement(nothing).isValid());
+}
+
+/// A value that counts how often its text is made.
+struct Counted {
+    mutable int texts = 0;
+};
+
+bool appendLeaf(void* /*parent*/, const char* /*name*/, const Counted& value) {
+    ++value.texts;
+    return true;
+}
+
+/// Writes the value as a field, as a value and as a member of a group.
+void writeInEveryWay(Writer io, const property<Counted>& member) {
+    io.field("Field", member);
+    io.value("Value", member.value);
+    io.group(member, [](Writer& group, const Counted& value) { group.value("InGroup", value); });
+}
+
+TEST(Writer, ClosedGatesMakeNoText) {
+    const XMLDocument document;
+    const Writer open(document.appendChild("Root").get());
+    property<Counted> member;
+    member.hasValue = true;
+    writeInEveryWay(open, member);
+    EXPECT_EQ(member.value.texts, 3);
+    writeInEveryWay(open.writeWhen(false), member);
+    writeInEveryWay(open.always().when(false), member);
+    EXPECT_EQ(member.value.texts, 3);
 }
 
 }  // namespace
