@@ -4,7 +4,7 @@
 namespace lv::detail {
 namespace {
 
-char printedMark;  // its address is the mark
+char printedMark;  // its address is the mark; NOLINT(*-non-const-global-variables): user data is no pointer to const
 
 /// Below this length the search for characters to escape costs more than it saves.
 constexpr std::size_t longText = 64;

@@ -54,6 +54,8 @@ std::string_view textBehind(std::string_view rest) {
 
 }  // namespace
 
+// Addresses are compared as numbers: the two texts are different arrays, of which only the distances are alike.
+// NOLINTBEGIN(*-reinterpret-cast)
 SourceText::SourceText(std::string_view source, const char* rootName) : source_(source) {
     const std::size_t at = rootNameAt(source);
     if (at != std::string_view::npos && startsWith(source.substr(at), rootName)) {
@@ -69,5 +71,6 @@ std::string_view SourceText::plainTextOf(const char* elementName) const {
     const std::string_view rest = source_.substr(at);
     return startsWith(rest, elementName) ? textBehind(rest.substr(std::strlen(elementName))) : std::string_view();
 }
+// NOLINTEND(*-reinterpret-cast)
 
 }  // namespace lv::detail

@@ -10,6 +10,9 @@
 #include <limits>
 #include <type_traits>
 
+// Numbers are written and read in place, with pointers that go on through a buffer of known size.
+// NOLINTBEGIN(*-pointer-arithmetic)
+
 namespace lv::detail {
 namespace {
 
@@ -257,3 +260,5 @@ void appendNumber(std::string& text, unsigned int value) {
 }
 
 }  // namespace lv::detail
+
+// NOLINTEND(*-pointer-arithmetic)

@@ -79,9 +79,9 @@ SourceForRecord::~SourceForRecord() {
     }
 }
 
-void useSource(void* handle, const void* record) {
-    tinyxml2::XMLElement* const element = toElement(handle);
-    OwnDocument* const own = element == nullptr ? nullptr : toOwnDocument(element->GetDocument());
+void useSource(void* element, const void* record) {
+    tinyxml2::XMLElement* const root = toElement(element);
+    OwnDocument* const own = root == nullptr ? nullptr : toOwnDocument(root->GetDocument());
     if (own != nullptr && own->source && own->reader == record) {
         own->sourceIsInUse = true;
     }
@@ -105,9 +105,9 @@ void startPieces(void* document, const void* record) {
     }
 }
 
-bool appendPiece(void* handle, const char* name, const std::string& text) {
-    tinyxml2::XMLElement* const parent = toElement(handle);
-    Printer* const pieces = parent == nullptr ? nullptr : piecesOf(*parent);
+bool appendPiece(void* parent, const char* name, const std::string& text) {
+    tinyxml2::XMLElement* const element = toElement(parent);
+    Printer* const pieces = element == nullptr ? nullptr : piecesOf(*element);
     if (pieces != nullptr) {
         pieces->OpenElement(name, true);
         pieces->pushText(text.c_str());
@@ -116,12 +116,12 @@ bool appendPiece(void* handle, const char* name, const std::string& text) {
     return pieces != nullptr;
 }
 
-void finishElement(void* handle) {
-    tinyxml2::XMLElement* const element = toElement(handle);
-    Printer* const pieces = element == nullptr ? nullptr : piecesOf(*element->Parent());
+void finishElement(void* element) {
+    tinyxml2::XMLElement* const finished = toElement(element);
+    Printer* const pieces = finished == nullptr ? nullptr : piecesOf(*finished->Parent());
     if (pieces != nullptr) {
-        element->Accept(pieces);
-        element->Parent()->DeleteChild(element);
+        finished->Accept(pieces);
+        finished->Parent()->DeleteChild(finished);
     }
 }
 
