@@ -1,12 +1,11 @@
 #include <fuzz/support/harness.h>
+#include <tests/support/stream.h>
 
 #include <lvdata/xml/XMLDocument.h>
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/lexical_cast.h>
 #include <lvdata/xml/split_string.h>
 
-#include <locale>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -15,6 +14,9 @@
 
 namespace lv::fuzz {
 namespace {
+
+using test::extracted;
+using test::inserted;
 
 struct TextInput {
     std::string separator;
@@ -26,23 +28,6 @@ TextInput textInput(const std::string& input) {
     const std::size_t length = static_cast<unsigned char>(input.front()) % 4U;
     const std::string rest = input.substr(1);
     return length > rest.size() ? TextInput{rest, ""} : TextInput{rest.substr(0, length), rest.substr(length)};
-}
-
-template <class Number>
-Number extracted(const std::string& text) {
-    std::istringstream stream(text);
-    stream.imbue(std::locale::classic());
-    Number number = 0;
-    stream >> number;
-    return number;
-}
-
-template <class Number>
-std::string inserted(Number number) {
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << number;
-    return stream.str();
 }
 
 template <class Number>

@@ -1,6 +1,6 @@
 #include <tests/properties/Found.h>
+#include <tests/support/stream.h>
 
-#include <locale>
 #include <sstream>
 
 #include <tinyxml2.h>
@@ -9,21 +9,12 @@ namespace lv::test {
 namespace {
 
 template <class Number>
-Number numberIn(const std::string& text) {
-    std::istringstream stream(text);
-    stream.imbue(std::locale::classic());
-    Number number = 0;
-    stream >> number;
-    return number;
-}
-
-template <class Number>
 std::vector<Number> numbersIn(const std::string& text) {
     std::vector<Number> numbers;
     std::istringstream pieces(text);
     for (std::string piece; std::getline(pieces, piece, '|');) {
         if (!piece.empty()) {
-            numbers.push_back(numberIn<Number>(piece));
+            numbers.push_back(extracted<Number>(piece));
         }
     }
     return numbers;
@@ -61,14 +52,14 @@ bool Found::text(std::string& value) const {
 
 bool Found::text(int& value) const {
     if (!text().empty()) {
-        value = numberIn<int>(text());
+        value = extracted<int>(text());
     }
     return !text().empty();
 }
 
 bool Found::text(unsigned int& value) const {
     if (!text().empty()) {
-        value = numberIn<unsigned int>(text());
+        value = extracted<unsigned int>(text());
     }
     return !text().empty();
 }
@@ -107,7 +98,7 @@ bool Found::attribute(const char* name, unsigned int& value) const {
     if (!attribute(name, text) || text.empty()) {
         return false;
     }
-    value = numberIn<unsigned int>(text);
+    value = extracted<unsigned int>(text);
     return true;
 }
 

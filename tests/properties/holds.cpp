@@ -1,24 +1,15 @@
 #include <tests/properties/holds.h>
+#include <tests/support/lines.h>
 
 #include <gtest/gtest.h>
 
 #include <set>
-#include <sstream>
 #include <vector>
 
 #include <rapidcheck.h>
 
 namespace lv::test {
 namespace {
-
-std::vector<std::string> linesOf(const std::string& text) {
-    std::istringstream stream(text);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
 
 /// The lines of one text that are not in the other, in their order.
 std::string linesOnlyIn(const std::string& text, const std::string& other) {

@@ -1,11 +1,11 @@
 #include <tests/support/every_record.h>
+#include <tests/support/lines.h>
 
 #include <gtest/gtest.h>
 
 #include <lvdata/xml/XMLDocument.h>
 
 #include <algorithm>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,15 +19,6 @@ template <class Record>
 class EveryRecordRoundTrip : public EveryRecordTest<Record> {};
 
 TYPED_TEST_SUITE(EveryRecordRoundTrip, EveryRecord, RecordName);
-
-std::vector<std::string> linesOf(const std::string& text) {
-    std::istringstream stream(text);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
 
 TYPED_TEST(EveryRecordRoundTrip, FilledSampleDiffersFromAFreshRecordInEveryMember) {
     const std::vector<std::string> fresh = linesOf(describe(TypeParam()));

@@ -1,5 +1,7 @@
 #include <lvdata/xml/lexical_cast.h>
 
+#include <tests/support/stream.h>
+
 #include <cstdint>
 #include <limits>
 #include <locale>
@@ -13,26 +15,11 @@
 namespace lv {
 namespace {
 
+using test::extracted;
+using test::inserted;
+
 using IntLimits = std::numeric_limits<int>;
 constexpr unsigned int unsignedMax = std::numeric_limits<unsigned int>::max();
-
-/// The oracle: formatted extraction from a stream in the classic locale.
-template <class Number>
-Number extracted(const std::string& text) {
-    std::istringstream stream(text);
-    stream.imbue(std::locale::classic());
-    Number number = 0;
-    stream >> number;
-    return number;
-}
-
-template <class Number>
-std::string inserted(Number number) {
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << number;
-    return stream.str();
-}
 
 void expectAsExtracted(const std::string& text) {
     EXPECT_EQ(lexical_cast<int>(text), extracted<int>(text)) << testing::PrintToString(text);
