@@ -5,6 +5,7 @@
 
 #include <lvdata/records/CandelaMap.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,10 @@ struct Map {
     std::string before;  // what stands around it when the other map is not valid
     std::string behind;
 };
+
+void PrintTo(const Map& map, std::ostream* out) {
+    *out << map.element;
+}
 
 class CandelaMapTest : public ::testing::TestWithParam<Map> {
 protected:
