@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -53,6 +54,12 @@ int waitFor(pid_t process) {
 }
 
 }  // namespace
+
+std::function<bool()> limitMemory(std::size_t bytes) {
+    return [limit = rlimit{bytes, bytes}] {
+        return ::setrlimit(RLIMIT_AS, &limit) == 0;
+    };
+}
 
 ToolTest::ToolTest() : streams_(newFolder()), folder_(streams_ / "work") {
     fs::create_directory(folder_);

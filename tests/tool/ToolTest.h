@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -22,6 +23,9 @@ struct Surroundings {
         return true;
     };  // in the new process, before the tool; false: cannot be
 };
+
+/// To prepare a run: the tool has so many bytes of memory. Sanitizers reserve more than a limit could leave.
+std::function<bool()> limitMemory(std::size_t bytes);
 
 /// The exit code of a run that could not be prepared or started.
 inline constexpr int notStarted = 127;

@@ -21,28 +21,41 @@ using tool::Limits;
 class Counts : public tinyxml2::XMLVisitor {
 public:
     std::size_t elements = 0;
+    std::size_t nodes = 0;
     std::size_t attributes = 0;
     std::size_t brokenReferences = 0;
 
     bool VisitEnter(const tinyxml2::XMLElement& /*element*/, const tinyxml2::XMLAttribute* first) override {
         ++elements;
+        ++nodes;
         std::size_t count = 0;
         for (const auto* attribute = first; attribute != nullptr; attribute = attribute->Next()) {
             ++count;
             countReferences(attribute->Value());
         }
+        nodes += count;
         attributes = std::max(attributes, count);
         return true;
     }
 
     bool Visit(const tinyxml2::XMLText& text) override {
+        ++nodes;
         if (!text.CData()) {
             countReferences(text.Value());
         }
         return true;
     }
 
+    bool Visit(const tinyxml2::XMLComment& /*comment*/) override { return countNode(); }
+    bool Visit(const tinyxml2::XMLDeclaration& /*declaration*/) override { return countNode(); }
+    bool Visit(const tinyxml2::XMLUnknown& /*unknown*/) override { return countNode(); }
+
 private:
+    bool countNode() {
+        ++nodes;
+        return true;
+    }
+
     /// Walks backwards: a ';' serves the last "&#" in front of it.
     void countReferences(const std::string& text) {
         std::size_t count = 0;
@@ -100,7 +113,7 @@ private:
 
 constexpr Limits noLimits() {
     constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
-    return {none, none, none, none};
+    return {none, none, none, none, none};
 }
 
 void expectFoundOnlyBeyond(const std::string& text, std::size_t Limits::*limit, std::size_t count) {
@@ -124,6 +137,7 @@ bool agreeOn(const std::string& text) {
         Counts counts;
         document.Accept(&counts);
         expectFoundOnlyBeyond(whole, &Limits::elements, counts.elements);
+        expectFoundOnlyBeyond(whole, &Limits::nodes, counts.nodes);
         expectFoundOnlyBeyond(whole, &Limits::attributes, counts.attributes);
         expectFoundOnlyBeyond(whole, &Limits::brokenReferences, counts.brokenReferences);
     }

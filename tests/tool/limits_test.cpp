@@ -1,5 +1,7 @@
 #include "OutputTest.h"
 
+#include <tools/lvdata/limits.h>
+
 #include <fcntl.h>
 #include <sys/types.h>
 #include <unistd.h>
@@ -123,6 +125,30 @@ TEST_F(ElementLimit, Is250000UnlessGiven) {
     expectTaken(more, {"--max-elements", "250001"});
 }
 
+using NodeLimit = LimitsTest;
+
+TEST_F(NodeLimit, IsTheLargestNumberTaken) {
+    const std::string document = documentWith("<a b='1' c='2'/>\n<!-- d -->e<!f>\n <![CDATA[g]]>");
+    expectTaken(document, {"--max-nodes", "10"});
+    expectRefused(document, {"--max-nodes", "0"}, "line 1: more than 0 nodes, see --max-nodes");
+    for (const auto& [limit, line] : {std::pair{1, 2}, {2, 2}, {3, 2}, {4, 3}, {5, 3}, {6, 3}, {7, 4}}) {
+        const std::string number = std::to_string(limit);
+        expectRefused(document, {"--max-nodes", number},
+                      "line " + std::to_string(line) + ": more than " + number + " nodes, see --max-nodes");
+    }
+}
+
+TEST_F(NodeLimit, DoesNotCountEndTagsAndBlanks) {
+    expectTaken(documentWith("<a> </a b='1'> \n "), {"--max-nodes", "4"});
+}
+
+TEST_F(NodeLimit, Is1000000UnlessGiven) {
+    expectTaken(documentWith(repeated("x<!>", 499'998) + "<!>"));
+    const std::string more = documentWith(repeated("x<!>", 499'999));
+    expectRefused(more, {}, "line 2: more than 1000000 nodes, see --max-nodes");
+    expectTaken(more, {"--max-nodes", "1000001"});
+}
+
 using AttributeLimit = LimitsTest;
 
 TEST_F(AttributeLimit, IsTheLargestNumberTaken) {
@@ -190,6 +216,19 @@ TEST_F(ReferenceLimit, Is100UnlessGiven) {
 TEST_F(ReferenceLimit, EndsWhatWouldTakeMinutes) {
     expectRefused("<AssetInfo><Asset1>" + repeated("&#", 10'000'000) + "</Asset1></AssetInfo>", {},
                   "line 1: more than 100 broken references in one text, see " + option);
+}
+
+TEST_F(LimitsTest, TogetherKeepMemoryBelowTwoGigabytes) {
+    if (LVDATA_SANITIZED) {
+        GTEST_SKIP() << "no room for sanitizers";
+    }
+    const tool::Limits limits;
+    const std::string rows = "<CalibrationModeResult>" + repeated("<ColorMode/>", limits.elements - 10);
+    const std::string row = "<ColorMode><Name>";
+    const std::string end = "</Name></ColorMode></CalibrationModeResult>";
+    const std::string name(limits.bytes - rows.size() - row.size() - end.size(), '>');
+    write("in.xml", rows + row + name + end);
+    EXPECT_EQ(run({"format", "in.xml", "-o", "/dev/null"}, {"", "", limitMemory(2'000'000'000)}), done());
 }
 
 }  // namespace

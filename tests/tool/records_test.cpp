@@ -41,6 +41,17 @@ TEST_F(Records, AnUnknownRootElementIsNamedAndTheKnownOnesAreListed) {
               failed("in.xml: error: unknown root element 'Unknown', known are: " + listOf(recordClasses())));
 }
 
+TEST_F(Records, OfALongNameTheMessageHasTheBeginning) {
+    const auto messageFor = [this](const std::string& name) {
+        return run({"format", "-"}, {'<' + name + "/>"}).error;
+    };
+    const std::string hundred(100, 'a');
+    EXPECT_THAT(messageFor(hundred), HasSubstr('\'' + hundred + "',"));
+    EXPECT_THAT(messageFor(hundred + 'b'), HasSubstr('\'' + hundred + "...',"));
+    EXPECT_THAT(messageFor(std::string(98, 'a') + "\u20AC"), HasSubstr('\'' + std::string(98, 'a') + "...',"));
+    EXPECT_LT(messageFor(std::string(1'000'000, 'a')).size(), 1'000);
+}
+
 TEST_F(Records, ANameIsComparedExactly) {
     for (const std::string name : {"assetInfo", "AssetInf", "AssetInfoo", "a:AssetInfo"}) {
         const Outcome outcome = run({"format", "-"}, {"<" + name + "/>"});
@@ -66,6 +77,10 @@ struct Sample {
     std::string name;
     std::string document;
 };
+
+void PrintTo(const Sample& sample, std::ostream* out) {
+    *out << sample.name;
+}
 
 class RecordContent : public ToolTest, public testing::WithParamInterface<Sample> {};
 

@@ -45,13 +45,26 @@ void parseDocument(lv::XMLDocument& document, const std::string& text, const std
     }
 }
 
+/// As much of a name as a message should hold: it can be as long as the document.
+std::string excerpt(const std::string& name) {
+    std::size_t length = 100;
+    if (name.size() <= length) {
+        return name;
+    }
+    while ((static_cast<unsigned char>(name[length]) & 0xC0U) == 0x80U) {  // not amid a character of UTF-8
+        --length;
+    }
+    return name.substr(0, length) + "...";
+}
+
 std::unique_ptr<lv::DataObject> parseRecord(const lv::XMLElement& root, const std::string& name) {
     if (!root.isValid()) {
         throw Failure(name, "no root element");
     }
     auto record = makeRecord(root.elementName());
     if (!record || !record->parseXMLElement(root)) {
-        throw Failure(name, "unknown root element '" + root.elementName() + "', known are: " + knownRootElements());
+        throw Failure(name,
+                      "unknown root element '" + excerpt(root.elementName()) + "', known are: " + knownRootElements());
     }
     return record;
 }

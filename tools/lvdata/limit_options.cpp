@@ -31,6 +31,7 @@ void addOption(CLI::App& command, const std::string& name, std::size_t& limit, c
 void addLimitOptions(CLI::App& command, Limits& limits) {
     addOption(command, "--max-size", limits.bytes, "bytes");
     addOption(command, "--max-elements", limits.elements, "elements");
+    addOption(command, "--max-nodes", limits.nodes, "nodes (elements, attributes, texts, comments, other markup)");
     addOption(command, "--max-attributes", limits.attributes, "attributes in one tag");
     addOption(command, "--max-broken-references", limits.brokenReferences, "'&#' without ';' in one text");
 }

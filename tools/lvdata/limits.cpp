@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t\n\v\f\r";
 
-/// What no tag begins with, and where it ends; of two that fit, the first counts.
+/// Markup that is no tag, and where it ends; of two that fit, the first counts.
 struct Passage {
     std::string_view start;
     std::string_view end;
@@ -58,7 +58,8 @@ public:
 private:
     bool takeText() {
         const std::string_view text = rest_.substr(0, rest_.find('<'));
-        if (!checkReferences(text)) {
+        const bool isNode = text.find_first_not_of(blanks) != std::string_view::npos;
+        if (!checkReferences(text) || (isNode && !countNode())) {
             return false;
         }
         rest_.remove_prefix(text.size());
@@ -72,27 +73,27 @@ private:
     }
 
     bool takePassage(const Passage& passage) {
+        if (!countNode()) {
+            return false;
+        }
         rest_.remove_prefix(passage.start.size());
         return skipBehind(passage.end);
     }
 
     bool takeTag() {
-        const std::size_t position = size_ - rest_.size();
+        tag_ = size_ - rest_.size();
         take('<');
         skipBlanks();
         const bool isEnd = take('/');
-        if (!isEnd && ++elements_ > limits_.elements) {
-            return excess(position, limits_.elements, "elements", "elements");
-        }
-        return takeName() && takeAttributes(position);
+        return (isEnd || countElement()) && takeName() && takeAttributes(isEnd);
     }
 
-    bool takeAttributes(std::size_t tagPosition) {
+    bool takeAttributes(bool ofEndTag) {
         for (std::size_t count = 0; takeName(); ++count) {
             if (count == limits_.attributes) {
-                return excess(tagPosition, limits_.attributes, "attributes in one tag", "attributes");
+                return excess(tag_, limits_.attributes, "attributes in one tag", "attributes");
             }
-            if (!takeValue()) {
+            if (!takeValue() || (!ofEndTag && !countNode())) {
                 return false;
             }
         }
@@ -140,6 +141,15 @@ private:
         return found;
     }
 
+    bool countElement() {
+        return ++elements_ > limits_.elements ? excess(tag_, limits_.elements, "elements", "elements") : countNode();
+    }
+
+    /// One that ends, or begins, where the rest begins.
+    bool countNode() {
+        return ++nodes_ <= limits_.nodes || excess(size_ - rest_.size(), limits_.nodes, "nodes", "nodes");
+    }
+
     /// Of a text with which the rest begins.
     bool checkReferences(std::string_view text) {
         return brokenReferences(text) <= limits_.brokenReferences ||
@@ -155,7 +165,9 @@ private:
     std::size_t size_;
     std::string_view rest_;
     const Limits& limits_;
+    std::size_t tag_ = 0;  // where the latest begins
     std::size_t elements_ = 0;
+    std::size_t nodes_ = 0;
     std::optional<Excess> found_;
 };
 

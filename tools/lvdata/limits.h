@@ -12,6 +12,7 @@ namespace tool {
 struct Limits {
     std::size_t bytes = 64UL * 1024 * 1024;
     std::size_t elements = 250'000;
+    std::size_t nodes = 1'000'000;       // elements, their attributes, texts, comments, and other markup
     std::size_t attributes = 100;        // in one tag
     std::size_t brokenReferences = 100;  // in one text or attribute: "&#" without a ";" in front of the next "&#"
 };
@@ -21,7 +22,7 @@ struct Excess {
     std::string reason;
 };
 
-/// Where a document goes beyond the limits of elements, attributes or references for the first time. One pass over the
+/// Where a document goes beyond one of the limits but that of bytes for the first time. One pass over the
 /// text, which sees the same tags and texts as the XML library does, up to where that refuses the document.
 [[nodiscard]] std::optional<Excess> findExcess(std::string_view text, const Limits& limits);
 
