@@ -25,6 +25,7 @@ LITERAL = re.compile(r'"[^"\n]*"')
 TEXT_FOLLOWS = re.compile(r"""(?:[!=]= |\bconstant\("_*", )$""")  # else it is the name of an element or an attribute
 ROOT_NAME = re.compile(r"(?<=[ (])(?:Record::)?rootElementName\b")
 NUMBER = re.compile(r"(?<![\w.<\[])(?:0x[0-9A-F]+|\d+(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
+LENGTH = re.compile(r"(?<=\.size\(\) [=>]= )[A-Za-z][\w:.]*(?:\(\))?")
 ENTRIES = re.compile(r"\{\s*([a-z]\w*(?:,\s+[a-z]\w*)*)\s*\}")
 CONSTANT = re.compile(r"constexpr (?!auto\b)")
 
@@ -205,6 +206,14 @@ def numbers(code):
             yield Mutant(kind, *match.span(), f"mutation::pick(@, {changed}, ", ")", f"becomes {changed}")
 
 
+def lengths(code):
+    """What lengths are compared with where that has a name."""
+    for match in LENGTH.finditer(code):
+        changed = f"{match.group()} + 1"
+        before = f"mutation::pick<std::size_t>(@, {changed}, "
+        yield Mutant("number", *match.span(), before, ")", f"becomes {changed}")
+
+
 def entries(code):
     """The constants in lists such as {once, yearly}."""
     for match in ENTRIES.finditer(code):
@@ -218,7 +227,7 @@ def find(path, text):
     """The mutants of a source, outer ones first; `path` names it in their keys."""
     code = masked(text)
     found = [mutant for start, end in statements(code) for mutant in in_statement(code, start, end)]
-    found += [*gates(code), *operands(code), *texts(code, text), *numbers(code), *entries(code)]
+    found += [*gates(code), *operands(code), *texts(code, text), *numbers(code), *lengths(code), *entries(code)]
     found.sort(key=lambda mutant: (mutant.start, -mutant.end))
     times = collections.Counter()
     for mutant in found:
