@@ -3,33 +3,10 @@
 
 #include <algorithm>
 #include <array>
-#include <sstream>
 #include <string_view>
 
 namespace lv::fuzz {
 namespace {
-
-/// Takes `end` off the text; false when it does not end so.
-bool removeEnd(std::string& text, std::string_view end) {
-    const bool found = text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
-    text.resize(found ? text.size() - end.size() : text.size());
-    return found;
-}
-
-Member memberIn(const std::string& line) {
-    const std::string_view sign = " = ";
-    const std::size_t middle = line.find(sign);
-    Member member{line.substr(0, middle), line.substr(middle + sign.size()), Flag::none};
-    if (removeEnd(member.value, "(set)")) {
-        member.flag = Flag::set;
-    } else if (removeEnd(member.value, "(unset)")) {
-        member.flag = Flag::unset;
-    }
-    if (member.flag != Flag::none) {
-        removeEnd(member.value, " ");
-    }
-    return member;
-}
 
 std::size_t lastNameIn(const std::string& name) {
     return name.rfind('.') + 1;  // 0 where there is no point
@@ -63,11 +40,9 @@ bool followsFromValues(const Member& member) {
     return std::find(names.begin(), names.end(), last) != names.end();
 }
 
-Members::Members(const std::string& description) {
-    std::istringstream lines(description);
-    for (std::string line; std::getline(lines, line);) {
-        const Member& member = members_.emplace_back(memberIn(line));
-        indices_.emplace(member.name, members_.size() - 1);
+Members::Members(const std::string& description) : members_(test::memberLinesOf(description)) {
+    for (const Member& member : members_) {
+        indices_.emplace(member.name, indices_.size());
         noteMissing(member);
     }
 }

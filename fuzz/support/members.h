@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tests/support/MemberLine.h>
+
 #include <map>
 #include <set>
 #include <string>
@@ -7,14 +9,9 @@
 
 namespace lv::fuzz {
 
-enum class Flag { none, unset, set };
+using test::Flag;
 
-/// One line of a record's description.
-struct Member {
-    std::string name;  // with those of the values that it is part of: "gamma.red.type"
-    std::string value;
-    Flag flag;
-};
+using Member = test::MemberLine;
 
 /// The value of an empty string.
 inline constexpr const char* emptyString = "\"\"";

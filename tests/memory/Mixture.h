@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tests/support/MemberLine.h>
+
 #include <map>
 #include <set>
 #include <string>
@@ -22,7 +24,7 @@ private:
 
     // By the name of the member. Of a list: what is known of its length.
     std::map<std::string, std::set<std::string>> values_;
-    std::map<std::string, std::set<std::string>> flags_;
+    std::map<std::string, std::set<Flag>> flags_;
 };
 
 }  // namespace lv::test

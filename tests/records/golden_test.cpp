@@ -1,4 +1,5 @@
 #include <tests/support/every_record.h>
+#include <tests/support/lines.h>
 
 #include <gtest/gtest.h>
 
@@ -55,13 +56,6 @@ void PrintTo(const Golden& golden, std::ostream* out) {
 constexpr const char* documentEnd = ".xml";
 constexpr const char* expectedEnd = ".expected.xml";
 constexpr const char* switchEnd = ".hlg";
-
-/// Takes `end` off the text; false when it does not end so.
-bool removeEnd(std::string& text, const std::string& end) {
-    const bool found = text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
-    text.resize(found ? text.size() - end.size() : text.size());
-    return found;
-}
 
 std::vector<fs::path> entriesOf(const fs::path& folder) {
     std::error_code ignored;  // a missing folder has no entries; a test of its own notices that

@@ -2,6 +2,7 @@
 
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lv::test {
@@ -14,6 +15,13 @@ inline std::vector<std::string> linesOf(const std::string& text) {
         lines.push_back(line);
     }
     return lines;
+}
+
+/// Takes `end` off the text; false when it does not end so.
+inline bool removeEnd(std::string& text, std::string_view end) {
+    const bool found = text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+    text.resize(found ? text.size() - end.size() : text.size());
+    return found;
 }
 
 }  // namespace lv::test
