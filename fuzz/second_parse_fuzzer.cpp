@@ -2,7 +2,7 @@
 #include <fuzz/support/members.h>
 #include <fuzz/support/picked_record.h>
 
-// Two documents into one record, against fresh records that read the second alone. The documents stand on either side
+// Two documents into one record, against fresh records that read one of them each. The documents stand on either side
 // of the first NUL: where a document would end anyway.
 
 namespace lv::fuzz {
@@ -10,48 +10,106 @@ namespace {
 
 using test::describe;
 
-/// What the second document holds is in the record as in the fresh one; what it lacks may be left over from the first.
-void checkAgainstFresh(const Members& record, const Members& fresh) {
-    for (const Member& expected : fresh.all()) {
-        if (fresh.isInMissingRecord(expected)) {
-            continue;  // a nested record that was not found keeps all that it held
-        }
-        const Member& actual = record.named(expected.name);
-        if (isInRow(expected)) {
-            checkEqual(actual.value, expected.value, "rows are those of a fresh parse: " + expected.name);
-        } else if (expected.flag == Flag::set) {
-            check(actual.flag == Flag::set, "what was found is set: " + expected.name);
-            check(actual.value == expected.value || isString(expected), "and replaces the value: " + expected.name);
-            check(actual.value == expected.value || expected.value == emptyString, "a text too: " + expected.name);
-        } else if (expected.flag == Flag::unset && !followsFromValues(expected)) {
-            check(actual.flag == Flag::unset, "what was not found is not set: " + expected.name);
+/// The members of a record that read both documents, and of fresh ones that read the first, the second, or none.
+struct Readings {
+    Members both;
+    Members first;
+    Members second;
+    Members fresh;
+};
+
+bool isEither(const Member& actual, const Member& one, const Member& other) {
+    return actual.value == one.value || actual.value == other.value;
+}
+
+/// A list is the second document's.
+void checkRow(const Readings& readings, const Member& actual) {
+    check(actual.text == readings.second.named(actual.name).text, "rows are those of a fresh parse: " + actual.name);
+}
+
+/// A nested record that was not found is as the first document left it.
+void checkLeftRecord(const Readings& readings, const Member& actual) {
+    check(actual.text == readings.first.named(actual.name).text, "a record not found stays: " + actual.name);
+}
+
+void checkFlag(const Readings& readings, const Member& actual) {
+    const Flag expected = readings.second.named(actual.name).flag;
+    const bool mayBeEarlier = followsFromValues(actual) && expected == Flag::unset;
+    check(actual.flag == expected || mayBeEarlier, "a flag tells what was found: " + actual.name);
+}
+
+/// A value that differs from that of a fresh record was found for certain.
+void checkFound(const Readings& readings, const Member& actual) {
+    const Member& second = readings.second.named(actual.name);
+    if (second.flag == Flag::set || tellsOfRecord(actual) || second.value != readings.fresh.named(actual.name).value) {
+        const bool mayBeEarlier = second.value == emptyString;  // an element without text leaves a string as it was
+        check(actual.value == second.value || mayBeEarlier, "what was found replaces the value: " + actual.name);
+    }
+}
+
+/// What was not found stays. An array whose length does not count is found, but not set.
+void checkLeft(const Readings& readings, const Member& actual) {
+    const Member& first = readings.first.named(actual.name);
+    const Member& second = readings.second.named(actual.name);
+    const bool mayBeFound = second.value != readings.fresh.named(actual.name).value || isArray(actual);
+    if (second.flag == Flag::unset && !mayBeFound && !followsFromValues(actual)) {
+        check(actual.value == first.value, "what was not found stays: " + actual.name);
+    }
+    check(isEither(actual, first, second), "a value is from one of the documents: " + actual.name);
+}
+
+void checkMember(const Readings& readings, const Member& actual) {
+    if (readings.second.isInMissingRecord(actual)) {
+        checkLeftRecord(readings, actual);
+    } else if (isInRow(actual) || isRowCount(actual)) {
+        checkRow(readings, actual);
+    } else {
+        checkFlag(readings, actual);
+        if (!isReadByLeftType(readings.both, readings.second, actual)) {
+            checkFound(readings, actual);
+            checkLeft(readings, actual);
         }
     }
 }
 
+void checkMembers(const Readings& readings) {
+    for (const Member& actual : readings.both.all()) {
+        checkMember(readings, actual);
+    }
+}
+
+struct Documents {
+    std::string first;
+    std::string second;
+};
+
+Documents documentsIn(const std::string& text) {
+    const std::size_t end = text.find('\0');
+    return {text.substr(0, end), end == std::string::npos ? "" : text.substr(end + 1)};
+}
+
+/// \param record  has read the first document
 template <class Record>
 void checkSecondParse(Record& record, const Record& fresh, const std::string& second) {
-    const std::string before = describe(record);
+    const std::string first = describe(record);
     Record expected = fresh;
     const bool accepted = record.parseXMLString(second);
     check(expected.parseXMLString(second) == accepted, "whether a document is accepted is up to the document alone");
     if (!accepted) {
-        checkEqual(describe(record), before, "a refused document leaves the record as it was");
+        checkEqual(describe(record), first, "a refused document leaves the record as it was");
         return;
     }
-    const std::string after = describe(record);
-    checkAgainstFresh(Members(after), Members(describe(expected)));
+    const std::string both = describe(record);
+    checkMembers({Members(both), Members(first), Members(describe(expected)), Members(describe(fresh))});
     check(record.parseXMLString(second), "what was accepted is accepted again");
-    checkEqual(describe(record), after, "the same document again changes nothing");
+    checkEqual(describe(record), both, "the same document again changes nothing");
 }
 
 template <class Record>
-void checkDocuments(Record& record, const std::string& documents) {
+void checkDocuments(Record& record, const Documents& documents) {
     const Record fresh = record;
-    const std::size_t end = documents.find('\0');
-    const std::string second = end == std::string::npos ? "" : documents.substr(end + 1);
-    static_cast<void>(record.parseXMLString(documents.substr(0, end)));  // either way is a state to go on from
-    checkSecondParse(record, fresh, second);
+    static_cast<void>(record.parseXMLString(documents.first));  // either way is a state to go on from
+    checkSecondParse(record, fresh, documents.second);
 }
 
 }  // namespace
@@ -60,7 +118,8 @@ void checkDocuments(Record& record, const std::string& documents) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size > 0) {
         const auto input = lv::fuzz::recordInput({data, data + size});
-        lv::fuzz::withPickedRecord(input, [&input](auto& record) { lv::fuzz::checkDocuments(record, input.text); });
+        const auto documents = lv::fuzz::documentsIn(input.text);
+        lv::fuzz::withPickedRecord(input, [&documents](auto& record) { lv::fuzz::checkDocuments(record, documents); });
     }
     return 0;
 }

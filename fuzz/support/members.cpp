@@ -20,31 +20,48 @@ std::string withoutHas(std::string name) {
     return name;
 }
 
+/// Of a nested record that is a plain member beside its flag.
+bool isFlagOfRecord(const Member& member) {
+    return member.name.compare(lastNameIn(member.name), 3, "has") == 0;
+}
+
 }  // namespace
 
-bool isString(const Member& member) {
-    return !member.value.empty() && member.value.front() == '"';
+bool isArray(const Member& member) {
+    return member.value.find(" entries:") != std::string::npos && member.value.front() != '"';
 }
 
 bool isInRow(const Member& member) {
-    return member.name.find("objects") != std::string::npos;
+    return member.name.find('[') != std::string::npos;
+}
+
+bool isRowCount(const Member& member) {
+    return member.name.substr(lastNameIn(member.name)) == "objects";
 }
 
 bool tellsOfReading(const Member& member) {
     return member.name.substr(lastNameIn(member.name)) == "parsed";
 }
 
+bool tellsOfRecord(const Member& member) {
+    return isFlagOfRecord(member) || tellsOfReading(member);
+}
+
 bool followsFromValues(const Member& member) {
-    constexpr std::array names = {"executorType", "measuredXYZ", "measuredXYZLimited109"};
+    constexpr std::array names = {"executorType", "measuredXYZ", "measuredXYZLimited109", "valid"};
     const std::string last = member.name.substr(lastNameIn(member.name));
     return std::find(names.begin(), names.end(), last) != names.end();
 }
 
 Members::Members(const std::string& description) : members_(test::memberLinesOf(description)) {
-    for (const Member& member : members_) {
-        indices_.emplace(member.name, indices_.size());
-        noteMissing(member);
+    for (std::size_t index = 0; index < members_.size(); ++index) {
+        indices_.emplace(members_[index].name, index);
+        noteMissing(members_[index]);
     }
+}
+
+bool Members::has(const std::string& name) const {
+    return indices_.count(name) != 0;
 }
 
 const Member& Members::named(const std::string& name) const {
@@ -54,8 +71,9 @@ const Member& Members::named(const std::string& name) const {
 }
 
 bool Members::isInMissingRecord(const Member& member) const {
-    for (std::size_t end = member.name.find('.'); end != std::string::npos; end = member.name.find('.', end + 1)) {
-        if (missing_.count(member.name.substr(0, end)) != 0) {
+    const std::string name = member.name.substr(0, member.name.find('['));
+    for (std::size_t end = name.find('.'); end != std::string::npos; end = name.find('.', end + 1)) {
+        if (isMissingRecord(name.substr(0, end))) {
             return true;
         }
     }
@@ -63,12 +81,26 @@ bool Members::isInMissingRecord(const Member& member) const {
 }
 
 void Members::noteMissing(const Member& member) {
-    const bool isFlagOfRecord = member.name.compare(lastNameIn(member.name), 3, "has") == 0 && member.value == "false";
-    if (isFlagOfRecord) {
+    if (isFlagOfRecord(member) && member.value == "false") {
         missing_.insert(withoutHas(member.name));
     } else if (member.flag == Flag::unset) {
         missing_.insert(member.name);
     }
+}
+
+bool Members::isMissingRecord(const std::string& name) const {
+    return missing_.count(name) != 0 && has(name + ".version");
+}
+
+bool isReadByLeftType(const Members& record, const Members& later, const Member& member) {
+    const std::string structure = member.name.substr(0, lastNameIn(member.name));
+    const std::string name = structure + "type";
+    if (!record.has(name) || member.name == name) {
+        return false;
+    }
+    const std::string& type = record.named(name).value;
+    const bool isOfCurve = structure.find("TargetCurve.") != std::string::npos;
+    return type != later.named(name).value && (isOfCurve || type == "\"SyncSignal\"");
 }
 
 }  // namespace lv::fuzz
