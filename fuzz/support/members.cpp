@@ -39,8 +39,13 @@ bool isRowCount(const Member& member) {
     return member.name.substr(lastNameIn(member.name)) == "objects";
 }
 
+std::string nameInRow(const Member& member) {
+    return member.name.substr(member.name.rfind("].") + 2);
+}
+
 bool tellsOfReading(const Member& member) {
-    return member.name.substr(lastNameIn(member.name)) == "parsed";
+    const std::string last = member.name.substr(lastNameIn(member.name));
+    return last == "parsed" || last == "hasProfileData";
 }
 
 bool tellsOfRecord(const Member& member) {
@@ -68,6 +73,21 @@ const Member& Members::named(const std::string& name) const {
     const auto found = indices_.find(name);
     check(found != indices_.end(), "the record has a member " + name);
     return members_[found->second];
+}
+
+int Members::rowsIn(const std::string& list) const {
+    return std::stoi(named(list).value);
+}
+
+bool Members::hasRowsOf(const Members& others, const Member& member) const {
+    const std::string& name = member.name;
+    for (std::size_t end = name.find('['); end != std::string::npos; end = name.find('[', end + 1)) {
+        const std::string list = name.substr(0, end);
+        if (rowsIn(list) != others.rowsIn(list)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool Members::isInMissingRecord(const Member& member) const {

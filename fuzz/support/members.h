@@ -24,8 +24,11 @@ inline constexpr const char* emptyString = "\"\"";
 /// Whether the member is the number of rows.
 [[nodiscard]] bool isRowCount(const Member& member);
 
-/// Whether the member tells that a list was read. A list that is printed always is read back from a document that had
-/// none.
+/// The member's name within its row, the innermost one.
+[[nodiscard]] std::string nameInRow(const Member& member);
+
+/// Whether the member tells that something was read that may be printed always: it is then read back from a document
+/// that had none.
 [[nodiscard]] bool tellsOfReading(const Member& member);
 
 /// Whether the member is a plain one that tells whether a record, or anything of a list, was found.
@@ -46,6 +49,12 @@ public:
 
     /// The member of that name; a `Find` when there is none.
     [[nodiscard]] const Member& named(const std::string& name) const;
+
+    /// How many rows the list of that name has.
+    [[nodiscard]] int rowsIn(const std::string& list) const;
+
+    /// Whether the lists that the member is in, if any, are as long as those of `others`.
+    [[nodiscard]] bool hasRowsOf(const Members& others, const Member& member) const;
 
     /// Whether the member is part of a nested record that was not found; those in rows come and go with their row.
     [[nodiscard]] bool isInMissingRecord(const Member& member) const;
