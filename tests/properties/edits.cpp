@@ -50,6 +50,10 @@ const char* textOf(const Edit& edit) {
     return texts.at(edit.text % texts.size());
 }
 
+const char* attributeOf(const Edit& edit) {
+    return attributes.at(edit.attribute % attributes.size());
+}
+
 /// Whether it has a place among others that can change.
 bool isRoot(const XMLElement& element) {
     return element.Parent()->ToElement() == nullptr;
@@ -78,7 +82,7 @@ void insertText(XMLElement& element, const Edit& edit) {
 }
 
 void setAttribute(XMLElement& element, const Edit& edit) {
-    element.SetAttribute(attributes.at(edit.where % attributes.size()), textOf(edit));
+    element.SetAttribute(attributeOf(edit), textOf(edit));
 }
 
 /// Another type than its children were written for.
@@ -139,7 +143,8 @@ std::vector<XMLElement*> elementsOf(tinyxml2::XMLDocument& document) {
 }  // namespace
 
 std::ostream& operator<<(std::ostream& out, const Edit& edit) {
-    return out << "edit " << edit.what % edits.size() << " at " << edit.where << " with \"" << textOf(edit) << '"';
+    return out << "edit " << edit.what % edits.size() << " at " << edit.where << ", attribute " << attributeOf(edit)
+               << ", with \"" << textOf(edit) << '"';
 }
 
 std::string edited(const std::string& document, const std::vector<Edit>& all) {
@@ -161,6 +166,6 @@ rc::Gen<lv::test::Edit> rc::Arbitrary<lv::test::Edit>::arbitrary() {
         const auto any = [&random] {
             return static_cast<std::uint32_t>(random.next());
         };
-        return shrinkable::just(lv::test::Edit{any(), any(), any()});
+        return shrinkable::just(lv::test::Edit{any(), any(), any(), any()});
     };
 }

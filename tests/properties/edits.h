@@ -11,9 +11,10 @@ namespace lv::test {
 
 /// One thing that another program, or a person, may have done to a document.
 struct Edit {
-    std::uint32_t what = 0;   ///< which of the things that `edited` knows
-    std::uint32_t where = 0;  ///< at which element, counted in document order
-    std::uint32_t text = 0;   ///< with which text, where one is put
+    std::uint32_t what = 0;       ///< which of the things that `edited` knows
+    std::uint32_t where = 0;      ///< at which element, counted in document order
+    std::uint32_t attribute = 0;  ///< in which attribute, where one is set
+    std::uint32_t text = 0;       ///< with which text, where one is put
 };
 
 std::ostream& operator<<(std::ostream& out, const Edit& edit);
