@@ -1,5 +1,6 @@
 #include "OutputTest.h"
 
+#include <tests/support/repeated.h>
 #include <tools/lvdata/limits.h>
 
 #include <fcntl.h>
@@ -8,13 +9,7 @@
 
 namespace {
 
-std::string repeated(const std::string& text, std::size_t count) {
-    std::string result;
-    for (std::size_t index = 0; index < count; ++index) {
-        result += text;
-    }
-    return result;
-}
+using lv::test::repeated;
 
 /// So many attributes of different names.
 std::string attributes(int count) {
