@@ -29,6 +29,8 @@ inline void describeGetters(Description& out, const MonitorParameter& record) {
     out.member("blueLUT_x", record.blueLUT_x());
     out.member("hlgSystemGamma_x", record.hlgSystemGamma_x());
     out.member("redGain_x", record.redGain_x());
+    out.member("greenGain_x", record.greenGain_x());
+    out.member("blueGain_x", record.blueGain_x());
     out.member("emulationMatrix_x", record.emulationMatrix_x());
 }
 
@@ -40,20 +42,26 @@ inline void describeGetters(Description& out, const ParameterSetting& record) {
 inline void describeGetters(Description& out, const ProfileData& record) {
     out.member("measuredXYZ_x", record.measuredXYZ_x());
     out.member("measuredXYZLimited109_x", record.measuredXYZLimited109_x());
-    out.member("formula_x", record.redTargetCurve.value.formula_x());
-    out.member("lut_x", record.redTargetCurve.value.lut_x());
+    for (const auto* curve : {&record.redTargetCurve, &record.greenTargetCurve, &record.blueTargetCurve}) {
+        out.member("formula_x", curve->value.formula_x());
+        out.member("lut_x", curve->value.lut_x());
+    }
 }
 
 inline void describeGetters(Description& out, const TargetSetting& record) {
     const TargetSetting::gamma_t& gamma = record.gamma.value;
     out.member("coordinate_x", record.whitePoint.value.coordinate_x());
-    out.member("formula_x", gamma.red.formula_x());
-    out.member("lut_x", gamma.red.lut_x());
-    out.member("lut24_x", gamma.red.lut24_x());
+    for (const auto* color : {&gamma.red, &gamma.green, &gamma.blue}) {
+        out.member("formula_x", color->formula_x());
+        out.member("lut_x", color->lut_x());
+        out.member("lut24_x", color->lut24_x());
+    }
     out.member("fileName_x", gamma.importedLutFile.fileName_x());
     out.member("hlgSystemGamma_x", gamma.hlgSystemGamma_x());
     out.member("isNative", record.gamut.value.isNative());
     out.member("red_x", record.gamut.value.red_x());
+    out.member("green_x", record.gamut.value.green_x());
+    out.member("blue_x", record.gamut.value.blue_x());
 }
 
 }  // namespace lv::test
