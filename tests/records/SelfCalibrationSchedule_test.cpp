@@ -1,56 +1,18 @@
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
+#include <tests/support/schedule_kinds.h>
 
 #include <gtest/gtest.h>
 
 #include <lvdata/records/SelfCalibrationSchedule.h>
 
 #include <algorithm>
-#include <array>
 #include <map>
 #include <string>
 #include <vector>
 
 namespace lv::test {
 namespace {
-
-struct Field {
-    std::string element;
-    property<unsigned int> SelfCalibrationSchedule::*member;
-};
-
-const std::array everyField = {Field{"IntervalMonth", &SelfCalibrationSchedule::intervalMonth},
-                               Field{"IntervalWeek", &SelfCalibrationSchedule::intervalWeek},
-                               Field{"IntervalHour", &SelfCalibrationSchedule::intervalHour},
-                               Field{"ThWeek", &SelfCalibrationSchedule::thWeek},
-                               Field{"Weekday", &SelfCalibrationSchedule::weekday},
-                               Field{"Hour", &SelfCalibrationSchedule::hour},
-                               Field{"Minute", &SelfCalibrationSchedule::minute},
-                               Field{"Year", &SelfCalibrationSchedule::year},
-                               Field{"Month", &SelfCalibrationSchedule::month},
-                               Field{"Day", &SelfCalibrationSchedule::day},
-                               Field{"MonthOfQuarter", &SelfCalibrationSchedule::monthOfQuarter},
-                               Field{"MonthOfBiannual", &SelfCalibrationSchedule::monthOfBiannual}};
-
-using Names = std::vector<std::string>;
-
-/// The elements of a kind in the order of writing; none for kinds that are not listed.
-const std::map<unsigned int, Names> namesOfKind = {{1, {"IntervalMonth", "ThWeek", "Weekday", "Hour", "Minute"}},
-                                                   {2, {"IntervalWeek", "Weekday", "Hour", "Minute"}},
-                                                   {3, {"IntervalHour"}},
-                                                   {17, {"Year", "Month", "Day", "Hour", "Minute"}},
-                                                   {31, {"IntervalHour"}},
-                                                   {32, {"Hour", "Minute"}},
-                                                   {33, {"Weekday", "Hour", "Minute"}},
-                                                   {50, {"ThWeek", "Weekday", "Hour", "Minute"}},
-                                                   {51, {"MonthOfQuarter", "ThWeek", "Weekday", "Hour", "Minute"}},
-                                                   {52, {"MonthOfBiannual", "ThWeek", "Weekday", "Hour", "Minute"}},
-                                                   {53, {"Month", "ThWeek", "Weekday", "Hour", "Minute"}}};
-
-Names namesOf(unsigned int kind) {
-    const auto found = namesOfKind.find(kind);
-    return found == namesOfKind.end() ? Names() : found->second;
-}
 
 /// Kinds 0 to 60, and some that share low bytes or bits with known ones.
 std::vector<unsigned int> everyKind() {
@@ -82,7 +44,7 @@ SelfCalibrationSchedule parsedFrom(const std::string& children) {
 /// Another number for every field.
 unsigned int numberOf(const std::string& name) {
     unsigned int index = 0;
-    while (everyField.at(index).element != name) {
+    while (everyScheduleField.at(index).element != name) {
         ++index;
     }
     return 101 + index;
@@ -97,7 +59,7 @@ const std::string timingElement = "<Timing>T</Timing>";
 SelfCalibrationSchedule withEveryFieldSet(unsigned int kind) {
     SelfCalibrationSchedule record;
     record.type.set(kind);
-    for (const auto& [name, member] : everyField) {
+    for (const auto& [name, member] : everyScheduleField) {
         (record.*member).set(numberOf(name));
     }
     record.timing.set("T");
@@ -106,7 +68,7 @@ SelfCalibrationSchedule withEveryFieldSet(unsigned int kind) {
 
 std::string elementsOf(unsigned int kind, const std::string& leftOut = "") {
     std::string text;
-    for (const std::string& name : namesOf(kind)) {
+    for (const std::string& name : elementsOfKind(kind)) {
         text += name == leftOut ? "" : elementWithNumber(name);
     }
     return text;
@@ -146,7 +108,7 @@ TEST(SelfCalibrationSchedule, Kinds3And31BothWriteOnlyIntervalHourAndTiming) {
 
 TEST(SelfCalibrationSchedule, EachFieldUnsetInTurnIsLeftOutWithoutAnEmptyElement) {
     for (const unsigned int kind : everyKind()) {
-        for (const auto& [name, member] : everyField) {
+        for (const auto& [name, member] : everyScheduleField) {
             SelfCalibrationSchedule record = withEveryFieldSet(kind);
             (record.*member).hasValue = false;
             EXPECT_EQ(compact(record), written(ofKind(kind, elementsOf(kind, name) + timingElement)));
@@ -165,8 +127,8 @@ TEST(SelfCalibrationSchedule, Kind17WithoutAnHourWritesYearMonthDayAndMinuteAndN
 
 TEST(SelfCalibrationSchedule, EachFieldAloneIsWrittenForTheKindsItBelongsToOnly) {
     for (const unsigned int kind : everyKind()) {
-        const Names names = namesOf(kind);
-        for (const auto& [name, member] : everyField) {
+        const ElementNames names = elementsOfKind(kind);
+        for (const auto& [name, member] : everyScheduleField) {
             SelfCalibrationSchedule record;
             record.type.set(kind);
             (record.*member).set(numberOf(name));
@@ -201,7 +163,7 @@ TEST(SelfCalibrationSchedule, NothingButTheRootIsWrittenWithoutAType) {
 /// All fields and the timing as elements; the kinds' own and foreign ones alike.
 std::string everyElement() {
     std::string text;
-    for (const auto& [name, member] : everyField) {
+    for (const auto& [name, member] : everyScheduleField) {
         text += elementWithNumber(name);
     }
     return text + timingElement;
@@ -217,7 +179,7 @@ TEST(SelfCalibrationSchedule, EachKindIsReadWithItsOwnAndWithForeignFields) {
 
 TEST(SelfCalibrationSchedule, EachFieldIsReadAloneUnderEveryKindAndSetsNothingElse) {
     for (const unsigned int kind : everyKind()) {
-        for (const auto& [name, member] : everyField) {
+        for (const auto& [name, member] : everyScheduleField) {
             SelfCalibrationSchedule expected;
             expected.type.set(kind);
             (expected.*member).set(numberOf(name));
@@ -249,11 +211,11 @@ TEST(SelfCalibrationSchedule, FieldsOutsideTheFirstTypeAreNotRead) {
 }
 
 TEST(SelfCalibrationSchedule, SecondDocumentClearsTheFlagsOfWhatItLacksAndKeepsTheValues) {
-    for (const auto& [name, member] : everyField) {
+    for (const auto& [name, member] : everyScheduleField) {
         SelfCalibrationSchedule record = withEveryFieldSet(53);
         ASSERT_TRUE(record.parseXMLString(documentOf<SelfCalibrationSchedule>(ofKind(2, element(name, "4294967295")))));
         SelfCalibrationSchedule expected = withEveryFieldSet(2);
-        for (const Field& other : everyField) {
+        for (const ScheduleField& other : everyScheduleField) {
             (expected.*other.member).hasValue = false;
         }
         expected.timing.hasValue = false;
@@ -269,7 +231,7 @@ TEST(SelfCalibrationSchedule, MissingTypeLeavesEveryMemberUnsetWithItsValue) {
 }
 
 TEST(SelfCalibrationSchedule, EmptyFieldCountsAsMissingAndEmptyTimingAsSet) {
-    for (const auto& [name, member] : everyField) {
+    for (const auto& [name, member] : everyScheduleField) {
         EXPECT_EQ((parsedFrom(element("Type", '<' + name + "/>")).*member), (property<unsigned int>{0, false})) << name;
     }
     EXPECT_EQ(parsedFrom("<Type><Timing/></Type>").timing, (property<std::string>{"", true}));
@@ -279,7 +241,7 @@ TEST(SelfCalibrationSchedule, NumbersAreReadAsUnsignedWithoutEverFailing) {
     const std::map<std::string, unsigned int> numbers = {
         {"-1", 4294967295U}, {"99999999999", 4294967295U}, {" 12.9", 12}, {"007", 7}, {"abc", 0}, {"0x11", 0}};
     for (const auto& [text, number] : numbers) {
-        for (const auto& [name, member] : everyField) {
+        for (const auto& [name, member] : everyScheduleField) {
             EXPECT_EQ((parsedFrom(element("Type", element(name, text))).*member),
                       (property<unsigned int>{number, true}));
         }
