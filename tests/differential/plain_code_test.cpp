@@ -42,7 +42,7 @@ std::vector<std::string> wholeDocuments(const std::string& record) {
     const std::string text = sample->print(false);
     std::vector<std::string> documents = goldenDocuments(record);
     documents.insert(documents.end(),
-                     {text, text, text, sample->print(true), lv::test::withOtherNumbers(text),
+                     {text, text, text, sample->print(true), lv::test::withOtherTexts(text),
                       lv::test::withRepeatedLeaves(text), lv::test::withUnknownContent(text),
                       lv::test::withChildrenOneLevelDeeper(text), lv::test::withChildrenReversed(text)});
     return documents;

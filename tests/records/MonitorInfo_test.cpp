@@ -254,7 +254,7 @@ TEST(MonitorInfo, WholeMonitorComesBackMemberByMember) {
 }
 
 TEST(MonitorInfo, SecondDocumentReplacesTheFirst) {
-    const std::string document = withOtherNumbers(compact(filled<MonitorInfo>()));
+    const std::string document = withOtherTexts(compact(filled<MonitorInfo>()));
     auto record = filledAndParsedBack<MonitorInfo>();
     ASSERT_TRUE(record.parseXMLString(document));
     EXPECT_EQ(describe(record), describe(parsed<MonitorInfo>(document)));

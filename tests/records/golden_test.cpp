@@ -1,26 +1,21 @@
 #include <tests/support/every_record.h>
+#include <tests/support/golden.h>
 #include <tests/support/lines.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
 
-// The documents of golden/<Record>/. `<name>.xml` is read into a fresh record of that class, `<name>.expected.xml` is
-// the text that it then prints; beside that, `<name>.hlg.expected.xml` is what it prints with `writeHLGSystemGamma`
-// set.
+// The documents of golden/<Record>/: what each prints when it was read into a fresh record.
 
 namespace lv::test {
 namespace {
-
-namespace fs = std::filesystem;
 
 using Maker = std::unique_ptr<DataObject> (*)();
 using Makers = std::map<std::string, Maker>;
@@ -53,23 +48,11 @@ void PrintTo(const Golden& golden, std::ostream* out) {
     *out << golden.expected;
 }
 
-constexpr const char* documentEnd = ".xml";
-constexpr const char* expectedEnd = ".expected.xml";
 constexpr const char* switchEnd = ".hlg";
-
-std::vector<fs::path> entriesOf(const fs::path& folder) {
-    std::error_code ignored;  // a missing folder has no entries; a test of its own notices that
-    std::vector<fs::path> entries;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
-        entries.push_back(entry.path());
-    }
-    std::sort(entries.begin(), entries.end());
-    return entries;
-}
 
 std::vector<Golden> goldenOf(const std::string& record) {
     std::vector<Golden> found;
-    for (const fs::path& entry : entriesOf(fs::path(LVDATA_GOLDEN_DIR) / record)) {
+    for (const fs::path& entry : goldenFilesOf(record)) {
         std::string name = entry.filename().string();
         if (removeEnd(name, expectedEnd)) {
             const bool withSwitch = removeEnd(name, switchEnd);
@@ -86,12 +69,6 @@ std::vector<Golden> everyGolden() {
         all.insert(all.end(), found.begin(), found.end());
     }
     return all;
-}
-
-std::string contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 class GoldenDocument : public ::testing::TestWithParam<Golden> {
@@ -137,14 +114,14 @@ TEST(GoldenFolders, EveryRecordHasDocuments) {
 }
 
 TEST(GoldenFolders, EveryFolderBelongsToARecord) {
-    for (const fs::path& folder : entriesOf(LVDATA_GOLDEN_DIR)) {
+    for (const fs::path& folder : goldenFilesOf("")) {
         EXPECT_EQ(makers().count(folder.filename().string()), 1U) << folder;
     }
 }
 
 TEST(GoldenFolders, EveryDocumentHasItsExpectedText) {
     for (const auto& [record, maker] : makers()) {
-        for (const fs::path& file : entriesOf(fs::path(LVDATA_GOLDEN_DIR) / record)) {
+        for (const fs::path& file : goldenFilesOf(record)) {
             std::string name = file.filename().string();
             if (!removeEnd(name, expectedEnd)) {
                 EXPECT_TRUE(removeEnd(name, documentEnd)) << file;

@@ -49,13 +49,37 @@ std::string changed(const std::string& text, Change change) {
     return printer.CStr();
 }
 
-std::string otherDigits(std::string text) {
-    for (char& character : text) {
-        if (character >= '1' && character <= '9') {
-            character = character == '9' ? '1' : static_cast<char>(character + 1);
-        }
+char otherDigit(char character) {
+    if (character < '1' || character > '9') {
+        return character;
     }
-    return text;
+    return character == '9' ? '1' : static_cast<char>(character + 1);
+}
+
+/// Another digit for every digit but 0; one more where there is none; the other position of a switch.
+std::string other(const std::string& text) {
+    if (text == "true" || text == "false") {
+        return text == "true" ? "false" : "true";
+    }
+    std::string changed = text;
+    std::transform(text.begin(), text.end(), changed.begin(), &otherDigit);
+    return changed == text ? text + '7' : changed;
+}
+
+void changeAttributes(XMLElement& element) {
+    for (const auto* each = element.FirstAttribute(); each != nullptr; each = each->Next()) {
+        element.SetAttribute(each->Name(), other(each->Value()).c_str());
+    }
+}
+
+void removeText(XMLElement& element) {
+    for (auto* child = element.FirstChild(); child != nullptr;) {
+        auto* const next = child->NextSibling();
+        if (child->ToElement() == nullptr) {
+            element.DeleteChild(child);
+        }
+        child = next;
+    }
 }
 
 XMLElement* newElement(XMLElement& neighbour, const char* name, const char* text) {
@@ -103,14 +127,22 @@ std::string withRootAttribute(const std::string& text, const std::string& name, 
     return changed(text, [&](XMLElement& root) { root.SetAttribute(name.c_str(), value.c_str()); });
 }
 
-std::string withOtherNumbers(const std::string& text) {
+std::string withOtherTexts(const std::string& text) {
     return changed(text, [](XMLElement& root) {
         forEachElement(root, [](XMLElement& element) {
             if (element.GetText() != nullptr) {
-                element.SetText(otherDigits(element.GetText()).c_str());
+                element.SetText(other(element.GetText()).c_str());
             }
         });
     });
+}
+
+std::string withOtherAttributes(const std::string& text) {
+    return changed(text, [](XMLElement& root) { forEachElement(root, changeAttributes); });
+}
+
+std::string withoutTexts(const std::string& text) {
+    return changed(text, [](XMLElement& root) { forEachElement(root, removeText); });
 }
 
 std::string withRepeatedLeaves(const std::string& text) {

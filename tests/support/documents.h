@@ -11,8 +11,14 @@ namespace lv::test {
 /// The root's attribute set to this value.
 [[nodiscard]] std::string withRootAttribute(const std::string& text, const std::string& name, const std::string& value);
 
-/// Another digit for every digit but 0 in the text of an element: another value for every member.
-[[nodiscard]] std::string withOtherNumbers(const std::string& text);
+/// Another text in every element that holds one, and of the same kind: another value for every member.
+[[nodiscard]] std::string withOtherTexts(const std::string& text);
+
+/// The same for the attributes.
+[[nodiscard]] std::string withOtherAttributes(const std::string& text);
+
+/// The elements and their attributes, without what is written between them.
+[[nodiscard]] std::string withoutTexts(const std::string& text);
 
 /// Behind each element that holds text alone another one of its name, with another text.
 [[nodiscard]] std::string withRepeatedLeaves(const std::string& text);

@@ -62,7 +62,7 @@ protected:
     static std::string rootName() { return Record::rootElementName; }
 
     /// A document with all elements and other values than `filled` has.
-    static std::string otherDocument() { return withOtherNumbers(compact(filled<Record>())); }
+    static std::string otherDocument() { return withOtherTexts(compact(filled<Record>())); }
 };
 
 }  // namespace lv::test
