@@ -30,6 +30,11 @@ const Pieces& otherPieces() {
 
 }  // namespace
 
+Arbitrary::Arbitrary(const rc::Random& random, Texts texts)
+    : random_(random),
+      texts_(texts),
+      setInEight_(oneOf<std::size_t>({1, 4, 7, 8})) {}
+
 std::size_t Arbitrary::below(std::size_t end) {
     return static_cast<std::size_t>(random_.next() % end);
 }
@@ -53,7 +58,7 @@ std::size_t Arbitrary::length(const MemberTraits& traits) {
 }
 
 void Arbitrary::visit(bool& member) {
-    member = oneIn(2);
+    member = below(8) < setInEight_;
 }
 
 void Arbitrary::visit(int& member) {

@@ -125,9 +125,23 @@ void remove(XMLElement& element, const Edit& /*edit*/) {
     }
 }
 
+/// One of the parts of a structure, without the others.
+void removeOthers(XMLElement& element, const Edit& /*edit*/) {
+    if (isRoot(element) || isRoot(*element.Parent()->ToElement())) {
+        return;
+    }
+    while (element.PreviousSibling() != nullptr) {
+        element.Parent()->DeleteChild(element.PreviousSibling());
+    }
+    while (element.NextSibling() != nullptr) {
+        element.Parent()->DeleteChild(element.NextSibling());
+    }
+}
+
 constexpr std::array edits = {
     &replaceText, &empty,  &replaceTextByCdata, &insertComment, &insertText,   &setAttribute, &retype,
-    &retype,      &retype, &removeAttributes,   &repeatBehind,  &moveToTheEnd, &rename,       &remove};
+    &retype,      &retype, &removeAttributes,   &repeatBehind,  &moveToTheEnd, &rename,       &remove,
+    &removeOthers};
 
 std::vector<XMLElement*> elementsOf(tinyxml2::XMLDocument& document) {
     std::vector<XMLElement*> elements = {document.RootElement()};

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <set>
+#include <sstream>
 #include <vector>
 
 #include <rapidcheck.h>
@@ -22,12 +24,22 @@ std::string linesOnlyIn(const std::string& text, const std::string& other) {
     return only;
 }
 
+/// What RC_PARAMS says, and so many cases when it does not say how many.
+rc::detail::TestParams paramsWith(int cases) {
+    rc::detail::Configuration configuration = rc::detail::configuration();
+    configuration.testParams.maxSuccess = cases;
+    return rc::detail::configFromString(std::getenv("RC_PARAMS"), configuration).testParams;
+}
+
 }  // namespace
 
-void expectHolds(const std::function<void()>& property) {
+void expectHolds(const std::function<void()>& property, int cases) {
     const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
     const std::string name = std::string(test->test_suite_name()) + '.' + test->name();
-    EXPECT_TRUE(rc::check(name, property));
+    const auto result = rc::detail::checkTestable(property, rc::detail::TestMetadata{name, name}, paramsWith(cases));
+    std::ostringstream message;
+    rc::detail::printResultMessage(result, message);
+    EXPECT_TRUE(result.is<rc::detail::SuccessResult>()) << message.str();
 }
 
 void requireEqual(const std::string& actual, const std::string& expected) {
