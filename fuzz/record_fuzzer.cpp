@@ -91,7 +91,7 @@ void checkParsing(Record& record, const std::string& text) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size > 0) {
-        const auto input = lv::fuzz::recordInput({data, data + size});
+        const auto input = lv::fuzz::recordInput(lv::fuzz::textOf(data, size));
         lv::fuzz::withPickedRecord(input, [&input](auto& record) { lv::fuzz::checkParsing(record, input.text); });
     }
     return 0;

@@ -117,7 +117,7 @@ void checkDocuments(Record& record, const Documents& documents) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size > 0) {
-        const auto input = lv::fuzz::recordInput({data, data + size});
+        const auto input = lv::fuzz::recordInput(lv::fuzz::textOf(data, size));
         const auto documents = lv::fuzz::documentsIn(input.text);
         lv::fuzz::withPickedRecord(input, [&documents](auto& record) { lv::fuzz::checkDocuments(record, documents); });
     }

@@ -97,7 +97,7 @@ void checkText(const TextInput& input) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size > 0) {
-        lv::fuzz::checkText(lv::fuzz::textInput({data, data + size}));
+        lv::fuzz::checkText(lv::fuzz::textInput(lv::fuzz::textOf(data, size)));
     }
     return 0;
 }

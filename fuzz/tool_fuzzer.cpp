@@ -139,6 +139,6 @@ private:
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const lv::fuzz::Folder folder;
-    lv::fuzz::Run(folder).check({data, data + size});
+    lv::fuzz::Run(folder).check(lv::fuzz::textOf(data, size));
     return 0;
 }

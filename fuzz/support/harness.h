@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
@@ -10,6 +11,13 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace lv::fuzz {
+
+/// The bytes of an input as the text that the library is handed.
+inline std::string textOf(const std::uint8_t* data, std::size_t size) {
+    std::string text(size, '\0');
+    std::transform(data, data + size, text.begin(), [](std::uint8_t byte) { return static_cast<char>(byte); });
+    return text;
+}
 
 /// A promise that the library did not keep. No harness catches it: libFuzzer sees the program end and keeps the input.
 class Find : public std::logic_error {
