@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <sstream>
+#include <string_view>
 
 namespace lv::test {
 namespace {
@@ -18,7 +19,7 @@ std::string escaped(char character) {
     if (code >= 0x20 && code != 0x7f) {
         return {character};
     }
-    constexpr const char* digits = "0123456789abcdef";
+    constexpr std::string_view digits = "0123456789abcdef";
     return {'\\', 'x', digits[code / 16], digits[code % 16]};
 }
 

@@ -1,4 +1,4 @@
-#include <tools/lvdata/limits.h>
+#include <tools/lvdata/Limits.h>
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 #include "OutputTest.h"
 
 #include <tests/support/repeated.h>
-#include <tools/lvdata/limits.h>
+#include <tools/lvdata/Limits.h>
 
 #include <fcntl.h>
 #include <sys/types.h>

@@ -2,7 +2,7 @@
 
 #include "Descriptor.h"
 #include "Failure.h"
-#include "limits.h"
+#include "Limits.h"
 #include "replace_file.h"
 
 #include <algorithm>

@@ -1,6 +1,8 @@
 #include "limit_options.h"
 
 #include <charconv>
+#include <cstddef>
+#include <iterator>
 #include <string>
 
 namespace tool {
@@ -12,7 +14,7 @@ constexpr std::size_t largest = 1'073'741'824;
 /// Decimal digits alone: hexadecimal and octal numbers, which would be converted, too, are refused.
 std::string complaintIfNoCount(const std::string& text) {
     std::size_t count = 0;
-    const char* const end = text.data() + text.size();
+    const char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));
     const auto [stop, error] = std::from_chars(text.data(), end, count);
     const bool isNumber = error == std::errc() && stop == end && (text.front() != '0' || text.size() == 1);
     return isNumber && count <= largest ? "" : "'" + text + "' is no number from 0 to " + std::to_string(largest);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "limits.h"
+#include "Limits.h"
 
 #include <CLI/CLI.hpp>
 

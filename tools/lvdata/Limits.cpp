@@ -1,4 +1,4 @@
-#include "limits.h"
+#include "Limits.h"
 
 #include <algorithm>
 #include <array>
