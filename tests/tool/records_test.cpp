@@ -1,5 +1,7 @@
 #include "ToolTest.h"
 
+#include <tests/support/repeated.h>
+
 #include <algorithm>
 #include <iterator>
 #include <sstream>
@@ -50,6 +52,12 @@ TEST_F(Records, OfALongNameTheMessageHasTheBeginning) {
     EXPECT_THAT(messageFor(hundred + 'b'), HasSubstr('\'' + hundred + "...',"));
     EXPECT_THAT(messageFor(std::string(98, 'a') + "\u20AC"), HasSubstr('\'' + std::string(98, 'a') + "...',"));
     EXPECT_LT(messageFor(std::string(1'000'000, 'a')).size(), 1'000);
+}
+
+TEST_F(Records, ALongNameOfBytesThatOnlyGoOnWithACharacterIsCutAllTheSame) {
+    const Outcome outcome = run({"format", "-"}, {'<' + std::string(200, '\x9C') + "/>"});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_THAT(outcome.error, HasSubstr('\'' + lv::test::repeated("\\x9C", 97) + "...', known"));
 }
 
 TEST_F(Records, ANameIsComparedExactly) {

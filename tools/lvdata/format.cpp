@@ -47,11 +47,12 @@ void parseDocument(lv::XMLDocument& document, const std::string& text, const std
 
 /// As much of a name as a message should hold: it can be as long as the document.
 std::string excerpt(const std::string& name) {
-    std::size_t length = 100;
-    if (name.size() <= length) {
+    constexpr std::size_t longest = 100;
+    if (name.size() <= longest) {
         return name;
     }
-    while ((static_cast<unsigned char>(name[length]) & 0xC0U) == 0x80U) {  // not amid a character of UTF-8
+    std::size_t length = longest;  // or up to 3 less, so that it does not end amid a character of UTF-8
+    while (length > longest - 3 && (static_cast<unsigned char>(name[length]) & 0xC0U) == 0x80U) {
         --length;
     }
     return name.substr(0, length) + "...";
