@@ -73,7 +73,8 @@ void checkArray(const TextInput& input, Read read) {
 }
 
 void checkArrays(const TextInput& input) {
-    const TextInput held{input.separator, input.text.c_str()};  // an element's text ends at the first NUL
+    const std::size_t end = input.text.find('\0');  // where an element's text ends
+    const TextInput held{input.separator, input.text.substr(0, end)};
     const TextInput atBars{"|", held.text};
     const XMLDocument document;
     const XMLElement root = document.appendChild("Root");

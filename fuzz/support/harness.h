@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 
@@ -15,7 +16,8 @@ namespace lv::fuzz {
 /// The bytes of an input as the text that the library is handed.
 inline std::string textOf(const std::uint8_t* data, std::size_t size) {
     std::string text(size, '\0');
-    std::transform(data, data + size, text.begin(), [](std::uint8_t byte) { return static_cast<char>(byte); });
+    std::transform(data, std::next(data, static_cast<std::ptrdiff_t>(size)), text.begin(),
+                   [](std::uint8_t byte) { return static_cast<char>(byte); });
     return text;
 }
 

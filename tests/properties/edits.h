@@ -21,7 +21,7 @@ std::ostream& operator<<(std::ostream& out, const Edit& edit);
 
 /// The document with elements removed, left without their neighbours, emptied, repeated, renamed, moved, with other
 /// texts and attributes, comments and CDATA sections. It stays well-formed, and its root keeps its name.
-[[nodiscard]] std::string edited(const std::string& document, const std::vector<Edit>& edits);
+[[nodiscard]] std::string edited(const std::string& document, const std::vector<Edit>& all);
 
 }  // namespace lv::test
 

@@ -28,7 +28,8 @@ std::string linesOnlyIn(const std::string& text, const std::string& other) {
 rc::detail::TestParams paramsWith(int cases) {
     rc::detail::Configuration configuration = rc::detail::configuration();
     configuration.testParams.maxSuccess = cases;
-    return rc::detail::configFromString(std::getenv("RC_PARAMS"), configuration).testParams;
+    const char* const set = std::getenv("RC_PARAMS");
+    return rc::detail::configFromString(set != nullptr ? set : "", configuration).testParams;
 }
 
 }  // namespace

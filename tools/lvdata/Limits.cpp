@@ -67,8 +67,8 @@ private:
     }
 
     bool takeMarkup() {
-        const auto passage = std::find_if(passages.begin(), passages.end(),
-                                          [this](const Passage& each) { return startsWith(rest_, each.start); });
+        const auto* const passage = std::find_if(passages.begin(), passages.end(),
+                                                 [this](const Passage& each) { return startsWith(rest_, each.start); });
         return passage == passages.end() ? takeTag() : takePassage(*passage);
     }
 
