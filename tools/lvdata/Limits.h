@@ -22,8 +22,8 @@ struct Excess {
     std::string reason;
 };
 
-/// Where a document goes beyond one of the limits but that of bytes for the first time. One pass over the
-/// text, which sees the same tags and texts as the XML library does, up to where that refuses the document.
+/// Where a document goes beyond one of the limits but that of bytes for the first time. One pass over the text, which
+/// sees the same tags and texts as the XML library does, up to where that refuses the document.
 [[nodiscard]] std::optional<Excess> findExcess(std::string_view text, const Limits& limits);
 
 /// The reason that names a limit and the option that changes it: "more than 100 attributes in one tag, ...".
