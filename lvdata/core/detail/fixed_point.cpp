@@ -1,16 +1,94 @@
 #include <lvdata/core/detail/fixed_point.h>
 
-namespace lv::detail {
+#include <algorithm>
+#include <cmath>
 
-// This file is compiled with -ffp-contract=off: fused into one operation, product and sum would be rounded only once.
-std::uint32_t scaledBits(double value, double factor) {
-    constexpr double bound = 9223372036854775808.0;  // 2^63
-    const double product = value * factor;
-    const double scaled = product + 0.5;
-    if (!(scaled > -bound && scaled < bound)) {  // a NaN is on neither side
+namespace lv::detail {
+namespace {
+
+// What a processor with IEEE 754 doubles gives for `value * factor + 0.5`, both operations rounded to nearest with ties
+// to even, is computed with integers here: processors with wider registers (x87), and those that fuse product and sum,
+// would round differently.
+
+constexpr int doubleBits = 53;
+
+/// mantissa * 2^exponent
+struct Magnitude {
+    std::uint64_t mantissa;
+    int exponent;
+};
+
+constexpr std::uint64_t lowBits(int count) {
+    return (std::uint64_t{1} << count) - 1;
+}
+
+/// The number of bits up to the highest that is set; the mantissa is not 0.
+int bitLength(std::uint64_t mantissa) {
+    return 64 - __builtin_clzll(mantissa);
+}
+
+/// Without the lowest bits, of which the lowest that is left stands for all: set when one of them was.
+std::uint64_t withStickyBit(std::uint64_t mantissa, int lost) {
+    return mantissa >> lost | ((mantissa & lowBits(lost)) != 0 ? 1U : 0U);
+}
+
+/// Rounded to the bits of a double.
+Magnitude rounded(const Magnitude& exact) {
+    const int lost = bitLength(exact.mantissa) - doubleBits;
+    if (lost <= 0) {
+        return exact;
+    }
+    const std::uint64_t half = std::uint64_t{1} << (lost - 1);
+    const std::uint64_t rest = exact.mantissa & lowBits(lost);
+    const std::uint64_t kept = exact.mantissa >> lost;
+    const bool up = rest > half || (rest == half && kept % 2 == 1);
+    return {kept + (up ? 1 : 0), exact.exponent + lost};
+}
+
+/// A value that is not 0, without its sign.
+Magnitude magnitudeOf(double value) {
+    int exponent = 0;
+    const double fraction = std::frexp(std::fabs(value), &exponent);  // from 0.5 to 1
+    return {static_cast<std::uint64_t>(std::ldexp(fraction, doubleBits)), exponent - doubleBits};
+}
+
+/// The product has up to 85 bits; those beyond 64 become a sticky bit.
+Magnitude product(const Magnitude& value, std::uint32_t factor) {
+    const std::uint64_t lower = (value.mantissa & lowBits(32)) * factor;
+    const std::uint64_t upper = (value.mantissa >> 32U) * factor + (lower >> 32U);
+    const int lost = upper == 0 ? 0 : std::max(bitLength(upper) - 32, 0);
+    const std::uint64_t low = withStickyBit(lower & lowBits(32), lost);
+    return rounded({upper << (32 - lost) | low, value.exponent + lost});
+}
+
+/// The whole part of the magnitude plus or minus one half, rounded before it is truncated. The exponent is from -63 to
+/// 10, so that everything fits into 64 bits.
+std::uint64_t wholePart(const Magnitude& magnitude, bool isNegative) {
+    const int exponent = std::min(magnitude.exponent, -1);
+    const std::uint64_t mantissa = magnitude.mantissa << (magnitude.exponent - exponent);
+    const std::uint64_t half = std::uint64_t{1} << (-1 - exponent);
+    if (isNegative && mantissa <= half) {
         return 0;
     }
-    return static_cast<std::uint32_t>(static_cast<std::int64_t>(scaled));
+    const Magnitude sum = rounded({isNegative ? mantissa - half : mantissa + half, exponent});
+    return sum.exponent < 0 ? sum.mantissa >> -sum.exponent : sum.mantissa << sum.exponent;
+}
+
+}  // namespace
+
+std::uint32_t scaledBits(double value, std::uint32_t factor) {
+    if (!std::isfinite(value) || value == 0.0) {
+        return 0;
+    }
+    const Magnitude scaled = product(magnitudeOf(value), factor);
+    constexpr int leastExponent = -63;  // below it the product is less than one half by far
+    constexpr int greatestExponent = 63 - doubleBits;
+    if (scaled.exponent < leastExponent || scaled.exponent > greatestExponent) {
+        return 0;
+    }
+    const std::uint64_t whole = wholePart(scaled, value < 0.0);
+    const auto bits = static_cast<std::uint32_t>(whole & lowBits(32));
+    return bitLength(whole | 1U) > 63 ? 0 : value < 0.0 ? 0U - bits : bits;
 }
 
 }  // namespace lv::detail

@@ -6,26 +6,27 @@
 namespace lv::detail {
 
 /// The low 32 bits of the 64-bit integer that `value * factor + 0.5` gives when it is truncated toward zero; 0 where it
-/// has no such integer (NaN, infinities, magnitudes of 2^63 and more). The product is rounded before the sum, so that
-/// every processor stores the same number.
-[[nodiscard]] std::uint32_t scaledBits(double value, double factor);
+/// has no such integer (NaN, infinities, magnitudes of 2^63 and more). The product and the sum are each rounded to a
+/// double, so that every processor stores the same number.
+[[nodiscard]] std::uint32_t scaledBits(double value, std::uint32_t factor);
 
 /// A double as the 32-bit fixed-point number that stands for it: the value times the factor, rounded by adding one half
 /// and truncating toward zero; beyond 32 bits it wraps.
 ///
 /// Unsigned numbers take a negative value as 0. Signed numbers have no such rule: with the factor 1000000, -0.3 gives
 /// -299999, since truncation is toward zero on either side. Defined for unsigned int and int.
+/// \param factor  a whole number below 2^32
 template <class Number>
 [[nodiscard]] Number to_fixed(double value, double factor);
 
 template <>
 [[nodiscard]] inline unsigned int to_fixed<unsigned int>(double value, double factor) {
-    return value < 0.0 ? 0U : scaledBits(value, factor);
+    return value < 0.0 ? 0U : scaledBits(value, static_cast<std::uint32_t>(factor));
 }
 
 template <>
 [[nodiscard]] inline int to_fixed<int>(double value, double factor) {
-    return static_cast<int>(scaledBits(value, factor));
+    return static_cast<int>(scaledBits(value, static_cast<std::uint32_t>(factor)));
 }
 
 /// The double that a fixed-point number stands for.

@@ -40,6 +40,47 @@ TEST(ToFixed, RoundsByAddingOneHalfAndTruncating) {
     EXPECT_EQ(signedOf(0.3, 1e6), 300000);
 }
 
+/// Halves that wider registers, or a product that is not rounded, get on the wrong side.
+TEST(ToFixed, ProductAndSumAreRoundedSeparatelyOnEveryProcessor) {
+    EXPECT_EQ(unsignedOf(0.015, 100.0), 2U);
+    EXPECT_EQ(unsignedOf(0.145, 100.0), 14U);
+    EXPECT_EQ(unsignedOf(0.285, 100.0), 28U);
+    EXPECT_EQ(unsignedOf(0.0000015, 1e6), 2U);
+    EXPECT_EQ(signedOf(-0.025, 100.0), -2);
+    EXPECT_EQ(unsignedOf(0x1.fffffffffffffp-2, 1.0), 1U) << "the sum is rounded, too";
+    EXPECT_EQ(unsignedOf(two52 + 1, 1.0), 2U) << "to even";
+    EXPECT_EQ(unsignedOf(two52 + 2, 1.0), 2U);
+    EXPECT_EQ(signedOf(-(two52 + 1), 1.0), -0) << "to even";
+}
+
+/// The next of a sequence of doubles that lie next to a half of a step, on either side. Made of integers, so that it is
+/// the same on every processor.
+double sample(std::uint64_t& state, std::uint32_t factor) {
+    state = state * 6364136223846793005U + 1442695040888963407U;  // Knuth's MMIX
+    const std::uint64_t halfSteps = 2 * (state >> (44 + state % 18)) + 1;
+    const std::uint64_t mantissa = (halfSteps << 42U) / (2 * std::uint64_t{factor}) + (state >> 43U) % 2;
+    const double value = std::ldexp(static_cast<double>(mantissa), -42);
+    return (state >> 42U) % 2 == 0 ? value : -value;
+}
+
+/// The same number on every processor: what x86-64 stores with SSE2, by its own multiplication and addition.
+TEST(ToFixed, StoresTheSameOnEveryProcessor) {
+    std::uint64_t state = 1;
+    std::uint64_t sum = 0;
+    for (int round = 0; round < 100000; ++round) {
+        for (const std::uint32_t factor : {100U, 255U, 10000U, 65535U, 1000000U, 16777215U, 1000000000U}) {
+            const double value = sample(state, factor);
+            const std::uint32_t stored = scaledBits(value, factor);
+#if defined(__SSE2__) && !defined(__FMA__)
+            const double product = value * factor;
+            ASSERT_EQ(stored, static_cast<std::uint32_t>(static_cast<std::int64_t>(product + 0.5))) << value;
+#endif
+            sum = sum * 31 + stored;
+        }
+    }
+    EXPECT_EQ(sum, 3839846106589336380U);
+}
+
 TEST(ToFixedUnsigned, NegativeValuesGiveZero) {
     for (const double value : {-0.2, -0.0000001, -1.0, -two32, -two63, -1e300, -DoubleLimits::denorm_min()}) {
         EXPECT_EQ(unsignedOf(value, 1e6), 0U) << value;
