@@ -36,12 +36,6 @@ function(lvdata_configure_target target)
     _lvdata_set_instrumentation(${target})
 endfunction()
 
-# Fixed-point conversion rounds the product before it adds: a processor's fused multiply-add would round once, and store
-# another integer than the next machine does.
-function(lvdata_round_every_operation target)
-    target_compile_options(${target} PRIVATE "$<${_lvdata_is_gnu_like}:-ffp-contract=off>")
-endfunction()
-
 include(CheckIPOSupported)
 check_ipo_supported(RESULT _lvdata_ipo_supported OUTPUT _lvdata_ipo_output LANGUAGES CXX)
 

@@ -4,6 +4,8 @@
 
 #include <lvdata/core/DataArrayObject.h>
 #include <lvdata/core/DataObject.h>
+#include <lvdata/core/ParseResult.h>
+#include <lvdata/core/ParsedDocument.h>
 #include <lvdata/core/PrimaryColours.h>
 #include <lvdata/core/colour.h>
 #include <lvdata/export.h>

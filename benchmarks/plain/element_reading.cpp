@@ -1,6 +1,5 @@
 #include <lvdata/xml/detail/element_reading.h>
-#include <lvdata/xml/detail/handle.h>
-#include <lvdata/xml/detail/number_text.h>
+#include <lvdata/xml/detail/number_parsing.h>
 
 #include <tinyxml2.h>
 
@@ -11,13 +10,11 @@ std::string textOrNothing(const char* text) {
     return text == nullptr ? std::string() : std::string(text);
 }
 
-std::string textOf(void* handle) {
-    const tinyxml2::XMLElement* const element = toElement(handle);
+std::string textOf(const tinyxml2::XMLElement* element) {
     return element == nullptr ? std::string() : textOrNothing(element->GetText());
 }
 
-std::string attributeOf(void* handle, const char* name) {
-    const tinyxml2::XMLElement* const element = toElement(handle);
+std::string attributeOf(const tinyxml2::XMLElement* element, const char* name) {
     return element == nullptr ? std::string() : textOrNothing(element->Attribute(name));
 }
 
@@ -29,78 +26,68 @@ bool convert(const std::string& text, Number& out) {
     return !text.empty();
 }
 
-template <class Number>
-bool convert(const std::string& text, std::vector<Number>& out, std::string_view separator) {
-    if (!text.empty()) {
-        parseNumbers(text, separator, out);
-    }
-    return !text.empty();
-}
-
-}  // namespace
-
-void* findChild(void* parent, const char* name) {
-    tinyxml2::XMLElement* const element = toElement(parent);
-    return element == nullptr ? nullptr : toHandle(element->FirstChildElement(name));
-}
-
-void* findNext(void* element, const char* name) {
-    return toHandle(toNode(element)->NextSiblingElement(name));
-}
-
-ChildFinder::ChildFinder(void* parent) : next_(parent) {}
-
-void* ChildFinder::find(const char* name) {
-    return findChild(next_, name);  // which stays the parent here
-}
-
-bool readText(void* element, std::string& out) {
-    const tinyxml2::XMLElement* const found = toElement(element);
-    if (found != nullptr && found->GetText() != nullptr) {
-        out = textOf(element);
-    }
-    return found != nullptr;
-}
-
-bool readText(void* element, int& out) {
-    return convert(textOf(element), out);
-}
-
-bool readText(void* element, unsigned int& out) {
-    return convert(textOf(element), out);
-}
-
-bool readText(void* element, bool& out) {
-    const std::string text = textOf(element);
+bool convert(const std::string& text, bool& out) {
     if (!text.empty()) {
         out = text == "true" || text == "TRUE";
     }
     return !text.empty();
 }
 
-bool readText(void* element, std::vector<int>& out, std::string_view separator) {
-    return convert(textOf(element), out, separator);
+}  // namespace
+
+bool isNamed(const tinyxml2::XMLElement* element, std::string_view name) {
+    return element != nullptr && element->Value() == std::string(name);
 }
 
-bool readText(void* element, std::vector<unsigned int>& out, std::string_view separator) {
-    return convert(textOf(element), out, separator);
+int lineOf(const tinyxml2::XMLElement* element) {
+    return element->GetLineNum();
 }
 
-bool readAttribute(void* element, const char* name, std::string& out) {
-    const tinyxml2::XMLElement* const found = toElement(element);
-    const bool exists = found != nullptr && found->FindAttribute(name) != nullptr;
+template <class T>
+bool readText(const tinyxml2::XMLElement* element, T& out) {
+    return convert(textOf(element), out);
+}
+
+template <>
+bool readText(const tinyxml2::XMLElement* element, std::string& out) {
+    if (element != nullptr && element->GetText() != nullptr) {
+        out = textOf(element);
+    }
+    return element != nullptr;
+}
+
+template bool readText(const tinyxml2::XMLElement* element, int& out);
+template bool readText(const tinyxml2::XMLElement* element, unsigned int& out);
+template bool readText(const tinyxml2::XMLElement* element, bool& out);
+
+template <class Number>
+bool readArray(const tinyxml2::XMLElement* element, std::vector<Number>& out, std::string_view separator) {
+    const std::string text = textOf(element);
+    if (!text.empty()) {
+        parseNumbers(text, separator, out);
+    }
+    return !text.empty();
+}
+
+template bool readArray(const tinyxml2::XMLElement* element, std::vector<int>& out, std::string_view separator);
+template bool readArray(const tinyxml2::XMLElement* element, std::vector<unsigned int>& out,
+                        std::string_view separator);
+
+template <class T>
+bool readAttribute(const tinyxml2::XMLElement* element, const char* name, T& out) {
+    return convert(attributeOf(element, name), out);
+}
+
+template <>
+bool readAttribute(const tinyxml2::XMLElement* element, const char* name, std::string& out) {
+    const bool exists = element != nullptr && element->FindAttribute(name) != nullptr;
     if (exists) {
         out = attributeOf(element, name);
     }
     return exists;
 }
 
-bool readAttribute(void* element, const char* name, int& out) {
-    return convert(attributeOf(element, name), out);
-}
-
-bool readAttribute(void* element, const char* name, unsigned int& out) {
-    return convert(attributeOf(element, name), out);
-}
+template bool readAttribute(const tinyxml2::XMLElement* element, const char* name, int& out);
+template bool readAttribute(const tinyxml2::XMLElement* element, const char* name, unsigned int& out);
 
 }  // namespace lv::detail

@@ -1,27 +1,13 @@
-#include <lvdata/core/DataObject.h>
-#include <lvdata/xml/detail/element_reading.h>
-#include <lvdata/xml/detail/element_writing.h>
+#include <benchmarks/pugixml/handle.h>
+
+#include <lvdata/core/detail/record.h>
 
 namespace lv {
 
 DataObject::~DataObject() = default;
 
 XMLElement DataObject::appendRootXMLElement(const std::string& name, XMLNode& parent) const {
-    return XMLElement(detail::appendChild(parent.get(), name.c_str()));
+    return detail::Writer(XMLElement(parent.get())).element(name.c_str()).xmlElement();
 }
-
-// By value are the published signatures.
-// NOLINTBEGIN(performance-unnecessary-value-param)
-XMLElement DataObject::appendVersionAttribute(XMLElement element) const {
-    detail::setAttribute(element.get(), "Version", version.value);
-    detail::setAttribute(element.get(), "MinorVersion", minorVersion.value);
-    return element;
-}
-
-void DataObject::parseVersionAttribute(XMLElement element) {
-    version.hasValue = detail::readAttribute(element.get(), "Version", version.value);
-    minorVersion.hasValue = detail::readAttribute(element.get(), "MinorVersion", minorVersion.value);
-}
-// NOLINTEND(performance-unnecessary-value-param)
 
 }  // namespace lv

@@ -1,28 +1,65 @@
 #include <benchmarks/pugixml/handle.h>
 
 #include <lvdata/xml/detail/element_reading.h>
+#include <lvdata/xml/detail/parsed_array.h>
 
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
-#include <cstring>
 
 namespace lv::detail {
 namespace {
+
+bool convert(std::string_view text, std::string& out) {
+    out = text;
+    return true;
+}
 
 template <class Number>
 bool convert(std::string_view text, Number& out) {
     return std::from_chars(text.data(), text.data() + text.size(), out).ec == std::errc();
 }
 
+bool convert(std::string_view text, bool& out) {
+    if (!text.empty()) {
+        out = text == "true" || text == "TRUE";
+    }
+    return !text.empty();
+}
+
+}  // namespace
+
+bool isNamed(const tinyxml2::XMLElement* element, std::string_view name) {
+    return name == pugixmlNode(element).name();
+}
+
+template <class T>
+bool readText(const tinyxml2::XMLElement* element, T& out) {
+    return convert(pugixmlNode(element).child_value(), out);
+}
+
+template <>
+bool readText(const tinyxml2::XMLElement* element, std::string& out) {
+    const char* const text = pugixmlNode(element).child_value();
+    if (*text != '\0') {
+        out = text;
+    }
+    return element != nullptr;
+}
+
+template bool readText(const tinyxml2::XMLElement* element, int& out);
+template bool readText(const tinyxml2::XMLElement* element, unsigned int& out);
+template bool readText(const tinyxml2::XMLElement* element, bool& out);
+
 template <class Number>
-bool convert(std::string_view text, std::vector<Number>& out, char separator) {
+bool readArray(const tinyxml2::XMLElement* element, std::vector<Number>& out, std::string_view separator) {
+    const std::string_view text = pugixmlNode(element).child_value();
     if (text.empty()) {
         return false;
     }
     const char* at = text.data();
     const char* const end = at + text.size();
-    out.resize(static_cast<std::size_t>(std::count(at, end, separator)) + 1);
+    out.resize(static_cast<std::size_t>(std::count(at, end, separator.front())) + 1);
     for (Number& number : out) {
         at = std::from_chars(at, end, number).ptr;
         at += at != end ? 1 : 0;
@@ -30,77 +67,26 @@ bool convert(std::string_view text, std::vector<Number>& out, char separator) {
     return true;
 }
 
-}  // namespace
+template bool readArray(const tinyxml2::XMLElement* element, std::vector<int>& out, std::string_view separator);
+template bool readArray(const tinyxml2::XMLElement* element, std::vector<unsigned int>& out,
+                        std::string_view separator);
 
-void* findChild(void* parent, const char* name) {
-    return toHandle(toNode(parent).child(name));
+template <class Number>
+bool readParsedArray(const tinyxml2::XMLElement* element, std::vector<Number>& out) {
+    return readArray(element, out, arraySeparator);
 }
 
-void* findNext(void* element, const char* name) {
-    return toHandle(toNode(element).next_sibling(name));
+template bool readParsedArray(const tinyxml2::XMLElement* element, std::vector<int>& out);
+template bool readParsedArray(const tinyxml2::XMLElement* element, std::vector<unsigned int>& out);
+
+template <class T>
+bool readAttribute(const tinyxml2::XMLElement* element, const char* name, T& out) {
+    const pugi::xml_attribute attribute = pugixmlNode(element).attribute(name);
+    return !attribute.empty() && convert(attribute.value(), out);
 }
 
-ChildFinder::ChildFinder(void* parent) : next_(toHandle(toNode(parent).first_child())) {}
-
-void* ChildFinder::find(const char* name) {
-    const pugi::xml_node next = toNode(next_);
-    for (pugi::xml_node child = next; !child.empty(); child = child.next_sibling()) {
-        if (std::strcmp(child.name(), name) == 0) {
-            if (child == next) {
-                next_ = toHandle(child.next_sibling());
-            }
-            return toHandle(child);
-        }
-    }
-    return nullptr;
-}
-
-bool readText(void* element, std::string& out) {
-    const char* const text = toNode(element).child_value();
-    if (*text != '\0') {
-        out = text;
-    }
-    return element != nullptr;
-}
-
-bool readText(void* element, int& out) {
-    return convert(toNode(element).child_value(), out);
-}
-
-bool readText(void* element, unsigned int& out) {
-    return convert(toNode(element).child_value(), out);
-}
-
-bool readText(void* element, bool& out) {
-    const std::string_view text = toNode(element).child_value();
-    if (!text.empty()) {
-        out = text == "true" || text == "TRUE";
-    }
-    return !text.empty();
-}
-
-bool readText(void* element, std::vector<int>& out, std::string_view separator) {
-    return convert(toNode(element).child_value(), out, separator.front());
-}
-
-bool readText(void* element, std::vector<unsigned int>& out, std::string_view separator) {
-    return convert(toNode(element).child_value(), out, separator.front());
-}
-
-bool readAttribute(void* element, const char* name, std::string& out) {
-    const pugi::xml_attribute attribute = toNode(element).attribute(name);
-    if (!attribute.empty()) {
-        out = attribute.value();
-    }
-    return !attribute.empty();
-}
-
-bool readAttribute(void* element, const char* name, int& out) {
-    return convert(toNode(element).attribute(name).value(), out);
-}
-
-bool readAttribute(void* element, const char* name, unsigned int& out) {
-    return convert(toNode(element).attribute(name).value(), out);
-}
+template bool readAttribute(const tinyxml2::XMLElement* element, const char* name, std::string& out);
+template bool readAttribute(const tinyxml2::XMLElement* element, const char* name, int& out);
+template bool readAttribute(const tinyxml2::XMLElement* element, const char* name, unsigned int& out);
 
 }  // namespace lv::detail

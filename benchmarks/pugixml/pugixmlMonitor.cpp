@@ -30,12 +30,12 @@ public:
         textSize_ = text.size();
         pugi::xml_document document;
         return document.load_buffer(text.data(), text.size(), parseOptions, pugi::encoding_utf8) &&
-               record_.parseXMLElement(lv::XMLElement(lv::detail::toHandle(document.document_element())));
+               record_.parseXMLElement(lv::detail::toElement(document.document_element()));
     }
 
     [[nodiscard]] std::string print() const override {
         pugi::xml_document document;
-        lv::XMLNode parent(lv::detail::toHandle(document));
+        lv::XMLNode parent(lv::detail::toElement(document));
         record_.appendXMLElement(parent);
         StringWriter writer(textSize_);
         document.save(writer, "", printOptions, pugi::encoding_utf8);

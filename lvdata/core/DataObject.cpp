@@ -1,27 +1,27 @@
 #include <lvdata/core/DataObject.h>
+#include <lvdata/core/ParsedDocument.h>
+#include <lvdata/core/detail/record.h>
 #include <lvdata/xml/XMLDocument.h>
-#include <lvdata/xml/detail/own_document.h>
+#include <lvdata/xml/detail/PrintedDocument.h>
 
 namespace lv {
 
 DataObject::~DataObject() = default;
 
 bool DataObject::parseXMLString(const std::string& text) {
-    XMLDocument document;
-    if (!document.parseXMLString(text)) {
-        return false;
-    }
-    const detail::SourceForRecord source(document.get(), text, this);
-    return parseXMLElement(document.rootElement());
+    return static_cast<bool>(parseXML(text));
+}
+
+ParseResult DataObject::parseXML(const std::string& text) {
+    return ParsedDocument(text).read(*this);
 }
 
 std::string DataObject::toXMLString(bool declaration, bool pretty) const {
-    XMLDocument document;
-    if (!pretty) {
-        detail::expectCompactText(document.get(), this);
-    }
-    appendXMLElement(document);
-    return document.toXMLString(declaration, pretty);
+    detail::PrintedDocument document(declaration, pretty);
+    const detail::Writer writer(document.output(), writeHLGSystemGamma);
+    detail::RecordParent parent(document.nodes(), *this, writer);
+    appendXMLElement(parent);
+    return document.text();
 }
 
 XMLElement DataObject::appendRootXMLElement(const std::string& name, XMLNode& parent) const {
@@ -34,14 +34,14 @@ XMLElement DataObject::appendRootXMLElement(const std::string& name, XMLNode& pa
 // Wrappers are handles: handing them over by value is how the published signatures take them.
 // NOLINTBEGIN(performance-unnecessary-value-param)
 XMLElement DataObject::appendVersionAttribute(XMLElement element) const {
-    element.setAttributeUInt("Version", version.value);
-    element.setAttributeUInt("MinorVersion", minorVersion.value);
+    detail::Writer io(element);
+    detail::visitVersion(io, *this);
     return element;
 }
 
 void DataObject::parseVersionAttribute(XMLElement element) {
-    element.getAttributeUInt("Version", version);
-    element.getAttributeUInt("MinorVersion", minorVersion);
+    detail::Reader io(element);
+    detail::visitVersion(io, *this);
 }
 // NOLINTEND(performance-unnecessary-value-param)
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <lvdata/core/ParseResult.h>
 #include <lvdata/export.h>
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/XMLNode.h>
@@ -8,10 +9,6 @@
 #include <string>
 
 namespace lv {
-
-namespace detail {
-class Writer;
-}
 
 /// The base of every record: turns the record into XML text and back, and holds what all records share.
 ///
@@ -30,18 +27,21 @@ public:
     /// replaces the member and sets its flag, what it lacks clears the flag and leaves the earlier value in place. A
     /// string whose element has no text keeps its value with the flag set; a number without text counts as missing.
     /// Each record states where it differs. Children that the record does not know are passed over.
-    [[nodiscard]] virtual bool parseXMLElement(XMLElement element) = 0;
+    virtual bool parseXMLElement(XMLElement element) = 0;
 
     /// Appends the record as a new last child of `parent`, a document or an element, and returns its root element. The
     /// record itself stays as it is. With a parent that takes no children nothing happens and the result is invalid.
     virtual XMLElement appendXMLElement(XMLNode& parent) const = 0;
 
-    /// Reads the record from a whole XML document in UTF-8. False, with the record unchanged, when the XML library
-    /// refuses the text or `parseXMLElement` refuses the document's first element. When memory runs out on the way
-    /// (`std::bad_alloc`), each value and each flag is as it was or as the document has it, and a list may end in a row
-    /// read in part; the record stays usable, and parsing once more reads it whole.
-    /// \param text  no string that the record itself holds: it would change while it is read
-    [[nodiscard]] bool parseXMLString(const std::string& text);
+    /// Reads the record from a whole XML document in UTF-8, which may be a string that the record itself holds. False,
+    /// with the record unchanged, when the XML library refuses the text or `parseXMLElement` refuses the document's
+    /// first element. When memory runs out on the way (`std::bad_alloc`), each value and each flag is as it was or as
+    /// the document has it, and a list may end in a row read in part; the record stays usable, and parsing once more
+    /// reads it whole.
+    bool parseXMLString(const std::string& text);
+
+    /// The same, with the reason and the line when the text is refused.
+    ParseResult parseXML(const std::string& text);
 
     /// The record as a whole XML document in UTF-8: behind an XML declaration when `declaration`, indented when
     /// `pretty`, otherwise compact. Changes nothing in the record, also when memory runs out (`std::bad_alloc`).

@@ -18,7 +18,7 @@ public:
 
     AssetInfo();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// The labels, elements "Asset1" to "Asset8".

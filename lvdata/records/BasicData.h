@@ -21,7 +21,7 @@ public:
 
     BasicData();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// How long the monitor had been in use, elements "UsageHours" and "UsageMinutes".

@@ -24,42 +24,42 @@ public:
         unsigned int index = 0;
 
         /// Element "Name", written when it is not empty.
-        std::string name;
+        std::string name{};
 
         /// Whether the element "EmulationLUT" was found; it is written when this is set.
         bool present = false;
     };
 
     /// The kind of colour mode, attribute "Type": written always, whatever text is held.
-    property<std::string> type;
+    property<std::string> type{};
 
     /// Which mode it is and when it was calibrated, elements "Index", "Name" and "CalibratedTime", written when set.
-    property<unsigned int> index;
-    property<std::string> name;
-    property<std::string> calibratedTime;
+    property<unsigned int> index{};
+    property<std::string> name{};
+    property<std::string> calibratedTime{};
 
     /// The circumstances of the run, element "BasicData".
-    BasicData basicData;
+    BasicData basicData{};
     bool hasBasicData = false;
 
     /// The measurements taken, element "MeasurementData".
-    MeasurementData measurementData;
+    MeasurementData measurementData{};
     bool hasMeasurementData = false;
 
     /// Whether the black measurement is valid, element "HasValidMeasuredBlackValue", written when set.
-    property<bool> hasValidMeasuredBlackValue;
+    property<bool> hasValidMeasuredBlackValue{};
 
     /// The monitor's adjustments, element "MonitorParameter".
-    MonitorParameter monitorParameter;
+    MonitorParameter monitorParameter{};
     bool hasMonitorParameter = false;
 
     /// What the profile was built from, element "ProfileData": written always. So a row that was read without it gains
     /// a default one in the next text.
-    ProfileData profileData;
+    ProfileData profileData{};
     bool hasProfileData = false;
 
     /// Element "EmulationLUT".
-    EmulationLUT emulationLUT;
+    EmulationLUT emulationLUT{};
 };
 
 using EmulationLUT = CalibrationModeResultObject::EmulationLUT;
@@ -73,7 +73,7 @@ public:
 
     CalibrationModeResult();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 };
 

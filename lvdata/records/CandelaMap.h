@@ -11,10 +11,10 @@ namespace lv {
 /// One map of luminance values over the screen.
 struct CandelaMapEntry {
     /// The values in stored order, element "Values"; grid and unit are the application's.
-    std::vector<unsigned int> values;
+    std::vector<unsigned int> values{};
 
     /// When the map was last updated, as any text, element "UpdatedAt".
-    std::string updatedAt;
+    std::string updatedAt{};
 
     /// Whether the map is present: the caller sets it for the map to be written. After parsing it tells whether
     /// `values` then holds any; an update time alone does not make a map.
@@ -32,7 +32,7 @@ public:
 
     CandelaMap();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// Element "Uniformity".

@@ -8,16 +8,16 @@ template <class Io, class Property>
 void visitTarget(const Io& io, Property& targetSetting) {
     auto target = io.element("Target");
     target.constant("Type", "Lumivale");
-    target.always().recordWithSwitch(targetSetting);
+    target.always().record(targetSetting);
 }
 
 constexpr auto visitRow = [](auto& io, auto& row) {
-    const std::string& type = row.type.value;
     io.attribute("Type", row.type);
+    const std::string& type = row.type.value;
     io.field("Index", row.index);
     io.field("Name", row.name);
     io.field("Availability", row.availability);
-    io.always().writeWhen(type == "Standard" || type == "SyncSignal").recordWithSwitch(row.parameterSetting);
+    io.always().writeWhen(type == "Standard" || type == "SyncSignal").record(row.parameterSetting);
     visitTarget(io.writeWhen(type == "Calibration"), row.targetSetting);
     io.always().record(row.profilePolicy);
     return true;
@@ -36,11 +36,7 @@ bool ColorModeSettings::parseXMLElement(XMLElement element) {
 }
 
 XMLElement ColorModeSettings::appendXMLElement(XMLNode& parent) const {
-    return appendWithSwitch(parent, writeHLGSystemGamma);
-}
-
-XMLElement ColorModeSettings::appendWithSwitch(XMLNode& parent, bool hlgSwitch) const {
-    return detail::appendRecord(*this, rootElementName, parent, hlgSwitch, visit);
+    return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
 }  // namespace lv

@@ -19,22 +19,22 @@ class ColorModeSettingsObject {
 public:
     /// The kind of mode, attribute "Type": written always. "Standard", "SyncSignal" and "Calibration" steer what is
     /// written; any other text is kept and written back.
-    property<std::string> type;
+    property<std::string> type{};
 
     /// Elements "Index", "Name" and "Availability", written when set.
-    property<unsigned int> index;
-    property<std::string> name;
-    property<unsigned int> availability;
+    property<unsigned int> index{};
+    property<std::string> name{};
+    property<unsigned int> availability{};
 
     /// Device parameters, element "ParameterSetting", written for "Standard" and "SyncSignal".
-    property<ParameterSetting> parameterSetting;
+    property<ParameterSetting> parameterSetting{};
 
     /// Calibration target, element "TargetSetting" inside an element "Target" whose attribute "Type" is "Lumivale";
     /// written for "Calibration".
-    property<TargetSetting> targetSetting;
+    property<TargetSetting> targetSetting{};
 
     /// Profile-making policy, element "ProfilePolicy", written always.
-    property<ProfilePolicy> profilePolicy;
+    property<ProfilePolicy> profilePolicy{};
 };
 
 /// A monitor's colour modes, one element "ColorMode" per mode in list order; every such element makes a row, however
@@ -46,12 +46,8 @@ public:
 
     ColorModeSettings();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
-
-private:
-    friend class detail::Writer;
-    XMLElement appendWithSwitch(XMLNode& parent, bool hlgSwitch) const;
 };
 
 }  // namespace lv

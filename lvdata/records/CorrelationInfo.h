@@ -18,7 +18,7 @@ public:
 
     CorrelationInfo();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// Identifier of the reference sensor, element "ReferenceSensorID".

@@ -1,6 +1,7 @@
 #include <lvdata/core/detail/colour_notation.h>
 #include <lvdata/core/detail/record.h>
 #include <lvdata/records/MeasurementData.h>
+#include <lvdata/records/MeasurementDataSecondary.h>
 
 namespace lv {
 namespace {
@@ -80,11 +81,11 @@ void MeasurementDataObject::PQR_x(const colour& measured) {
 MeasurementData::MeasurementData() : DataArrayObject(2, 0) {}
 
 bool MeasurementData::parseXMLElement(XMLElement element) {
-    return detail::parseRecord(*this, getRootElementName(), element, visit);
+    return detail::parseRecord(*this, getRootElementName().c_str(), element, visit);
 }
 
 XMLElement MeasurementData::appendXMLElement(XMLNode& parent) const {
-    return detail::appendRecord(*this, getRootElementName(), parent, visit);
+    return detail::appendRecord<MeasurementDataSecondary>(*this, getRootElementName().c_str(), parent, visit);
 }
 
 std::string MeasurementData::getRootElementName() const {

@@ -22,19 +22,19 @@ namespace lv {
 class LVDATA_EXPORT MeasurementDataObject {
 public:
     /// R, G, B: 3 code values 0 to 255, element "RGB".
-    std::vector<unsigned int> RGB;
+    std::vector<unsigned int> RGB{};
 
     /// C, M, Y, K: 4 percentages 0 to 100, element "CMYK".
-    std::vector<unsigned int> CMYK;
+    std::vector<unsigned int> CMYK{};
 
     /// CIE XYZ: 3 tristimulus values times 1000000, element "XYZ".
-    std::vector<int> XYZ;
+    std::vector<int> XYZ{};
 
     /// CIELAB: L*, a*, b* times 1000000, element "CIELAB".
-    std::vector<int> CIELAB;
+    std::vector<int> CIELAB{};
 
     /// P, Q, R: 3 values times 1000000, element "PQR".
-    std::vector<int> PQR;
+    std::vector<int> PQR{};
 
     /// Red, green and blue as fractions of 255; a negative value is stored as 0.
     [[nodiscard]] colour RGB_x() const;
@@ -68,7 +68,7 @@ public:
 
     MeasurementData();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// The name of the root element that this series is written under and accepts.

@@ -8,7 +8,7 @@ constexpr auto visit = [](auto& io, auto& self) {
     io.field("Name", self.name);
     io.field("Model", self.model);
     io.field("Serial", self.serial);
-    io.always().recordWithSwitch(self.colorModeSettings);
+    io.always().record(self.colorModeSettings);
     io.always().record(self.selfCalibrationSchedule);
     io.field("StandardModeCalibration", self.standardModeCalibration);
     io.field("KeyLock", self.keyLock);
@@ -23,11 +23,7 @@ bool MonitorConfiguration::parseXMLElement(XMLElement element) {
 }
 
 XMLElement MonitorConfiguration::appendXMLElement(XMLNode& parent) const {
-    return appendWithSwitch(parent, writeHLGSystemGamma);
-}
-
-XMLElement MonitorConfiguration::appendWithSwitch(XMLNode& parent, bool hlgSwitch) const {
-    return detail::appendRecord(*this, rootElementName, parent, hlgSwitch, visit);
+    return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
 }  // namespace lv

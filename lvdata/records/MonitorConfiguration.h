@@ -19,7 +19,7 @@ public:
 
     MonitorConfiguration();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// Elements "Name", "Model" and "Serial", written when set, also when empty.
@@ -35,10 +35,6 @@ public:
     /// Numbers of the application's, elements "StandardModeCalibration" and "KeyLock", written when set.
     property<unsigned int> standardModeCalibration;
     property<unsigned int> keyLock;
-
-private:
-    friend class detail::Writer;
-    XMLElement appendWithSwitch(XMLNode& parent, bool hlgSwitch) const;
 };
 
 }  // namespace lv

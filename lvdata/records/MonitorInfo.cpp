@@ -6,7 +6,7 @@ namespace {
 
 constexpr auto visit = [](auto& io, auto& self) {
     io.field("UUID", self.uuid);
-    io.always().recordWithSwitch(self.monitorConfiguration);
+    io.always().record(self.monitorConfiguration);
     io.always().record(self.calibrationModeResult);
     io.always().record(self.standardModeResult);
     io.always().record(self.assetInfo);

@@ -26,7 +26,7 @@ public:
 
     MonitorInfo();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// The monitor's identifier, any text, element "UUID", written when set.

@@ -34,7 +34,7 @@ public:
 
     MonitorParameter();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// Brightness and contrast in the monitor's own units, elements "Brightness" and "Contrast".

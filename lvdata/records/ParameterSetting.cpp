@@ -8,8 +8,8 @@ namespace {
 constexpr double gammaFactor = 100.0;
 
 constexpr auto visitBrightness = [](auto& io, auto& brightness) {
-    const std::string& type = brightness.type;
     io.attribute("Type", brightness.type);
+    const std::string& type = brightness.type;
     io.readWhen(type != "SyncSignal")
         .writeWhen(type == "Candela" || type == "Percent")
         .value("Value", brightness.value);
@@ -17,16 +17,16 @@ constexpr auto visitBrightness = [](auto& io, auto& brightness) {
 };
 
 constexpr auto visitWhitePoint = [](auto& io, auto& whitePoint) {
-    const std::string& type = whitePoint.type;
     io.attribute("Type", whitePoint.type);
+    const std::string& type = whitePoint.type;
     io.writeWhen(type == "Temperature").value("Temperature", whitePoint.temperature);
     io.writeWhen(type == "Fixed").value("Fixed", whitePoint.fixed);
     return io.exists();
 };
 
 constexpr auto visitGamma = [](auto& io, auto& gamma) {
-    const std::string& type = gamma.type;
     io.attribute("Type", gamma.type);
+    const std::string& type = gamma.type;
     auto values = io.readWhen(type != "SyncSignal");
     values.writeWhen(type == "Value").value("Value", gamma.value);
     auto fixed = values.writeWhen(type == "Fixed");
@@ -38,8 +38,8 @@ constexpr auto visitGamma = [](auto& io, auto& gamma) {
 };
 
 constexpr auto visitGamut = [](auto& io, auto& gamut) {
-    const std::string& type = gamut.type;
     io.attribute("Type", gamut.type);
+    const std::string& type = gamut.type;
     io.readWhen(type != "SyncSignal").writeWhen(type == "Fixed").value("Fixed", gamut.fixed);
     io.value("Clipping", gamut.clipping);
     return io.exists();
@@ -78,11 +78,7 @@ bool ParameterSetting::parseXMLElement(XMLElement element) {
 }
 
 XMLElement ParameterSetting::appendXMLElement(XMLNode& parent) const {
-    return appendWithSwitch(parent, writeHLGSystemGamma);
-}
-
-XMLElement ParameterSetting::appendWithSwitch(XMLNode& parent, bool hlgSwitch) const {
-    return detail::appendRecord(*this, rootElementName, parent, hlgSwitch, visit);
+    return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
 }  // namespace lv

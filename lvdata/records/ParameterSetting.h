@@ -22,7 +22,7 @@ public:
 
     struct brightness_t {
         /// Attribute "Type": "Candela", "Percent" or "SyncSignal".
-        std::string type;
+        std::string type{};
 
         /// The brightness in the unit that the type names. Element "Value", written for "Candela" and "Percent".
         unsigned int value = 0;
@@ -30,28 +30,28 @@ public:
 
     struct white_point_t {
         /// Attribute "Type": "Temperature" or "Fixed".
-        std::string type;
+        std::string type{};
 
         /// The colour temperature. Element "Temperature", written for that type.
         unsigned int temperature = 0;
 
         /// The name of a standard white point. Element "Fixed", written for that type.
-        std::string fixed;
+        std::string fixed{};
     };
 
     struct LVDATA_EXPORT gamma_t {
         /// Attribute "Type": "Value", "Fixed" or "SyncSignal".
-        std::string type;
+        std::string type{};
 
         /// Gamma times 100. Element "Value", written for that type.
         unsigned int value = 0;
 
         /// The name of a standard curve; "PQ" and "HLG" (ITU-R BT.2100) are the two that carry clipping. Element
         /// "Fixed", written for that type.
-        std::string fixed;
+        std::string fixed{};
 
         /// Clipping of a PQ or HLG curve. Element "PQHLGClipping", written for the type "Fixed" with one of the two.
-        std::string pqhlgClipping;
+        std::string pqhlgClipping{};
 
         /// System gamma of HLG times 100. Element "HLGSystemGamma", written for every type when the record that is
         /// printed has `writeHLGSystemGamma` set.
@@ -68,10 +68,10 @@ public:
 
     struct gamut_t {
         /// Attribute "Type": "Fixed" or "SyncSignal".
-        std::string type;
+        std::string type{};
 
         /// The name of a standard gamut. Element "Fixed", written for that type.
-        std::string fixed;
+        std::string fixed{};
 
         /// Gamut clipping. Element "Clipping", read and written for every type.
         unsigned int clipping = 0;
@@ -79,7 +79,7 @@ public:
 
     ParameterSetting();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// Element "Brightness".
@@ -96,10 +96,6 @@ public:
 
     /// Element "Limited109Setting", written when set.
     property<unsigned int> limited109Setting;
-
-private:
-    friend class detail::Writer;
-    XMLElement appendWithSwitch(XMLNode& parent, bool hlgSwitch) const;
 };
 
 }  // namespace lv

@@ -121,12 +121,12 @@ XMLElement ProfileData::appendXMLElement(XMLNode& parent) const {
 
 XMLElement ProfileData::parseTargetCurve(const std::string& name, XMLElement& element,
                                          property<target_curve>& curve) const {
-    return visitCurve(detail::Reader(element.get()), name.c_str(), curve);
+    return visitCurve(detail::Reader(element), name.c_str(), curve);
 }
 
 XMLElement ProfileData::appendTargetCurve(const std::string& name, XMLElement& element,
                                           const property<target_curve>& curve) const {
-    return visitCurve(detail::Writer(element.get()), name.c_str(), curve);
+    return visitCurve(detail::Writer(element), name.c_str(), curve);
 }
 
 PrimaryColours ProfileData::measuredXYZ_x() const {

@@ -22,24 +22,24 @@ public:
 
     /// Measured CIE XYZ of five colours: three entries X, Y, Z each, times 1000000.
     struct xyz_set_t {
-        std::vector<unsigned int> red;
-        std::vector<unsigned int> green;
-        std::vector<unsigned int> blue;
-        std::vector<unsigned int> white;
-        std::vector<unsigned int> black;
+        std::vector<unsigned int> red{};
+        std::vector<unsigned int> green{};
+        std::vector<unsigned int> blue{};
+        std::vector<unsigned int> white{};
+        std::vector<unsigned int> black{};
     };
 
     /// The tone curve that one channel is to have.
     struct LVDATA_EXPORT target_curve {
         /// The attribute "Type": "Formula", "Lut" or "LStar" (the lightness curve of CIE 15). A curve of another type
         /// is written as an empty element without the attribute.
-        std::string type;
+        std::string type{};
 
         /// For "Formula", the element's text: the curve's parameter times 1000000.
         unsigned int formula = 0;
 
         /// For "Lut", the element's text: any number of entries, each times 1000000.
-        std::vector<unsigned int> lut;
+        std::vector<unsigned int> lut{};
 
         /// The parameter and the table as fractions. The setters change nothing but their own member; neither the type
         /// nor any flag.
@@ -51,7 +51,7 @@ public:
 
     ProfileData();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// Free text, element "Description", written when set.

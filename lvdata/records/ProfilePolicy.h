@@ -17,7 +17,7 @@ public:
 
     ProfilePolicy();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// The update rule: attribute "Type" of the element "UpdateRule", which is written only when this is set.

@@ -36,7 +36,7 @@ public:
 
     SelfCalibrationSchedule();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// The kind, attribute "Type" of the element "Type". Kinds outside the table are kept and written back.

@@ -19,7 +19,7 @@ public:
 
     StandardModeResult();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// The first series of measurements, element "MeasurementData".

@@ -130,45 +130,41 @@ bool TargetSetting::parseXMLElement(XMLElement element) {
 }
 
 XMLElement TargetSetting::appendXMLElement(XMLNode& parent) const {
-    return appendWithSwitch(parent, writeHLGSystemGamma);
-}
-
-XMLElement TargetSetting::appendWithSwitch(XMLNode& parent, bool hlgSwitch) const {
-    return detail::appendRecord(*this, rootElementName, parent, hlgSwitch, visit);
+    return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
 XMLElement TargetSetting::parseGammaElement(XMLElement& parent, const std::string& name,
                                             gamma_t::gamma_color& color) const {
-    return visitGammaColor(detail::Reader(parent.get()), name.c_str(), color).xmlElement();
+    return visitGammaColor(detail::Reader(parent), name.c_str(), color).xmlElement();
 }
 
 XMLElement TargetSetting::appendGammaElement(XMLElement& parent, const std::string& name,
                                              const gamma_t::gamma_color& color) const {
-    return visitGammaColor(detail::Writer(parent.get()), name.c_str(), color).xmlElement();
+    return visitGammaColor(detail::Writer(parent), name.c_str(), color).xmlElement();
 }
 
 XMLElement TargetSetting::parseGamutCoordinateElement(XMLElement& parent, const std::string& name,
                                                       gamut_t::coordinate& coordinate) const {
-    return visitPrimary(detail::Reader(parent.get()), name.c_str(), coordinate).xmlElement();
+    return visitPrimary(detail::Reader(parent), name.c_str(), coordinate).xmlElement();
 }
 
 XMLElement TargetSetting::appendGamutCoordinateElement(XMLElement& parent, const std::string& name,
                                                        const gamut_t::coordinate& coordinate) const {
-    return visitPrimary(detail::Writer(parent.get()), name.c_str(), coordinate).xmlElement();
+    return visitPrimary(detail::Writer(parent), name.c_str(), coordinate).xmlElement();
 }
 
 XMLElement TargetSetting::parseAdvancedSettingsElement(XMLElement& parent, advanced_settings_t& settings) const {
-    return visitAdvancedSettings(detail::Reader(parent.get()), settings).xmlElement();
+    return visitAdvancedSettings(detail::Reader(parent), settings).xmlElement();
 }
 
 XMLElement TargetSetting::appendAdvancedSettingElement(XMLElement& parent, const advanced_settings_t& settings) const {
-    return visitAdvancedSettings(detail::Writer(parent.get()), settings).xmlElement();
+    return visitAdvancedSettings(detail::Writer(parent), settings).xmlElement();
 }
 
 XMLElement TargetSetting::parseAdvancedSettingsSixColorsElement(
     XMLElement& sixColors, const std::string& name,
     property<advanced_settings_t::advanced_settings_six_colors_t>& target) const {
-    detail::Reader io = detail::Reader(sixColors.get()).element(name.c_str());
+    detail::Reader io = detail::Reader(sixColors).element(name.c_str());
     io.group(target, visitSixColors);
     return io.xmlElement();
 }
@@ -176,7 +172,7 @@ XMLElement TargetSetting::parseAdvancedSettingsSixColorsElement(
 XMLElement TargetSetting::appendAdvancedSettingSixColorElement(
     XMLElement& sixColors, const std::string& name,
     const advanced_settings_t::advanced_settings_six_colors_t& values) const {
-    detail::Writer io = detail::Writer(sixColors.get()).element(name.c_str());
+    detail::Writer io = detail::Writer(sixColors).element(name.c_str());
     visitSixColors(io, values);
     return io.xmlElement();
 }

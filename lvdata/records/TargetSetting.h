@@ -31,20 +31,20 @@ public:
 
     /// A level: attribute "Type", and the element "Value", written for the type "Value".
     struct level_t {
-        std::string type;
+        std::string type{};
         unsigned int value = 0;
     };
 
     /// A standard by its name: attribute "Type", and the element "Standard", written for the type "Standard".
     struct standard_t {
-        std::string type;
-        std::string standard;
+        std::string type{};
+        std::string standard{};
     };
 
     /// A white point by its temperature or its chromaticity.
     struct LVDATA_EXPORT white_point_t {
         /// Attribute "Type": "Temperature" or "Coordinate".
-        std::string type;
+        std::string type{};
 
         /// Colour temperature, element "Temperature", written for that type.
         unsigned int temperature = 0;
@@ -63,16 +63,16 @@ public:
         /// One channel's curve: attribute "Type", and one child of that name when the type has one.
         struct LVDATA_EXPORT gamma_color {
             /// "Formula", "Lut" or "Lut24"; "PQ", "HLG" (ITU-R BT.2100) and any other text have no child.
-            std::string type;
+            std::string type{};
 
             /// Gamma times 100, element "Formula".
             unsigned int formula = 0;
 
             /// Curve values of 16 bits, full scale 65535, element "Lut"; any number of them.
-            std::vector<unsigned int> lut;
+            std::vector<unsigned int> lut{};
 
             /// Curve values of 24 bits, full scale 16777215, element "Lut24"; any number of them.
-            std::vector<unsigned int> lut24;
+            std::vector<unsigned int> lut24{};
 
             /// Gamma as a fraction.
             [[nodiscard]] double formula_x() const;
@@ -92,26 +92,26 @@ public:
         /// The file that a curve was imported from.
         struct LVDATA_EXPORT imported_lut_file {
             /// Element "FileName".
-            std::string fileName;
+            std::string fileName{};
 
             [[nodiscard]] std::string fileName_x() const;
             void fileName_x(const std::string& name);
         };
 
         /// Elements "Red", "Green" and "Blue".
-        gamma_color red;
-        gamma_color green;
-        gamma_color blue;
+        gamma_color red{};
+        gamma_color green{};
+        gamma_color blue{};
 
         /// Clipping of PQ and HLG, element "PQHLGClipping", written when the red curve is "PQ" or "HLG".
-        std::string pqhlgClipping;
+        std::string pqhlgClipping{};
 
         /// System gamma of HLG times 100, element "HLGSystemGamma", written when the record that is printed has
         /// `writeHLGSystemGamma` set; always read.
         unsigned int hlgSystemGamma = 0;
 
         /// Element "ImportedLutFile", written when it has a name and the red curve is "Lut" or "Lut24".
-        imported_lut_file importedLutFile;
+        imported_lut_file importedLutFile{};
 
         /// The system gamma as a fraction.
         [[nodiscard]] double hlgSystemGamma_x() const;
@@ -127,12 +127,12 @@ public:
         };
 
         /// Elements "Red", "Green" and "Blue", written when the gamut is not native.
-        coordinate red;
-        coordinate green;
-        coordinate blue;
+        coordinate red{};
+        coordinate green{};
+        coordinate blue{};
 
         /// Element "ProfileName", written when it is not empty.
-        std::string profileName;
+        std::string profileName{};
 
         /// Element "Value" inside "GamutClipping", written always.
         unsigned int gamutClipping = 0;
@@ -171,22 +171,22 @@ public:
         };
 
         /// Shifts of all colours, elements "hue" and "saturation".
-        property<int> hue;
-        property<int> saturation;
+        property<int> hue{};
+        property<int> saturation{};
 
         /// Element "blackLevel"; set when at least one of its three children was found.
-        property<black_level_t> blackLevel;
+        property<black_level_t> blackLevel{};
 
         /// Elements "hue", "saturation" and "lightness" inside "sixColors"; each is set when at least one of its six
         /// children was found, and written with all six.
-        property<advanced_settings_six_colors_t> sixColorsHue;
-        property<advanced_settings_six_colors_t> sixColorsSaturation;
-        property<advanced_settings_six_colors_t> sixColorsLightness;
+        property<advanced_settings_six_colors_t> sixColorsHue{};
+        property<advanced_settings_six_colors_t> sixColorsSaturation{};
+        property<advanced_settings_six_colors_t> sixColorsLightness{};
     };
 
     TargetSetting();
 
-    [[nodiscard]] bool parseXMLElement(XMLElement element) override;
+    bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
     /// Elements "LumivaleVersion" and "FineContrast".
@@ -242,10 +242,6 @@ public:
     appendAdvancedSettingSixColorElement(XMLElement& sixColors, const std::string& name,
                                          const advanced_settings_t::advanced_settings_six_colors_t& values) const;
     /// @}
-
-private:
-    friend class detail::Writer;
-    XMLElement appendWithSwitch(XMLNode& parent, bool hlgSwitch) const;
 };
 
 }  // namespace lv

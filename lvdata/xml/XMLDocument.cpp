@@ -1,11 +1,10 @@
 #include <lvdata/xml/XMLDocument.h>
 #include <lvdata/xml/detail/Printer.h>
+#include <lvdata/xml/detail/element_writing.h>
 #include <lvdata/xml/detail/handle.h>
-#include <lvdata/xml/detail/own_document.h>
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 
 #include <tinyxml2.h>
 
@@ -28,16 +27,16 @@ std::string errorWords(std::string_view identifier) {
 
 }  // namespace
 
-XMLDocument::XMLDocument() : XMLNode(detail::toHandle(detail::makeDocument())), owned_(get()) {}
+XMLDocument::XMLDocument() : XMLNode(detail::toHandle(new tinyxml2::XMLDocument)), owned_(get()) {}
 
 XMLDocument::XMLDocument(void* document) : XMLNode(document) {}
 
 XMLDocument::~XMLDocument() {
-    delete detail::toDocument(owned_);
+    delete detail::toDocument(XMLNode(owned_));
 }
 
 bool XMLDocument::parseXMLString(const std::string& text) {
-    tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    tinyxml2::XMLDocument* const document = detail::toDocument(*this);
     if (document == nullptr || document->Parse(text.c_str(), text.size()) != tinyxml2::XML_SUCCESS) {
         return false;
     }
@@ -46,39 +45,37 @@ bool XMLDocument::parseXMLString(const std::string& text) {
 }
 
 std::string XMLDocument::parseErrorText() const {
-    const tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    const tinyxml2::XMLDocument* const document = detail::toDocument(*this);
     const bool failed = document != nullptr && document->Error();
     return failed ? errorWords(document->ErrorName()) : std::string();
 }
 
 int XMLDocument::parseErrorLine() const {
-    const tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    const tinyxml2::XMLDocument* const document = detail::toDocument(*this);
     return document == nullptr ? 0 : document->ErrorLineNum();
 }
 
 std::string XMLDocument::toXMLString(bool declaration, bool pretty) const {
-    const tinyxml2::XMLDocument* const document = detail::toDocument(get());
+    const tinyxml2::XMLDocument* const document = detail::toDocument(*this);
     if (document == nullptr) {
         return {};
     }
-    detail::placePieces(get());
     detail::Printer printer(!pretty);
     if (declaration) {
-        printer.PushDeclaration(R"(xml version="1.0" encoding="UTF-8" standalone="no")");
+        printer.addDeclaration();
     }
     document->Accept(&printer);
-    return std::move(printer).text();
+    return printer.text();
 }
 
 XMLElement XMLDocument::rootElement() const {
-    tinyxml2::XMLDocument* const document = detail::toDocument(get());
-    return document == nullptr ? XMLElement() : XMLElement(detail::toHandle(document->FirstChildElement()));
+    tinyxml2::XMLDocument* const document = detail::toDocument(*this);
+    return document == nullptr ? nullptr : detail::toHandle(document->FirstChildElement());
 }
 
 XMLElement XMLDocument::appendChild(const std::string& name) const {
-    tinyxml2::XMLDocument* const document = detail::toDocument(get());
-    return document == nullptr ? XMLElement()
-                               : XMLElement(detail::toHandle(detail::appendElement(*document, name.c_str())));
+    tinyxml2::XMLDocument* const document = detail::toDocument(*this);
+    return document == nullptr ? nullptr : detail::toHandle(detail::appendElement(*document, name.c_str()));
 }
 
 }  // namespace lv

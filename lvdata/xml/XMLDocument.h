@@ -20,7 +20,7 @@ public:
 
     /// Borrows a document of the XML library, handed over as an untyped handle. A handle that is null or points at
     /// another kind of node holds no document: nothing can be parsed into it, printed from it or appended to it.
-    explicit XMLDocument(void* document);
+    XMLDocument(void* document);  // NOLINT(google-explicit-constructor)
 
     ~XMLDocument() override;
     XMLDocument(const XMLDocument&) = delete;
@@ -32,7 +32,7 @@ public:
     /// dangle. True when the XML library accepts the text, which it does with a little more than well-formed documents
     /// (several elements at document level, unknown entities); otherwise, or when there is no document, false, and the
     /// document is then empty. The text ends at its first NUL, if it holds one. A byte order mark is passed over.
-    [[nodiscard]] bool parseXMLString(const std::string& text);
+    bool parseXMLString(const std::string& text);
 
     /// The reason why the last `parseXMLString` failed, in a few words ("mismatched element"), and the line of the text
     /// where the XML library noticed, counted from 1; 0 for a text without anything. After a success: an empty string

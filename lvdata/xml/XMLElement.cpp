@@ -1,4 +1,5 @@
 #include <lvdata/xml/XMLElement.h>
+#include <lvdata/xml/detail/ChildFinder.h>
 #include <lvdata/xml/detail/element_reading.h>
 #include <lvdata/xml/detail/element_writing.h>
 #include <lvdata/xml/detail/handle.h>
@@ -13,6 +14,21 @@ XMLElement foundOrInvalid(const XMLElement& element, bool found) {
     return found ? element : XMLElement();
 }
 
+template <class T>
+XMLElement readText(const XMLElement& element, T& out) {
+    return foundOrInvalid(element, detail::readText(detail::toElement(element), out));
+}
+
+template <class Number>
+XMLElement readArray(const XMLElement& element, std::vector<Number>& out, std::string_view separator) {
+    return foundOrInvalid(element, detail::readArray(detail::toElement(element), out, separator));
+}
+
+template <class T>
+XMLElement readAttribute(const XMLElement& element, const std::string& name, T& out) {
+    return foundOrInvalid(element, detail::readAttribute(detail::toElement(element), name.c_str(), out));
+}
+
 /// Sets the flag to whether the getter found its element, and hands that on.
 template <class T>
 XMLElement flagged(property<T>& out, const XMLElement& found) {
@@ -20,12 +36,27 @@ XMLElement flagged(property<T>& out, const XMLElement& found) {
     return found;
 }
 
+XMLElement setAttribute(const XMLElement& element, const std::string& name, const std::string& value) {
+    if (tinyxml2::XMLElement* const node = detail::toElement(element)) {
+        detail::setAttribute(*node, name.c_str(), value);
+    }
+    return element;
+}
+
+XMLElement appendText(const XMLElement& parent, const std::string& name, const std::string& text) {
+    const XMLElement child = parent.appendChild(name);
+    if (tinyxml2::XMLElement* const node = detail::toElement(child)) {
+        detail::appendText(*node, text);
+    }
+    return child;
+}
+
 /// Appends a property: its value when set, else an empty element or nothing.
 template <class T>
 XMLElement appendOptional(const XMLElement& parent, const std::string& name, const property<T>& value,
                           bool writeEmpty) {
     if (value.hasValue) {
-        return XMLElement(detail::appendChild(parent.get(), name.c_str(), value.value));
+        return appendText(parent, name, detail::valueText(value.value));
     }
     return writeEmpty ? parent.appendChild(name) : XMLElement();
 }
@@ -33,52 +64,50 @@ XMLElement appendOptional(const XMLElement& parent, const std::string& name, con
 template <class Number>
 XMLElement appendOptional(const XMLElement& parent, const std::string& name,
                           const property<std::vector<Number>>& values, const std::string& separator) {
-    return XMLElement(values.hasValue ? detail::appendChild(parent.get(), name.c_str(), values.value, separator)
-                                      : nullptr);
+    return values.hasValue ? appendText(parent, name, detail::joinNumbers(values.value, separator)) : XMLElement();
 }
 
 }  // namespace
 
 std::string XMLElement::elementName() const {
-    const tinyxml2::XMLElement* const element = detail::toElement(get());
+    const tinyxml2::XMLElement* const element = detail::toElement(*this);
     return element == nullptr ? std::string() : std::string(element->Value());
 }
 
 XMLElement XMLElement::getElement(const std::string& name) const {
-    return XMLElement(detail::findChild(get(), name.c_str()));
+    return detail::toHandle(detail::findChild(detail::toElement(*this), name.c_str()));
 }
 
 std::vector<XMLElement> XMLElement::getElements(const std::string& name) const {
     std::vector<XMLElement> elements;
-    for (void* child = detail::findChild(get(), name.c_str()); child != nullptr;
-         child = detail::findNext(child, name.c_str())) {
-        elements.emplace_back(child);
+    for (tinyxml2::XMLElement* const child : detail::findChildren(detail::toElement(*this), name.c_str())) {
+        elements.emplace_back(detail::toHandle(child));
     }
     return elements;
 }
 
 XMLElement XMLElement::getStringValue(std::string& out) const {
-    return foundOrInvalid(*this, detail::readText(get(), out));
+    return readText(*this, out);
 }
 
 XMLElement XMLElement::getIntValue(int& out) const {
-    return foundOrInvalid(*this, detail::readText(get(), out));
+    return readText(*this, out);
 }
 
 XMLElement XMLElement::getUIntValue(unsigned int& out) const {
-    return foundOrInvalid(*this, detail::readText(get(), out));
+    return readText(*this, out);
 }
 
 XMLElement XMLElement::getBoolValue(bool& out) const {
-    return foundOrInvalid(*this, detail::readText(get(), out));
+    return readText(*this, out);
 }
 
 XMLElement XMLElement::getIntArray(std::vector<int>& out, const std::string& separator) const {
-    return foundOrInvalid(*this, detail::readText(get(), out, separator));
+    return readArray(*this, out, separator);
 }
 
 XMLElement XMLElement::getUIntArray(std::vector<unsigned int>& out, const std::string& separator) const {
-    return foundOrInvalid(*this, detail::readText(get(), out, separator));
+    return readArray(*this, out, separator);
 }
 
 XMLElement XMLElement::getStringValue(const std::string& name, std::string& out) const {
@@ -99,12 +128,12 @@ XMLElement XMLElement::getBoolValue(const std::string& name, bool& out) const {
 
 XMLElement XMLElement::getIntArray(const std::string& name, std::vector<int>& out,
                                    const std::string& /*separator*/) const {
-    return getElement(name).getIntArray(out, detail::arraySeparator);
+    return readArray(getElement(name), out, detail::arraySeparator);
 }
 
 XMLElement XMLElement::getUIntArray(const std::string& name, std::vector<unsigned int>& out,
                                     const std::string& /*separator*/) const {
-    return getElement(name).getUIntArray(out, detail::arraySeparator);
+    return readArray(getElement(name), out, detail::arraySeparator);
 }
 
 XMLElement XMLElement::getStringValue(property<std::string>& out) const {
@@ -124,11 +153,11 @@ XMLElement XMLElement::getBoolValue(property<bool>& out) const {
 }
 
 XMLElement XMLElement::getIntArray(property<std::vector<int>>& out, const std::string& /*separator*/) const {
-    return flagged(out, getIntArray(out.value, detail::arraySeparator));
+    return flagged(out, readArray(*this, out.value, detail::arraySeparator));
 }
 
 XMLElement XMLElement::getUIntArray(property<std::vector<unsigned int>>& out, const std::string& /*separator*/) const {
-    return flagged(out, getUIntArray(out.value, detail::arraySeparator));
+    return flagged(out, readArray(*this, out.value, detail::arraySeparator));
 }
 
 XMLElement XMLElement::getStringValue(const std::string& name, property<std::string>& out) const {
@@ -158,15 +187,15 @@ XMLElement XMLElement::getUIntArray(const std::string& name, property<std::vecto
 }
 
 XMLElement XMLElement::getAttributeString(const std::string& name, std::string& out) const {
-    return foundOrInvalid(*this, detail::readAttribute(get(), name.c_str(), out));
+    return readAttribute(*this, name, out);
 }
 
 XMLElement XMLElement::getAttributeInt(const std::string& name, int& out) const {
-    return foundOrInvalid(*this, detail::readAttribute(get(), name.c_str(), out));
+    return readAttribute(*this, name, out);
 }
 
 XMLElement XMLElement::getAttributeUInt(const std::string& name, unsigned int& out) const {
-    return foundOrInvalid(*this, detail::readAttribute(get(), name.c_str(), out));
+    return readAttribute(*this, name, out);
 }
 
 XMLElement XMLElement::getAttributeString(const std::string& name, property<std::string>& out) const {
@@ -182,48 +211,46 @@ XMLElement XMLElement::getAttributeUInt(const std::string& name, property<unsign
 }
 
 XMLElement XMLElement::setAttributeString(const std::string& name, const std::string& value) const {
-    detail::setAttribute(get(), name.c_str(), value);
-    return *this;
+    return setAttribute(*this, name, value);
 }
 
 XMLElement XMLElement::setAttributeInt(const std::string& name, int value) const {
-    detail::setAttribute(get(), name.c_str(), value);
-    return *this;
+    return setAttribute(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::setAttributeUInt(const std::string& name, unsigned int value) const {
-    detail::setAttribute(get(), name.c_str(), value);
-    return *this;
+    return setAttribute(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::appendChild(const std::string& name) const {
-    return XMLElement(detail::appendChild(get(), name.c_str()));
+    tinyxml2::XMLElement* const element = detail::toElement(*this);
+    return element == nullptr ? nullptr : detail::toHandle(detail::appendElement(*element, name.c_str()));
 }
 
 XMLElement XMLElement::appendChildString(const std::string& name, const std::string& text) const {
-    return XMLElement(detail::appendChild(get(), name.c_str(), text));
+    return appendText(*this, name, text);
 }
 
 XMLElement XMLElement::appendChildInt(const std::string& name, int value) const {
-    return XMLElement(detail::appendChild(get(), name.c_str(), value));
+    return appendText(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::appendChildUInt(const std::string& name, unsigned int value) const {
-    return XMLElement(detail::appendChild(get(), name.c_str(), value));
+    return appendText(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::appendChildBool(const std::string& name, bool value) const {
-    return XMLElement(detail::appendChild(get(), name.c_str(), value));
+    return appendText(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::appendChildIntArray(const std::string& name, const std::vector<int>& values,
                                            const std::string& separator) const {
-    return XMLElement(detail::appendChild(get(), name.c_str(), values, separator));
+    return appendText(*this, name, detail::joinNumbers(values, separator));
 }
 
 XMLElement XMLElement::appendChildUIntArray(const std::string& name, const std::vector<unsigned int>& values,
                                             const std::string& separator) const {
-    return XMLElement(detail::appendChild(get(), name.c_str(), values, separator));
+    return appendText(*this, name, detail::joinNumbers(values, separator));
 }
 
 XMLElement XMLElement::appendChildString(const std::string& name, const property<std::string>& text,

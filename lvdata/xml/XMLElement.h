@@ -4,6 +4,7 @@
 #include <lvdata/xml/XMLNode.h>
 #include <lvdata/xml/property.h>
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -21,8 +22,8 @@ class LVDATA_EXPORT XMLElement : public XMLNode {
 public:
     XMLElement() = default;
 
-    /// Wraps a node handed over as `XMLNode` takes it; one that is no element behaves as none.
-    explicit XMLElement(void* node) : XMLNode(node) {}
+    /// Wraps a node passed as `XMLNode` takes it, and converts from it; a node that is not an element behaves as none.
+    XMLElement(void* node) : XMLNode(node) {}  // NOLINT(google-explicit-constructor)
 
     /// The tag name; "" when invalid.
     [[nodiscard]] std::string elementName() const;
@@ -119,6 +120,16 @@ public:
                                    const std::string& separator) const;
     XMLElement appendChildUIntArray(const std::string& name, const std::vector<unsigned int>& values,
                                     const std::string& separator) const;
+
+    /// The same for a list in braces, which may be empty: `appendChildIntArray("Values", {}, "|")`.
+    XMLElement appendChildIntArray(const std::string& name, std::initializer_list<int> values,
+                                   const std::string& separator) const {
+        return appendChildIntArray(name, std::vector<int>(values), separator);
+    }
+    XMLElement appendChildUIntArray(const std::string& name, std::initializer_list<unsigned int> values,
+                                    const std::string& separator) const {
+        return appendChildUIntArray(name, std::vector<unsigned int>(values), separator);
+    }
     /// @}
 
     /// \name Appending a property

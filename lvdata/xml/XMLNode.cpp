@@ -6,10 +6,10 @@ namespace lv {
 XMLNode::~XMLNode() = default;
 
 int XMLNode::type() const {
-    if (detail::toDocument(node_) != nullptr) {
+    if (detail::toDocument(*this) != nullptr) {
         return documentType;
     }
-    return detail::toElement(node_) != nullptr ? elementType : otherType;
+    return detail::toElement(*this) != nullptr ? elementType : otherType;
 }
 
 }  // namespace lv

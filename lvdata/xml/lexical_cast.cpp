@@ -1,4 +1,5 @@
-#include <lvdata/xml/detail/number_text.h>
+#include <lvdata/xml/detail/number_parsing.h>
+#include <lvdata/xml/detail/number_writing.h>
 #include <lvdata/xml/lexical_cast.h>
 
 namespace lv {

@@ -1,4 +1,4 @@
-#include <lvdata/xml/detail/pieces.h>
+#include <lvdata/xml/detail/for_each_piece.h>
 #include <lvdata/xml/split_string.h>
 
 namespace lv {

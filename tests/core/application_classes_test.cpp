@@ -1,8 +1,10 @@
+#include <lvdata/core/ParsedDocument.h>
 #include <lvdata/records/CorrelationInfo.h>
 #include <lvdata/records/MonitorParameter.h>
 #include <lvdata/xml/XMLDocument.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -84,6 +86,128 @@ public:
 
 TEST(ApplicationClasses, ADocumentCanBeReplaced) {
     EXPECT_EQ(Replacing().toXMLString(false, false), "<Other/>");
+}
+
+/// Copies the parent, as a wrapper may be, and appends to the copy.
+class CopyingTheParent : public CorrelationInfo {
+public:
+    XMLElement appendXMLElement(XMLNode& parent) const override {
+        XMLNode copy = parent;
+        const XMLElement root = CorrelationInfo::appendXMLElement(copy);
+        root.appendChildString("Own", "1");
+        return root;
+    }
+};
+
+TEST(ApplicationClasses, ACopiedParentIsTheSameDocument) {
+    CopyingTheParent object;
+    object.referenceSensorID.set("S");
+    const std::string text = object.toXMLString(false, false);
+    EXPECT_EQ(text, appendedAndPrinted(object));
+    EXPECT_NE(text.find("<ReferenceSensorID>S</ReferenceSensorID><Own>1</Own>"), std::string::npos);
+}
+
+/// Appends to what it inherits, through the parent that it was given.
+class Extending : public CorrelationInfo {
+public:
+    XMLElement appendXMLElement(XMLNode& parent) const override {
+        const XMLElement root = CorrelationInfo::appendXMLElement(parent);
+        EXPECT_TRUE(root.isValid());
+        root.setAttributeString("Own", "1");
+        return root;
+    }
+};
+
+/// The same at the third place: inside a class of the application, inside its own element.
+class Holding : public ApplicationRecord {
+public:
+    XMLElement appendXMLElement(XMLNode& parent) const override {
+        XMLElement root = appendRootXMLElement("Holding", parent);
+        root.appendChildInt("Before", 1);
+        inner.appendXMLElement(root);
+        EXPECT_EQ(root.getElement("CorrelationInfo").getElement("ReferenceSensorID").isValid(), true);
+        root.appendChildInt("After", 2);
+        return root;
+    }
+
+    Extending inner;
+};
+
+TEST(ApplicationClasses, WhatAClassAddsToARecordStandsInItsPlace) {
+    Holding object;
+    object.inner.referenceSensorID.set("S");
+    const std::string text = object.toXMLString(false, false);
+    EXPECT_EQ(text, "<Holding><Before>1</Before>"
+                    R"(<CorrelationInfo Version="1" MinorVersion="0" Own="1"><ReferenceSensorID>S</ReferenceSensorID>)"
+                    "</CorrelationInfo><After>2</After></Holding>");
+    EXPECT_EQ(text, appendedAndPrinted(object));
+    EXPECT_NE(object.inner.toXMLString(true, true).find("Own=\"1\""), std::string::npos);
+}
+
+/// Takes the parent for a document of its own and prints that before the end.
+class PrintingTheParent : public ApplicationRecord {
+public:
+    XMLElement appendXMLElement(XMLNode& parent) const override {
+        EXPECT_EQ(parent.type(), XMLNode::documentType);
+        const XMLElement root = correlation("S").appendXMLElement(parent);
+        printed = XMLDocument(parent.get()).toXMLString(false, false);
+        return root;
+    }
+
+    mutable std::string printed;
+};
+
+TEST(ApplicationClasses, TheParentIsADocumentThatCanBePrinted) {
+    const PrintingTheParent object;
+    EXPECT_EQ(object.toXMLString(false, false), object.printed);
+    EXPECT_EQ(object.printed, correlation("S").toXMLString(false, false));
+}
+
+/// Hands the element on to a record that it holds, after it has changed the document.
+class HandingOn : public ApplicationRecord {
+public:
+    XMLElement appendXMLElement(XMLNode& /*parent*/) const override { return nullptr; }
+
+    bool parseXMLElement(XMLElement element) override {
+        auto* const table = static_cast<tinyxml2::XMLNode*>(element.getElement("RedLUT").get());
+        table->ToElement()->SetText("7|7|7");
+        return moves ? held.parseXMLElement(std::move(element)) : held.parseXMLElement(element);
+    }
+
+    bool moves = false;
+    MonitorParameter held;
+};
+
+TEST(ApplicationClasses, AHeldRecordReadsWhatWasChanged) {
+    for (const bool moves : {false, true}) {
+        HandingOn object;
+        object.moves = moves;
+        ASSERT_TRUE(object.parseXMLString("<MonitorParameter><RedLUT>1|2|3</RedLUT></MonitorParameter>"));
+        EXPECT_EQ(object.held.redLUT.value, (std::vector<unsigned int>{7, 7, 7}));
+    }
+}
+
+/// Prints a record into the very element that it is asked to read.
+class PrintingIntoTheElement : public ApplicationRecord {
+public:
+    bool parseXMLElement(XMLElement element) override {
+        correlation("S").appendXMLElement(element);
+        return element.getElement("CorrelationInfo").getElement("ReferenceSensorID").isValid();
+    }
+    XMLElement appendXMLElement(XMLNode& /*parent*/) const override { return nullptr; }
+};
+
+TEST(ApplicationClasses, AnElementToReadMayBecomeAParent) {
+    EXPECT_TRUE(PrintingIntoTheElement().parseXMLString("<r/>"));
+}
+
+TEST(ApplicationClasses, ADocumentThatAClassHasReadIsNotTakenForUntouched) {
+    ParsedDocument document("<MonitorParameter><RedLUT>1|2|3</RedLUT></MonitorParameter>");
+    HandingOn first;
+    ASSERT_TRUE(document.read(first));
+    MonitorParameter second;
+    ASSERT_TRUE(document.read(second));
+    EXPECT_EQ(second.redLUT.value, (std::vector<unsigned int>{7, 7, 7}));
 }
 
 /// Changes the document, as the XML library allows it, before the inherited class reads it.

@@ -5,7 +5,7 @@
 #include "limit_options.h"
 #include "records.h"
 
-#include <lvdata/xml/XMLDocument.h>
+#include <lvdata/core/ParsedDocument.h>
 
 #include <algorithm>
 #include <memory>
@@ -39,12 +39,6 @@ void checkText(const std::string& text, const Limits& limits, const std::string&
     }
 }
 
-void parseDocument(lv::XMLDocument& document, const std::string& text, const std::string& name) {
-    if (!document.parseXMLString(text)) {
-        throw Failure(name, document.parseErrorText(), document.parseErrorLine());
-    }
-}
-
 /// As much of a name as a message should hold: it can be as long as the document.
 std::string excerpt(const std::string& name) {
     constexpr std::size_t longest = 100;
@@ -58,25 +52,20 @@ std::string excerpt(const std::string& name) {
     return name.substr(0, length) + "...";
 }
 
-std::unique_ptr<lv::DataObject> parseRecord(const lv::XMLElement& root, const std::string& name) {
-    if (!root.isValid()) {
-        throw Failure(name, "no root element");
-    }
-    auto record = makeRecord(root.elementName());
-    if (!record || !record->parseXMLElement(root)) {
-        throw Failure(name,
-                      "unknown root element '" + excerpt(root.elementName()) + "', known are: " + knownRootElements());
-    }
-    return record;
-}
-
 std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const Limits& limits) {
     const std::string name = inputName(file);
     const std::string text = readInput(file, limits.bytes);
     checkText(text, limits, name);
-    lv::XMLDocument document;
-    parseDocument(document, text, name);
-    return parseRecord(document.rootElement(), name);
+    lv::ParsedDocument document(text);
+    if (const lv::ParseResult& parsed = document.parseResult(); !parsed) {
+        throw Failure(name, parsed.reason, parsed.line);
+    }
+    const std::string root = document.rootElementName();
+    auto record = makeRecord(root);
+    if (!record || !document.read(*record)) {
+        throw Failure(name, "unknown root element '" + excerpt(root) + "', known are: " + knownRootElements());
+    }
+    return record;
 }
 
 void format(const FormatOptions& options) {

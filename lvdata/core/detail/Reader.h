@@ -1,7 +1,10 @@
 #pragma once
 
 #include <lvdata/xml/XMLElement.h>
+#include <lvdata/xml/detail/ChildFinder.h>
 #include <lvdata/xml/detail/element_reading.h>
+#include <lvdata/xml/detail/handle.h>
+#include <lvdata/xml/detail/parsed_array.h>
 #include <lvdata/xml/property.h>
 
 #include <algorithm>
@@ -28,7 +31,6 @@ namespace lv::detail {
 ///     io.structure(name, property, visit)  an optional structure in a child element of its own
 ///     io.group(property, visit)            an optional structure spread over children of this very element
 ///     io.record(property)                  a nested record; its flag is whether the record accepted its element
-///     io.recordWithSwitch(property)        the same for a record that is handed the HLG switch
 ///     io.rows(name, record, visit)         the rows of a list
 ///     io.keyed(name, key, text, visit)     the child elements of that name whose attribute `key` is `text`
 ///     io.element(name)                     a child element, to visit further
@@ -44,11 +46,15 @@ namespace lv::detail {
 ///     io.writeWhen(condition)              closes writing
 ///     io.when(condition)                   closes both
 ///     io.always()                          writing does not consult the member's own flag
+///
+/// A reader knows whether its document is as it was parsed, and passes that on with the elements that it gives to
+/// others; arrays are then read faster.
 class Reader {
 public:
-    explicit Reader(void* element) : element_(element), children_(element) {}
+    /// \param element  marked when its document is as it was parsed
+    explicit Reader(const XMLElement& element) : Reader(toElement(element), Handover::isAsParsed(element)) {}
 
-    [[nodiscard]] Reader readWhen(bool condition) const { return condition ? *this : Reader(nullptr); }
+    [[nodiscard]] Reader readWhen(bool condition) const { return condition ? *this : Reader(nullptr, isAsParsed_); }
     [[nodiscard]] Reader writeWhen(bool /*condition*/) const { return *this; }
     [[nodiscard]] Reader when(bool condition) const { return readWhen(condition); }
     [[nodiscard]] Reader always() const { return *this; }
@@ -56,13 +62,16 @@ public:
     /// Whether there is an element to read from.
     [[nodiscard]] bool exists() const { return element_ != nullptr; }
 
+    /// Whether it has that name.
+    [[nodiscard]] bool isNamed(std::string_view name) const { return detail::isNamed(element_, name); }
+
     /// That element as the wrapper that applications know.
-    [[nodiscard]] XMLElement xmlElement() const { return XMLElement(element_); }
+    [[nodiscard]] XMLElement xmlElement() const { return toHandle(element_); }
 
     /// Of interest to writing only.
     [[nodiscard]] static bool writesHLGSystemGamma() { return false; }
 
-    [[nodiscard]] Reader element(const char* name) const { return Reader(children_.find(name)); }
+    [[nodiscard]] Reader element(const char* name) const { return Reader(children_.find(name), isAsParsed_); }
 
     static void derive(bool& flag, bool condition) { flag = condition; }
 
@@ -81,7 +90,7 @@ public:
 
     template <class T>
     bool text(T& member) {
-        return readText(element_, member);
+        return read(element_, member);
     }
 
     template <class T>
@@ -91,7 +100,7 @@ public:
 
     template <class T>
     bool value(const char* name, T& member) {
-        return readText(children_.find(name), member);
+        return read(children_.find(name), member);
     }
 
     /// Entries of another number stay in memory, but the flag is cleared.
@@ -119,7 +128,8 @@ public:
 
     template <class Record>
     void record(Record& member, bool& flag) {
-        flag = member.parseXMLElement(element(Record::rootElementName).xmlElement());
+        tinyxml2::XMLElement* const child = children_.find(Record::rootElementName);
+        flag = member.parseXMLElement(isAsParsed_ ? Handover::asParsed(child) : XMLElement(toHandle(child)));
     }
 
     template <class Record>
@@ -127,15 +137,10 @@ public:
         record(member.value, member.hasValue);
     }
 
-    template <class Record>
-    void recordWithSwitch(property<Record>& member) {
-        record(member);
-    }
-
     template <class Visit>
     void keyed(const char* name, const char* key, std::string_view text, Visit visit) {
-        for (void* child = findChild(element_, name); child != nullptr; child = findNext(child, name)) {
-            Reader io(child);
+        for (tinyxml2::XMLElement* const child : findChildren(element_, name)) {
+            Reader io(child, isAsParsed_);
             std::string found;
             if (io.attribute(key, found) && found == text) {
                 visit(io);
@@ -150,10 +155,12 @@ public:
 
     template <class Record, class Visit>
     void rows(const char* name, Record& record, Visit visit) {
+        const std::vector<tinyxml2::XMLElement*> children = findChildren(element_, name);
         record.objects.clear();
+        record.objects.reserve(children.size());
         record.parsed = true;
-        for (void* child = findChild(element_, name); child != nullptr; child = findNext(child, name)) {
-            Reader io(child);
+        for (tinyxml2::XMLElement* const child : children) {
+            Reader io(child, isAsParsed_);
             if (!visit(io, record.objects.emplace_back())) {
                 record.objects.pop_back();
             }
@@ -161,7 +168,23 @@ public:
     }
 
 private:
-    void* element_;
+    Reader(tinyxml2::XMLElement* element, bool isAsParsed)
+        : element_(element),
+          isAsParsed_(isAsParsed),
+          children_(element) {}
+
+    template <class T>
+    [[nodiscard]] bool read(const tinyxml2::XMLElement* element, T& member) const {
+        return readText(element, member);
+    }
+
+    template <class Number>
+    [[nodiscard]] bool read(const tinyxml2::XMLElement* element, std::vector<Number>& member) const {
+        return isAsParsed_ ? readParsedArray(element, member) : readArray(element, member, arraySeparator);
+    }
+
+    tinyxml2::XMLElement* element_;
+    bool isAsParsed_;
     mutable ChildFinder children_;  // remembers how far it came; what it answers does not depend on that
 };
 

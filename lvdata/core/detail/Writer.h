@@ -1,8 +1,9 @@
 #pragma once
 
+#include <lvdata/core/detail/RecordParent.h>
 #include <lvdata/xml/XMLElement.h>
-#include <lvdata/xml/detail/element_writing.h>
-#include <lvdata/xml/detail/own_document.h>
+#include <lvdata/xml/detail/Output.h>
+#include <lvdata/xml/detail/handle.h>
 #include <lvdata/xml/property.h>
 
 #include <algorithm>
@@ -15,18 +16,22 @@ namespace lv::detail {
 
 /// The other direction of a visit: appends the members as children of an element. `Reader` explains the operations;
 /// here each answers whether it wrote something.
+///
+/// Where it writes, among the nodes of a document or into a text at once, was decided for the outermost record; nested
+/// records get the writer itself, and with it the HLG switch, through a `RecordParent`.
 class Writer {
 public:
-    /// \param writeHLGSystemGamma  the switch of the record that is written, which is in force for all that it holds
-    explicit Writer(void* element, bool writeHLGSystemGamma = false)
-        : element_(element),
+    /// \param writeHLGSystemGamma  the switch of the outermost record, which is in force for all that it holds
+    Writer(const Output& output, bool writeHLGSystemGamma)
+        : output_(output),
           writeHLGSystemGamma_(writeHLGSystemGamma) {}
+
+    explicit Writer(const XMLElement& element, bool writeHLGSystemGamma = false)
+        : Writer(Output(toElement(element)), writeHLGSystemGamma) {}
 
     [[nodiscard]] Writer readWhen(bool /*condition*/) const { return *this; }
     [[nodiscard]] Writer writeWhen(bool condition) const {
-        Writer io = *this;
-        io.element_ = condition ? element_ : nullptr;
-        return io;
+        return condition ? *this : Writer(Output(), writeHLGSystemGamma_);
     }
 
     [[nodiscard]] Writer when(bool condition) const { return writeWhen(condition); }
@@ -38,24 +43,23 @@ public:
     }
 
     /// Whether there is an element to write into.
-    [[nodiscard]] bool exists() const { return element_ != nullptr; }
+    [[nodiscard]] bool exists() const { return output_.exists(); }
 
-    /// That element as the wrapper that applications know.
-    [[nodiscard]] XMLElement xmlElement() const { return XMLElement(element_); }
+    /// That element as the wrapper that applications know; invalid when it has become text.
+    [[nodiscard]] XMLElement xmlElement() const { return toHandle(output_.node()); }
 
     [[nodiscard]] bool writesHLGSystemGamma() const { return writeHLGSystemGamma_; }
 
-    [[nodiscard]] Writer element(const char* name) const {
-        return Writer(appendChild(element_, name), writeHLGSystemGamma_);
-    }
+    [[nodiscard]] Writer element(const char* name) const { return Writer(output_.append(name), writeHLGSystemGamma_); }
+
+    /// Nothing more comes into the elements appended so far, and their names need not live any longer.
+    void finishElements() const { output_.finish(); }
 
     static void derive(const bool& /*flag*/, bool /*condition*/) {}
 
     template <class T>
     bool attribute(const char* name, const T& member) {
-        if (exists()) {
-            setAttribute(element_, name, member);
-        }
+        output_.setAttribute(name, member);
         return exists();
     }
 
@@ -68,9 +72,7 @@ public:
 
     template <class T>
     bool text(const T& member) {
-        if (exists()) {
-            setText(element_, member);
-        }
+        output_.addText(member);
         return exists();
     }
 
@@ -83,7 +85,8 @@ public:
 
     template <class T>
     bool value(const char* name, const T& member) {
-        return exists() && appendLeaf(element_, name, member);
+        output_.appendLeaf(name, member);
+        return exists();
     }
 
     template <class Number>
@@ -110,7 +113,7 @@ public:
     template <class T, class Visit>
     void group(const property<T>& member, Visit visit) {
         if (writes(member.hasValue)) {
-            Writer io(element_, writeHLGSystemGamma_);
+            Writer io(output_, writeHLGSystemGamma_);
             visit(io, member.value);
         }
     }
@@ -118,7 +121,7 @@ public:
     template <class Record>
     void record(const Record& member, bool flag) {
         if (writes(flag)) {
-            XMLElement parent = xmlElement();
+            RecordParent parent = RecordParent::nestedIn(xmlElement(), member, *this);
             member.appendXMLElement(parent);
         }
     }
@@ -126,14 +129,6 @@ public:
     template <class Record>
     void record(const property<Record>& member) {
         record(member.value, member.hasValue);
-    }
-
-    template <class Record>
-    void recordWithSwitch(const property<Record>& member) {
-        if (writes(member.hasValue)) {
-            XMLElement parent = xmlElement();
-            member.value.appendWithSwitch(parent, writeHLGSystemGamma_);
-        }
     }
 
     template <class Visit>
@@ -154,7 +149,6 @@ public:
             if (exists() && hasContent(row)) {
                 Writer io = element(name);
                 visit(io, row);
-                finishElement(io.element_);
             }
         }
     }
@@ -163,7 +157,7 @@ private:
     /// Whether a member with that flag is written: not behind a closed gate, where no text shall even be made.
     [[nodiscard]] bool writes(bool flag) const { return exists() && (flag || always_); }
 
-    void* element_;
+    Output output_;
     bool writeHLGSystemGamma_;
     bool always_ = false;
 };

@@ -2,56 +2,57 @@
 
 #include <lvdata/core/DataObject.h>
 #include <lvdata/core/detail/Reader.h>
+#include <lvdata/core/detail/RecordParent.h>
 #include <lvdata/core/detail/Writer.h>
-#include <lvdata/xml/detail/own_document.h>
 
-#include <string>
 #include <typeinfo>
 
 namespace lv::detail {
 
-/// Whether the record is of exactly that class. A class that the application derives may look at the document before or
-/// behind what it inherits, and so must find it whole.
-template <class Record>
-[[nodiscard]] bool isOfOwnClass(const Record& record) {
-    return typeid(record) == typeid(Record);
+/// The attributes of every record's root element.
+template <class Io, class Record>
+void visitVersion(Io& io, Record& record) {
+    io.attribute("Version", record.version);
+    io.attribute("MinorVersion", record.minorVersion);
 }
 
 /// What every record's `parseXMLElement` does: refuses an element of another name, then reads the version attributes
 /// and what the record's visit names.
 template <class Record, class Visit>
-[[nodiscard]] bool parseRecord(Record& record, const std::string& rootName, const XMLElement& element, Visit visit) {
-    if (element.elementName() != rootName) {
+[[nodiscard]] bool parseRecord(Record& record, const char* rootName, const XMLElement& element, Visit visit) {
+    Reader io(element);
+    if (!io.isNamed(rootName)) {
         return false;
     }
-    if (isOfOwnClass(record)) {
-        useSource(element.get(), static_cast<const DataObject*>(&record));
-    }
-    record.parseVersionAttribute(element);
-    Reader io(element.get());
+    visitVersion(io, record);
     visit(io, record);
     return true;
 }
 
-/// What every record's `appendXMLElement` does: appends the root element with its version attributes, then what the
-/// record's visit names. `writeHLGSystemGamma` is the switch in force: the record's own, or that of the record it is
-/// nested in.
-template <class Record, class Visit>
-XMLElement appendRecord(const Record& record, const std::string& rootName, XMLNode& parent, bool writeHLGSystemGamma,
-                        Visit visit) {
-    if (isOfOwnClass(record)) {
-        startPieces(parent.get(), static_cast<const DataObject*>(&record));
-    }
-    XMLElement root = record.appendRootXMLElement(rootName, parent);
-    record.appendVersionAttribute(root);
-    Writer io(root.get(), writeHLGSystemGamma);
-    visit(io, record);
-    return root;
+/// Whether the record is of exactly one of these classes, and not of one that an application derives from them.
+template <class... Records>
+[[nodiscard]] bool isExactly(const DataObject& record) {
+    return ((typeid(record) == typeid(Records)) || ...);
 }
 
-template <class Record, class Visit>
-XMLElement appendRecord(const Record& record, const std::string& rootName, XMLNode& parent, Visit visit) {
-    return appendRecord(record, rootName, parent, record.writeHLGSystemGamma, visit);
+/// What every record's `appendXMLElement` does: appends the root element with its version attributes, then what the
+/// record's visit names.
+///
+/// A class that an application derives from the record may look at the document before or after what it inherits. So
+/// the writer that the library brings along for the whole text is not for that. \tparam Inheriting  the library's own
+/// classes that inherit this from the record
+template <class... Inheriting, class Record, class Visit>
+XMLElement appendRecord(const Record& record, const char* rootName, XMLNode& parent, Visit visit) {
+    const RecordParent* const own = RecordParent::ownOf(record, parent);
+    const bool isOurs = own != nullptr && (own->isNested() || isExactly<Record, Inheriting...>(record));
+    Writer io = isOurs ? own->writer().element(rootName)
+                       : Writer(record.appendRootXMLElement(rootName, parent), record.writeHLGSystemGamma);
+    visitVersion(io, record);
+    visit(io, record);
+    if (isOurs) {
+        own->writer().finishElements();  // while the name lives
+    }
+    return io.xmlElement();
 }
 
 }  // namespace lv::detail

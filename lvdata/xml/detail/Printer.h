@@ -1,45 +1,76 @@
 #pragma once
 
+#include <lvdata/xml/detail/Place.h>
+#include <lvdata/xml/detail/TextBlocks.h>
+
 #include <string>
 #include <string_view>
-#include <utility>
+#include <vector>
 
 #include <tinyxml2.h>
 
 namespace lv::detail {
 
-/// The XML library's printer, with two short cuts: a long text goes out in one piece where it holds no character to
-/// escape, and so does a text that is marked as printed already. It prints into a string, since the library's own
-/// buffer counts in an `int` and writes beyond its end when a text is longer than that can count.
+/// The XML library's printer, which prints elements at once, as they are opened and given their texts, or the nodes of
+/// a document (`document.Accept(&printer)`), or one after the other, into the same text.
+///
+/// It prints into blocks of its own: the library's buffer counts in an `int` and is written beyond its end by a text
+/// that is longer than that can count. A text that needs no escaping goes out in one piece.
+///
+/// Where something is printed at once is said by a place. What is open inside the element of that place is closed then,
+/// and not before: so nobody has to close elements, and places may be copied. Three rules follow, which builds with
+/// assertions check: an element's attributes are added before its texts and children; an element that was closed gets
+/// nothing more; a name lives as long as its element is open.
 class Printer final : public tinyxml2::XMLPrinter {
 public:
-    explicit Printer(bool compact) : XMLPrinter(nullptr, compact) {}
+    explicit Printer(bool compact);
 
-    /// The text of the element that was opened last, as `PushText`.
-    void pushText(const char* text);
+    /// `<?xml version="1.0" encoding="UTF-8" standalone="no"?>`, at the beginning.
+    void addDeclaration();
+
+    /// Opens an element at that place; the result is the place inside it.
+    Place open(const Place& place, const char* name);
+
+    /// Closes what is open inside the element.
+    void closeInside(const Place& place);
+
+    void addAttribute(const Place& place, const char* name, const char* value);
+    void addText(const Place& place, const char* text);
+    template <class Number>
+    void addNumber(const Place& place, Number number);
+    /// Separated as in every document.
+    template <class Number>
+    void addNumbers(const Place& place, const std::vector<Number>& numbers);
+
+    /// What was printed so far.
+    [[nodiscard]] std::string text() const { return text_.joined(); }
 
     bool Visit(const tinyxml2::XMLText& text) override;
     using XMLPrinter::Visit;
 
-    /// What was printed so far.
-    [[nodiscard]] const std::string& text() const& { return text_; }
-    [[nodiscard]] std::string text() && { return std::move(text_); }
-
-    /// Begins a new text, in the same memory unless that is much.
-    void clear();
-
-    /// Marks a text node as markup that `Visit` shall pass on as it stands. Uses the node's user data, so for nodes
-    /// only that no caller of the library gets to see.
-    static void markAsPrinted(tinyxml2::XMLText& text);
-
 protected:
-    void Write(const char* data, std::size_t size) override { text_.append(data, size); }
-    void Putc(char character) override { text_.push_back(character); }
+    void Write(const char* data, std::size_t size) override { text_.append(std::string_view(data, size)); }
+    void Putc(char character) override { text_.append(character); }
 
 private:
-    void pushMarkup(std::string_view text);
+    void close();
+    void printText(const char* text);
+    void beginPlainText(const Place& place);
 
-    std::string text_;
+    TextBlocks text_;
+    bool compact_;
+    std::size_t depth_ = 0;   // so many elements are open
+    std::size_t opened_ = 0;  // so many were opened
+
+#ifndef NDEBUG
+    struct Opened {
+        std::size_t number;
+        const char* name;
+        std::string nameWhenOpened;
+    };
+    [[nodiscard]] bool isOpen(const Place& place) const;
+    std::vector<Opened> openElements_;
+#endif
 };
 
 }  // namespace lv::detail

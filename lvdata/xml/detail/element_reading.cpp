@@ -1,136 +1,88 @@
 #include <lvdata/xml/detail/element_reading.h>
-#include <lvdata/xml/detail/handle.h>
-#include <lvdata/xml/detail/number_text.h>
-#include <lvdata/xml/detail/own_document.h>
-
-#include <cstring>
+#include <lvdata/xml/detail/number_parsing.h>
 
 #include <tinyxml2.h>
 
 namespace lv::detail {
 namespace {
 
-/// The element's text; empty when there is no element, no text, or an empty one.
-std::string_view textOf(void* handle) {
-    const tinyxml2::XMLElement* const element = toElement(handle);
-    const char* const text = element == nullptr ? nullptr : element->GetText();
-    return text == nullptr ? std::string_view() : std::string_view(text);
+/// The element's text; null when there is no element or no text.
+const char* textOf(const tinyxml2::XMLElement* element) {
+    return element == nullptr ? nullptr : element->GetText();
 }
 
-/// The same for an array: read where it lies in the document's source, if that is at hand.
-std::string_view arrayTextOf(void* handle) {
-    const tinyxml2::XMLElement* const element = toElement(handle);
-    const SourceText* const source = element == nullptr ? nullptr : sourceInUse(*element);
-    const std::string_view text = source == nullptr ? std::string_view() : source->plainTextOf(element->Value());
-    return text.empty() ? textOf(handle) : text;
-}
-
-/// The attribute's text; null when there is no element or no such attribute.
-const char* attributeOf(void* handle, const char* name) {
-    const tinyxml2::XMLElement* const element = toElement(handle);
-    return element == nullptr ? nullptr : element->Attribute(name);
+/// Converts a text that is there. Whether that counts as found.
+bool convert(std::string_view text, std::string& out) {
+    out = text;
+    return true;
 }
 
 template <class Number>
 bool convert(std::string_view text, Number& out) {
-    if (text.empty()) {
-        return false;
+    if (!text.empty()) {
+        out = parseNumber<Number>(text);
     }
-    out = parseNumber<Number>(text);
-    return true;
+    return !text.empty();
 }
 
-template <class Number>
-bool convert(std::string_view text, std::vector<Number>& out, std::string_view separator) {
-    if (text.empty()) {
-        return false;
-    }
-    parseNumbers(text, separator, out);
-    return true;
-}
-
-template <class Number>
-bool convertAttribute(void* handle, const char* name, Number& out) {
-    const char* const text = attributeOf(handle, name);
-    return text != nullptr && convert(text, out);
-}
-
-}  // namespace
-
-void* findChild(void* parent, const char* name) {
-    tinyxml2::XMLElement* const element = toElement(parent);
-    return element == nullptr ? nullptr : toHandle(element->FirstChildElement(name));
-}
-
-void* findNext(void* element, const char* name) {
-    return toHandle(toNode(element)->NextSiblingElement(name));
-}
-
-ChildFinder::ChildFinder(void* parent) {
-    tinyxml2::XMLElement* const element = toElement(parent);
-    next_ = element == nullptr ? nullptr : toHandle(element->FirstChildElement());
-}
-
-void* ChildFinder::find(const char* name) {
-    tinyxml2::XMLNode* const next = toNode(next_);
-    for (tinyxml2::XMLNode* child = next; child != nullptr; child = child->NextSiblingElement()) {
-        if (std::strcmp(child->Value(), name) == 0) {
-            if (child == next) {
-                next_ = toHandle(child->NextSiblingElement());
-            }
-            return toHandle(child);
-        }
-    }
-    return nullptr;
-}
-
-bool readText(void* element, std::string& out) {
-    const tinyxml2::XMLElement* const found = toElement(element);
-    const char* const text = found == nullptr ? nullptr : found->GetText();
-    if (text != nullptr) {
-        out = text;
-    }
-    return found != nullptr;
-}
-
-bool readText(void* element, int& out) {
-    return convert(textOf(element), out);
-}
-
-bool readText(void* element, unsigned int& out) {
-    return convert(textOf(element), out);
-}
-
-bool readText(void* element, bool& out) {
-    const std::string_view text = textOf(element);
+bool convert(std::string_view text, bool& out) {
     if (!text.empty()) {
         out = text == "true" || text == "TRUE";
     }
     return !text.empty();
 }
 
-bool readText(void* element, std::vector<int>& out, std::string_view separator) {
-    return convert(arrayTextOf(element), out, separator);
+}  // namespace
+
+bool isNamed(const tinyxml2::XMLElement* element, std::string_view name) {
+    return name == (element == nullptr ? "" : element->Value());
 }
 
-bool readText(void* element, std::vector<unsigned int>& out, std::string_view separator) {
-    return convert(arrayTextOf(element), out, separator);
+int lineOf(const tinyxml2::XMLElement* element) {
+    return element->GetLineNum();
 }
 
-bool readAttribute(void* element, const char* name, std::string& out) {
-    const char* const text = attributeOf(element, name);
-    if (text != nullptr) {
+template <class T>
+bool readText(const tinyxml2::XMLElement* element, T& out) {
+    const char* const text = textOf(element);
+    return text != nullptr && convert(text, out);
+}
+
+/// A string is found wherever there is an element, with or without a text.
+template <>
+bool readText(const tinyxml2::XMLElement* element, std::string& out) {
+    if (const char* const text = textOf(element)) {
         out = text;
     }
-    return text != nullptr;
+    return element != nullptr;
 }
 
-bool readAttribute(void* element, const char* name, int& out) {
-    return convertAttribute(element, name, out);
+template bool readText(const tinyxml2::XMLElement* element, int& out);
+template bool readText(const tinyxml2::XMLElement* element, unsigned int& out);
+template bool readText(const tinyxml2::XMLElement* element, bool& out);
+
+template <class Number>
+bool readArray(const tinyxml2::XMLElement* element, std::vector<Number>& out, std::string_view separator) {
+    const char* const text = textOf(element);
+    const bool found = text != nullptr && *text != '\0';
+    if (found) {
+        parseNumbers(text, separator, out);
+    }
+    return found;
 }
 
-bool readAttribute(void* element, const char* name, unsigned int& out) {
-    return convertAttribute(element, name, out);
+template bool readArray(const tinyxml2::XMLElement* element, std::vector<int>& out, std::string_view separator);
+template bool readArray(const tinyxml2::XMLElement* element, std::vector<unsigned int>& out,
+                        std::string_view separator);
+
+template <class T>
+bool readAttribute(const tinyxml2::XMLElement* element, const char* name, T& out) {
+    const char* const text = element == nullptr ? nullptr : element->Attribute(name);
+    return text != nullptr && convert(text, out);
 }
+
+template bool readAttribute(const tinyxml2::XMLElement* element, const char* name, std::string& out);
+template bool readAttribute(const tinyxml2::XMLElement* element, const char* name, int& out);
+template bool readAttribute(const tinyxml2::XMLElement* element, const char* name, unsigned int& out);
 
 }  // namespace lv::detail

@@ -4,22 +4,28 @@
 
 namespace lv::detail {
 
-tinyxml2::XMLNode* toNode(void* handle) {
-    return static_cast<tinyxml2::XMLNode*>(handle);
+static_assert(alignof(tinyxml2::XMLNode) >= 4, "the lowest bits of a node's address are free for marks");
+
+tinyxml2::XMLNode* toNode(const XMLNode& wrapper) {
+    return static_cast<tinyxml2::XMLNode*>(wrapper.get());
 }
 
-tinyxml2::XMLElement* toElement(void* handle) {
-    tinyxml2::XMLNode* const node = toNode(handle);
+tinyxml2::XMLElement* toElement(const XMLNode& wrapper) {
+    tinyxml2::XMLNode* const node = toNode(wrapper);
     return node == nullptr ? nullptr : node->ToElement();
 }
 
-tinyxml2::XMLDocument* toDocument(void* handle) {
-    tinyxml2::XMLNode* const node = toNode(handle);
+tinyxml2::XMLDocument* toDocument(const XMLNode& wrapper) {
+    tinyxml2::XMLNode* const node = toNode(wrapper);
     return node == nullptr ? nullptr : node->ToDocument();
 }
 
 void* toHandle(tinyxml2::XMLNode* node) {
     return node;
+}
+
+void* toHandle(tinyxml2::XMLElement* element) {
+    return static_cast<tinyxml2::XMLNode*>(element);
 }
 
 }  // namespace lv::detail

@@ -108,33 +108,71 @@ TEST(RecordOfRows, UnderNothingAppendsNothing) {
     EXPECT_FALSE(filledShelf().appendXMLElement(nothing).isValid());
 }
 
-/// A value that counts how often its text is made.
-struct Counted {
-    mutable int texts = 0;
-};
-
-bool appendLeaf(void* /*parent*/, const char* /*name*/, const Counted& value) {
-    ++value.texts;
-    return true;
-}
-
-/// Writes the value as a field, as a value and as a member of a group.
-void writeInEveryWay(Writer io, const property<Counted>& member) {
+/// Writes into an element in every way that a gate can close.
+void writeInEveryWay(Writer io, const property<int>& member) {
     io.field("Field", member);
     io.value("Value", member.value);
-    io.group(member, [](Writer& group, const Counted& value) { group.value("InGroup", value); });
+    io.array("Array", std::vector<int>{1, 2}, 2);
+    io.array("Array", property<std::vector<int>>{{1, 2}, true}, {2});
+    io.structure("Structure", member, [](Writer& inner, int value) { inner.value("Inside", value); });
+    io.group(member, [](Writer& group, int value) { group.value("InGroup", value); });
+    io.record(Shelf(), true);
+    io.keyed("Keyed", "Key", "text", [](Writer& child) { child.text(5U); });
+    io.rows("Book", filledShelf(), visitBook);
+    io.element("Element").value("Inside", 1);
 }
 
-TEST(Writer, ClosedGatesMakeNoText) {
+TEST(Writer, ClosedGatesWriteNothing) {
     const XMLDocument document;
-    const Writer open(document.appendChild("Root").get());
-    property<Counted> member;
-    member.hasValue = true;
-    writeInEveryWay(open, member);
-    EXPECT_EQ(member.value.texts, 3);
+    const XMLElement root = document.appendChild("Root");
+    const Writer open(root);
+    const property<int> member{7, true};
     writeInEveryWay(open.writeWhen(false), member);
     writeInEveryWay(open.always().when(false), member);
-    EXPECT_EQ(member.value.texts, 3);
+    EXPECT_EQ(document.toXMLString(false, false), "<Root/>");
+    writeInEveryWay(open.readWhen(false), member);
+    EXPECT_EQ(root.getElements("Book").size(), 2U);
+    EXPECT_TRUE(root.getElement("Structure").getElement("Inside").isValid());
+    EXPECT_TRUE(root.getElement("InGroup").isValid());
+}
+
+/// Holds a record with the HLG switch of its own, which must not matter.
+class Room : public DataObject {
+public:
+    Room() : DataObject(1, 0) {}
+
+    bool parseXMLElement(XMLElement element) override {
+        return parseRecord(*this, "Room", element, [](auto& io, auto& self) { io.record(self.shelf, self.hasShelf); });
+    }
+    XMLElement appendXMLElement(XMLNode& parent) const override {
+        return appendRecord(*this, "Room", parent, [](auto& io, auto& self) {
+            io.value("Switch", io.writesHLGSystemGamma());
+            io.record(self.shelf, self.hasShelf);
+        });
+    }
+
+    struct HeldShelf : Shelf {
+        static constexpr const char* rootElementName = "Shelf";
+    };
+    HeldShelf shelf;
+    bool hasShelf = true;
+};
+
+TEST(Writer, IsMadeOnceForTheOutermostRecord) {
+    Room room;
+    room.writeHLGSystemGamma = true;
+    room.shelf.objects = {{"a", 1}};
+    const std::string text = R"(<Room Version="1" MinorVersion="0"><Switch>true</Switch>)"
+                             R"(<Shelf Version="2" MinorVersion="0"><Book><Title>a</Title><Pages>1</Pages></Book>)"
+                             "</Shelf></Room>";
+    EXPECT_EQ(room.toXMLString(false, false), text);
+    XMLDocument document;
+    const XMLElement root = room.appendXMLElement(document);
+    EXPECT_EQ(root.elementName(), "Room");
+    EXPECT_EQ(document.toXMLString(false, false), text);
+    Room copy;
+    ASSERT_TRUE(copy.parseXMLString(text));
+    EXPECT_EQ(titles(copy.shelf), std::vector<std::string>{"a"});
 }
 
 }  // namespace

@@ -48,27 +48,5 @@ TEST(EightDigits, ValueKnowsEveryDigitInEveryPlace) {
     }
 }
 
-std::string written(std::uint32_t number) {
-    std::string text(EightDigits::size + 1, '#');
-    char* const end = EightDigits(number).writeNumber(text.data());
-    EXPECT_EQ(text.back(), '#') << "behind the eight places";
-    return std::string(text.data(), end);
-}
-
-TEST(EightDigits, WritesEveryNumberOfFourDigits) {
-    for (std::uint32_t number = 0; number < 10000; ++number) {
-        ASSERT_EQ(written(number), std::to_string(number));
-        ASSERT_EQ(written(number * 10000), std::to_string(number * 10000));
-        ASSERT_EQ(written(99990000 + number), std::to_string(99990000 + number));
-    }
-}
-
-TEST(EightDigits, WritesNumbersOfEveryLength) {
-    for (std::uint32_t power = 10; power <= 100000000; power *= 10) {
-        EXPECT_EQ(written(power - 1), std::to_string(power - 1));
-        EXPECT_EQ(written(power / 10), std::to_string(power / 10));
-    }
-}
-
 }  // namespace
 }  // namespace lv::detail

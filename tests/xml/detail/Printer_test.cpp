@@ -1,6 +1,7 @@
 #include <lvdata/xml/detail/Printer.h>
 
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -17,7 +18,7 @@ std::string plainly(const tinyxml2::XMLDocument& document, bool compact) {
 std::string printed(const tinyxml2::XMLDocument& document, bool compact) {
     Printer printer(compact);
     document.Accept(&printer);
-    return std::string(printer.text());
+    return printer.text();
 }
 
 const std::string longText(100, 'x');
@@ -43,13 +44,27 @@ TEST(Printer, ALongCDataSectionStaysOne) {
     EXPECT_EQ(printed(document, true), "<a><![CDATA[" + longText + "]]></a>");
 }
 
-TEST(Printer, AMarkedTextPassesAsItStands) {
+TEST(Printer, WhatIsPrintedAtOnceAndNodesFollowEachOther) {
     tinyxml2::XMLDocument document;
-    tinyxml2::XMLElement* const root = document.NewElement("Root");
-    document.InsertEndChild(root);
-    Printer::markAsPrinted(*root->InsertNewText("<a>1 &amp; 2</a>"));
-    root->InsertNewText("<");
-    EXPECT_EQ(printed(document, true), "<Root><a>1 &amp; 2</a>&lt;</Root>");
+    ASSERT_EQ(document.Parse("<b/>"), tinyxml2::XML_SUCCESS);
+    Printer printer(true);
+    printer.addDeclaration();
+    printer.addText(printer.open({}, "a"), "1");
+    printer.closeInside({});
+    document.Accept(&printer);
+    EXPECT_EQ(printer.text(), R"(<?xml version="1.0" encoding="UTF-8" standalone="no"?><a>1</a><b/>)");
+}
+
+TEST(Printer, ANumberMayFillABlockToItsEnd) {
+    for (std::size_t before = 4060; before < 4100; ++before) {
+        Printer printer(true);
+        const Place root = printer.open({}, "a");
+        printer.addText(root, std::string(before, 'x').c_str());
+        printer.addNumbers(root, std::vector<unsigned int>{4294967295U, 4294967295U, 1});
+        printer.addNumber(root, -1);
+        printer.closeInside({});
+        EXPECT_EQ(printer.text(), "<a>" + std::string(before, 'x') + "4294967295|4294967295|1-1</a>");
+    }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
+#include <lvdata/xml/detail/ChildFinder.h>
 #include <lvdata/xml/detail/element_reading.h>
 
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -16,10 +18,10 @@ protected:
                   tinyxml2::XML_SUCCESS);
     }
 
-    [[nodiscard]] void* parent() { return static_cast<tinyxml2::XMLNode*>(document_.RootElement()); }
+    [[nodiscard]] tinyxml2::XMLElement* parent() { return document_.RootElement(); }
 
     /// The text of the child that was found; "none" without one.
-    static std::string textOf(void* child) {
+    static std::string textOf(const tinyxml2::XMLElement* child) {
         std::string text = "none";
         (void)readText(child, text);
         return text;
@@ -62,10 +64,27 @@ TEST_F(ChildFinderTest, ACopyFindsTheSame) {
     EXPECT_EQ(textOf(children.find("d")), "6");
 }
 
-TEST_F(ChildFinderTest, FindsNothingWithoutAnElement) {
+TEST_F(ChildFinderTest, NamesThatBeginAlikeAreDifferent) {
     tinyxml2::XMLDocument document;
+    ASSERT_EQ(document.Parse("<r><ab>1</ab><a>2</a><abc>3</abc></r>"), tinyxml2::XML_SUCCESS);
+    ChildFinder children(document.RootElement());
+    EXPECT_EQ(textOf(children.find("a")), "2");
+    EXPECT_EQ(textOf(children.find("abc")), "3");
+    EXPECT_EQ(textOf(children.find("ab")), "1");
+}
+
+TEST_F(ChildFinderTest, FindsAllOfAName) {
+    const std::vector<tinyxml2::XMLElement*> found = findChildren(parent(), "b");
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(textOf(found[0]), "2");
+    EXPECT_EQ(textOf(found[1]), "5");
+    EXPECT_EQ(textOf(findChild(parent(), "b")), "2");
+}
+
+TEST_F(ChildFinderTest, FindsNothingWithoutAnElement) {
     EXPECT_EQ(ChildFinder(nullptr).find("a"), nullptr);
-    EXPECT_EQ(ChildFinder(static_cast<tinyxml2::XMLNode*>(&document)).find("a"), nullptr);
+    EXPECT_EQ(findChild(nullptr, "a"), nullptr);
+    EXPECT_TRUE(findChildren(nullptr, "a").empty());
 }
 
 }  // namespace

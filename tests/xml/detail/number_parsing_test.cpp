@@ -1,6 +1,5 @@
-#include <lvdata/xml/detail/number_text.h>
+#include <lvdata/xml/detail/number_parsing.h>
 
-#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -107,48 +106,71 @@ TEST(ParseNumbers, ADigitSeparatesAsAnyOtherCharacterDoes) {
     }
 }
 
-TEST(ParseNumbers, StopAtTheEndOfTheView) {
-    EXPECT_THAT(parsed<int>(std::string_view("1|23456789").substr(0, 4)), ::testing::ElementsAre(1, 23));
+/// A text without a character after it that could be looked at: a sanitizer notices when one is.
+template <class Number>
+void expectAlikeAtTheEndOfMemory(const std::string& text) {
+    const std::vector<char> characters(text.begin(), text.end());
+    EXPECT_EQ(parsed<Number>({characters.data(), characters.size()}), converted<Number>(text)) << text;
 }
 
-TEST(JoinNumbers, PutTheSeparatorBetweenThem) {
-    using Limits = std::numeric_limits<int>;
-    EXPECT_EQ(joinNumbers(std::vector<int>{}, "|"), "");
-    EXPECT_EQ(joinNumbers(std::vector<int>{5}, "|"), "5");
-    EXPECT_EQ(joinNumbers(std::vector<int>{Limits::min(), 0, Limits::max()}, "|"), "-2147483648|0|2147483647");
-    EXPECT_EQ(joinNumbers(std::vector<unsigned int>{4294967295U, 4294967295U}, "|"), "4294967295|4294967295");
-    EXPECT_EQ(joinNumbers(std::vector<unsigned int>{1, 2, 3}, ", "), "1, 2, 3");
-    EXPECT_EQ(joinNumbers(std::vector<unsigned int>{1, 2, 3}, ""), "123");
-}
-
-TEST(JoinNumbers, WriteEveryLengthOfNumberAndSign) {
-    std::vector<int> values;
-    std::string expected;
-    for (int value = 1; value < 1000000000; value = value * 10 + 7) {
-        for (const int each : {value, -value}) {
-            values.push_back(each);
-            expected += (expected.empty() ? "" : "|") + std::to_string(each);
+TEST(ParseNumbers, TextsOfEveryLengthEndWithTheirMemory) {
+    const std::string negative = "-1|-22|-333|-4444|-55555|-666666|-7777777|-88888888|-999999999|-1000000000";
+    const std::string mixed = "1|22|333|4444|55555|666666|7777777|88888888|999999999|-1000000000|0||-0|00000000012";
+    for (const std::string& text : {negative, mixed}) {
+        for (std::size_t length = 0; length <= text.size(); ++length) {
+            expectAlikeAtTheEndOfMemory<int>(text.substr(0, length));
+            expectAlikeAtTheEndOfMemory<unsigned int>(text.substr(text.size() - length));
         }
     }
-    EXPECT_EQ(joinNumbers(values, "|"), expected);
 }
 
-TEST(AppendNumber, KeepsTheTextInFrontOfIt) {
-    std::string text = "1|";
-    appendNumber(text, -23);
-    text += '|';
-    appendNumber(text, 4294967295U);
-    EXPECT_EQ(text, "1|-23|4294967295");
+/// So many numbers of so many digits, each with the sign before it.
+std::string numbers(std::size_t count, std::size_t digits, const std::string& sign) {
+    std::string text;
+    for (std::size_t number = 0; number < count; ++number) {
+        text += (number == 0 ? "" : "|") + sign + std::string(digits, static_cast<char>('1' + number % 9));
+    }
+    return text;
 }
 
-TEST(DecimalText, TheLongestNumbersAreWhole) {
-    EXPECT_EQ(decimalText(std::numeric_limits<int>::min()), "-2147483648");
-    EXPECT_EQ(decimalText(std::numeric_limits<int>::max()), "2147483647");
-    EXPECT_EQ(decimalText(std::numeric_limits<unsigned int>::max()), "4294967295");
+TEST(ParseNumbers, LongArraysOfEveryLengthOfNumberAndSign) {
+    for (std::size_t digits = 1; digits <= 11; ++digits) {
+        for (const char* const sign : {"", "-"}) {
+            for (const std::size_t count : {20U, 1023U, 1024U, 1025U, 3000U}) {
+                expectAlikeAtTheEndOfMemory<int>(numbers(count, digits, sign));
+            }
+        }
+    }
 }
 
-TEST(DecimalText, FitsIntoAStringWithoutAllocating) {
-    EXPECT_EQ(decimalText(std::numeric_limits<int>::min()).capacity(), std::string().capacity());
+TEST(ParseNumbers, TakeTheMemoryThatTheyNeed) {
+    for (const std::size_t count : {3U, 256U, 1000U}) {
+        std::vector<int> values;
+        parseNumbers(numbers(count, 6, ""), "|", values);
+        EXPECT_EQ(values.capacity(), count);
+    }
+}
+
+TEST(ParsePlainNumbers, RefuseWhateverElseStandsInTheText) {
+    std::vector<int> values = {7};
+    for (const char* const text : {"+1", " 1", "x", "--1", "-", "1 |2", "1|2x", "1|+2", "1|-", "12345678a", "1&#50;",
+                                   "123456789012 ", "1|2|3|4|5|6|7|8|9|\n"}) {
+        EXPECT_FALSE(parsePlainNumbers(text, '|', values)) << text;
+    }
+    EXPECT_TRUE(parsePlainNumbers("1|-2||3|", '|', values));
+    EXPECT_THAT(values, ::testing::ElementsAre(1, -2, 3));
+}
+
+TEST(ParsePlainNumbers, LeaveTheOutputWhenTheFirstIsNotPlain) {
+    for (const char* const text : {" ", "x|1|2|3", " 1", "\n"}) {
+        std::vector<int> values = {7};
+        EXPECT_FALSE(parsePlainNumbers(text, '|', values)) << text;
+        EXPECT_THAT(values, ::testing::ElementsAre(7)) << text;
+    }
+}
+
+TEST(ParseNumbers, StopAtTheEndOfTheView) {
+    EXPECT_THAT(parsed<int>(std::string_view("1|23456789").substr(0, 4)), ::testing::ElementsAre(1, 23));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include <lvdata/xml/detail/number_text.h>
+#include <lvdata/xml/detail/number_parsing.h>
 #include <lvdata/xml/split_string.h>
 
 #include <locale>
@@ -6,14 +6,6 @@
 
 namespace lv::detail {
 namespace {
-
-template <class Number>
-std::string inserted(Number value) {
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << value;
-    return stream.str();
-}
 
 template <class Number>
 Number extracted(const std::string& text) {
@@ -48,31 +40,5 @@ void parseNumbers(std::string_view text, std::string_view separator, std::vector
 
 template void parseNumbers(std::string_view text, std::string_view separator, std::vector<int>& out);
 template void parseNumbers(std::string_view text, std::string_view separator, std::vector<unsigned int>& out);
-
-template <class Number>
-std::string joinNumbers(const std::vector<Number>& values, std::string_view separator) {
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    bool first = true;
-    for (const Number value : values) {
-        if (!first) {
-            stream << separator;
-        }
-        stream << value;
-        first = false;
-    }
-    return stream.str();
-}
-
-template std::string joinNumbers(const std::vector<int>& values, std::string_view separator);
-template std::string joinNumbers(const std::vector<unsigned int>& values, std::string_view separator);
-
-void appendNumber(std::string& text, int value) {
-    text += inserted(value);
-}
-
-void appendNumber(std::string& text, unsigned int value) {
-    text += inserted(value);
-}
 
 }  // namespace lv::detail

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <lvdata/xml/XMLNode.h>
+#include <lvdata/xml/detail/handle.h>
+
+namespace lv {
+class DataObject;
+}
+
+namespace lv::detail {
+
+class Writer;
+
+/// The parent that the library gives to a record's `appendXMLElement`. It brings along the writer that the record
+/// writes with, and is for that record alone: to everybody else, such as a class of an application that prints records
+/// which it holds, it is the document or element that it wraps.
+class RecordParent final : public XMLNode {
+public:
+    /// For a record whose text is wanted.
+    RecordParent(const XMLNode& document, const DataObject& outermost, const Writer& writer)
+        : RecordParent(document, outermost, writer, false) {}
+
+    /// For a record that another one holds by value, so that it is of the library's own class.
+    [[nodiscard]] static RecordParent nestedIn(const XMLNode& element, const DataObject& nested, const Writer& writer) {
+        return {element, nested, writer, true};
+    }
+
+    RecordParent(const RecordParent&) = delete;
+    RecordParent& operator=(const RecordParent&) = delete;
+    RecordParent(RecordParent&&) = delete;
+    RecordParent& operator=(RecordParent&&) = delete;
+    ~RecordParent() override = default;
+
+    /// The parent as it was given to that record; null when it was given to anybody else.
+    [[nodiscard]] static const RecordParent* ownOf(const DataObject& record, const XMLNode& parent) {
+        if (!Handover::isMarkedParent(parent)) {
+            return nullptr;
+        }
+        const auto* const marked = static_cast<const RecordParent*>(&parent);  // no other node is marked, and no copy
+        return &marked->record_ == &record ? marked : nullptr;
+    }
+
+    [[nodiscard]] bool isNested() const { return isNested_; }
+    [[nodiscard]] const Writer& writer() const { return writer_; }
+
+private:
+    RecordParent(const XMLNode& node, const DataObject& record, const Writer& writer, bool isNested)
+        : XMLNode(node),
+          record_(record),
+          writer_(writer),
+          isNested_(isNested) {
+        Handover::markParent(*this);
+    }
+
+    const DataObject& record_;
+    const Writer& writer_;
+    bool isNested_;
+};
+
+}  // namespace lv::detail

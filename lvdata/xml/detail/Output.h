@@ -1,0 +1,58 @@
+#pragma once
+
+#include <lvdata/xml/detail/Place.h>
+
+namespace tinyxml2 {
+class XMLElement;
+}  // namespace tinyxml2
+
+namespace lv::detail {
+
+class Printer;
+
+/// The element that is written: one among the nodes of a document, or one that becomes text at once; or nothing, where
+/// everything that is written disappears. A small value, copied freely.
+///
+/// What becomes text at once follows the three rules of `Printer`.
+class Output {
+public:
+    Output() = default;
+
+    /// An element of a document; null makes nothing.
+    explicit Output(tinyxml2::XMLElement* element) : element_(element) {}
+
+    /// Where the root element goes in a text that is printed at once. The printer must outlive all copies.
+    explicit Output(Printer& printer) : printer_(&printer) {}
+
+    /// Whether there is something to write into.
+    [[nodiscard]] bool exists() const { return element_ != nullptr || printer_ != nullptr; }
+
+    /// The element among the nodes of a document; null for any other.
+    [[nodiscard]] tinyxml2::XMLElement* node() const { return element_; }
+
+    /// A new last child element; nothing when there is nothing to write into.
+    Output append(const char* name) const;
+
+    /// A new last child element that holds nothing but the text of the value, an empty one included. For the types of
+    /// `valueText`, as the next.
+    template <class T>
+    void appendLeaf(const char* name, const T& value) const;
+
+    /// Adds the text of the value behind what the element holds.
+    template <class T>
+    void addText(const T& value) const;
+
+    /// Creates or replaces an attribute. Defined for std::string and unsigned int.
+    template <class T>
+    void setAttribute(const char* name, const T& value) const;
+
+    /// Ends what was appended, so that its names are needed no longer. Does nothing among nodes.
+    void finish() const;
+
+private:
+    tinyxml2::XMLElement* element_ = nullptr;
+    Printer* printer_ = nullptr;
+    Place place_;
+};
+
+}  // namespace lv::detail

@@ -1,0 +1,72 @@
+#include <lvdata/xml/detail/element_reading.h>
+#include <lvdata/xml/detail/number_parsing.h>
+#include <lvdata/xml/detail/parsed_array.h>
+
+#include <cstring>
+
+#include <tinyxml2.h>
+
+// Texts are read where the XML library keeps them, beyond the ends of the names that it gives out.
+// NOLINTBEGIN(*-pointer-arithmetic)
+
+namespace lv::detail {
+namespace {
+
+/// Later versions may keep their texts in another way. The tests notice when one does.
+constexpr bool keepsTextsWhereParsed = TINYXML2_MAJOR_VERSION <= 11;
+
+/// The character after a text, which the XML library replaced by a NUL when it gave out the text.
+const char* endOf(const char* text) {
+    return text + std::strlen(text);
+}
+
+const tinyxml2::XMLAttribute* lastAttributeOf(const tinyxml2::XMLElement& element) {
+    const tinyxml2::XMLAttribute* last = element.FirstAttribute();
+    while (last != nullptr && last->Next() != nullptr) {
+        last = last->Next();
+    }
+    return last;
+}
+
+/// What follows a start tag without attributes: at least that is so when it begins as an array does, since nothing but
+/// white space, '/' and '>' may follow the name.
+const char* afterName(const tinyxml2::XMLElement& element) {
+    return endOf(element.Value()) + 1;
+}
+
+/// What follows a start tag whose last attribute it is; null in doubt. A value that held entities is shorter than it
+/// was parsed, with some of its last characters left after it. They are taken for the rest of the tag only where they
+/// look like it, up to an end tag, and then the value ends in them, too.
+const char* afterValue(const tinyxml2::XMLAttribute& attribute) {
+    const char* const value = attribute.Value();
+    const char* const tagEnd = endOf(value) + 1;  // after the quotation mark
+    return *tagEnd == '>' && std::strchr(value, '<') == nullptr ? tagEnd + 1 : nullptr;
+}
+
+/// The text where it was parsed, when it is all that the element holds; empty in doubt.
+std::string_view parsedTextOf(const tinyxml2::XMLElement& element) {
+    const tinyxml2::XMLAttribute* const attribute = lastAttributeOf(element);
+    const char* const text = attribute == nullptr ? afterName(element) : afterValue(*attribute);
+    const char* const end = text == nullptr ? nullptr : std::strchr(text, '<');
+    const bool isWhole = end != nullptr && end[1] == '/';
+    return isWhole ? std::string_view(text, static_cast<std::size_t>(end - text)) : std::string_view();
+}
+
+}  // namespace
+
+template <class Number>
+bool readParsedArray(const tinyxml2::XMLElement* element, std::vector<Number>& out) {
+    if (element == nullptr) {
+        return false;
+    }
+    const std::string_view text = keepsTextsWhereParsed ? parsedTextOf(*element) : std::string_view();
+    const bool isPlain = !text.empty() && parsePlainNumbers(text, arraySeparator.front(), out);
+    return isPlain || readArray(element, out, arraySeparator);
+}
+
+template bool readParsedArray(const tinyxml2::XMLElement* element, std::vector<int>& out);
+template bool readParsedArray(const tinyxml2::XMLElement* element, std::vector<unsigned int>& out);
+
+}  // namespace lv::detail
+
+// NOLINTEND(*-pointer-arithmetic)
