@@ -10,16 +10,15 @@ namespace lv {
 /// The base of the records that hold a list of like rows instead of a fixed set of values.
 ///
 /// `Row` is a plain value without a base: it needs a default state and copying. Rows are never printed by themselves;
-/// the record that owns them reads and writes their elements. Parsing replaces the rows, it never merges: a root
-/// element of the right name empties the list first, and only a root element of another name leaves the old rows in
-/// place.
+/// the record that owns them reads and writes their elements. Parsing replaces the rows and never merges them: a root
+/// element of the right name empties the list first; one with a different name leaves the old rows in place.
 template <class Row>
 class LVDATA_EXPORT DataArrayObject : public DataObject {
 public:
     /// The rows in document order, reached directly: filled before printing, read after parsing.
     std::vector<Row> objects;
 
-    /// Whether this record was ever read from a root element of its own name, one without rows included.
+    /// Whether this record was ever read from a root element of its own name, even one without rows.
     bool parsed = false;
 
 protected:

@@ -10,27 +10,27 @@
 
 namespace lv {
 
-/// The base of every record: turns the record into XML text and back, and holds what all records share.
+/// The base of every record: converts the record to XML text and back, and holds what all records share.
 ///
-/// A record is a plain value: made with its defaults, filled by the application or by parsing, printed any number of
-/// times; a copy shares nothing with its source. It is one element of a document, its root element, which stands at
-/// document level or inside another record's element. One thread at a time per record, and any number of threads when
-/// all of them only read or print it; every call works on a document of its own.
+/// A record is a plain value: created with its defaults, filled by the application or by parsing, printed any number of
+/// times; a copy shares nothing with its source. In a document it is one element, its root element, at document level
+/// or inside another record's element. One thread at a time, or any number of threads as long as all of them only read
+/// or print it; every call works on its own document.
 ///
-/// Nothing throws but the standard library's own exceptions (`std::bad_alloc`), and nothing is logged.
+/// Nothing is thrown but the standard library's exceptions (`std::bad_alloc`), and nothing is logged.
 class LVDATA_EXPORT DataObject {
 public:
     virtual ~DataObject();
 
-    /// Reads the record from its root element. False when the element is invalid or bears another name (compared
-    /// exactly); the record is then unchanged. Otherwise true: every child is optional, so what the element holds
-    /// replaces the member and sets its flag, what it lacks clears the flag and leaves the earlier value in place. A
-    /// string whose element has no text keeps its value with the flag set; a number without text counts as missing.
-    /// Each record states where it differs. Children that the record does not know are passed over.
+    /// Reads the record from its root element. False, with the record unchanged, when the element is invalid or has a
+    /// different name (compared exactly). Otherwise true. Every child is optional: one that is there replaces the
+    /// member and sets its flag, a missing one clears the flag and leaves the earlier value in place. A string whose
+    /// element has no text keeps its value with the flag set; a number without text counts as missing. Each record
+    /// states where it differs. Children that the record does not know are ignored.
     virtual bool parseXMLElement(XMLElement element) = 0;
 
     /// Appends the record as a new last child of `parent`, a document or an element, and returns its root element. The
-    /// record itself stays as it is. With a parent that takes no children nothing happens and the result is invalid.
+    /// record itself is unchanged. When the parent cannot have children, nothing happens and the result is invalid.
     virtual XMLElement appendXMLElement(XMLNode& parent) const = 0;
 
     /// Reads the record from a whole XML document in UTF-8, which may be a string that the record itself holds. False,
@@ -43,8 +43,8 @@ public:
     /// The same, with the reason and the line when the text is refused.
     ParseResult parseXML(const std::string& text);
 
-    /// The record as a whole XML document in UTF-8: behind an XML declaration when `declaration`, indented when
-    /// `pretty`, otherwise compact. Changes nothing in the record, also when memory runs out (`std::bad_alloc`).
+    /// The record as a whole XML document in UTF-8: with an XML declaration when `declaration` is true, indented when
+    /// `pretty` is true, otherwise compact. The record is unchanged, even when memory runs out (`std::bad_alloc`).
     [[nodiscard]] std::string toXMLString(bool declaration, bool pretty) const;
 
     /// Appends a root element of that name to a document or an element; invalid when the parent cannot take it.
@@ -54,17 +54,17 @@ public:
     /// returns the element.
     XMLElement appendVersionAttribute(XMLElement element) const;
 
-    /// Reads both attributes into the two members. A missing or empty one clears the flag and leaves the number. No
+    /// Reads both attributes into the two members. A missing or empty one clears the flag and keeps the number. No
     /// number is refused, so a record read from a document of another version writes that document's numbers back.
     void parseVersionAttribute(XMLElement element);
 
     /// The version of the record's format, attributes "Version" and "MinorVersion". Fresh records hold the numbers of
-    /// their class with the flags clear; the flags tell whether a parsed document stated them.
+    /// their class with clear flags; after parsing the flags say whether the document had them.
     property<unsigned int> version;
     property<unsigned int> minorVersion;
 
-    /// Whether the records that know the element "HLGSystemGamma" by this switch write it. A record that holds others
-    /// hands its own switch to them when it is printed; their own members are neither consulted nor changed.
+    /// Whether `ParameterSetting` and `TargetSetting` write their element "HLGSystemGamma". The switch of the record
+    /// that is printed counts for all records inside it; their own switches are neither used nor changed.
     bool writeHLGSystemGamma = false;
 
 protected:

@@ -10,16 +10,16 @@ namespace lv {
 
 /// An XML document: parses text, prints itself, and gives out wrappers of the elements it holds.
 ///
-/// A default-made document is its own: it is deleted with the wrapper, and every wrapper into it dangles from then on.
-/// It can be neither copied nor moved, so that no two wrappers delete one document. A document made from a handle is
-/// borrowed and never deleted. One thread at a time, together with all wrappers into it.
+/// A default-constructed wrapper owns its document: both are deleted together, and every wrapper into the document
+/// dangles from then on. It can be neither copied nor moved, so that no two wrappers delete one document. A document
+/// wrapped from a handle is borrowed and never deleted. One thread at a time, together with all wrappers into it.
 class LVDATA_EXPORT XMLDocument : public XMLNode {
 public:
-    /// A new, empty document of the wrapper's own: entities are processed, white space is preserved.
+    /// A new, empty document, owned by the wrapper: entities are processed, white space is preserved.
     XMLDocument();
 
-    /// Borrows a document of the XML library, handed over as an untyped handle. A handle that is null or points at
-    /// another kind of node holds no document: nothing can be parsed into it, printed from it or appended to it.
+    /// Borrows a document of the XML library, passed as an untyped handle. If the handle is null or points to another
+    /// kind of node, there is no document: nothing can be parsed into it, printed from it or appended to it.
     XMLDocument(void* document);  // NOLINT(google-explicit-constructor)
 
     ~XMLDocument() override;
@@ -28,22 +28,21 @@ public:
     XMLDocument(XMLDocument&&) = delete;
     XMLDocument& operator=(XMLDocument&&) = delete;
 
-    /// Replaces the document by what `text`, a whole XML document in UTF-8, holds. Wrappers into the earlier content
-    /// dangle. True when the XML library accepts the text, which it does with a little more than well-formed documents
-    /// (several elements at document level, unknown entities); otherwise, or when there is no document, false, and the
-    /// document is then empty. The text ends at its first NUL, if it holds one. A byte order mark is passed over.
+    /// Replaces the content by that of `text`, a whole XML document in UTF-8. Wrappers into the earlier content dangle.
+    /// True when the XML library accepts the text; it accepts a little more than well-formed documents (several
+    /// elements at document level, unknown entities). Otherwise, or when there is no document, false, and the document
+    /// is empty. The text ends at its first NUL. A byte order mark is dropped: `toXMLString` does not write one.
     bool parseXMLString(const std::string& text);
 
-    /// The reason why the last `parseXMLString` failed, in a few words ("mismatched element"), and the line of the text
-    /// where the XML library noticed, counted from 1; 0 for a text without anything. After a success: an empty string
-    /// and 0.
+    /// Why the last `parseXMLString` failed, in a few words ("mismatched element"), and the line where the XML library
+    /// noticed it, counted from 1; 0 for an empty text. After a success: an empty string and 0.
     [[nodiscard]] std::string parseErrorText() const;
     [[nodiscard]] int parseErrorLine() const;
 
-    /// The document's text in UTF-8: indented by four spaces a level when `pretty`, without any line break of its own
-    /// otherwise; behind the declaration `<?xml version="1.0" encoding="UTF-8" standalone="no"?>` when `declaration`.
-    /// A declaration that was parsed is part of the document and printed in any case, so ask for one only where there
-    /// is none. Empty when there is no document.
+    /// The document's text in UTF-8: indented by four spaces a level when `pretty` is true, otherwise without added
+    /// line breaks. When `declaration` is true it begins with `<?xml version="1.0" encoding="UTF-8" standalone="no"?>`.
+    /// A declaration that was parsed is part of the document and always printed, so ask for one only where there is
+    /// none. Empty when there is no document.
     [[nodiscard]] std::string toXMLString(bool declaration, bool pretty) const;
 
     /// The first element at document level, whatever its name; invalid when there is none.

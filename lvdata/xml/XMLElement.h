@@ -13,16 +13,17 @@ namespace lv {
 /// An element of an XML document, with typed access to its text, attributes and children.
 ///
 /// A handle like `XMLNode`, narrowed to an element at every operation: a wrapper whose node is of another kind behaves
-/// as an invalid one. No operation reports an error or throws, but for `std::bad_alloc`. Failure shows as an invalid
-/// returned wrapper and an untouched output argument, so calls can be chained without checks; a missing child, a
-/// missing attribute and an invalid receiver look the same. One thread at a time, together with the document.
+/// like an invalid one. No operation reports an error, and none throws anything but `std::bad_alloc`. After a failure
+/// the returned wrapper is invalid and the output argument untouched, so calls can be chained without checks. A missing
+/// child, a missing attribute and an invalid receiver look the same. One thread at a time, together with the document.
 ///
 /// Names and text are C strings to the XML library: they end at their first NUL.
 class LVDATA_EXPORT XMLElement : public XMLNode {
 public:
     XMLElement() = default;
 
-    /// Wraps a node passed as `XMLNode` takes it, and converts from it; a node that is not an element behaves as none.
+    /// Wraps a node passed as `XMLNode` takes it, and converts from it; one that is not an element behaves like
+    /// an invalid wrapper.
     XMLElement(void* node) : XMLNode(node) {}  // NOLINT(google-explicit-constructor)
 
     /// The tag name; "" when invalid.
@@ -35,12 +36,12 @@ public:
     [[nodiscard]] std::vector<XMLElement> getElements(const std::string& name) const;
 
     /// \name Reading the element's own text
-    /// The text is the first piece of text or CDATA section, unless a child element stands in front of it; comments in
-    /// front are passed over, anything behind it ends it. Nothing but white space is no text; entities are resolved.
-    /// Each returns this element when it found what it looks for, else an invalid one with `out` untouched.
+    /// The text is the first piece of text or CDATA section, unless a child element comes before it. Comments before it
+    /// are ignored, and anything after it ends it. Whitespace-only text counts as absent; entities are resolved.
+    /// Each getter returns this element when the value was found, otherwise an invalid one with `out` untouched.
     /// @{
 
-    /// Found whenever the element is valid; without any text `out` stays untouched all the same.
+    /// Found whenever the element is valid; without a text `out` stays untouched even so.
     XMLElement getStringValue(std::string& out) const;
 
     /// Found when the text is not empty; it is converted as `lexical_cast` does.
@@ -50,15 +51,15 @@ public:
     /// Found when the text is not empty; true exactly for "true" and "TRUE".
     XMLElement getBoolValue(bool& out) const;
 
-    /// Found when the text is not empty: it is split as `split_string` does, and `out` is replaced by the numbers of
-    /// the pieces that are not empty, so "1||2|" gives two.
+    /// Found when the text is not empty. It is split as `split_string` does, and `out` is replaced by the numbers of
+    /// the pieces that are not empty: "1||2|" gives two numbers.
     XMLElement getIntArray(std::vector<int>& out, const std::string& separator) const;
     XMLElement getUIntArray(std::vector<unsigned int>& out, const std::string& separator) const;
     /// @}
 
     /// \name Reading a child's text
-    /// The getter above, applied to the first child element of that name. The arrays always split at "|", whatever
-    /// separator is given: every document holds them so.
+    /// The getters above, applied to the first child element of that name. Arrays are always split at "|", whatever
+    /// separator is given, since every document separates them so.
     /// @{
     XMLElement getStringValue(const std::string& name, std::string& out) const;
     XMLElement getIntValue(const std::string& name, int& out) const;
@@ -70,8 +71,8 @@ public:
     /// @}
 
     /// \name Reading into a property
-    /// The same getters; the flag becomes whether the element was found, and after a miss the value stays as it was.
-    /// The arrays always split at "|".
+    /// The same getters. The flag becomes whether the value was found; when it was not, the value stays as it was.
+    /// Arrays are always split at "|".
     /// @{
     XMLElement getStringValue(property<std::string>& out) const;
     XMLElement getIntValue(property<int>& out) const;
@@ -91,8 +92,8 @@ public:
     /// @}
 
     /// \name Attributes
-    /// A string attribute is found when it exists, also when it is empty; a number only when it is not empty. The
-    /// setters create or replace the attribute and return this wrapper, also when it is no element and nothing was set.
+    /// A string attribute is found when it exists, even if it is empty; a number only when it is not empty. The setters
+    /// create or replace the attribute and return this wrapper. When it is not an element, nothing is set.
     /// @{
     XMLElement getAttributeString(const std::string& name, std::string& out) const;
     XMLElement getAttributeInt(const std::string& name, int& out) const;
@@ -107,9 +108,9 @@ public:
     /// @}
 
     /// \name Appending children
-    /// Each appends a new last child element and returns it; on an invalid element nothing happens and the result is
-    /// invalid. `appendChild` adds no text node ("<A/>"); the others always add one, even for empty text ("<A></A>").
-    /// Arrays are the decimal texts joined by the separator, none before the first or after the last.
+    /// Each appends a new last child element and returns it. On an invalid element nothing happens and the result is
+    /// invalid. `appendChild` adds no text node ("<A/>"); the others always add one, even for an empty text
+    /// ("<A></A>"). An array is written as its decimal numbers with the separator between neighbours.
     /// @{
     XMLElement appendChild(const std::string& name) const;
     XMLElement appendChildString(const std::string& name, const std::string& text) const;
@@ -133,8 +134,8 @@ public:
     /// @}
 
     /// \name Appending a property
-    /// A set property is appended as its value is. An unset one appends an element without a text node when
-    /// `writeEmpty`, otherwise nothing, and the result is invalid; arrays that are unset append nothing.
+    /// A set property is appended like its value. For an unset one an element without a text node is appended when
+    /// `writeEmpty` is true; otherwise, and for every unset array, nothing is appended and the result is invalid.
     /// @{
     XMLElement appendChildString(const std::string& name, const property<std::string>& text, bool writeEmpty) const;
     XMLElement appendChildInt(const std::string& name, const property<int>& value, bool writeEmpty) const;

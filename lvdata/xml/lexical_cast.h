@@ -13,7 +13,7 @@ namespace lv {
 /// skipped, one sign may follow, then decimal digits up to the first other character; the rest is ignored.
 ///
 /// No call fails, throws or reports an error:
-/// - text that begins with no digit ("abc", "-", "+-5") and text of nothing but white space give 0;
+/// - text without a leading digit ("abc", "-", "+-5") and whitespace-only text give 0;
 /// - a number beyond the range gives the nearest limit of the type;
 /// - an unsigned number may carry a minus sign: its magnitude is negated modulo 2^32, so "-1" gives 4294967295, while a
 ///   magnitude beyond 4294967295 gives 4294967295 with either sign.

@@ -105,7 +105,8 @@ void Printer::addNumbers(const Place& place, const std::vector<Number>& numbers)
     const Number* const end = next + numbers.size();
     while (next != end) {
         char* out = text_.endWithRoom(longest);
-        const Number* const stop = next + std::min<std::size_t>(end - next, text_.room() / longest);
+        const auto left = static_cast<std::size_t>(end - next);
+        const Number* const stop = next + std::min(left, text_.room() / longest);
         for (; next != stop; ++next) {
             out = writeDecimal(*next, out);
             *out++ = arraySeparator.front();
