@@ -1,7 +1,9 @@
-"""Finds what scripts/mutate changes in a source, and writes all the changes into the source at once.
+"""Finds what scripts/mutate changes in a source, and writes the changes into it.
 
-A mutant is a change at one place. Compiling each by itself would take hours, so all are compiled in: every place is
-wrapped in an expression that is what it was, but for the run whose environment names the mutant's number.
+A mutant is a change at one place. Compiling each by itself would take hours, so all mutants of the records are compiled
+in at once: every place is wrapped in an expression that is what it was, but for the run whose environment names the
+mutant's number. Where much is computed at compile time that is not possible. There each mutant is compiled by itself, and
+more can be changed: `find_further`.
 """
 
 import collections
@@ -28,6 +30,27 @@ NUMBER = re.compile(r"(?<![\w.<\[])(?:0x[0-9A-F]+|\d+(?:\.\d+)?(?:e\d+)?)[uU]?(?
 LENGTH = re.compile(r"(?<=\.size\(\) [=>]= )[A-Za-z][\w:.]*(?:\(\))?")
 ENTRIES = re.compile(r"\{\s*([a-z]\w*(?:,\s+[a-z]\w*)*)\s*\}")
 CONSTANT = re.compile(r"constexpr (?!auto\b)")
+
+COMPARISON = re.compile(r" (<=?|>=?) (?=[\w(*&-])")
+CHARACTER = re.compile(r"(?<=[ (])'(?:[^'\\\\]|\\\\.)'")
+LOOP = re.compile(r"\b(?:while \(|for \([^;()]*(?:\([^()]*\)[^;()]*)*; )")
+
+SINGLE_MUTATION_HEADER = """#pragma once
+
+namespace lv::mutation {
+
+// Only the mutant that is compiled is in the source.
+constexpr bool on(int /*mutant*/) {
+    return true;
+}
+
+template <class T>
+constexpr T pick(int /*mutant*/, const T& changed, const T& /*original*/) {
+    return changed;
+}
+
+}  // namespace lv::mutation
+"""
 
 MUTATION_HEADER = """#pragma once
 
@@ -223,11 +246,44 @@ def entries(code):
             yield Mutant("entry", start, end, before, ")", "left out")
 
 
+def replaced(kind, match, group, by):
+    """The code of a group becomes something else: only for mutants that are compiled by themselves."""
+    start, end = match.span(group)
+    return Mutant(kind, start, end, f"{by} /*", "*/", f"becomes {by}")
+
+
+def comparisons(code):
+    """Comparisons that are off by one, characters that are the next ones, and loops that end at once."""
+    opposite = {"<": "<=", "<=": "<", ">": ">=", ">=": ">"}
+    for match in COMPARISON.finditer(code):
+        if "template" not in code[code.rfind("\n", 0, match.start()) : match.start()]:
+            yield replaced("comparison", match, 1, opposite[match.group(1)])
+    for match in CHARACTER.finditer(code):
+        yield Mutant("character", *match.span(), "static_cast<char>(1 + ", ")", "becomes the next character")
+    for match in LOOP.finditer(code):
+        end = code.index(";", match.end()) if match.group().startswith("for") else closing(code, match.end())
+        if code[match.end() : end].strip():
+            yield Mutant("loop", match.end(), end, "!mutation::on(@) && (", ")", "does not run")
+
+
 def find(path, text):
     """The mutants of a source, outer ones first; `path` names it in their keys."""
     code = masked(text)
     found = [mutant for start, end in statements(code) for mutant in in_statement(code, start, end)]
     found += [*gates(code), *operands(code), *texts(code, text), *numbers(code), *lengths(code), *entries(code)]
+    return named(path, text, found)
+
+
+def find_further(path, text):
+    """The same with what can only be changed where each mutant is compiled by itself."""
+    code = masked(text)
+    found = [mutant for start, end in statements(code) for mutant in in_statement(code, start, end)]
+    found += [*gates(code), *operands(code), *texts(code, text), *numbers(code), *lengths(code), *comparisons(code)]
+    return named(path, text, found)
+
+
+def named(path, text, found):
+    """Sorts the mutants and gives them their lines and keys."""
     found.sort(key=lambda mutant: (mutant.start, -mutant.end))
     times = collections.Counter()
     for mutant in found:
