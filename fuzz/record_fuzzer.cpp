@@ -3,6 +3,8 @@
 #include <fuzz/support/members.h>
 #include <fuzz/support/picked_record.h>
 
+#include <lvdata/xml/XMLDocument.h>
+
 // Any text into a fresh record: it is refused and nothing changed, or it is accepted and what is then printed is
 // stable.
 
@@ -76,10 +78,25 @@ void checkPrinting(const Record& record, bool lossless) {
     }
 }
 
+/// Arrays that are read where they were parsed, and elements that are printed directly, are those of an ordinary
+/// document.
+template <class Record>
+void checkTheLongWay(const Record& record, const std::string& text) {
+    Record again;
+    again.writeHLGSystemGamma = record.writeHLGSystemGamma;
+    XMLDocument document;
+    check(document.parseXMLString(text) && again.parseXMLElement(document.rootElement()), "the nodes are accepted");
+    checkEqual(describe(again), describe(record), "the nodes have the same members");
+    XMLDocument printed;
+    record.appendXMLElement(printed);
+    checkEqual(printed.toXMLString(true, true), indented(record), "the nodes are printed as the same text");
+}
+
 template <class Record>
 void checkParsing(Record& record, const std::string& text) {
     const std::string fresh = describe(record);
     if (record.parseXMLString(text)) {
+        checkTheLongWay(record, text);
         checkPrinting(record, !mayHoldLossyText(text));
     } else {
         checkEqual(describe(record), fresh, "a refused document leaves the record as it was");

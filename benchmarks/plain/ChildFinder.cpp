@@ -1,8 +1,14 @@
 #include <lvdata/xml/detail/ChildFinder.h>
 
+#include <string>
+
 #include <tinyxml2.h>
 
 namespace lv::detail {
+
+bool isNamed(const tinyxml2::XMLElement* element, const char* name) {
+    return element != nullptr && std::string(element->Value()) == name;
+}
 
 tinyxml2::XMLElement* findChild(tinyxml2::XMLElement* parent, const char* name) {
     return parent == nullptr ? nullptr : parent->FirstChildElement(name);

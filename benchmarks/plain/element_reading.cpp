@@ -35,10 +35,6 @@ bool convert(const std::string& text, bool& out) {
 
 }  // namespace
 
-bool isNamed(const tinyxml2::XMLElement* element, std::string_view name) {
-    return element != nullptr && element->Value() == std::string(name);
-}
-
 int lineOf(const tinyxml2::XMLElement* element) {
     return element->GetLineNum();
 }

@@ -6,6 +6,10 @@
 
 namespace lv::detail {
 
+bool isNamed(const tinyxml2::XMLElement* element, const char* name) {
+    return std::strcmp(pugixmlNode(element).name(), name) == 0;
+}
+
 std::vector<tinyxml2::XMLElement*> findChildren(tinyxml2::XMLElement* parent, const char* name) {
     std::vector<tinyxml2::XMLElement*> children;
     for (const pugi::xml_node child : pugixmlNode(parent).children(name)) {

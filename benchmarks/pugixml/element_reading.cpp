@@ -29,10 +29,6 @@ bool convert(std::string_view text, bool& out) {
 
 }  // namespace
 
-bool isNamed(const tinyxml2::XMLElement* element, std::string_view name) {
-    return name == pugixmlNode(element).name();
-}
-
 template <class T>
 bool readText(const tinyxml2::XMLElement* element, T& out) {
     return convert(pugixmlNode(element).child_value(), out);

@@ -7,16 +7,16 @@ namespace lv {
 /// How reading a record from a text ended: done, or why not. Converts to true when it is done.
 struct ParseResult {
     enum class Outcome {
-        done,              ///< The record was read.
-        notXML,            ///< The XML library refused the text.
-        nothingThere,      ///< The text is empty, or well-formed without an element.
-        otherRootElement,  ///< The record refused the root element: it has a different name.
+        done,                ///< The record was read.
+        notXML,              ///< The XML library refused the text.
+        nothingThere,        ///< The text is empty, or well-formed without an element.
+        rootElementRefused,  ///< The record refused the root element: usually because it has a different name.
     };
 
     Outcome outcome = Outcome::done;
 
-    /// Why it was refused, in a few words: "mismatched element"; with `otherRootElement` the name of the root element,
-    /// which may be as long as the text. Empty when done.
+    /// Why it was refused, in a few words: "mismatched element"; with `rootElementRefused` the name of the root
+    /// element, which may be as long as the text. Empty when done.
     std::string reason;
 
     /// The line where that was noticed, counted from 1; 0 where no line is to blame.

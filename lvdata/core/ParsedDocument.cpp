@@ -1,15 +1,16 @@
 #include <lvdata/core/DataObject.h>
 #include <lvdata/core/ParsedDocument.h>
+#include <lvdata/xml/detail/WrapperMark.h>
 #include <lvdata/xml/detail/element_reading.h>
-#include <lvdata/xml/detail/handle.h>
 
 #include <utility>
 
 namespace lv {
 namespace {
 
+using Outcome = ParseResult::Outcome;
+
 ParseResult resultOf(const XMLDocument& document, bool isParsed) {
-    using Outcome = ParseResult::Outcome;
     if (!isParsed) {
         std::string reason = document.parseErrorText();
         const Outcome outcome = reason == "empty document" ? Outcome::nothingThere : Outcome::notXML;
@@ -24,23 +25,27 @@ ParseResult resultOf(const XMLDocument& document, bool isParsed) {
 }  // namespace
 
 ParsedDocument::ParsedDocument(const std::string& text)
-    : parsed_(resultOf(document_, document_.parseXMLString(text))) {}
+    : isXML_(document_.parseXMLString(text)),
+      parsed_(resultOf(document_, isXML_)),
+      mayReadInPlace_(text.find("&#") == std::string::npos) {}
 
 std::string ParsedDocument::rootElementName() const {
     return document_.rootElement().elementName();
 }
 
 ParseResult ParsedDocument::read(DataObject& record) {
-    if (!parsed_) {
+    if (!isXML_) {
         return parsed_;
     }
     const XMLElement root = document_.rootElement();
     tinyxml2::XMLElement* const element = detail::toElement(root);
-    const bool isAsParsed = std::exchange(isAsParsed_, false);
-    if (record.parseXMLElement(isAsParsed ? detail::Handover::asParsed(element) : XMLElement(root))) {
-        return {};
+    ParseResult refused = parsed_;
+    if (element != nullptr) {  // asked for now: the record may change the document
+        refused = {Outcome::rootElementRefused, root.elementName(), detail::lineOf(element)};
     }
-    return {ParseResult::Outcome::otherRootElement, root.elementName(), detail::lineOf(element)};
+    const bool isAsParsed = std::exchange(mayReadInPlace_, false);
+    const bool isRead = record.parseXMLElement(isAsParsed ? detail::WrapperMark::asParsed(element) : XMLElement(root));
+    return isRead ? ParseResult() : refused;
 }
 
 }  // namespace lv

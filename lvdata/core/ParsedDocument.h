@@ -38,8 +38,9 @@ public:
 
 private:
     XMLDocument document_;
+    bool isXML_;
     ParseResult parsed_;
-    bool isAsParsed_ = true;  // nobody had the nodes who might have changed them
+    bool mayReadInPlace_;  // nobody had the nodes who might have changed them, and no attribute holds a NUL
 };
 
 }  // namespace lv

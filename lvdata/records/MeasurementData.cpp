@@ -81,7 +81,11 @@ void MeasurementDataObject::PQR_x(const colour& measured) {
 MeasurementData::MeasurementData() : DataArrayObject(2, 0) {}
 
 bool MeasurementData::parseXMLElement(XMLElement element) {
-    return detail::parseRecord(*this, getRootElementName().c_str(), element, visit);
+    const std::string rootName = getRootElementName();
+    // A class of an application may do anything there, also to the document: then the mark of the element is dropped.
+    const bool isOurs = detail::isExactly<MeasurementData, MeasurementDataSecondary>(*this);
+    return isOurs ? detail::parseRecord(*this, rootName.c_str(), element, visit)
+                  : detail::parseRecord(*this, rootName.c_str(), XMLElement(element), visit);
 }
 
 XMLElement MeasurementData::appendXMLElement(XMLNode& parent) const {

@@ -18,10 +18,9 @@ std::string errorWords(std::string_view identifier) {
         identifier.remove_prefix(prefix.size());
     }
     std::string words(identifier);
-    std::transform(words.begin(), words.end(), words.begin(), [](char character) {
-        const bool upper = character >= 'A' && character <= 'Z';
-        return upper ? static_cast<char>(character - 'A' + 'a') : (character == '_' ? ' ' : character);
-    });
+    constexpr char lowerCase = 0x20;  // the bit of a letter in ASCII
+    std::transform(words.begin(), words.end(), words.begin(),
+                   [](char character) { return character == '_' ? ' ' : static_cast<char>(character | lowerCase); });
     return words;
 }
 
@@ -37,11 +36,12 @@ XMLDocument::~XMLDocument() {
 
 bool XMLDocument::parseXMLString(const std::string& text) {
     tinyxml2::XMLDocument* const document = detail::toDocument(*this);
-    if (document == nullptr || document->Parse(text.c_str(), text.size()) != tinyxml2::XML_SUCCESS) {
+    if (document == nullptr) {
         return false;
     }
-    document->SetBOM(false);  // else the printer would put the mark behind the declaration
-    return true;
+    const tinyxml2::XMLError error = document->Parse(text.c_str(), text.size());
+    document->SetBOM(false);  // else the printer would put the mark after the declaration
+    return error == tinyxml2::XML_SUCCESS;
 }
 
 std::string XMLDocument::parseErrorText() const {

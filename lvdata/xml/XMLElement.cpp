@@ -36,14 +36,14 @@ XMLElement flagged(property<T>& out, const XMLElement& found) {
     return found;
 }
 
-XMLElement setAttribute(const XMLElement& element, const std::string& name, const std::string& value) {
+XMLElement withAttribute(const XMLElement& element, const std::string& name, const std::string& value) {
     if (tinyxml2::XMLElement* const node = detail::toElement(element)) {
         detail::setAttribute(*node, name.c_str(), value);
     }
     return element;
 }
 
-XMLElement appendText(const XMLElement& parent, const std::string& name, const std::string& text) {
+XMLElement appendWithText(const XMLElement& parent, const std::string& name, const std::string& text) {
     const XMLElement child = parent.appendChild(name);
     if (tinyxml2::XMLElement* const node = detail::toElement(child)) {
         detail::appendText(*node, text);
@@ -56,7 +56,7 @@ template <class T>
 XMLElement appendOptional(const XMLElement& parent, const std::string& name, const property<T>& value,
                           bool writeEmpty) {
     if (value.hasValue) {
-        return appendText(parent, name, detail::valueText(value.value));
+        return appendWithText(parent, name, detail::valueText(value.value));
     }
     return writeEmpty ? parent.appendChild(name) : XMLElement();
 }
@@ -64,7 +64,7 @@ XMLElement appendOptional(const XMLElement& parent, const std::string& name, con
 template <class Number>
 XMLElement appendOptional(const XMLElement& parent, const std::string& name,
                           const property<std::vector<Number>>& values, const std::string& separator) {
-    return values.hasValue ? appendText(parent, name, detail::joinNumbers(values.value, separator)) : XMLElement();
+    return values.hasValue ? appendWithText(parent, name, detail::joinNumbers(values.value, separator)) : XMLElement();
 }
 
 }  // namespace
@@ -211,15 +211,15 @@ XMLElement XMLElement::getAttributeUInt(const std::string& name, property<unsign
 }
 
 XMLElement XMLElement::setAttributeString(const std::string& name, const std::string& value) const {
-    return setAttribute(*this, name, value);
+    return withAttribute(*this, name, value);
 }
 
 XMLElement XMLElement::setAttributeInt(const std::string& name, int value) const {
-    return setAttribute(*this, name, detail::valueText(value));
+    return withAttribute(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::setAttributeUInt(const std::string& name, unsigned int value) const {
-    return setAttribute(*this, name, detail::valueText(value));
+    return withAttribute(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::appendChild(const std::string& name) const {
@@ -228,29 +228,29 @@ XMLElement XMLElement::appendChild(const std::string& name) const {
 }
 
 XMLElement XMLElement::appendChildString(const std::string& name, const std::string& text) const {
-    return appendText(*this, name, text);
+    return appendWithText(*this, name, text);
 }
 
 XMLElement XMLElement::appendChildInt(const std::string& name, int value) const {
-    return appendText(*this, name, detail::valueText(value));
+    return appendWithText(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::appendChildUInt(const std::string& name, unsigned int value) const {
-    return appendText(*this, name, detail::valueText(value));
+    return appendWithText(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::appendChildBool(const std::string& name, bool value) const {
-    return appendText(*this, name, detail::valueText(value));
+    return appendWithText(*this, name, detail::valueText(value));
 }
 
 XMLElement XMLElement::appendChildIntArray(const std::string& name, const std::vector<int>& values,
                                            const std::string& separator) const {
-    return appendText(*this, name, detail::joinNumbers(values, separator));
+    return appendWithText(*this, name, detail::joinNumbers(values, separator));
 }
 
 XMLElement XMLElement::appendChildUIntArray(const std::string& name, const std::vector<unsigned int>& values,
                                             const std::string& separator) const {
-    return appendText(*this, name, detail::joinNumbers(values, separator));
+    return appendWithText(*this, name, detail::joinNumbers(values, separator));
 }
 
 XMLElement XMLElement::appendChildString(const std::string& name, const property<std::string>& text,

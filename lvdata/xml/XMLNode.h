@@ -7,7 +7,7 @@
 namespace lv {
 
 namespace detail {
-class Handover;
+class WrapperMark;
 }
 
 /// A node of an XML document, or nothing.
@@ -29,7 +29,7 @@ public:
 
     virtual ~XMLNode();
     XMLNode(const XMLNode& other) : node_(other.get()) {}
-    XMLNode& operator=(const XMLNode& other) {  // NOLINT(cert-oop54-cpp): to itself it changes nothing
+    XMLNode& operator=(const XMLNode& other) {  // NOLINT(cert-oop54-cpp): to itself the handle is the same
         node_ = other.get();
         return *this;
     }
@@ -52,10 +52,10 @@ public:
     }
 
 private:
-    friend class detail::Handover;
+    friend class detail::WrapperMark;
 
     // The handle. The lowest bits of an address, which are 0, mark a wrapper that the library passes to one of its own
-    // functions directly. No copy has a mark, so an application never passes one on.
+    // functions directly. No copy has a mark; detail/WrapperMark.h says what follows from that.
     static constexpr unsigned int marks = 3;
     void* node_ = nullptr;
 };

@@ -25,7 +25,7 @@ struct property {
         hasValue = true;
     }
 
-    /// Two properties are equal when both members are, the value behind a cleared flag included.
+    /// Two properties are equal when both members are, including the value of a cleared flag.
     friend bool operator==(const property& left, const property& right) {
         return left.hasValue == right.hasValue && left.value == right.value;
     }

@@ -11,7 +11,7 @@ import dataclasses
 import re
 
 # Operations of a visit; a statement that calls one, or a function named visit..., is what the record says of a member.
-OPERATIONS = "field|value|attribute|constant|text|array|structure|group|record|recordWithSwitch|rows|keyed|derive"
+OPERATIONS = "field|value|attribute|constant|text|array|structure|group|record|rows|keyed|derive"
 VISITS = re.compile(rf"(?:^|[.\s=(!])(?:{OPERATIONS}|(?:detail::)?visit\w*)\(")
 ACTION = re.compile(r"(?!return\b|static_assert\b)[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(]")
 BOOL = re.compile(r"(?:const )?bool \w+ = ")

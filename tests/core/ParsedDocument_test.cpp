@@ -1,5 +1,6 @@
 #include <lvdata/core/ParsedDocument.h>
 #include <lvdata/records/CorrelationInfo.h>
+#include <lvdata/records/MeasurementData.h>
 #include <lvdata/records/MonitorInfo.h>
 #include <lvdata/records/MonitorParameter.h>
 
@@ -68,8 +69,8 @@ TEST(ParseXML, SaysWhyATextIsRefused) {
     expectRefused("", Outcome::nothingThere, "empty document", 0);
     expectRefused(" \n ", Outcome::nothingThere, "empty document", 0);
     expectRefused("<!-- only a comment -->", Outcome::nothingThere, "no root element", 0);
-    expectRefused("<!-- -->\n\n<Other/>", Outcome::otherRootElement, "Other", 3);
-    expectRefused("<correlationInfo/>", Outcome::otherRootElement, "correlationInfo", 1);
+    expectRefused("<!-- -->\n\n<Other/>", Outcome::rootElementRefused, "Other", 3);
+    expectRefused("<correlationInfo/>", Outcome::rootElementRefused, "correlationInfo", 1);
 }
 
 TEST(ParseXML, SaysThatItIsDone) {
@@ -83,6 +84,47 @@ TEST(ParsedDocument, WithoutARootElementHasNoName) {
         EXPECT_EQ(ParsedDocument(text).rootElementName(), "");
         EXPECT_FALSE(ParsedDocument(text).parseResult());
     }
+}
+
+/// A NUL ends the value of an attribute for the XML library, and what follows may look like the rest of the tag.
+TEST(ParseXML, ArraysAfterAnAttributeWithANulAreTheirOwn) {
+    for (const char* const nul : {"&#0;", "&#;", "&#x;", "&#x0;", "&#00;"}) {
+        for (const char* const element : {"'>4|5|6</RGB>", "' />", "'>4|5|&#54;</RGB>", "' x='1'>4</RGB>"}) {
+            const std::string text = std::string("<MeasurementData><Measurements><RGB a='") + nul + ">1|2|3</" +
+                                     element + "<XYZ>7|8|9</XYZ></Measurements></MeasurementData>";
+            MeasurementData parsed;
+            ASSERT_TRUE(parsed.parseXMLString(text)) << text;
+            XMLDocument document;
+            MeasurementData expected;
+            ASSERT_TRUE(document.parseXMLString(text) && expected.parseXMLElement(document.rootElement())) << text;
+            EXPECT_EQ(parsed.objects.at(0).RGB, expected.objects.at(0).RGB) << text;
+            EXPECT_EQ(parsed.objects.at(0).XYZ, (std::vector<int>{7, 8, 9}));
+        }
+    }
+}
+
+/// Asks for nothing in a document.
+class Undemanding : public DataObject {
+public:
+    Undemanding() : DataObject(1, 0) {}
+    bool parseXMLElement(XMLElement element) override {
+        wasAsked = true;
+        return !element.isValid();
+    }
+    XMLElement appendXMLElement(XMLNode& /*parent*/) const override { return nullptr; }
+
+    bool wasAsked = false;
+};
+
+TEST(ParseXML, ADocumentWithoutElementsIsOfferedToTheRecordOneThatIsRefusedIsNot) {
+    Undemanding record;
+    EXPECT_TRUE(record.parseXML("<!-- -->"));
+    EXPECT_TRUE(record.wasAsked);
+    Undemanding other;
+    EXPECT_EQ(other.parseXML("<a>").outcome, Outcome::notXML);
+    EXPECT_EQ(other.parseXML("").outcome, Outcome::nothingThere);
+    EXPECT_FALSE(other.wasAsked);
+    EXPECT_EQ(other.parseXML("<a/>").outcome, Outcome::rootElementRefused);
 }
 
 /// A record that keeps its own text.

@@ -1,9 +1,12 @@
 #include <lvdata/core/ParsedDocument.h>
 #include <lvdata/records/CorrelationInfo.h>
+#include <lvdata/records/MeasurementData.h>
 #include <lvdata/records/MonitorParameter.h>
+#include <lvdata/records/TargetSetting.h>
 #include <lvdata/xml/XMLDocument.h>
 #include <tests/support/without_rtti.h>
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -158,6 +161,18 @@ public:
     mutable std::string printed;
 };
 
+TEST(ApplicationClasses, TheParentIsADocumentWrapper) {
+    class Casting : public ApplicationRecord {
+    public:
+        XMLElement appendXMLElement(XMLNode& parent) const override {
+            const auto* const document = dynamic_cast<const XMLDocument*>(&parent);
+            EXPECT_NE(document, nullptr);
+            return document == nullptr ? nullptr : document->appendChild("Cast");
+        }
+    };
+    EXPECT_EQ(Casting().toXMLString(false, false), "<Cast/>");
+}
+
 TEST(ApplicationClasses, TheParentIsADocumentThatCanBePrinted) {
     const PrintingTheParent object;
     EXPECT_EQ(object.toXMLString(false, false), object.printed);
@@ -200,6 +215,85 @@ public:
 
 TEST(ApplicationClasses, AnElementToReadMayBecomeAParent) {
     EXPECT_TRUE(PrintingIntoTheElement().parseXMLString("<r/>"));
+}
+
+/// Puts another document in the place of the one that it is asked to read, and refuses it.
+class ReplacingWhatIsRead : public ApplicationRecord {
+public:
+    explicit ReplacingWhatIsRead(std::string text) : text_(std::move(text)) {}
+    bool parseXMLElement(XMLElement element) override {
+        auto* const node = static_cast<tinyxml2::XMLNode*>(element.get());
+        XMLDocument(static_cast<tinyxml2::XMLNode*>(node->GetDocument())).parseXMLString(text_);
+        return false;
+    }
+    XMLElement appendXMLElement(XMLNode& /*parent*/) const override { return nullptr; }
+
+private:
+    std::string text_;
+};
+
+TEST(ApplicationClasses, ADocumentThatIsReplacedWhileItIsReadIsRefusedAsItWas) {
+    for (const char* const text : {"<Other/>", "<Other"}) {
+        const ParseResult result = ReplacingWhatIsRead(text).parseXML("<!-- -->\n<First/>");
+        EXPECT_EQ(result.outcome, ParseResult::Outcome::rootElementRefused);
+        EXPECT_EQ(result.reason, "First");
+        EXPECT_EQ(result.line, 2);
+    }
+}
+
+/// Calls the operations of a record that take an element by reference, on one that it has changed.
+class Delegating : public TargetSetting {
+public:
+    bool parseXMLElement(XMLElement element) override {
+        element.appendChild("Green").appendChildUIntArray("Lut", {7, 8, 9}, "|");
+        parseGammaElement(element, "Green", appended);
+        auto* const lut = static_cast<tinyxml2::XMLNode*>(element.getElement("Red").getElement("Lut").get());
+        lut->ToElement()->SetText("3|4");
+        parseGammaElement(element, "Red", changed);
+        return true;
+    }
+
+    gamma_t::gamma_color appended;
+    gamma_t::gamma_color changed;
+};
+
+TEST(ApplicationClasses, OperationsThatTakeAnElementReadWhatWasChanged) {
+    Delegating object;
+    ASSERT_TRUE(object.parseXMLString("<TargetSetting><Red Type='Lut'><Lut>1|2</Lut></Red></TargetSetting>"));
+    EXPECT_EQ(object.appended.lut, (std::vector<unsigned int>{7, 8, 9}));
+    EXPECT_EQ(object.changed.lut, (std::vector<unsigned int>{3, 4}));
+}
+
+/// Changes the document where it is asked for its name.
+class RenamedMeasurements : public MeasurementData {
+public:
+    std::string getRootElementName() const override {
+        changes();
+        return "Renamed";
+    }
+
+    std::function<void()> changes;
+};
+
+/// Adds a row to any document.
+class AddingARow : public ApplicationRecord {
+public:
+    bool parseXMLElement(XMLElement element) override {
+        element.appendChild("Measurements").appendChildUIntArray("RGB", {7, 8, 9}, "|");
+        return true;
+    }
+    XMLElement appendXMLElement(XMLNode& /*parent*/) const override { return nullptr; }
+};
+
+TEST(ApplicationClasses, ANameMayChangeTheDocument) {
+    ParsedDocument document("<Renamed/>");
+    RenamedMeasurements record;
+    AddingARow adding;
+    record.changes = [&] {
+        EXPECT_TRUE(document.read(adding));
+    };
+    ASSERT_TRUE(document.read(record));
+    EXPECT_EQ(record.objects.at(0).RGB, (std::vector<unsigned int>{7, 8, 9}));
 }
 
 TEST(ApplicationClasses, ADocumentThatAClassHasReadIsNotTakenForUntouched) {

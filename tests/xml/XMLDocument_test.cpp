@@ -241,5 +241,15 @@ TEST(XMLDocument, HandleAssignedThroughTheBaseLeavesOwnershipAlone) {
     EXPECT_EQ(first.rootElement().elementName(), "Second");
 }  // each deletes its own: the address sanitizer would tell
 
+TEST(XMLDocumentParse, ARefusedTextLeavesNoByteOrderMark) {
+    for (const char* const text : {"\xEF\xBB\xBF<A><B></A>", "\xEF\xBB\xBF"}) {
+        XMLDocument document;
+        EXPECT_FALSE(document.parseXMLString(text));
+        EXPECT_EQ(document.toXMLString(false, false), "");
+        document.appendChild("X");
+        EXPECT_EQ(document.toXMLString(false, false), "<X/>");
+    }
+}
+
 }  // namespace
 }  // namespace lv

@@ -2,8 +2,8 @@
 
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/detail/ChildFinder.h>
+#include <lvdata/xml/detail/WrapperMark.h>
 #include <lvdata/xml/detail/element_reading.h>
-#include <lvdata/xml/detail/handle.h>
 #include <lvdata/xml/detail/parsed_array.h>
 #include <lvdata/xml/property.h>
 
@@ -39,7 +39,7 @@ namespace lv::detail {
 /// `value`, `attribute`, `text`, `array` on a plain vector, and the visits handed to `structure`, `group` and `rows`
 /// answer whether they found something: that becomes the flag of a structure and decides whether a row is kept.
 ///
-/// A gate in front of the operation says where the directions differ or a condition holds. Behind a closed gate reading
+/// A gate before the operation says where the directions differ or a condition holds. After a closed gate reading
 /// finds nothing, as if the element were missing, and nothing is written:
 ///
 ///     io.readWhen(condition)               closes reading
@@ -47,12 +47,18 @@ namespace lv::detail {
 ///     io.when(condition)                   closes both
 ///     io.always()                          writing does not consult the member's own flag
 ///
-/// A reader knows whether its document is as it was parsed, and passes that on with the elements that it gives to
-/// others; arrays are then read faster.
+/// A reader knows whether its document is as it was parsed, and passes that on to nested records; arrays are then read
+/// faster.
 class Reader {
 public:
-    /// \param element  marked when its document is as it was parsed
-    explicit Reader(const XMLElement& element) : Reader(toElement(element), Handover::isAsParsed(element)) {}
+    /// Of an element of any document, which may have been changed since it was parsed.
+    explicit Reader(const XMLElement& element) : Reader(toElement(element), false) {}
+
+    /// Of the parameter of a record's `parseXMLElement`. Its mark counts: it was passed there directly, and the record
+    /// reads before anybody else can change the document.
+    [[nodiscard]] static Reader ofParameter(const XMLElement& parameter) {
+        return {toElement(parameter), WrapperMark::isAsParsed(parameter)};
+    }
 
     [[nodiscard]] Reader readWhen(bool condition) const { return condition ? *this : Reader(nullptr, isAsParsed_); }
     [[nodiscard]] Reader writeWhen(bool /*condition*/) const { return *this; }
@@ -63,7 +69,7 @@ public:
     [[nodiscard]] bool exists() const { return element_ != nullptr; }
 
     /// Whether it has that name.
-    [[nodiscard]] bool isNamed(std::string_view name) const { return detail::isNamed(element_, name); }
+    [[nodiscard]] bool isNamed(const char* name) const { return detail::isNamed(element_, name); }
 
     /// That element as the wrapper that applications know.
     [[nodiscard]] XMLElement xmlElement() const { return toHandle(element_); }
@@ -129,7 +135,7 @@ public:
     template <class Record>
     void record(Record& member, bool& flag) {
         tinyxml2::XMLElement* const child = children_.find(Record::rootElementName);
-        flag = member.parseXMLElement(isAsParsed_ ? Handover::asParsed(child) : XMLElement(toHandle(child)));
+        flag = member.parseXMLElement(isAsParsed_ ? WrapperMark::asParsed(child) : XMLElement(toHandle(child)));
     }
 
     template <class Record>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <lvdata/xml/XMLNode.h>
-#include <lvdata/xml/detail/handle.h>
+#include <lvdata/xml/XMLDocument.h>
+#include <lvdata/xml/detail/WrapperMark.h>
 
 namespace lv {
 class DataObject;
@@ -11,10 +11,11 @@ namespace lv::detail {
 
 class Writer;
 
-/// The parent that the library gives to a record's `appendXMLElement`. It brings along the writer that the record
-/// writes with, and is for that record alone: to everybody else, such as a class of an application that prints records
-/// which it holds, it is the document or element that it wraps.
-class RecordParent final : public XMLNode {
+/// The parent that the library passes to a record's `appendXMLElement`. It brings along the writer that the record
+/// writes with, and is for that record alone. To everybody else, such as a class of an application that prints records
+/// which it holds, it is the document that it wraps. A nested one wraps the element of the outer record, or nothing
+/// when the text is printed directly.
+class RecordParent final : public XMLDocument {
 public:
     /// For a record whose text is wanted.
     RecordParent(const XMLNode& document, const DataObject& outermost, const Writer& writer)
@@ -33,7 +34,7 @@ public:
 
     /// The parent as it was given to that record; null when it was given to anybody else.
     [[nodiscard]] static const RecordParent* ownOf(const DataObject& record, const XMLNode& parent) {
-        if (!Handover::isMarkedParent(parent)) {
+        if (!WrapperMark::isMarkedParent(parent)) {
             return nullptr;
         }
         const auto* const marked = static_cast<const RecordParent*>(&parent);  // no other node is marked, and no copy
@@ -45,11 +46,11 @@ public:
 
 private:
     RecordParent(const XMLNode& node, const DataObject& record, const Writer& writer, bool isNested)
-        : XMLNode(node),
+        : XMLDocument(node.get()),
           record_(record),
           writer_(writer),
           isNested_(isNested) {
-        Handover::markParent(*this);
+        WrapperMark::markParent(*this);
     }
 
     const DataObject& record_;

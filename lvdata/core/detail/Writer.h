@@ -154,7 +154,7 @@ public:
     }
 
 private:
-    /// Whether a member with that flag is written: not behind a closed gate, where no text shall even be made.
+    /// Whether a member with that flag is written: not after a closed gate.
     [[nodiscard]] bool writes(bool flag) const { return exists() && (flag || always_); }
 
     Output output_;

@@ -61,8 +61,11 @@ Magnitude product(const Magnitude& value, std::uint32_t factor) {
     return rounded({upper << (32 - lost) | low, value.exponent + lost});
 }
 
-/// The whole part of the magnitude plus or minus one half, rounded before it is truncated. The exponent is from -63 to
-/// 10, so that everything fits into 64 bits.
+constexpr int leastExponent = -63;                 // below it the product is less than one half by far
+constexpr int greatestExponent = 63 - doubleBits;  // above it the product is 2^63 or more
+
+/// The whole part of the magnitude plus or minus one half, rounded before it is truncated. Exponents between these two
+/// fit into 64 bits.
 std::uint64_t wholePart(const Magnitude& magnitude, bool isNegative) {
     const int exponent = std::min(magnitude.exponent, -1);
     const std::uint64_t mantissa = magnitude.mantissa << (magnitude.exponent - exponent);
@@ -81,8 +84,6 @@ std::uint32_t scaledBits(double value, std::uint32_t factor) {
         return 0;
     }
     const Magnitude scaled = product(magnitudeOf(value), factor);
-    constexpr int leastExponent = -63;  // below it the product is less than one half by far
-    constexpr int greatestExponent = 63 - doubleBits;
     if (scaled.exponent < leastExponent || scaled.exponent > greatestExponent) {
         return 0;
     }

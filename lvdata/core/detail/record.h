@@ -20,7 +20,7 @@ void visitVersion(Io& io, Record& record) {
 /// and what the record's visit names.
 template <class Record, class Visit>
 [[nodiscard]] bool parseRecord(Record& record, const char* rootName, const XMLElement& element, Visit visit) {
-    Reader io(element);
+    Reader io = Reader::ofParameter(element);
     if (!io.isNamed(rootName)) {
         return false;
     }
@@ -38,9 +38,10 @@ template <class... Records>
 /// What every record's `appendXMLElement` does: appends the root element with its version attributes, then what the
 /// record's visit names.
 ///
-/// A class that an application derives from the record may look at the document before or after what it inherits. So
-/// the writer that the library brings along for the whole text is not for that. \tparam Inheriting  the library's own
-/// classes that inherit this from the record
+/// A class that an application derives from the record may look at the document before or after what it inherits. So it
+/// is written into nodes, and the writer that the library brings along for the whole text is not used.
+///
+/// \tparam Inheriting  the library's own classes that inherit this function from the record
 template <class... Inheriting, class Record, class Visit>
 XMLElement appendRecord(const Record& record, const char* rootName, XMLNode& parent, Visit visit) {
     const RecordParent* const own = RecordParent::ownOf(record, parent);

@@ -26,11 +26,6 @@ tinyxml2::XMLElement* next(tinyxml2::XMLElement* element) {
     return elementFrom(element->NextSibling());
 }
 
-bool isNamed(const tinyxml2::XMLElement* element, const char* name) {
-    const char* const ownName = element->Value();
-    return *ownName == *name && std::strcmp(ownName, name) == 0;
-}
-
 /// The element itself, or the first of that name after it.
 tinyxml2::XMLElement* namedFrom(tinyxml2::XMLElement* element, const char* name) {
     while (element != nullptr && !isNamed(element, name)) {
@@ -40,6 +35,11 @@ tinyxml2::XMLElement* namedFrom(tinyxml2::XMLElement* element, const char* name)
 }
 
 }  // namespace
+
+bool isNamed(const tinyxml2::XMLElement* element, const char* name) {
+    const char* const ownName = element == nullptr ? nullptr : element->Value();
+    return ownName != nullptr && *ownName == *name && std::strcmp(ownName, name) == 0;
+}
 
 tinyxml2::XMLElement* findChild(tinyxml2::XMLElement* parent, const char* name) {
     return namedFrom(firstChild(parent), name);

@@ -15,7 +15,7 @@ void print(Printer& printer, const Place& place, const std::string& value) {
 }
 
 void print(Printer& printer, const Place& place, bool value) {
-    printer.addText(place, value ? "true" : "false");
+    printer.addText(place, valueText(value).c_str());
 }
 
 template <class Number>

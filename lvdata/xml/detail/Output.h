@@ -10,10 +10,10 @@ namespace lv::detail {
 
 class Printer;
 
-/// The element that is written: one among the nodes of a document, or one that becomes text at once; or nothing, where
+/// The element that is written: a node of a document, or an element that is printed directly; or nothing, where
 /// everything that is written disappears. A small value, copied freely.
 ///
-/// What becomes text at once follows the three rules of `Printer`.
+/// Direct printing follows the three rules of `Printer`.
 class Output {
 public:
     Output() = default;
@@ -21,7 +21,7 @@ public:
     /// An element of a document; null makes nothing.
     explicit Output(tinyxml2::XMLElement* element) : element_(element) {}
 
-    /// Where the root element goes in a text that is printed at once. The printer must outlive all copies.
+    /// Document level of a directly printed text. The printer must outlive all copies.
     explicit Output(Printer& printer) : printer_(&printer) {}
 
     /// Whether there is something to write into.
@@ -33,12 +33,12 @@ public:
     /// A new last child element; nothing when there is nothing to write into.
     Output append(const char* name) const;
 
-    /// A new last child element that holds nothing but the text of the value, an empty one included. For the types of
-    /// `valueText`, as the next.
+    /// A new last child element that holds nothing but the text of the value, an empty one included. Defined for the
+    /// types of `valueText`, like `addText`.
     template <class T>
     void appendLeaf(const char* name, const T& value) const;
 
-    /// Adds the text of the value behind what the element holds.
+    /// Adds the text of the value after what the element holds.
     template <class T>
     void addText(const T& value) const;
 
@@ -46,7 +46,7 @@ public:
     template <class T>
     void setAttribute(const char* name, const T& value) const;
 
-    /// Ends what was appended, so that its names are needed no longer. Does nothing among nodes.
+    /// Closes what was appended, so that the names are no longer needed. Does nothing among nodes.
     void finish() const;
 
 private:

@@ -10,8 +10,8 @@ namespace lv::detail {
 
 class Printer;
 
-/// A document that is made for nothing but its text, in either of two ways: what is written to `output` becomes text at
-/// once, without nodes; `nodes` is an ordinary document, which is printed in the end.
+/// A document that is made for its text alone, in either of two ways: what is written to `output` is printed directly,
+/// without nodes; `nodes` is an ordinary document, which is printed at the end.
 class PrintedDocument {
 public:
     PrintedDocument(bool declaration, bool pretty);
@@ -23,7 +23,7 @@ public:
 
     [[nodiscard]] const XMLDocument& nodes() const { return nodes_; }
 
-    /// Where the root element goes.
+    /// For the root element.
     [[nodiscard]] Output output() { return Output(*printer_); }
 
     /// The whole text, what was written to the output first. To be called once.

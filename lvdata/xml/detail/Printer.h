@@ -11,16 +11,16 @@
 
 namespace lv::detail {
 
-/// The XML library's printer, which prints elements at once, as they are opened and given their texts, or the nodes of
-/// a document (`document.Accept(&printer)`), or one after the other, into the same text.
+/// The XML library's printer. It prints elements directly, as they are opened and given their texts, and the nodes of a
+/// document (`document.Accept(&printer)`), both into the same text.
 ///
-/// It prints into blocks of its own: the library's buffer counts in an `int` and is written beyond its end by a text
-/// that is longer than that can count. A text that needs no escaping goes out in one piece.
+/// It prints into blocks: the library's own buffer counts in `int` and overflows with longer texts. A text that needs
+/// no escaping is appended in one piece.
 ///
-/// Where something is printed at once is said by a place. What is open inside the element of that place is closed then,
-/// and not before: so nobody has to close elements, and places may be copied. Three rules follow, which builds with
-/// assertions check: an element's attributes are added before its texts and children; an element that was closed gets
-/// nothing more; a name lives as long as its element is open.
+/// A place says where something is printed directly. Elements that are open inside that place are closed then, and not
+/// before. So nobody has to close elements, and places may be copied. Three rules follow, which builds with assertions
+/// check: an element's attributes are added before its texts and children; an element that was closed gets nothing
+/// more; a name lives as long as its element is open.
 class Printer final : public tinyxml2::XMLPrinter {
 public:
     explicit Printer(bool compact);

@@ -34,10 +34,6 @@ bool convert(std::string_view text, bool& out) {
 
 }  // namespace
 
-bool isNamed(const tinyxml2::XMLElement* element, std::string_view name) {
-    return name == (element == nullptr ? "" : element->Value());
-}
-
 int lineOf(const tinyxml2::XMLElement* element) {
     return element->GetLineNum();
 }

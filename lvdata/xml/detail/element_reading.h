@@ -13,9 +13,6 @@ namespace lv::detail {
 /// What separates the values of an array in every document.
 inline constexpr std::string_view arraySeparator = "|";
 
-/// Whether the element has that name; an element that is null has the empty name.
-[[nodiscard]] bool isNamed(const tinyxml2::XMLElement* element, std::string_view name);
-
 /// The line of the parsed text where the element begins, counted from 1.
 [[nodiscard]] int lineOf(const tinyxml2::XMLElement* element);
 

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/XMLNode.h>
-
-#include <cstdint>
 
 namespace tinyxml2 {
 class XMLDocument;
@@ -16,47 +13,12 @@ namespace lv::detail {
 /// The XML library's node behind a wrapper; null when the wrapper is invalid.
 [[nodiscard]] tinyxml2::XMLNode* toNode(const XMLNode& wrapper);
 
-/// The same narrowed to an element or a document; null when the node is of another kind, too.
+/// The same narrowed to an element or a document; null also when the node is of another kind.
 [[nodiscard]] tinyxml2::XMLElement* toElement(const XMLNode& wrapper);
 [[nodiscard]] tinyxml2::XMLDocument* toDocument(const XMLNode& wrapper);
 
 /// The untyped handle that a wrapper is made from: the pointer to the node's base class.
 [[nodiscard]] void* toHandle(tinyxml2::XMLNode* node);
 [[nodiscard]] void* toHandle(tinyxml2::XMLElement* element);
-
-/// What the library tells one of its own functions with a wrapper that it passes to it directly.
-///
-/// A copy of a marked wrapper is not marked. So a function that receives a marked one by value knows that no code of an
-/// application came between: not even a class derived from a record can pass the mark on.
-class Handover {
-public:
-    /// An element whose document is as it was parsed. To be passed as it is returned, since a named one would be
-    /// copied.
-    [[nodiscard]] static XMLElement asParsed(tinyxml2::XMLElement* element) {
-        return withMark(toHandle(element), parsedMark);
-    }
-
-    [[nodiscard]] static bool isAsParsed(const XMLElement& element) { return hasMark(element, parsedMark); }
-
-    /// Marks the parent of a record that `RecordParent` is.
-    static void markParent(XMLNode& parent) { parent.node_ = withMark(parent.get(), parentMark); }
-
-    [[nodiscard]] static bool isMarkedParent(const XMLNode& parent) { return hasMark(parent, parentMark); }
-
-private:
-    static constexpr std::uintptr_t parsedMark = 1;
-    static constexpr std::uintptr_t parentMark = 2;
-    static_assert((parsedMark | parentMark) == XMLNode::marks);
-
-    // NOLINTBEGIN(*-reinterpret-cast, performance-no-int-to-ptr)
-    [[nodiscard]] static void* withMark(void* handle, std::uintptr_t mark) {
-        return reinterpret_cast<void*>(reinterpret_cast<std::uintptr_t>(handle) | mark);
-    }
-
-    [[nodiscard]] static bool hasMark(const XMLNode& wrapper, std::uintptr_t mark) {
-        return (reinterpret_cast<std::uintptr_t>(wrapper.node_) & mark) != 0;
-    }
-    // NOLINTEND(*-reinterpret-cast, performance-no-int-to-ptr)
-};
 
 }  // namespace lv::detail

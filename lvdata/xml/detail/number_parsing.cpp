@@ -64,7 +64,7 @@ public:
     static constexpr std::size_t reach = 11;
 
     /// \param first  where the first piece begins
-    /// \param limit  pieces are read that begin in front of it; `reach` characters can be read from each of them
+    /// \param limit  pieces are read that begin before it; `reach` characters can be read from each of them
     /// \param end    where the last piece ends
     PlainPieces(const char* first, const char* limit, const char* end, char separator)
         : at_(first),

@@ -12,8 +12,8 @@
 namespace lv::detail {
 namespace {
 
-/// Later versions may keep their texts in another way. The tests notice when one does.
-constexpr bool keepsTextsWhereParsed = TINYXML2_MAJOR_VERSION <= 11;
+/// Seen in version 9; others may keep their texts in another way.
+constexpr bool keepsTextsWhereParsed = TINYXML2_MAJOR_VERSION == 9;
 
 /// The character after a text, which the XML library replaced by a NUL when it gave out the text.
 const char* endOf(const char* text) {
@@ -28,15 +28,15 @@ const tinyxml2::XMLAttribute* lastAttributeOf(const tinyxml2::XMLElement& elemen
     return last;
 }
 
-/// What follows a start tag without attributes: at least that is so when it begins as an array does, since nothing but
-/// white space, '/' and '>' may follow the name.
+/// What follows a start tag without attributes. If that begins with a digit or '-', it is the element's content,
+/// because only white space, '/' and '>' can follow a name.
 const char* afterName(const tinyxml2::XMLElement& element) {
     return endOf(element.Value()) + 1;
 }
 
 /// What follows a start tag whose last attribute it is; null in doubt. A value that held entities is shorter than it
-/// was parsed, with some of its last characters left after it. They are taken for the rest of the tag only where they
-/// look like it, up to an end tag, and then the value ends in them, too.
+/// was parsed, with its last characters left over after it. They could look like the rest of the tag, a text and an end
+/// tag, but then the value, which ends in the same characters, holds a '<', too.
 const char* afterValue(const tinyxml2::XMLAttribute& attribute) {
     const char* const value = attribute.Value();
     const char* const tagEnd = endOf(value) + 1;  // after the quotation mark

@@ -9,9 +9,9 @@ class XMLElement;
 namespace lv::detail {
 
 /// Reads an array, separated as in every document, of an element whose document is as it was parsed: nothing in it was
-/// changed since. The result is that of `readArray`.
+/// changed since, and no attribute holds a NUL (`&#0;`). The result is that of `readArray`.
 ///
-/// The XML library resolves entities and line ends in a text when it hands it out, character by character; for a long
+/// The XML library resolves entities and line ends in a text when it gives it out, character by character; for a long
 /// array that costs more than the conversion of the numbers. But it keeps names, attributes and texts where they were
 /// parsed, in a copy of the whole document. So plain numbers are read there, and whatever might not be plain numbers is
 /// left to `readArray`.

@@ -19,6 +19,7 @@ void writeAll(const Output& root) {
     root.appendLeaf("Empty", std::string());
     root.appendLeaf("Long", std::string(100, 'x'));
     root.appendLeaf("LongEscaped", std::string(100, 'x') + '>');
+    root.appendLeaf("LongEscaped", std::string(100, 'x') + "<&>");
     const Output inner = root.append("Inner");
     inner.setAttribute("Type", std::string("T"));
     const Output innermost = inner.append("Innermost");
@@ -32,6 +33,8 @@ void writeAll(const Output& root) {
     root.appendLeaf("Numbers", std::vector<unsigned int>{1, 22, 333, 4294967295U});
     root.appendLeaf("NoNumbers", std::vector<unsigned int>());
     root.addText(std::vector<unsigned int>(3000, 1234567));
+    root.append("Last").append("Inner");
+    root.addText(std::string("end"));
 }
 
 std::string asNodes(bool pretty) {
@@ -104,6 +107,16 @@ TEST(OutputDeathTest, AnElementThatWasClosedGetsNothingMore) {
     second.addText(2);
     EXPECT_DEATH(first.append("b"), "gets nothing more");
     EXPECT_DEATH(first.setAttribute("Version", 2U), "attributes come first");
+}
+
+TEST(OutputDeathTest, AnElementInsideOneThatWasClosedGetsNothingMore) {
+    Printer printer(true);
+    const Output root = Output(printer).append("r");
+    const Output inner = root.append("a").append("b");
+    root.finish();
+    EXPECT_DEATH(inner.addText(1), "gets nothing more");
+    Output(printer).finish();
+    EXPECT_DEATH(root.append("a"), "gets nothing more");
 }
 
 TEST(OutputDeathTest, ANameOutlivesItsElement) {
