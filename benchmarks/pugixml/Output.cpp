@@ -73,11 +73,6 @@ Output Output::append(const char* name) const {
 }
 
 template <class T>
-void Output::appendLeaf(const char* name, const T& value) const {
-    append(name).addText(value);
-}
-
-template <class T>
 void Output::addText(const T& value) const {
     addTo(pugixmlNode(element_), value);
 }
@@ -94,12 +89,6 @@ void Output::setAttribute(const char* name, const unsigned int& value) const {
 
 void Output::finish() const {}
 
-template void Output::appendLeaf(const char* name, const std::string& value) const;
-template void Output::appendLeaf(const char* name, const bool& value) const;
-template void Output::appendLeaf(const char* name, const int& value) const;
-template void Output::appendLeaf(const char* name, const unsigned int& value) const;
-template void Output::appendLeaf(const char* name, const std::vector<int>& value) const;
-template void Output::appendLeaf(const char* name, const std::vector<unsigned int>& value) const;
 template void Output::addText(const std::string& value) const;
 template void Output::addText(const bool& value) const;
 template void Output::addText(const int& value) const;

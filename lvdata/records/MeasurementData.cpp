@@ -36,6 +36,10 @@ constexpr auto visit = [](auto& io, auto& self) {
     io.rows("Measurements", self, visitRow, hasContent);
 };
 
+bool isLibrarysOwn(const DataObject& record) {
+    return detail::isOfClass<MeasurementData>(record) || detail::isOfClass<MeasurementDataSecondary>(record);
+}
+
 }  // namespace
 
 colour MeasurementDataObject::RGB_x() const {
@@ -83,13 +87,12 @@ MeasurementData::MeasurementData() : DataArrayObject(2, 0) {}
 bool MeasurementData::parseXMLElement(XMLElement element) {
     const std::string rootName = getRootElementName();
     // A class of an application may do anything there, also to the document: then the mark of the element is dropped.
-    const bool isOurs = detail::isExactly<MeasurementData, MeasurementDataSecondary>(*this);
-    return isOurs ? detail::parseRecord(*this, rootName.c_str(), element, visit)
-                  : detail::parseRecord(*this, rootName.c_str(), XMLElement(element), visit);
+    return isLibrarysOwn(*this) ? detail::parseRecord(*this, rootName.c_str(), element, visit)
+                                : detail::parseRecord(*this, rootName.c_str(), XMLElement(element), visit);
 }
 
 XMLElement MeasurementData::appendXMLElement(XMLNode& parent) const {
-    return detail::appendRecord<MeasurementDataSecondary>(*this, getRootElementName().c_str(), parent, visit);
+    return detail::appendRecord(*this, getRootElementName().c_str(), parent, visit, &isLibrarysOwn);
 }
 
 std::string MeasurementData::getRootElementName() const {

@@ -4,7 +4,6 @@
 #include <lvdata/records/MonitorParameter.h>
 #include <lvdata/records/TargetSetting.h>
 #include <lvdata/xml/XMLDocument.h>
-#include <tests/support/without_rtti.h>
 
 #include <functional>
 #include <string>
@@ -303,14 +302,6 @@ TEST(ApplicationClasses, ADocumentThatAClassHasReadIsNotTakenForUntouched) {
     MonitorParameter second;
     ASSERT_TRUE(document.read(second));
     EXPECT_EQ(second.redLUT.value, (std::vector<unsigned int>{7, 7, 7}));
-}
-
-TEST(ApplicationClasses, DocumentsAndWrappersNeedNoRtti) {
-    const CorrelationInfo info = correlation("S");
-    EXPECT_EQ(printedWithoutRtti(info), info.toXMLString(false, false));
-    MonitorParameter parameter;
-    ASSERT_TRUE(parsedWithoutRtti(parameter, "<MonitorParameter><RedLUT>1|2|3</RedLUT></MonitorParameter>"));
-    EXPECT_EQ(parameter.redLUT.value, (std::vector<unsigned int>{1, 2, 3}));
 }
 
 /// Changes the document, as the XML library allows it, before the inherited class reads it.

@@ -134,8 +134,7 @@ public:
 
     template <class Record>
     void record(Record& member, bool& flag) {
-        tinyxml2::XMLElement* const child = children_.find(Record::rootElementName);
-        flag = member.parseXMLElement(isAsParsed_ ? WrapperMark::asParsed(child) : XMLElement(toHandle(child)));
+        flag = member.parseXMLElement(passedOn(children_.find(Record::rootElementName)));
     }
 
     template <class Record>
@@ -178,6 +177,12 @@ private:
         : element_(element),
           isAsParsed_(isAsParsed),
           children_(element) {}
+
+    /// The element for a nested record, which reads before anybody else can change the document. To be passed as it is
+    /// returned, since a copy would not be marked.
+    [[nodiscard]] XMLElement passedOn(tinyxml2::XMLElement* element) const {
+        return isAsParsed_ ? WrapperMark::asParsed(element) : XMLElement(toHandle(element));
+    }
 
     template <class T>
     [[nodiscard]] bool read(const tinyxml2::XMLElement* element, T& member) const {

@@ -23,7 +23,7 @@ public:
 
     /// For a record that another one holds by value, so that it is of the library's own class.
     [[nodiscard]] static RecordParent nestedIn(const XMLNode& element, const DataObject& nested, const Writer& writer) {
-        return {element, nested, writer, true};
+        return RecordParent(element, nested, writer, true);
     }
 
     RecordParent(const RecordParent&) = delete;

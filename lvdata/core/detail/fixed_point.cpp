@@ -18,7 +18,7 @@ struct Magnitude {
     int exponent;
 };
 
-constexpr std::uint64_t lowBits(int count) {
+std::uint64_t lowBits(int count) {
     return (std::uint64_t{1} << count) - 1;
 }
 
@@ -42,7 +42,7 @@ Magnitude rounded(const Magnitude& exact) {
     const std::uint64_t rest = exact.mantissa & lowBits(lost);
     const std::uint64_t kept = exact.mantissa >> lost;
     const bool up = rest > half || (rest == half && kept % 2 == 1);
-    return {kept + (up ? 1 : 0), exact.exponent + lost};
+    return {kept + (up ? 1 : 0), exact.exponent + lost};  // of up to 2^53
 }
 
 /// A value that is not 0, without its sign.
@@ -56,7 +56,7 @@ Magnitude magnitudeOf(double value) {
 Magnitude product(const Magnitude& value, std::uint32_t factor) {
     const std::uint64_t lower = (value.mantissa & lowBits(32)) * factor;
     const std::uint64_t upper = (value.mantissa >> 32U) * factor + (lower >> 32U);
-    const int lost = upper == 0 ? 0 : std::max(bitLength(upper) - 32, 0);
+    const int lost = std::max(bitLength(upper) - 32, 0);
     const std::uint64_t low = withStickyBit(lower & lowBits(32), lost);
     return rounded({upper << (32 - lost) | low, value.exponent + lost});
 }
@@ -64,8 +64,8 @@ Magnitude product(const Magnitude& value, std::uint32_t factor) {
 constexpr int leastExponent = -63;                 // below it the product is less than one half by far
 constexpr int greatestExponent = 63 - doubleBits;  // above it the product is 2^63 or more
 
-/// The whole part of the magnitude plus or minus one half, rounded before it is truncated. Exponents between these two
-/// fit into 64 bits.
+/// The whole part of the magnitude plus or minus one half, rounded before it is truncated. Between these two exponents
+/// everything fits into 64 bits, but for 2^63 itself, which gives 0 as all that is larger.
 std::uint64_t wholePart(const Magnitude& magnitude, bool isNegative) {
     const int exponent = std::min(magnitude.exponent, -1);
     const std::uint64_t mantissa = magnitude.mantissa << (magnitude.exponent - exponent);
@@ -87,9 +87,9 @@ std::uint32_t scaledBits(double value, std::uint32_t factor) {
     if (scaled.exponent < leastExponent || scaled.exponent > greatestExponent) {
         return 0;
     }
-    const std::uint64_t whole = wholePart(scaled, value < 0.0);
-    const auto bits = static_cast<std::uint32_t>(whole & lowBits(32));
-    return bitLength(whole | 1U) > 63 ? 0 : value < 0.0 ? 0U - bits : bits;
+    const bool isNegative = value < 0.0;
+    const auto bits = static_cast<std::uint32_t>(wholePart(scaled, isNegative) & lowBits(32));
+    return isNegative ? 0U - bits : bits;
 }
 
 }  // namespace lv::detail

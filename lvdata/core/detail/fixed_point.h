@@ -15,7 +15,7 @@ namespace lv::detail {
 ///
 /// Unsigned numbers take a negative value as 0. Signed numbers have no such rule: with the factor 1000000, -0.3 gives
 /// -299999, since truncation is toward zero on either side. Defined for unsigned int and int.
-/// \param factor  a whole number below 2^32
+/// \param factor  a whole number from 1 to 2^32 - 1
 template <class Number>
 [[nodiscard]] Number to_fixed(double value, double factor);
 

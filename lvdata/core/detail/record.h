@@ -29,10 +29,10 @@ template <class Record, class Visit>
     return true;
 }
 
-/// Whether the record is of exactly one of these classes, and not of one that an application derives from them.
-template <class... Records>
-[[nodiscard]] bool isExactly(const DataObject& record) {
-    return ((typeid(record) == typeid(Records)) || ...);
+/// Whether the record is of exactly that class, and not of one that is derived from it.
+template <class Record>
+[[nodiscard]] bool isOfClass(const DataObject& record) {
+    return typeid(record) == typeid(Record);
 }
 
 /// What every record's `appendXMLElement` does: appends the root element with its version attributes, then what the
@@ -41,11 +41,12 @@ template <class... Records>
 /// A class that an application derives from the record may look at the document before or after what it inherits. So it
 /// is written into nodes, and the writer that the library brings along for the whole text is not used.
 ///
-/// \tparam Inheriting  the library's own classes that inherit this function from the record
-template <class... Inheriting, class Record, class Visit>
-XMLElement appendRecord(const Record& record, const char* rootName, XMLNode& parent, Visit visit) {
+/// \param isLibrarysOwn  whether the record is of one of the library's own classes
+template <class Record, class Visit>
+XMLElement appendRecord(const Record& record, const char* rootName, XMLNode& parent, Visit visit,
+                        bool (*isLibrarysOwn)(const DataObject&) = &isOfClass<Record>) {
     const RecordParent* const own = RecordParent::ownOf(record, parent);
-    const bool isOurs = own != nullptr && (own->isNested() || isExactly<Record, Inheriting...>(record));
+    const bool isOurs = own != nullptr && (own->isNested() || isLibrarysOwn(record));
     Writer io = isOurs ? own->writer().element(rootName)
                        : Writer(record.appendRootXMLElement(rootName, parent), record.writeHLGSystemGamma);
     visitVersion(io, record);

@@ -36,7 +36,9 @@ public:
     /// A new last child element that holds nothing but the text of the value, an empty one included. Defined for the
     /// types of `valueText`, like `addText`.
     template <class T>
-    void appendLeaf(const char* name, const T& value) const;
+    void appendLeaf(const char* name, const T& value) const {
+        append(name).addText(value);
+    }
 
     /// Adds the text of the value after what the element holds.
     template <class T>

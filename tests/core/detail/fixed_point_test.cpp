@@ -53,6 +53,18 @@ TEST(ToFixed, ProductAndSumAreRoundedSeparatelyOnEveryProcessor) {
     EXPECT_EQ(signedOf(-(two52 + 1), 1.0), -0) << "to even";
 }
 
+/// Products next to a power of two, where a rounding carries into a further bit.
+TEST(ToFixed, PowersOfTwo) {
+    for (const double factor : {3.0, 255.0, 65535.0, 1e6, 16777215.0, 1e9}) {
+        for (int power = 0; power < 52; ++power) {
+            const double value = std::ldexp(1.0, power) / factor;
+            EXPECT_EQ(unsignedOf(value, factor), power < 32 ? 1U << power : 0U) << power << ' ' << factor;
+        }
+        EXPECT_EQ(unsignedOf(two63 / factor, factor), 0U);
+        EXPECT_EQ(unsignedOf(std::nextafter(two63 / factor, two63), factor), 0U);
+    }
+}
+
 /// The next of a sequence of doubles that lie next to a half of a step, on either side. Made of integers, so that it is
 /// the same on every processor.
 double sample(std::uint64_t& state, std::uint32_t factor) {

@@ -26,7 +26,7 @@ const std::string longText(100, 'x');
 TEST(Printer, PrintsWhatTheLibrarysOwnPrinterPrints) {
     for (const std::string& text :
          {std::string(), std::string("short"), longText, longText + '&', longText + '<', longText + '>' + longText,
-          longText + "\"'", std::string(63, 'y'), std::string(64, 'z'), longText + "]]>"}) {
+          longText + "<&>", longText + "\"'", std::string(63, 'y'), std::string(64, 'z'), longText + "]]>"}) {
         tinyxml2::XMLDocument document;
         tinyxml2::XMLElement* const root = document.NewElement("Root");
         document.InsertEndChild(root);

@@ -85,7 +85,8 @@ TEST(ParsedArray, IsReadWhereItWasParsed) {
          {"<a>5|6</a>", "<r><b>1</b><a>5|6</a><c/></r>", "<r><a >7</a></r>", "<r><a>5</a ></r>",
           "<?xml version=\"1.0\"?><!-- <a>1</a> --><r><a>-5|66|777</a></r>", "\xEF\xBB\xBF<r><a>5</a></r>",
           "<r>a r a<a>5|6</a></r>", "<r><a x=\"1\">5|6</a></r>", "<r><a y='>' x='1'>5|6</a></r>",
-          "<r><a\n x = \"\" >5</a></r>", "<r><a x='&lt;&#49;'>5|6</a></r>", "<r><a>12|345678901|</a></r>"}) {
+          "<r><a\n x = \"\" >5</a></r>", "<r><a x='&lt;&#49;'>5|6</a></r>", "<r><a x='<'>5|6</a></r>",
+          "<r><a>12|345678901|</a></r>"}) {
         EXPECT_EQ(asParsed(text), asNode(text)) << text;
     }
     EXPECT_TRUE(isReadInPlace("<r><a>5|6</a></r>"));
