@@ -43,13 +43,12 @@ const char* afterValue(const tinyxml2::XMLAttribute& attribute) {
     return *tagEnd == '>' && std::strchr(value, '<') == nullptr ? tagEnd + 1 : nullptr;
 }
 
-/// The text where it was parsed, when it is all that the element holds; empty in doubt.
+/// The text where it was parsed, if the element begins with one; empty in doubt.
 std::string_view parsedTextOf(const tinyxml2::XMLElement& element) {
     const tinyxml2::XMLAttribute* const attribute = lastAttributeOf(element);
     const char* const text = attribute == nullptr ? afterName(element) : afterValue(*attribute);
     const char* const end = text == nullptr ? nullptr : std::strchr(text, '<');
-    const bool isWhole = end != nullptr && end[1] == '/';
-    return isWhole ? std::string_view(text, static_cast<std::size_t>(end - text)) : std::string_view();
+    return end == nullptr ? std::string_view() : std::string_view(text, static_cast<std::size_t>(end - text));
 }
 
 }  // namespace
