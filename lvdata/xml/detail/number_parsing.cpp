@@ -25,8 +25,8 @@ constexpr bool isDigit(char character) {
 }
 
 struct Scanned {
-    bool negative = false;
-    std::uint64_t magnitude = 0;  // stops growing beyond every 32-bit number
+    bool negative;
+    std::uint64_t magnitude;  // stops growing beyond every 32-bit number
 };
 
 std::uint64_t scanDigits(std::string_view text) {
@@ -47,13 +47,9 @@ Scanned scan(std::string_view text) {
     while (!text.empty() && isSpace(text.front())) {
         text.remove_prefix(1);
     }
-    Scanned result;
-    if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
-        result.negative = text.front() == '-';
-        text.remove_prefix(1);
-    }
-    result.magnitude = scanDigits(text);
-    return result;
+    const bool negative = !text.empty() && text.front() == '-';
+    const bool hasSign = negative || (!text.empty() && text.front() == '+');
+    return {negative, scanDigits(text.substr(hasSign ? 1 : 0))};
 }
 
 /// Reads the pieces of a text of plain numbers one after the other.

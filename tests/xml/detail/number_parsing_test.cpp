@@ -171,8 +171,9 @@ TEST(ParseNumbers, TakeTheMemoryThatTheyNeed) {
 
 TEST(ParsePlainNumbers, RefuseWhateverElseStandsInTheText) {
     std::vector<int> values = {7};
-    for (const char* const text : {"+1", " 1", "x", "--1", "-", "1 |2", "1|2x", "1|+2", "1|-", "12345678a", "1&#50;",
-                                   "123456789012 ", "1|2|3|4|5|6|7|8|9|\n"}) {
+    for (const char* const text :
+         {"+1", ".5", "1|.5", ".12345678901|1", "1|.12345678901", " 1", "x", "--1", "-", "1 |2", "1|2x", "1|+2", "1|-",
+          "12345678a", "1&#50;", "123456789012 ", "1|2|3|4|5|6|7|8|9|\n"}) {
         EXPECT_FALSE(parsePlainNumbers(text, '|', values)) << text;
     }
     EXPECT_TRUE(parsePlainNumbers("1|-2||3|", '|', values));
