@@ -25,9 +25,10 @@ ParseResult resultOf(const XMLDocument& document, bool isParsed) {
 }  // namespace
 
 ParsedDocument::ParsedDocument(const std::string& text)
-    : isXML_(document_.parseXMLString(text)),
-      parsed_(resultOf(document_, isXML_)),
-      mayReadInPlace_(text.find("&#") == std::string::npos) {}
+    : mayReadInPlace_(text.find("&#") ==
+                      std::string::npos),  // before the XML library copies the text: once from memory
+      isXML_(document_.parseXMLString(text)),
+      parsed_(resultOf(document_, isXML_)) {}
 
 std::string ParsedDocument::rootElementName() const {
     return document_.rootElement().elementName();

@@ -37,10 +37,10 @@ public:
     [[nodiscard]] ParseResult read(DataObject& record);
 
 private:
+    bool mayReadInPlace_;  // nobody had the nodes who might have changed them, and no attribute holds a NUL
     XMLDocument document_;
     bool isXML_;
     ParseResult parsed_;
-    bool mayReadInPlace_;  // nobody had the nodes who might have changed them, and no attribute holds a NUL
 };
 
 }  // namespace lv
