@@ -79,7 +79,7 @@ public:
     [[nodiscard]] std::string_view rest() const { return {at_, static_cast<std::size_t>(end_ - at_)}; }
 
     /// Writes numbers from `out` on until `stop` or the limit is reached. Returns where they end; null when a piece is
-    /// not a plain number.
+    /// not a plain number, or `out` is null.
     Number* read(Number* out, Number* stop) {
         while (out != nullptr && out != stop && at_ < limit_) {
             out = *at_ == separator_ ? skipEmptyPiece(out) : readPieces(out, stop);
@@ -238,7 +238,7 @@ bool parsePlainNumbers(std::string_view text, char separator, std::vector<Number
     for (bool isFirst = true;; isFirst = false) {
         Number* end = pieces.read(numbers.data(), numbers.data() + atATime);
         const bool isLast = pieces.atLimit();
-        if (end != nullptr && isLast) {
+        if (isLast) {
             end = readLastPieces(pieces.rest(), separator, end);
         }
         if (end == nullptr) {
@@ -260,7 +260,7 @@ template bool parsePlainNumbers(std::string_view text, char separator, std::vect
 
 template <class Number>
 void parseNumbers(std::string_view text, std::string_view separator, std::vector<Number>& out) {
-    const bool separates = separator.size() == 1 && separator.front() != '-' && !isDigit(separator.front());
+    const bool separates = separator.size() == 1 && !isDigit(separator.front());
     if (!separates || !parsePlainNumbers(text, separator.front(), out)) {
         parsePieces(text, separator, out);
     }

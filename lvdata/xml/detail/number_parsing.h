@@ -19,7 +19,7 @@ void parseNumbers(std::string_view text, std::string_view separator, std::vector
 
 /// The same for a text that holds nothing but plain numbers (digits, at most with a minus before them) and separators.
 /// False when anything else stands in it. Then `out` may hold some of the numbers, but it is untouched when the text
-/// begins with something else. The separator is neither a digit nor a minus.
+/// begins with something else. The separator is not a digit.
 template <class Number>
 [[nodiscard]] bool parsePlainNumbers(std::string_view text, char separator, std::vector<Number>& out);
 

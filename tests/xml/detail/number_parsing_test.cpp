@@ -101,7 +101,8 @@ TEST(ParseNumbers, SeparatorsOfNoneAndOfSeveralCharacters) {
 }
 
 TEST(ParseNumbers, AMinusSeparatesAsAnyOtherCharacterDoes) {
-    for (const char* text : {"5-6", "5--6", "-5-6", "12345678--123456789-1", "-"}) {
+    for (const char* text :
+         {"5-6", "5--6", "-5-6", "12345678--123456789-1", "-", "1-22-22-333--333-44444444-44444444-555555555-1-"}) {
         EXPECT_EQ(parsed<int>(text, "-"), converted<int>(text, "-")) << text;
     }
 }
@@ -116,7 +117,8 @@ TEST(ParseNumbers, SignsInEveryPlace) {
 
 TEST(ParseNumbers, ADigitSeparatesAsAnyOtherCharacterDoes) {
     for (const char separator : std::string("0123456789")) {
-        for (const char* text : {"1234567890", "0123456789876543210", "99999999999999", "123456789|123456789"}) {
+        for (const char* text : {"1234567890", "1235678905123567890512356789051", "0123456789876543210",
+                                 "99999999999999", "123456789|123456789"}) {
             const std::string at(1, separator);
             EXPECT_EQ(parsed<int>(text, at), converted<int>(text, at)) << text << " at " << at;
             EXPECT_EQ(parsed<unsigned int>(text, at), converted<unsigned int>(text, at)) << text << " at " << at;
@@ -162,7 +164,7 @@ TEST(ParseNumbers, LongArraysOfEveryLengthOfNumberAndSign) {
 }
 
 TEST(ParseNumbers, TakeTheMemoryThatTheyNeed) {
-    for (const std::size_t count : {3U, 256U, 1000U}) {
+    for (const std::size_t count : {3U, 256U, 1000U, 3000U}) {
         std::vector<int> values;
         parseNumbers(numbers(count, 6, ""), "|", values);
         EXPECT_EQ(values.capacity(), count);
