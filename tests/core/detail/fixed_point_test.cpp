@@ -108,6 +108,14 @@ TEST(ToFixedSigned, NegativeValuesAreTruncatedTowardZeroAfterAddingOneHalf) {
     EXPECT_EQ(signedOf(-2.0, 1.0), -1);
 }
 
+TEST(ToFixed, TheSmallestValuesGiveZero) {
+    for (const double value : {DoubleLimits::denorm_min(), DoubleLimits::min(), 1e-300, 1e-30, 1e-20, 1e-10}) {
+        EXPECT_EQ(unsignedOf(value, 1e6), 0U) << value;
+        EXPECT_EQ(signedOf(value, 1e9), 0) << value;
+        EXPECT_EQ(signedOf(-value, 1e9), 0) << value;
+    }
+}
+
 TEST(ToFixed, BothZerosGiveZero) {
     for (const double zero : {0.0, -0.0}) {
         EXPECT_EQ(unsignedOf(zero, 1e6), 0U);
