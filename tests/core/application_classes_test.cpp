@@ -1,4 +1,5 @@
 #include <lvdata/core/ParsedDocument.h>
+#include <lvdata/records/CalibrationModeResult.h>
 #include <lvdata/records/CorrelationInfo.h>
 #include <lvdata/records/MeasurementData.h>
 #include <lvdata/records/MonitorParameter.h>
@@ -302,6 +303,18 @@ TEST(ApplicationClasses, ADocumentThatAClassHasReadIsNotTakenForUntouched) {
     MonitorParameter second;
     ASSERT_TRUE(document.read(second));
     EXPECT_EQ(second.redLUT.value, (std::vector<unsigned int>{7, 7, 7}));
+}
+
+TEST(ApplicationClasses, NestedRecordsReadWhatTheApplicationChangedInItsDocument) {
+    XMLDocument document;
+    ASSERT_TRUE(document.parseXMLString("<CalibrationModeResult><ColorMode><MonitorParameter><RedLUT>1|2|3</RedLUT>"
+                                        "</MonitorParameter></ColorMode></CalibrationModeResult>"));
+    const XMLElement parameter = document.rootElement().getElement("ColorMode").getElement("MonitorParameter");
+    auto* const table = static_cast<tinyxml2::XMLNode*>(parameter.getElement("RedLUT").get());
+    table->ToElement()->SetText("7|7|7");
+    CalibrationModeResult result;
+    ASSERT_TRUE(result.parseXMLElement(document.rootElement()));
+    EXPECT_EQ(result.objects.at(0).monitorParameter.redLUT.value, (std::vector<unsigned int>{7, 7, 7}));
 }
 
 /// Changes the document, as the XML library allows it, before the inherited class reads it.

@@ -88,7 +88,7 @@ std::uint32_t scaledBits(double value, std::uint32_t factor) {
         return 0;
     }
     const bool isNegative = value < 0.0;
-    const auto bits = static_cast<std::uint32_t>(wholePart(scaled, isNegative) & lowBits(32));
+    const auto bits = static_cast<std::uint32_t>(wholePart(scaled, isNegative));
     return isNegative ? 0U - bits : bits;
 }
 
