@@ -25,8 +25,7 @@ ParseResult resultOf(const XMLDocument& document, bool isParsed) {
 }  // namespace
 
 ParsedDocument::ParsedDocument(const std::string& text)
-    : mayReadInPlace_(text.find("&#") ==
-                      std::string::npos),  // before the XML library copies the text: once from memory
+    : mayReadInPlace_(text.find("&#") == std::string::npos),
       isXML_(document_.parseXMLString(text)),
       parsed_(resultOf(document_, isXML_)) {}
 

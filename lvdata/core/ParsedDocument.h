@@ -37,7 +37,9 @@ public:
     [[nodiscard]] ParseResult read(DataObject& record);
 
 private:
-    bool mayReadInPlace_;  // nobody had the nodes who might have changed them, and no attribute holds a NUL
+    // Nobody had the nodes who might have changed them, and no attribute can hold a NUL. Found out first, so that the
+    // text is in the processor's caches when the XML library copies it.
+    bool mayReadInPlace_;
     XMLDocument document_;
     bool isXML_;
     ParseResult parsed_;

@@ -38,6 +38,16 @@ TEST(Printer, PrintsWhatTheLibrarysOwnPrinterPrints) {
     }
 }
 
+TEST(Printer, UserDataOfAnApplicationChangesNothing) {
+    tinyxml2::XMLDocument document;
+    ASSERT_EQ(document.Parse("<a>1 &lt; 2<b>3</b></a>"), tinyxml2::XML_SUCCESS);
+    int data = 0;
+    document.RootElement()->FirstChild()->SetUserData(&data);
+    document.RootElement()->SetUserData(&data);
+    EXPECT_EQ(printed(document, true), "<a>1 &lt; 2<b>3</b></a>");
+    EXPECT_EQ(printed(document, false), plainly(document, false));
+}
+
 TEST(Printer, ALongCDataSectionStaysOne) {
     tinyxml2::XMLDocument document;
     ASSERT_EQ(document.Parse(("<a><![CDATA[" + longText + "]]></a>").c_str()), tinyxml2::XML_SUCCESS);
