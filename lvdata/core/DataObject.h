@@ -1,5 +1,6 @@
 #pragma once
 
+#include <lvdata/core/Description.h>
 #include <lvdata/core/ParseResult.h>
 #include <lvdata/export.h>
 #include <lvdata/xml/XMLElement.h>

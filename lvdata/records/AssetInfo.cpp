@@ -27,4 +27,12 @@ XMLElement AssetInfo::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
+Description AssetInfo::describe() {
+    return detail::describeRecord<AssetInfo>(rootElementName, visit);
+}
+
+bool operator==(const AssetInfo& left, const AssetInfo& right) {
+    return detail::areEqualRecords(left, right, visit);
+}
+
 }  // namespace lv

@@ -21,6 +21,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// The labels, elements "Asset1" to "Asset8".
     property<std::string> asset1;
     property<std::string> asset2;
@@ -31,5 +34,15 @@ public:
     property<std::string> asset7;
     property<std::string> asset8;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const AssetInfo& left, const AssetInfo& right);
+[[nodiscard]] inline bool operator!=(const AssetInfo& left, const AssetInfo& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

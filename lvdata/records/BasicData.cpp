@@ -5,17 +5,19 @@
 namespace lv {
 namespace {
 
-constexpr double whiteFactor = 1e6;
+using detail::haveEntries;
+using detail::isSet;
+using detail::notEmpty;
 
 template <class Io, class White>
 void visitWhite(Io& io, const char* name, White& white) {
-    io.always().writeWhen(white.value.size() == detail::xyz.size()).field(name, white);
+    io.always().writeWhen(haveEntries(detail::xyz.size(), white.value)).field(name, white, quantities::tristimulus);
 }
 
 template <class Io, class Property>
 void visitExecutor(Io& io, Property& executorType) {
-    io.writeWhen(executorType.hasValue).element("Executor").value("Type", executorType.value);
-    io.derive(executorType.hasValue, !executorType.value.empty());
+    io.writeWhen(isSet(executorType)).element("Executor").value("Type", executorType.value);
+    io.derive(executorType.hasValue, notEmpty(executorType.value));
 }
 
 constexpr auto visit = [](auto& io, auto& self) {
@@ -55,20 +57,28 @@ XMLElement BasicData::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
+Description BasicData::describe() {
+    return detail::describeRecord<BasicData>(rootElementName, visit);
+}
+
 colour BasicData::correlationTargetWhite_x() const {
-    return detail::to_colour(detail::xyz, correlationTargetWhite.value, whiteFactor);
+    return detail::to_colour(detail::xyz, correlationTargetWhite.value, quantities::tristimulus.factor);
 }
 
 void BasicData::correlationTargetWhite_x(const colour& white) {
-    correlationTargetWhite.set(detail::from_colour<unsigned int>(detail::xyz, white, whiteFactor));
+    correlationTargetWhite.set(detail::from_colour<unsigned int>(detail::xyz, white, quantities::tristimulus.factor));
 }
 
 colour BasicData::justCalibratedWhite_x() const {
-    return detail::to_colour(detail::xyz, justCalibratedWhite.value, whiteFactor);
+    return detail::to_colour(detail::xyz, justCalibratedWhite.value, quantities::tristimulus.factor);
 }
 
 void BasicData::justCalibratedWhite_x(const colour& white) {
-    justCalibratedWhite.set(detail::from_colour<unsigned int>(detail::xyz, white, whiteFactor));
+    justCalibratedWhite.set(detail::from_colour<unsigned int>(detail::xyz, white, quantities::tristimulus.factor));
+}
+
+bool operator==(const BasicData& left, const BasicData& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

@@ -24,6 +24,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// How long the monitor had been in use, elements "UsageHours" and "UsageMinutes".
     property<unsigned int> usageHours;
     property<unsigned int> usageMinutes;
@@ -84,5 +87,15 @@ public:
     void justCalibratedWhite_x(const colour& white);
     /// @}
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const BasicData& left, const BasicData& right);
+[[nodiscard]] inline bool operator!=(const BasicData& left, const BasicData& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

@@ -4,12 +4,15 @@
 namespace lv {
 namespace {
 
+using detail::isSet;
+using detail::notEmpty;
+
 template <class Io, class EmulationLUT>
 void visitEmulationLUT(Io& io, EmulationLUT& table) {
-    auto element = io.writeWhen(table.present).element("EmulationLUT");
+    auto element = io.writeWhen(isSet(table.present)).element("EmulationLUT");
     element.value("Availability", table.availability);
     element.value("Index", table.index);
-    element.writeWhen(!table.name.empty()).value("Name", table.name);
+    element.writeWhen(notEmpty(table.name)).value("Name", table.name);
     io.derive(table.present, element.exists());
 }
 
@@ -24,7 +27,7 @@ constexpr auto visitRow = [](auto& io, auto& row) {
     io.record(row.monitorParameter, row.hasMonitorParameter);
     io.always().record(row.profileData, row.hasProfileData);
     visitEmulationLUT(io, row.emulationLUT);
-    return true;
+    return io.exists();
 };
 
 constexpr auto visit = [](auto& io, auto& self) {
@@ -41,6 +44,23 @@ bool CalibrationModeResult::parseXMLElement(XMLElement element) {
 
 XMLElement CalibrationModeResult::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+Description CalibrationModeResult::describe() {
+    return detail::describeRecord<CalibrationModeResult>(rootElementName, visit);
+}
+
+bool operator==(const CalibrationModeResultObject::EmulationLUT& left,
+                const CalibrationModeResultObject::EmulationLUT& right) {
+    return detail::areEqual(left, right, [](auto& io, auto& table) { visitEmulationLUT(io, table); });
+}
+
+bool operator==(const CalibrationModeResultObject& left, const CalibrationModeResultObject& right) {
+    return detail::areEqual(left, right, visitRow);
+}
+
+bool operator==(const CalibrationModeResult& left, const CalibrationModeResult& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

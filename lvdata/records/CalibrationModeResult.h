@@ -75,6 +75,31 @@ public:
 
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
+
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma` and `parsed`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const CalibrationModeResultObject::EmulationLUT& left,
+                                            const CalibrationModeResultObject::EmulationLUT& right);
+[[nodiscard]] inline bool operator!=(const CalibrationModeResultObject::EmulationLUT& left,
+                                     const CalibrationModeResultObject::EmulationLUT& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const CalibrationModeResultObject& left,
+                                            const CalibrationModeResultObject& right);
+[[nodiscard]] inline bool operator!=(const CalibrationModeResultObject& left,
+                                     const CalibrationModeResultObject& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const CalibrationModeResult& left, const CalibrationModeResult& right);
+[[nodiscard]] inline bool operator!=(const CalibrationModeResult& left, const CalibrationModeResult& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

@@ -4,12 +4,15 @@
 namespace lv {
 namespace {
 
+using detail::isSet;
+using detail::notEmpty;
+
 template <class Io, class Entry>
 void visitMap(Io& io, const char* name, Entry& entry) {
-    auto map = io.element(name).writeWhen(entry.valid);
+    auto map = io.element(name).writeWhen(isSet(entry.valid));
     map.value("Values", entry.values);
     map.value("UpdatedAt", entry.updatedAt);
-    io.derive(entry.valid, !entry.values.empty());
+    io.derive(entry.valid, notEmpty(entry.values));
 }
 
 constexpr auto visit = [](auto& io, auto& self) {
@@ -27,6 +30,18 @@ bool CandelaMap::parseXMLElement(XMLElement element) {
 
 XMLElement CandelaMap::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+Description CandelaMap::describe() {
+    return detail::describeRecord<CandelaMap>(rootElementName, visit);
+}
+
+bool operator==(const CandelaMapEntry& left, const CandelaMapEntry& right) {
+    return detail::areEqual(left, right, [](auto& io, auto& map) { visitMap(io, "", map); });
+}
+
+bool operator==(const CandelaMap& left, const CandelaMap& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

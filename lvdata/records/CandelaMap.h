@@ -35,11 +35,28 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// Element "Uniformity".
     CandelaMapEntry uniformity;
 
     /// Element "Brightness".
     CandelaMapEntry brightness;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const CandelaMapEntry& left, const CandelaMapEntry& right);
+[[nodiscard]] inline bool operator!=(const CandelaMapEntry& left, const CandelaMapEntry& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const CandelaMap& left, const CandelaMap& right);
+[[nodiscard]] inline bool operator!=(const CandelaMap& left, const CandelaMap& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

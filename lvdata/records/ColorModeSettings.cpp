@@ -4,6 +4,8 @@
 namespace lv {
 namespace {
 
+using detail::oneOf;
+
 template <class Io, class Property>
 void visitTarget(const Io& io, Property& targetSetting) {
     auto target = io.element("Target");
@@ -17,10 +19,10 @@ constexpr auto visitRow = [](auto& io, auto& row) {
     io.field("Index", row.index);
     io.field("Name", row.name);
     io.field("Availability", row.availability);
-    io.always().writeWhen(type == "Standard" || type == "SyncSignal").record(row.parameterSetting);
-    visitTarget(io.writeWhen(type == "Calibration"), row.targetSetting);
+    io.always().writeWhen(oneOf(type, "Standard", "SyncSignal")).record(row.parameterSetting);
+    visitTarget(io.writeWhen(oneOf(type, "Calibration")), row.targetSetting);
     io.always().record(row.profilePolicy);
-    return true;
+    return io.exists();
 };
 
 constexpr auto visit = [](auto& io, auto& self) {
@@ -37,6 +39,18 @@ bool ColorModeSettings::parseXMLElement(XMLElement element) {
 
 XMLElement ColorModeSettings::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+Description ColorModeSettings::describe() {
+    return detail::describeRecord<ColorModeSettings>(rootElementName, visit);
+}
+
+bool operator==(const ColorModeSettingsObject& left, const ColorModeSettingsObject& right) {
+    return detail::areEqual(left, right, visitRow);
+}
+
+bool operator==(const ColorModeSettings& left, const ColorModeSettings& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

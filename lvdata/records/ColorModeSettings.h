@@ -48,6 +48,23 @@ public:
 
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
+
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma` and `parsed`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ColorModeSettingsObject& left, const ColorModeSettingsObject& right);
+[[nodiscard]] inline bool operator!=(const ColorModeSettingsObject& left, const ColorModeSettingsObject& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ColorModeSettings& left, const ColorModeSettings& right);
+[[nodiscard]] inline bool operator!=(const ColorModeSettings& left, const ColorModeSettings& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

@@ -22,4 +22,12 @@ XMLElement CorrelationInfo::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
+Description CorrelationInfo::describe() {
+    return detail::describeRecord<CorrelationInfo>(rootElementName, visit);
+}
+
+bool operator==(const CorrelationInfo& left, const CorrelationInfo& right) {
+    return detail::areEqualRecords(left, right, visit);
+}
+
 }  // namespace lv

@@ -21,6 +21,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// Identifier of the reference sensor, element "ReferenceSensorID".
     property<std::string> referenceSensorID;
 
@@ -30,5 +33,15 @@ public:
     /// Date of the correlation, element "CorrelationDate"; any text, neither checked nor converted.
     property<std::string> correlationDate;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const CorrelationInfo& left, const CorrelationInfo& right);
+[[nodiscard]] inline bool operator!=(const CorrelationInfo& left, const CorrelationInfo& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

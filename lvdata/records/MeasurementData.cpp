@@ -6,34 +6,17 @@
 namespace lv {
 namespace {
 
-constexpr double codeFactor = 255.0;
-constexpr double percentFactor = 100.0;
-constexpr double tristimulusFactor = 1e6;
-
 constexpr auto visitRow = [](auto& io, auto& row) {
-    bool any = io.array("RGB", row.RGB, 3);
-    any |= io.array("CMYK", row.CMYK, 4);
-    any |= io.array("XYZ", row.XYZ, 3);
-    any |= io.array("CIELAB", row.CIELAB, 3);
-    any |= io.array("PQR", row.PQR, 3);
+    auto any = io.array("RGB", row.RGB, 3, quantities::codeValue);
+    any |= io.array("CMYK", row.CMYK, 4, quantities::inkAmount);
+    any |= io.array("XYZ", row.XYZ, 3, quantities::tristimulus);
+    any |= io.array("CIELAB", row.CIELAB, 3, quantities::cielab);
+    any |= io.array("PQR", row.PQR, 3, quantities::pqr);
     return any;
 };
 
-/// Visits a row without writing it, only to learn whether there is something to write.
-struct Probe {
-    template <class Number>
-    bool array(const char* /*name*/, const std::vector<Number>& member, std::size_t length) const {
-        return member.size() == length;
-    }
-};
-
-constexpr auto hasContent = [](const MeasurementDataObject& row) {
-    const Probe probe;
-    return visitRow(probe, row);
-};
-
 constexpr auto visit = [](auto& io, auto& self) {
-    io.rows("Measurements", self, visitRow, hasContent);
+    io.rowsWithContent("Measurements", self, visitRow);
 };
 
 bool isLibrarysOwn(const DataObject& record) {
@@ -43,43 +26,43 @@ bool isLibrarysOwn(const DataObject& record) {
 }  // namespace
 
 colour MeasurementDataObject::RGB_x() const {
-    return detail::to_colour(detail::rgb, RGB, codeFactor);
+    return detail::to_colour(detail::rgb, RGB, quantities::codeValue.factor);
 }
 
 void MeasurementDataObject::RGB_x(const colour& shown) {
-    RGB = detail::from_colour<unsigned int>(detail::rgb, shown, codeFactor);
+    RGB = detail::from_colour<unsigned int>(detail::rgb, shown, quantities::codeValue.factor);
 }
 
 colour MeasurementDataObject::CMYK_x() const {
-    return detail::to_colour(detail::cmyk, CMYK, percentFactor);
+    return detail::to_colour(detail::cmyk, CMYK, quantities::inkAmount.factor);
 }
 
 void MeasurementDataObject::CMYK_x(const colour& shown) {
-    CMYK = detail::from_colour<unsigned int>(detail::cmyk, shown, percentFactor);
+    CMYK = detail::from_colour<unsigned int>(detail::cmyk, shown, quantities::inkAmount.factor);
 }
 
 colour MeasurementDataObject::XYZ_x() const {
-    return detail::to_colour(detail::xyz, XYZ, tristimulusFactor);
+    return detail::to_colour(detail::xyz, XYZ, quantities::tristimulus.factor);
 }
 
 void MeasurementDataObject::XYZ_x(const colour& measured) {
-    XYZ = detail::from_colour<int>(detail::xyz, measured, tristimulusFactor);
+    XYZ = detail::from_colour<int>(detail::xyz, measured, quantities::tristimulus.factor);
 }
 
 colour MeasurementDataObject::CIELAB_x() const {
-    return detail::to_colour(detail::cielab, CIELAB, tristimulusFactor);
+    return detail::to_colour(detail::cielab, CIELAB, quantities::cielab.factor);
 }
 
 void MeasurementDataObject::CIELAB_x(const colour& measured) {
-    CIELAB = detail::from_colour<int>(detail::cielab, measured, tristimulusFactor);
+    CIELAB = detail::from_colour<int>(detail::cielab, measured, quantities::cielab.factor);
 }
 
 colour MeasurementDataObject::PQR_x() const {
-    return detail::to_colour(detail::xyz, PQR, tristimulusFactor);
+    return detail::to_colour(detail::xyz, PQR, quantities::pqr.factor);
 }
 
 void MeasurementDataObject::PQR_x(const colour& measured) {
-    PQR = detail::from_colour<int>(detail::xyz, measured, tristimulusFactor);
+    PQR = detail::from_colour<int>(detail::xyz, measured, quantities::pqr.factor);
 }
 
 MeasurementData::MeasurementData() : DataArrayObject(2, 0) {}
@@ -95,8 +78,28 @@ XMLElement MeasurementData::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, getRootElementName().c_str(), parent, visit, &isLibrarysOwn);
 }
 
+Description MeasurementData::describe() {
+    return detail::describeRecord<MeasurementData>(rootElementName, visit);
+}
+
+Description MeasurementDataSecondary::describe() {
+    return detail::describeRecord<MeasurementDataSecondary>(rootElementName, visit);
+}
+
 std::string MeasurementData::getRootElementName() const {
     return rootElementName;
+}
+
+bool operator==(const MeasurementDataObject& left, const MeasurementDataObject& right) {
+    return detail::areEqual(left, right, visitRow);
+}
+
+bool operator==(const MeasurementData& left, const MeasurementData& right) {
+    return detail::areEqualRecords(left, right, visit);
+}
+
+bool operator==(const MeasurementDataSecondary& left, const MeasurementDataSecondary& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

@@ -71,8 +71,25 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// The name of the root element that this series is written under and accepts.
     [[nodiscard]] virtual std::string getRootElementName() const;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma` and `parsed`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const MeasurementDataObject& left, const MeasurementDataObject& right);
+[[nodiscard]] inline bool operator!=(const MeasurementDataObject& left, const MeasurementDataObject& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const MeasurementData& left, const MeasurementData& right);
+[[nodiscard]] inline bool operator!=(const MeasurementData& left, const MeasurementData& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

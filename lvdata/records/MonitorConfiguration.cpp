@@ -26,4 +26,12 @@ XMLElement MonitorConfiguration::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
+Description MonitorConfiguration::describe() {
+    return detail::describeRecord<MonitorConfiguration>(rootElementName, visit);
+}
+
+bool operator==(const MonitorConfiguration& left, const MonitorConfiguration& right) {
+    return detail::areEqualRecords(left, right, visit);
+}
+
 }  // namespace lv

@@ -22,6 +22,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// Elements "Name", "Model" and "Serial", written when set, also when empty.
     property<std::string> name;
     property<std::string> model;
@@ -36,5 +39,15 @@ public:
     property<unsigned int> standardModeCalibration;
     property<unsigned int> keyLock;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorConfiguration& left, const MonitorConfiguration& right);
+[[nodiscard]] inline bool operator!=(const MonitorConfiguration& left, const MonitorConfiguration& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

@@ -26,4 +26,12 @@ XMLElement MonitorInfo::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
+Description MonitorInfo::describe() {
+    return detail::describeRecord<MonitorInfo>(rootElementName, visit);
+}
+
+bool operator==(const MonitorInfo& left, const MonitorInfo& right) {
+    return detail::areEqualRecords(left, right, visit);
+}
+
 }  // namespace lv

@@ -29,6 +29,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// The monitor's identifier, any text, element "UUID", written when set.
     property<std::string> uuid;
 
@@ -42,5 +45,15 @@ public:
     /// Written when set.
     property<CandelaMap> candelaMap;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorInfo& left, const MonitorInfo& right);
+[[nodiscard]] inline bool operator!=(const MonitorInfo& left, const MonitorInfo& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

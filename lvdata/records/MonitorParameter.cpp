@@ -6,18 +6,22 @@
 namespace lv {
 namespace {
 
-constexpr double gammaFactor = 100.0;
-constexpr double gainFactor = 1e6;
-constexpr double matrixFactor = 1e6;
+using detail::choose;
+using detail::oneOf;
+
 constexpr std::size_t matrixLength = 9;
 
-double tableFactor(const MonitorParameter& self) {
-    return self.isHDRLUT.value == 1 ? 1e9 : 1e6;
+auto tableQuantity(const MonitorParameter& self) {
+    return choose(oneOf(self.isHDRLUT.value, 1U), quantities::hdrTableEntry, quantities::tableEntry);
 }
 
-template <class Io, class Table>
-void visitTable(Io& io, const char* name, Table& table) {
-    io.array(name, table, {256, 1024});
+std::uint32_t tableFactor(const MonitorParameter& self) {
+    return tableQuantity(self).chosen().factor;
+}
+
+template <class Io, class Self, class Table>
+void visitTable(Io& io, const char* name, const Self& self, Table& table) {
+    io.array(name, table, {256, 1024}, tableQuantity(self));
 }
 
 template <class Io, class Group>
@@ -29,10 +33,10 @@ constexpr auto visit = [](auto& io, auto& self) {
     io.field("Brightness", self.brightness);
     io.field("Contrast", self.contrast);
     io.field("isHDRLUT", self.isHDRLUT);
-    visitTable(io, "RedLUT", self.redLUT);
-    visitTable(io, "GreenLUT", self.greenLUT);
-    visitTable(io, "BlueLUT", self.blueLUT);
-    io.field("HLGSystemGamma", self.hlgSystemGamma);
+    visitTable(io, "RedLUT", self, self.redLUT);
+    visitTable(io, "GreenLUT", self, self.greenLUT);
+    visitTable(io, "BlueLUT", self, self.blueLUT);
+    io.field("HLGSystemGamma", self.hlgSystemGamma, quantities::hlgSystemGamma);
     io.field("HLGClipping", self.hlgClipping);
     visitColours(io, self.hue, {"RedHue", "GreenHue", "BlueHue", "CyanHue", "MagentaHue", "YellowHue"});
     visitColours(io, self.saturation,
@@ -41,10 +45,10 @@ constexpr auto visit = [](auto& io, auto& self) {
     visitColours(
         io, self.lightness,
         {"RedLightness", "GreenLightness", "BlueLightness", "CyanLightness", "MagentaLightness", "YellowLightness"});
-    io.field("RedGain", self.redGain);
-    io.field("GreenGain", self.greenGain);
-    io.field("BlueGain", self.blueGain);
-    io.array("EmulationMatrix", self.emulationMatrix, {matrixLength});
+    io.field("RedGain", self.redGain, quantities::gain);
+    io.field("GreenGain", self.greenGain, quantities::gain);
+    io.field("BlueGain", self.blueGain, quantities::gain);
+    io.array("EmulationMatrix", self.emulationMatrix, {matrixLength}, quantities::matrixEntry);
     io.field("Limited109Setting", self.limited109Setting);
 };
 
@@ -58,6 +62,10 @@ bool MonitorParameter::parseXMLElement(XMLElement element) {
 
 XMLElement MonitorParameter::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+Description MonitorParameter::describe() {
+    return detail::describeRecord<MonitorParameter>(rootElementName, visit);
 }
 
 std::vector<double> MonitorParameter::redLUT_x() const {
@@ -85,43 +93,51 @@ void MonitorParameter::blueLUT_x(const std::vector<double>& values) {
 }
 
 double MonitorParameter::hlgSystemGamma_x() const {
-    return detail::from_fixed(hlgSystemGamma.value, gammaFactor);
+    return detail::from_fixed(hlgSystemGamma.value, quantities::hlgSystemGamma.factor);
 }
 
 void MonitorParameter::hlgSystemGamma_x(double exponent) {
-    hlgSystemGamma.set(detail::to_fixed<unsigned int>(exponent, gammaFactor));
+    hlgSystemGamma.set(detail::to_fixed<unsigned int>(exponent, quantities::hlgSystemGamma.factor));
 }
 
 double MonitorParameter::redGain_x() const {
-    return detail::from_fixed(redGain.value, gainFactor);
+    return detail::from_fixed(redGain.value, quantities::gain.factor);
 }
 
 void MonitorParameter::redGain_x(double gain) {
-    redGain.set(detail::to_fixed<unsigned int>(gain, gainFactor));
+    redGain.set(detail::to_fixed<unsigned int>(gain, quantities::gain.factor));
 }
 
 double MonitorParameter::greenGain_x() const {
-    return detail::from_fixed(greenGain.value, gainFactor);
+    return detail::from_fixed(greenGain.value, quantities::gain.factor);
 }
 
 void MonitorParameter::greenGain_x(double gain) {
-    greenGain.set(detail::to_fixed<unsigned int>(gain, gainFactor));
+    greenGain.set(detail::to_fixed<unsigned int>(gain, quantities::gain.factor));
 }
 
 double MonitorParameter::blueGain_x() const {
-    return detail::from_fixed(blueGain.value, gainFactor);
+    return detail::from_fixed(blueGain.value, quantities::gain.factor);
 }
 
 void MonitorParameter::blueGain_x(double gain) {
-    blueGain.set(detail::to_fixed<unsigned int>(gain, gainFactor));
+    blueGain.set(detail::to_fixed<unsigned int>(gain, quantities::gain.factor));
 }
 
 std::vector<double> MonitorParameter::emulationMatrix_x() const {
-    return detail::from_fixed(emulationMatrix.value, matrixFactor);
+    return detail::from_fixed(emulationMatrix.value, quantities::matrixEntry.factor);
 }
 
 void MonitorParameter::emulationMatrix_x(const std::vector<double>& entries) {
-    emulationMatrix.set(detail::to_fixed<int>(entries, matrixFactor));
+    emulationMatrix.set(detail::to_fixed<int>(entries, quantities::matrixEntry.factor));
+}
+
+bool operator==(const MonitorParameter::six_colors_t& left, const MonitorParameter::six_colors_t& right) {
+    return detail::areEqual(left, right, [](auto& io, auto& colours) { detail::visitSixColours(io, colours, {}); });
+}
+
+bool operator==(const MonitorParameter& left, const MonitorParameter& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

@@ -37,6 +37,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// Brightness and contrast in the monitor's own units, elements "Brightness" and "Contrast".
     property<unsigned int> brightness;
     property<unsigned int> contrast;
@@ -107,5 +110,21 @@ public:
     [[nodiscard]] std::vector<double> emulationMatrix_x() const;
     void emulationMatrix_x(const std::vector<double>& entries);
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorParameter::six_colors_t& left,
+                                            const MonitorParameter::six_colors_t& right);
+[[nodiscard]] inline bool operator!=(const MonitorParameter::six_colors_t& left,
+                                     const MonitorParameter::six_colors_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorParameter& left, const MonitorParameter& right);
+[[nodiscard]] inline bool operator!=(const MonitorParameter& left, const MonitorParameter& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

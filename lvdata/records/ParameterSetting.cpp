@@ -5,42 +5,44 @@
 namespace lv {
 namespace {
 
-constexpr double gammaFactor = 100.0;
+using detail::choose;
+using detail::HLGSwitch;
+using detail::noneOf;
+using detail::oneOf;
 
 constexpr auto visitBrightness = [](auto& io, auto& brightness) {
     io.attribute("Type", brightness.type);
     const std::string& type = brightness.type;
-    io.readWhen(type != "SyncSignal")
-        .writeWhen(type == "Candela" || type == "Percent")
-        .value("Value", brightness.value);
+    io.readWhen(noneOf(type, "SyncSignal"))
+        .writeWhen(oneOf(type, "Candela", "Percent"))
+        .value("Value", brightness.value, choose(oneOf(type, "Candela"), quantities::candela, quantities::percent));
     return io.exists();
 };
 
 constexpr auto visitWhitePoint = [](auto& io, auto& whitePoint) {
     io.attribute("Type", whitePoint.type);
     const std::string& type = whitePoint.type;
-    io.writeWhen(type == "Temperature").value("Temperature", whitePoint.temperature);
-    io.writeWhen(type == "Fixed").value("Fixed", whitePoint.fixed);
+    io.writeWhen(oneOf(type, "Temperature")).value("Temperature", whitePoint.temperature);
+    io.writeWhen(oneOf(type, "Fixed")).value("Fixed", whitePoint.fixed);
     return io.exists();
 };
 
 constexpr auto visitGamma = [](auto& io, auto& gamma) {
     io.attribute("Type", gamma.type);
     const std::string& type = gamma.type;
-    auto values = io.readWhen(type != "SyncSignal");
-    values.writeWhen(type == "Value").value("Value", gamma.value);
-    auto fixed = values.writeWhen(type == "Fixed");
+    auto values = io.readWhen(noneOf(type, "SyncSignal"));
+    values.writeWhen(oneOf(type, "Value")).value("Value", gamma.value, quantities::gamma);
+    auto fixed = values.writeWhen(oneOf(type, "Fixed"));
     fixed.value("Fixed", gamma.fixed);
-    const bool clips = gamma.fixed == "HLG" || gamma.fixed == "PQ";
-    fixed.writeWhen(clips).value("PQHLGClipping", gamma.pqhlgClipping);
-    values.writeWhen(io.writesHLGSystemGamma()).value("HLGSystemGamma", gamma.hlgSystemGamma);
+    fixed.writeWhen(oneOf(gamma.fixed, "HLG", "PQ")).value("PQHLGClipping", gamma.pqhlgClipping);
+    values.writeWhen(HLGSwitch()).value("HLGSystemGamma", gamma.hlgSystemGamma, quantities::hlgSystemGamma);
     return io.exists();
 };
 
 constexpr auto visitGamut = [](auto& io, auto& gamut) {
     io.attribute("Type", gamut.type);
     const std::string& type = gamut.type;
-    io.readWhen(type != "SyncSignal").writeWhen(type == "Fixed").value("Fixed", gamut.fixed);
+    io.readWhen(noneOf(type, "SyncSignal")).writeWhen(oneOf(type, "Fixed")).value("Fixed", gamut.fixed);
     io.value("Clipping", gamut.clipping);
     return io.exists();
 };
@@ -56,19 +58,19 @@ constexpr auto visit = [](auto& io, auto& self) {
 }  // namespace
 
 double ParameterSetting::gamma_t::value_x() const {
-    return detail::from_fixed(value, gammaFactor);
+    return detail::from_fixed(value, quantities::gamma.factor);
 }
 
 void ParameterSetting::gamma_t::value_x(double exponent) {
-    value = detail::to_fixed<unsigned int>(exponent, gammaFactor);
+    value = detail::to_fixed<unsigned int>(exponent, quantities::gamma.factor);
 }
 
 double ParameterSetting::gamma_t::hlgSystemGamma_x() const {
-    return detail::from_fixed(hlgSystemGamma, gammaFactor);
+    return detail::from_fixed(hlgSystemGamma, quantities::hlgSystemGamma.factor);
 }
 
 void ParameterSetting::gamma_t::hlgSystemGamma_x(double exponent) {
-    hlgSystemGamma = detail::to_fixed<unsigned int>(exponent, gammaFactor);
+    hlgSystemGamma = detail::to_fixed<unsigned int>(exponent, quantities::hlgSystemGamma.factor);
 }
 
 ParameterSetting::ParameterSetting() : DataObject(2, 0) {}
@@ -79,6 +81,30 @@ bool ParameterSetting::parseXMLElement(XMLElement element) {
 
 XMLElement ParameterSetting::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+Description ParameterSetting::describe() {
+    return detail::describeRecord<ParameterSetting>(rootElementName, visit);
+}
+
+bool operator==(const ParameterSetting::brightness_t& left, const ParameterSetting::brightness_t& right) {
+    return detail::areEqual(left, right, visitBrightness);
+}
+
+bool operator==(const ParameterSetting::white_point_t& left, const ParameterSetting::white_point_t& right) {
+    return detail::areEqual(left, right, visitWhitePoint);
+}
+
+bool operator==(const ParameterSetting::gamma_t& left, const ParameterSetting::gamma_t& right) {
+    return detail::areEqual(left, right, visitGamma);
+}
+
+bool operator==(const ParameterSetting::gamut_t& left, const ParameterSetting::gamut_t& right) {
+    return detail::areEqual(left, right, visitGamut);
+}
+
+bool operator==(const ParameterSetting& left, const ParameterSetting& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

@@ -82,6 +82,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// Element "Brightness".
     property<brightness_t> brightness;
 
@@ -97,5 +100,37 @@ public:
     /// Element "Limited109Setting", written when set.
     property<unsigned int> limited109Setting;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ParameterSetting::brightness_t& left,
+                                            const ParameterSetting::brightness_t& right);
+[[nodiscard]] inline bool operator!=(const ParameterSetting::brightness_t& left,
+                                     const ParameterSetting::brightness_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ParameterSetting::white_point_t& left,
+                                            const ParameterSetting::white_point_t& right);
+[[nodiscard]] inline bool operator!=(const ParameterSetting::white_point_t& left,
+                                     const ParameterSetting::white_point_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ParameterSetting::gamma_t& left,
+                                            const ParameterSetting::gamma_t& right);
+[[nodiscard]] inline bool operator!=(const ParameterSetting::gamma_t& left, const ParameterSetting::gamma_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ParameterSetting::gamut_t& left,
+                                            const ParameterSetting::gamut_t& right);
+[[nodiscard]] inline bool operator!=(const ParameterSetting::gamut_t& left, const ParameterSetting::gamut_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ParameterSetting& left, const ParameterSetting& right);
+[[nodiscard]] inline bool operator!=(const ParameterSetting& left, const ParameterSetting& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

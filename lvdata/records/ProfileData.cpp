@@ -2,62 +2,67 @@
 #include <lvdata/core/detail/record.h>
 #include <lvdata/records/ProfileData.h>
 
+#include <array>
 #include <utility>
 
 namespace lv {
 namespace {
 
-constexpr double tristimulusFactor = 1e6;
-constexpr double curveFactor = 1e6;
-
-bool isComplete(const std::vector<unsigned int>& stored) {
-    return stored.size() == detail::xyz.size();
-}
-
-bool primariesAreComplete(const ProfileData::xyz_set_t& set) {
-    return isComplete(set.red) && isComplete(set.green) && isComplete(set.blue) && isComplete(set.white);
-}
+using detail::haveEntries;
+using detail::isSet;
+using detail::oneOf;
 
 template <class Io, class Vector>
-void visitMeasured(const Io& io, const char* color, Vector& stored, bool hasValue) {
+void visitMeasured(const Io& io, const char* color, Vector& stored, const bool& hasValue) {
     Io measured = io;
-    measured.keyed("MeasuredXYZ", "Color", color,
-                   [&stored, hasValue](auto& child) { child.writeWhen(hasValue).text(stored); });
+    measured.keyed("MeasuredXYZ", "Color", color, [&stored, &hasValue](auto& child) {
+        child.writeWhen(isSet(hasValue)).text(stored, quantities::tristimulus);
+    });
+}
+
+/// The four colours that both sets have.
+template <class Io, class Set>
+void visitPrimaries(const Io& io, Set& set, const bool& hasValue, const std::array<const char*, 4>& colors) {
+    visitMeasured(io, colors[0], set.red, hasValue);
+    visitMeasured(io, colors[1], set.green, hasValue);
+    visitMeasured(io, colors[2], set.blue, hasValue);
+    visitMeasured(io, colors[3], set.white, hasValue);
+}
+
+template <class Io, class Set>
+void visitSet(const Io& io, Set& set, const bool& hasValue) {
+    visitPrimaries(io, set, hasValue, {"Red", "Green", "Blue", "White"});
+    visitMeasured(io, "Black", set.black, hasValue);
 }
 
 template <class Io, class Property>
-void visitPanel(Io& io, Property& set) {
-    visitMeasured(io, "Red", set.value.red, set.hasValue);
-    visitMeasured(io, "Green", set.value.green, set.hasValue);
-    visitMeasured(io, "Blue", set.value.blue, set.hasValue);
-    visitMeasured(io, "White", set.value.white, set.hasValue);
-    visitMeasured(io, "Black", set.value.black, set.hasValue);
-    io.derive(set.hasValue, primariesAreComplete(set.value) && isComplete(set.value.black));
+void visitPanel(Io& io, Property& panel) {
+    visitSet(io, panel.value, panel.hasValue);
+    const auto& set = panel.value;
+    io.derive(panel.hasValue, haveEntries(detail::xyz.size(), set.red, set.green, set.blue, set.white, set.black));
 }
 
 template <class Io, class Property>
-void visitLimited109(Io& io, Property& set) {
-    const auto gate = io.writeWhen(set.hasValue);
-    visitMeasured(gate, "Limited109Red", set.value.red, true);
-    visitMeasured(gate, "Limited109Green", set.value.green, true);
-    visitMeasured(gate, "Limited109Blue", set.value.blue, true);
-    visitMeasured(gate, "Limited109White", set.value.white, true);
-    io.derive(set.hasValue, primariesAreComplete(set.value));
+void visitLimited109(Io& io, Property& limited) {
+    visitPrimaries(io.writeWhen(isSet(limited)), limited.value, limited.hasValue,
+                   {"Limited109Red", "Limited109Green", "Limited109Blue", "Limited109White"});
+    const auto& set = limited.value;
+    io.derive(limited.hasValue, haveEntries(detail::xyz.size(), set.red, set.green, set.blue, set.white));
 }
 
-bool carriesType(const ProfileData::target_curve& curve) {
-    return curve.type == "Formula" || curve.type == "Lut" || curve.type == "LStar";
-}
+constexpr auto visitCurveContent = [](auto& io, auto& curve) {
+    io.attribute("Type", curve.type);
+    io.when(oneOf(curve.type, "Formula")).text(curve.formula, quantities::curveParameter);
+    io.when(oneOf(curve.type, "Lut")).text(curve.lut, quantities::curveEntry);
+};
 
 template <class Io, class Curve>
-XMLElement visitCurve(const Io& io, const char* name, Curve& curve) {
-    const auto element = io.element(name);
+Io visitCurve(Io io, const char* name, Curve& curve) {
+    const Io element = io.element(name);
     io.derive(curve.hasValue, element.exists());
-    auto content = element.writeWhen(curve.hasValue && carriesType(curve.value));
-    content.attribute("Type", curve.value.type);
-    content.when(curve.value.type == "Formula").text(curve.value.formula);
-    content.when(curve.value.type == "Lut").text(curve.value.lut);
-    return element.xmlElement();
+    auto content = element.writeWhen(isSet(curve)).writeWhen(oneOf(curve.value.type, "Formula", "Lut", "LStar"));
+    visitCurveContent(content, curve.value);
+    return element;
 }
 
 constexpr auto visit = [](auto& io, auto& self) {
@@ -71,15 +76,15 @@ constexpr auto visit = [](auto& io, auto& self) {
 
 PrimaryColours primaries(const ProfileData::xyz_set_t& set) {
     PrimaryColours result;
-    result.red = detail::to_colour(detail::xyz, set.red, tristimulusFactor);
-    result.green = detail::to_colour(detail::xyz, set.green, tristimulusFactor);
-    result.blue = detail::to_colour(detail::xyz, set.blue, tristimulusFactor);
-    result.white = detail::to_colour(detail::xyz, set.white, tristimulusFactor);
+    result.red = detail::to_colour(detail::xyz, set.red, quantities::tristimulus.factor);
+    result.green = detail::to_colour(detail::xyz, set.green, quantities::tristimulus.factor);
+    result.blue = detail::to_colour(detail::xyz, set.blue, quantities::tristimulus.factor);
+    result.white = detail::to_colour(detail::xyz, set.white, quantities::tristimulus.factor);
     return result;
 }
 
 std::vector<unsigned int> storedXYZ(const colour& measured) {
-    return detail::from_colour<unsigned int>(detail::xyz, measured, tristimulusFactor);
+    return detail::from_colour<unsigned int>(detail::xyz, measured, quantities::tristimulus.factor);
 }
 
 ProfileData::xyz_set_t storedPrimaries(const PrimaryColours& measured) {
@@ -94,19 +99,19 @@ ProfileData::xyz_set_t storedPrimaries(const PrimaryColours& measured) {
 }  // namespace
 
 double ProfileData::target_curve::formula_x() const {
-    return detail::from_fixed(formula, curveFactor);
+    return detail::from_fixed(formula, quantities::curveParameter.factor);
 }
 
 void ProfileData::target_curve::formula_x(double parameter) {
-    formula = detail::to_fixed<unsigned int>(parameter, curveFactor);
+    formula = detail::to_fixed<unsigned int>(parameter, quantities::curveParameter.factor);
 }
 
 std::vector<double> ProfileData::target_curve::lut_x() const {
-    return detail::from_fixed(lut, curveFactor);
+    return detail::from_fixed(lut, quantities::curveEntry.factor);
 }
 
 void ProfileData::target_curve::lut_x(const std::vector<double>& entries) {
-    lut = detail::to_fixed<unsigned int>(entries, curveFactor);
+    lut = detail::to_fixed<unsigned int>(entries, quantities::curveEntry.factor);
 }
 
 ProfileData::ProfileData() : DataObject(2, 0) {}
@@ -119,19 +124,23 @@ XMLElement ProfileData::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
+Description ProfileData::describe() {
+    return detail::describeRecord<ProfileData>(rootElementName, visit);
+}
+
 XMLElement ProfileData::parseTargetCurve(const std::string& name, XMLElement& element,
                                          property<target_curve>& curve) const {
-    return visitCurve(detail::Reader(element), name.c_str(), curve);
+    return visitCurve(detail::Reader(element), name.c_str(), curve).xmlElement();
 }
 
 XMLElement ProfileData::appendTargetCurve(const std::string& name, XMLElement& element,
                                           const property<target_curve>& curve) const {
-    return visitCurve(detail::Writer(element), name.c_str(), curve);
+    return visitCurve(detail::Writer(element), name.c_str(), curve).xmlElement();
 }
 
 PrimaryColours ProfileData::measuredXYZ_x() const {
     PrimaryColours result = primaries(measuredXYZ.value);
-    result.black = detail::to_colour(detail::xyz, measuredXYZ.value.black, tristimulusFactor);
+    result.black = detail::to_colour(detail::xyz, measuredXYZ.value.black, quantities::tristimulus.factor);
     return result;
 }
 
@@ -147,6 +156,18 @@ PrimaryColours ProfileData::measuredXYZLimited109_x() const {
 
 void ProfileData::measuredXYZLimited109_x(const PrimaryColours& measured) {
     measuredXYZLimited109.set(storedPrimaries(measured));
+}
+
+bool operator==(const ProfileData::xyz_set_t& left, const ProfileData::xyz_set_t& right) {
+    return detail::areEqual(left, right, [](auto& io, auto& set) { visitSet(io, set, true); });
+}
+
+bool operator==(const ProfileData::target_curve& left, const ProfileData::target_curve& right) {
+    return detail::areEqual(left, right, visitCurveContent);
+}
+
+bool operator==(const ProfileData& left, const ProfileData& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

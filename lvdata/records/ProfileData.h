@@ -54,6 +54,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// Free text, element "Description", written when set.
     property<std::string> description;
 
@@ -89,5 +92,24 @@ public:
     void measuredXYZLimited109_x(const PrimaryColours& measured);
     /// @}
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ProfileData::xyz_set_t& left, const ProfileData::xyz_set_t& right);
+[[nodiscard]] inline bool operator!=(const ProfileData::xyz_set_t& left, const ProfileData::xyz_set_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ProfileData::target_curve& left,
+                                            const ProfileData::target_curve& right);
+[[nodiscard]] inline bool operator!=(const ProfileData::target_curve& left, const ProfileData::target_curve& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ProfileData& left, const ProfileData& right);
+[[nodiscard]] inline bool operator!=(const ProfileData& left, const ProfileData& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

@@ -4,9 +4,11 @@
 namespace lv {
 namespace {
 
+using detail::isSet;
+
 template <class Io, class Self>
 void visitUpdateRule(Io& io, Self& self) {
-    auto rule = io.writeWhen(self.updateRule.hasValue).element("UpdateRule");
+    auto rule = io.writeWhen(isSet(self.updateRule)).element("UpdateRule");
     rule.attribute("Type", self.updateRule);
     rule.field("ProfileDescription", self.profileDescription);
     rule.field("ProfileName", self.profileName);
@@ -32,6 +34,14 @@ bool ProfilePolicy::parseXMLElement(XMLElement element) {
 
 XMLElement ProfilePolicy::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+Description ProfilePolicy::describe() {
+    return detail::describeRecord<ProfilePolicy>(rootElementName, visit);
+}
+
+bool operator==(const ProfilePolicy& left, const ProfilePolicy& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

@@ -20,6 +20,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// The update rule: attribute "Type" of the element "UpdateRule", which is written only when this is set.
     property<std::string> updateRule;
 
@@ -40,5 +43,15 @@ public:
     property<bool> create3DLut;
     property<bool> createLuminanceTag;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const ProfilePolicy& left, const ProfilePolicy& right);
+[[nodiscard]] inline bool operator!=(const ProfilePolicy& left, const ProfilePolicy& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

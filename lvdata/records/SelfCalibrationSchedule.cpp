@@ -1,11 +1,13 @@
 #include <lvdata/core/detail/record.h>
 #include <lvdata/records/SelfCalibrationSchedule.h>
 
-#include <algorithm>
-#include <initializer_list>
+#include <array>
 
 namespace lv {
 namespace {
+
+using detail::isSet;
+using detail::oneOf;
 
 enum Kind : unsigned int {
     everySomeMonths = 0x01,
@@ -21,38 +23,33 @@ enum Kind : unsigned int {
     yearly = 0x35
 };
 
-using Kinds = std::initializer_list<unsigned int>;
-
-bool isIn(Kinds kinds, unsigned int kind) {
-    return std::count(kinds.begin(), kinds.end(), kind) != 0;
-}
-
-constexpr Kinds withWeekOfMonth = {everySomeMonths, monthly, quarterly, halfYearly, yearly};
-constexpr Kinds withWeekday = {everySomeMonths, everySomeWeeks, weekly, monthly, quarterly, halfYearly, yearly};
-constexpr Kinds withTimeOfDay = {everySomeMonths, everySomeWeeks, once,       daily, weekly,
-                                 monthly,         quarterly,      halfYearly, yearly};
+constexpr std::array<unsigned int, 5> withWeekOfMonth = {everySomeMonths, monthly, quarterly, halfYearly, yearly};
+constexpr std::array<unsigned int, 7> withWeekday = {everySomeMonths, everySomeWeeks, weekly, monthly,
+                                                     quarterly,       halfYearly,     yearly};
+constexpr std::array<unsigned int, 9> withTimeOfDay = {everySomeMonths, everySomeWeeks, once,       daily, weekly,
+                                                       monthly,         quarterly,      halfYearly, yearly};
 
 // The lines stand in an order that holds for every kind at once.
 template <class Io, class Self>
 void visitFields(Io& io, Self& self) {
-    const unsigned int kind = self.type.value;
-    io.writeWhen(isIn({everySomeMonths}, kind)).field("IntervalMonth", self.intervalMonth);
-    io.writeWhen(isIn({everySomeWeeks}, kind)).field("IntervalWeek", self.intervalWeek);
-    io.writeWhen(isIn({everySomeHours, everySomeHours1F}, kind)).field("IntervalHour", self.intervalHour);
-    io.writeWhen(isIn({quarterly}, kind)).field("MonthOfQuarter", self.monthOfQuarter);
-    io.writeWhen(isIn({halfYearly}, kind)).field("MonthOfBiannual", self.monthOfBiannual);
-    io.writeWhen(isIn({once}, kind)).field("Year", self.year);
-    io.writeWhen(isIn({once, yearly}, kind)).field("Month", self.month);
-    io.writeWhen(isIn({once}, kind)).field("Day", self.day);
-    io.writeWhen(isIn(withWeekOfMonth, kind)).field("ThWeek", self.thWeek);
-    io.writeWhen(isIn(withWeekday, kind)).field("Weekday", self.weekday);
-    io.writeWhen(isIn(withTimeOfDay, kind)).field("Hour", self.hour);
-    io.writeWhen(isIn(withTimeOfDay, kind)).field("Minute", self.minute);
+    const unsigned int& kind = self.type.value;
+    io.writeWhen(oneOf(kind, everySomeMonths)).field("IntervalMonth", self.intervalMonth);
+    io.writeWhen(oneOf(kind, everySomeWeeks)).field("IntervalWeek", self.intervalWeek);
+    io.writeWhen(oneOf(kind, everySomeHours, everySomeHours1F)).field("IntervalHour", self.intervalHour);
+    io.writeWhen(oneOf(kind, quarterly)).field("MonthOfQuarter", self.monthOfQuarter);
+    io.writeWhen(oneOf(kind, halfYearly)).field("MonthOfBiannual", self.monthOfBiannual);
+    io.writeWhen(oneOf(kind, once)).field("Year", self.year);
+    io.writeWhen(oneOf(kind, once, yearly)).field("Month", self.month);
+    io.writeWhen(oneOf(kind, once)).field("Day", self.day);
+    io.writeWhen(oneOf(kind, withWeekOfMonth)).field("ThWeek", self.thWeek);
+    io.writeWhen(oneOf(kind, withWeekday)).field("Weekday", self.weekday);
+    io.writeWhen(oneOf(kind, withTimeOfDay)).field("Hour", self.hour);
+    io.writeWhen(oneOf(kind, withTimeOfDay)).field("Minute", self.minute);
     io.field("Timing", self.timing);
 }
 
 constexpr auto visit = [](auto& io, auto& self) {
-    auto type = io.writeWhen(self.type.hasValue).element("Type");
+    auto type = io.writeWhen(isSet(self.type)).element("Type");
     type.attribute("Type", self.type);
     visitFields(type, self);
 };
@@ -67,6 +64,14 @@ bool SelfCalibrationSchedule::parseXMLElement(XMLElement element) {
 
 XMLElement SelfCalibrationSchedule::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+Description SelfCalibrationSchedule::describe() {
+    return detail::describeRecord<SelfCalibrationSchedule>(rootElementName, visit);
+}
+
+bool operator==(const SelfCalibrationSchedule& left, const SelfCalibrationSchedule& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

@@ -39,6 +39,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// The kind, attribute "Type" of the element "Type". Kinds outside the table are kept and written back.
     property<unsigned int> type;
 
@@ -67,5 +70,15 @@ public:
     /// Free text, element "Timing", written for every kind when set.
     property<std::string> timing;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const SelfCalibrationSchedule& left, const SelfCalibrationSchedule& right);
+[[nodiscard]] inline bool operator!=(const SelfCalibrationSchedule& left, const SelfCalibrationSchedule& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

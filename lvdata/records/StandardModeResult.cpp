@@ -23,4 +23,12 @@ XMLElement StandardModeResult::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
 }
 
+Description StandardModeResult::describe() {
+    return detail::describeRecord<StandardModeResult>(rootElementName, visit);
+}
+
+bool operator==(const StandardModeResult& left, const StandardModeResult& right) {
+    return detail::areEqualRecords(left, right, visit);
+}
+
 }  // namespace lv

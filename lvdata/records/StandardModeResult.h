@@ -22,6 +22,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// The first series of measurements, element "MeasurementData".
     MeasurementData measurementData;
     bool hasMeasurementData = false;
@@ -37,5 +40,15 @@ public:
     BasicData basicData;
     bool hasBasicData = false;
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const StandardModeResult& left, const StandardModeResult& right);
+[[nodiscard]] inline bool operator!=(const StandardModeResult& left, const StandardModeResult& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

@@ -5,28 +5,35 @@
 namespace lv {
 namespace {
 
+using detail::anyOf;
+using detail::HLGSwitch;
+using detail::isSet;
+using detail::notEmpty;
+using detail::oneOf;
+using detail::rule;
+
 constexpr auto visitLevel = [](auto& io, auto& level) {
-    const bool found = io.attribute("Type", level.type);
-    io.writeWhen(level.type == "Value").value("Value", level.value);
+    const auto found = io.attribute("Type", level.type);
+    io.writeWhen(oneOf(level.type, "Value")).value("Value", level.value);
     return found;
 };
 
 constexpr auto visitStandard = [](auto& io, auto& named) {
-    const bool found = io.attribute("Type", named.type);
-    io.writeWhen(named.type == "Standard").value("Standard", named.standard);
+    const auto found = io.attribute("Type", named.type);
+    io.writeWhen(oneOf(named.type, "Standard")).value("Standard", named.standard);
     return found;
 };
 
 template <class Io, class Chromaticity>
 void visitChromaticity(Io& io, Chromaticity& chromaticity) {
-    io.value("x", chromaticity.x);
-    io.value("y", chromaticity.y);
+    io.value("x", chromaticity.x, quantities::chromaticity);
+    io.value("y", chromaticity.y, quantities::chromaticity);
 }
 
 constexpr auto visitWhitePoint = [](auto& io, auto& whitePoint) {
-    const bool found = io.attribute("Type", whitePoint.type);
-    io.writeWhen(whitePoint.type == "Temperature").value("Temperature", whitePoint.temperature);
-    auto coordinate = io.writeWhen(whitePoint.type == "Coordinate");
+    const auto found = io.attribute("Type", whitePoint.type);
+    io.writeWhen(oneOf(whitePoint.type, "Temperature")).value("Temperature", whitePoint.temperature);
+    auto coordinate = io.writeWhen(oneOf(whitePoint.type, "Coordinate"));
     visitChromaticity(coordinate, whitePoint);
     return found;
 };
@@ -35,23 +42,26 @@ template <class Io, class Color>
 Io visitGammaColor(const Io& io, const char* name, Color& color) {
     Io curve = io.element(name);
     curve.attribute("Type", color.type);
-    curve.writeWhen(color.type == "Formula").value("Formula", color.formula);
-    curve.writeWhen(color.type == "Lut").value("Lut", color.lut);
-    curve.writeWhen(color.type == "Lut24").value("Lut24", color.lut24);
+    curve.writeWhen(oneOf(color.type, "Formula")).value("Formula", color.formula, quantities::gamma);
+    curve.writeWhen(oneOf(color.type, "Lut")).value("Lut", color.lut, quantities::curveEntry16);
+    curve.writeWhen(oneOf(color.type, "Lut24")).value("Lut24", color.lut24, quantities::curveEntry24);
     return curve;
 }
 
+template <class Io, class File>
+void visitImportedLutFile(const Io& io, File& file) {
+    io.writeWhen(notEmpty(file.fileName)).element("ImportedLutFile").value("FileName", file.fileName);
+}
+
 constexpr auto visitGamma = [](auto& io, auto& gamma) {
-    const bool red = visitGammaColor(io, "Red", gamma.red).exists();
-    const bool green = visitGammaColor(io, "Green", gamma.green).exists();
-    const bool blue = visitGammaColor(io, "Blue", gamma.blue).exists();
+    auto any = visitGammaColor(io, "Red", gamma.red).exists();
+    any |= visitGammaColor(io, "Green", gamma.green).exists();
+    any |= visitGammaColor(io, "Blue", gamma.blue).exists();
     const std::string& type = gamma.red.type;
-    io.writeWhen(type == "PQ" || type == "HLG").value("PQHLGClipping", gamma.pqhlgClipping);
-    io.writeWhen(io.writesHLGSystemGamma()).value("HLGSystemGamma", gamma.hlgSystemGamma);
-    auto& file = gamma.importedLutFile;
-    const bool imported = !file.fileName.empty() && (type == "Lut" || type == "Lut24");
-    io.writeWhen(imported).element("ImportedLutFile").value("FileName", file.fileName);
-    return red || green || blue;
+    io.writeWhen(oneOf(type, "PQ", "HLG")).value("PQHLGClipping", gamma.pqhlgClipping);
+    io.writeWhen(HLGSwitch()).value("HLGSystemGamma", gamma.hlgSystemGamma, quantities::hlgSystemGamma);
+    visitImportedLutFile(io.writeWhen(oneOf(type, "Lut", "Lut24")), gamma.importedLutFile);
+    return any;
 };
 
 template <class Io, class Coordinate>
@@ -63,17 +73,17 @@ Io visitPrimary(const Io& io, const char* name, Coordinate& primary) {
 }
 
 constexpr auto visitGamut = [](auto& io, auto& gamut) {
-    const auto primaries = io.writeWhen(!gamut.isNative());
+    const auto primaries = io.writeWhen(rule("no coordinate of the primaries is 0", !gamut.isNative()));
     visitPrimary(primaries, "Red", gamut.red);
     visitPrimary(primaries, "Green", gamut.green);
     visitPrimary(primaries, "Blue", gamut.blue);
-    io.writeWhen(!gamut.profileName.empty()).value("ProfileName", gamut.profileName);
+    io.writeWhen(notEmpty(gamut.profileName)).value("ProfileName", gamut.profileName);
     io.element("GamutClipping").value("Value", gamut.gamutClipping);
     return io.exists();
 };
 
 constexpr auto visitBlackLevel = [](auto& io, auto& tint) {
-    bool any = io.value("red", tint.red);
+    auto any = io.value("red", tint.red);
     any |= io.value("green", tint.green);
     any |= io.value("blue", tint.blue);
     return any;
@@ -89,8 +99,8 @@ Io visitAdvancedSettings(const Io& io, Settings& settings) {
     element.field("hue", settings.hue);
     element.field("saturation", settings.saturation);
     element.structure("blackLevel", settings.blackLevel, visitBlackLevel);
-    const bool anyColors =
-        settings.sixColorsHue.hasValue || settings.sixColorsSaturation.hasValue || settings.sixColorsLightness.hasValue;
+    const auto anyColors =
+        anyOf(isSet(settings.sixColorsHue), isSet(settings.sixColorsSaturation), isSet(settings.sixColorsLightness));
     auto sixColors = element.writeWhen(anyColors).element("sixColors");
     sixColors.structure("hue", settings.sixColorsHue, visitSixColors);
     sixColors.structure("saturation", settings.sixColorsSaturation, visitSixColors);
@@ -100,7 +110,7 @@ Io visitAdvancedSettings(const Io& io, Settings& settings) {
 
 template <class Io, class Property>
 void visitOptionalAdvancedSettings(Io& io, Property& settings) {
-    const bool found = visitAdvancedSettings(io.writeWhen(settings.hasValue), settings.value).exists();
+    const auto found = visitAdvancedSettings(io.writeWhen(isSet(settings)), settings.value).exists();
     io.derive(settings.hasValue, found);
 }
 
@@ -115,7 +125,7 @@ constexpr auto visit = [](auto& io, auto& self) {
     io.structure("GammaV7", self.gammaV7, visitStandard);
     io.structure("Gamut", self.gamut, visitGamut);
     io.structure("GamutV7", self.gamutV7, visitStandard);
-    io.writeWhen(self.grayBalance.hasValue).element("GrayBalance").field("Type", self.grayBalance);
+    io.writeWhen(isSet(self.grayBalance)).element("GrayBalance").field("Type", self.grayBalance);
     io.field("CreationType", self.creationType);
     visitOptionalAdvancedSettings(io, self.advancedSettings);
     io.field("OptimizeForLimited109", self.optimizeForLimited109);
@@ -131,6 +141,10 @@ bool TargetSetting::parseXMLElement(XMLElement element) {
 
 XMLElement TargetSetting::appendXMLElement(XMLNode& parent) const {
     return detail::appendRecord(*this, rootElementName, parent, visit);
+}
+
+Description TargetSetting::describe() {
+    return detail::describeRecord<TargetSetting>(rootElementName, visit);
 }
 
 XMLElement TargetSetting::parseGammaElement(XMLElement& parent, const std::string& name,
@@ -175,6 +189,56 @@ XMLElement TargetSetting::appendAdvancedSettingSixColorElement(
     detail::Writer io = detail::Writer(sixColors).element(name.c_str());
     visitSixColors(io, values);
     return io.xmlElement();
+}
+
+bool operator==(const TargetSetting::level_t& left, const TargetSetting::level_t& right) {
+    return detail::areEqual(left, right, visitLevel);
+}
+
+bool operator==(const TargetSetting::standard_t& left, const TargetSetting::standard_t& right) {
+    return detail::areEqual(left, right, visitStandard);
+}
+
+bool operator==(const TargetSetting::white_point_t& left, const TargetSetting::white_point_t& right) {
+    return detail::areEqual(left, right, visitWhitePoint);
+}
+
+bool operator==(const TargetSetting::gamma_t::gamma_color& left, const TargetSetting::gamma_t::gamma_color& right) {
+    return detail::areEqual(left, right, [](auto& io, auto& color) { visitGammaColor(io, "", color); });
+}
+
+bool operator==(const TargetSetting::gamma_t::imported_lut_file& left,
+                const TargetSetting::gamma_t::imported_lut_file& right) {
+    return detail::areEqual(left, right, [](auto& io, auto& file) { visitImportedLutFile(io, file); });
+}
+
+bool operator==(const TargetSetting::gamma_t& left, const TargetSetting::gamma_t& right) {
+    return detail::areEqual(left, right, visitGamma);
+}
+
+bool operator==(const TargetSetting::gamut_t::coordinate& left, const TargetSetting::gamut_t::coordinate& right) {
+    return detail::areEqual(left, right, [](auto& io, auto& primary) { visitChromaticity(io, primary); });
+}
+
+bool operator==(const TargetSetting::gamut_t& left, const TargetSetting::gamut_t& right) {
+    return detail::areEqual(left, right, visitGamut);
+}
+
+bool operator==(const TargetSetting::black_level_t& left, const TargetSetting::black_level_t& right) {
+    return detail::areEqual(left, right, visitBlackLevel);
+}
+
+bool operator==(const TargetSetting::advanced_settings_t::advanced_settings_six_colors_t& left,
+                const TargetSetting::advanced_settings_t::advanced_settings_six_colors_t& right) {
+    return detail::areEqual(left, right, visitSixColors);
+}
+
+bool operator==(const TargetSetting::advanced_settings_t& left, const TargetSetting::advanced_settings_t& right) {
+    return detail::areEqual(left, right, [](auto& io, auto& settings) { visitAdvancedSettings(io, settings); });
+}
+
+bool operator==(const TargetSetting& left, const TargetSetting& right) {
+    return detail::areEqualRecords(left, right, visit);
 }
 
 }  // namespace lv

@@ -189,6 +189,9 @@ public:
     bool parseXMLElement(XMLElement element) override;
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
+    /// What a document of this record consists of.
+    [[nodiscard]] static Description describe();
+
     /// Elements "LumivaleVersion" and "FineContrast".
     property<std::string> lumivaleVersion;
     property<std::string> fineContrast;
@@ -243,5 +246,75 @@ public:
                                          const advanced_settings_t::advanced_settings_six_colors_t& values) const;
     /// @}
 };
+
+/// \name Equality
+/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
+/// `writeHLGSystemGamma`.
+/// @{
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::level_t& left, const TargetSetting::level_t& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::level_t& left, const TargetSetting::level_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::standard_t& left,
+                                            const TargetSetting::standard_t& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::standard_t& left, const TargetSetting::standard_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::white_point_t& left,
+                                            const TargetSetting::white_point_t& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::white_point_t& left,
+                                     const TargetSetting::white_point_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::gamma_t::gamma_color& left,
+                                            const TargetSetting::gamma_t::gamma_color& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::gamma_t::gamma_color& left,
+                                     const TargetSetting::gamma_t::gamma_color& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::gamma_t::imported_lut_file& left,
+                                            const TargetSetting::gamma_t::imported_lut_file& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::gamma_t::imported_lut_file& left,
+                                     const TargetSetting::gamma_t::imported_lut_file& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::gamma_t& left, const TargetSetting::gamma_t& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::gamma_t& left, const TargetSetting::gamma_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::gamut_t::coordinate& left,
+                                            const TargetSetting::gamut_t::coordinate& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::gamut_t::coordinate& left,
+                                     const TargetSetting::gamut_t::coordinate& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::gamut_t& left, const TargetSetting::gamut_t& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::gamut_t& left, const TargetSetting::gamut_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::black_level_t& left,
+                                            const TargetSetting::black_level_t& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::black_level_t& left,
+                                     const TargetSetting::black_level_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool
+operator==(const TargetSetting::advanced_settings_t::advanced_settings_six_colors_t& left,
+           const TargetSetting::advanced_settings_t::advanced_settings_six_colors_t& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::advanced_settings_t::advanced_settings_six_colors_t& left,
+                                     const TargetSetting::advanced_settings_t::advanced_settings_six_colors_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::advanced_settings_t& left,
+                                            const TargetSetting::advanced_settings_t& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting::advanced_settings_t& left,
+                                     const TargetSetting::advanced_settings_t& right) {
+    return !(left == right);
+}
+[[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting& left, const TargetSetting& right);
+[[nodiscard]] inline bool operator!=(const TargetSetting& left, const TargetSetting& right) {
+    return !(left == right);
+}
+/// @}
 
 }  // namespace lv

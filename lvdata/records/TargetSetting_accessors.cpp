@@ -1,27 +1,23 @@
 #include <lvdata/core/detail/colour_notation.h>
 #include <lvdata/core/detail/fixed_point.h>
+#include <lvdata/core/quantities.h>
 #include <lvdata/records/TargetSetting.h>
 
 namespace lv {
 namespace {
 
-constexpr double chromaticityFactor = 10000.0;
-constexpr double gammaFactor = 100.0;
-constexpr double fullScale16 = 65535.0;
-constexpr double fullScale24 = 16777215.0;
-
 template <class Chromaticity>
 colour toColour(const Chromaticity& stored) {
     colour result;
-    result.x = detail::from_fixed(stored.x, chromaticityFactor);
-    result.y = detail::from_fixed(stored.y, chromaticityFactor);
+    result.x = detail::from_fixed(stored.x, quantities::chromaticity.factor);
+    result.y = detail::from_fixed(stored.y, quantities::chromaticity.factor);
     return result;
 }
 
 template <class Chromaticity>
 void fromColour(Chromaticity& stored, const colour& source) {
-    stored.x = detail::to_fixed<unsigned int>(source.x, chromaticityFactor);
-    stored.y = detail::to_fixed<unsigned int>(source.y, chromaticityFactor);
+    stored.x = detail::to_fixed<unsigned int>(source.x, quantities::chromaticity.factor);
+    stored.y = detail::to_fixed<unsigned int>(source.y, quantities::chromaticity.factor);
 }
 
 }  // namespace
@@ -35,27 +31,27 @@ void TargetSetting::white_point_t::coordinate_x(const colour& chromaticity) {
 }
 
 double TargetSetting::gamma_t::gamma_color::formula_x() const {
-    return detail::from_fixed(formula, gammaFactor);
+    return detail::from_fixed(formula, quantities::gamma.factor);
 }
 
 void TargetSetting::gamma_t::gamma_color::formula_x(double exponent) {
-    formula = detail::to_fixed<unsigned int>(exponent, gammaFactor);
+    formula = detail::to_fixed<unsigned int>(exponent, quantities::gamma.factor);
 }
 
 std::vector<double> TargetSetting::gamma_t::gamma_color::lut_x() const {
-    return detail::from_fixed(lut, fullScale16);
+    return detail::from_fixed(lut, quantities::curveEntry16.factor);
 }
 
 void TargetSetting::gamma_t::gamma_color::lut_x(const std::vector<double>& entries) {
-    lut = detail::to_fixed<unsigned int>(entries, fullScale16);
+    lut = detail::to_fixed<unsigned int>(entries, quantities::curveEntry16.factor);
 }
 
 std::vector<double> TargetSetting::gamma_t::gamma_color::lut24_x() const {
-    return detail::from_fixed(lut24, fullScale24);
+    return detail::from_fixed(lut24, quantities::curveEntry24.factor);
 }
 
 void TargetSetting::gamma_t::gamma_color::lut24_x(const std::vector<double>& entries) {
-    const std::vector<unsigned int> stored = detail::to_fixed<unsigned int>(entries, fullScale24);
+    const std::vector<unsigned int> stored = detail::to_fixed<unsigned int>(entries, quantities::curveEntry24.factor);
     lut.clear();
     lut24.insert(lut24.end(), stored.begin(), stored.end());
 }
@@ -69,11 +65,11 @@ void TargetSetting::gamma_t::imported_lut_file::fileName_x(const std::string& na
 }
 
 double TargetSetting::gamma_t::hlgSystemGamma_x() const {
-    return detail::from_fixed(hlgSystemGamma, gammaFactor);
+    return detail::from_fixed(hlgSystemGamma, quantities::hlgSystemGamma.factor);
 }
 
 void TargetSetting::gamma_t::hlgSystemGamma_x(double exponent) {
-    hlgSystemGamma = detail::to_fixed<unsigned int>(exponent, gammaFactor);
+    hlgSystemGamma = detail::to_fixed<unsigned int>(exponent, quantities::hlgSystemGamma.factor);
 }
 
 bool TargetSetting::gamut_t::isNative() const {

@@ -3,9 +3,9 @@
 #include "Failure.h"
 #include "files.h"
 #include "limit_options.h"
-#include "records.h"
 
 #include <lvdata/core/ParsedDocument.h>
+#include <lvdata/records/RecordClass.h>
 
 #include <algorithm>
 #include <memory>
@@ -52,6 +52,16 @@ std::string excerpt(const std::string& name) {
     return name.substr(0, length) + "...";
 }
 
+/// "AssetInfo, BasicData, ..."
+std::string knownRootElements() {
+    std::string list;
+    for (const lv::RecordClass& known : lv::RecordClasses()) {
+        list += list.empty() ? "" : ", ";
+        list += known.name;
+    }
+    return list;
+}
+
 std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const Limits& limits) {
     const std::string name = inputName(file);
     const std::string text = readInput(file, limits.bytes);
@@ -61,7 +71,8 @@ std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const Limits
         throw Failure(name, parsed.reason, parsed.line);
     }
     const std::string root = document.rootElementName();
-    auto record = makeRecord(root);
+    const lv::RecordClass* const found = lv::recordClass(root);
+    auto record = found == nullptr ? nullptr : found->make();
     if (!record || !document.read(*record)) {
         throw Failure(name, "unknown root element '" + excerpt(root) + "', known are: " + knownRootElements());
     }

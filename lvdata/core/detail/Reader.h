@@ -1,5 +1,7 @@
 #pragma once
 
+#include <lvdata/core/detail/conditions.h>
+#include <lvdata/core/quantities.h>
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/detail/ChildFinder.h>
 #include <lvdata/xml/detail/WrapperMark.h>
@@ -16,31 +18,36 @@
 
 namespace lv::detail {
 
-/// One direction of a visit: fills the members from the children of an element. `Writer` is the other, and offers the
-/// same operations.
+/// One direction of a visit: fills the members from the children of an element. `Writer` is the other; `Describer`
+/// tells what the visit says, and `MemberCollector` finds the members. All offer the same operations.
 ///
 /// A record's visit names each of its elements once, in the order of writing. The operation says how the member is
 /// held:
 ///
-///     io.field(name, property)             an optional value; its flag is whether the element was found
-///     io.value(name, member)               a plain value; written always, left as it was when not found
-///     io.text(member)                      a plain value that is this element's own text
-///     io.attribute(name, member)           an attribute, of a property or plain; written always, whatever the flag
-///     io.constant(name, text)              an attribute that is written and never looked at
-///     io.array(name, member, lengths)      an array that counts only at these lengths
-///     io.structure(name, property, visit)  an optional structure in a child element of its own
-///     io.group(property, visit)            an optional structure spread over children of this very element
-///     io.record(property)                  a nested record; its flag is whether the record accepted its element
-///     io.rows(name, record, visit)         the rows of a list
-///     io.keyed(name, key, text, visit)     the child elements of that name whose attribute `key` is `text`
-///     io.element(name)                     a child element, to visit further
-///     io.derive(flag, condition)           a flag that reading computes from what the members then hold
+///     io.field(name, property)              an optional value; its flag is whether the element was found
+///     io.value(name, member)                a plain value; written always, left as it was when not found
+///     io.text(member)                       a plain value that is this element's own text
+///     io.attribute(name, member)            an attribute, of a property or plain; written always, whatever the flag
+///     io.constant(name, text)               an attribute that is written and never looked at
+///     io.array(name, member, lengths, q)    an array that counts only at these lengths
+///     io.structure(name, property, visit)   an optional structure in a child element of its own
+///     io.group(property, visit)             an optional structure spread over children of this very element
+///     io.record(property)                   a nested record; its flag is whether the record accepted its element
+///     io.rows(name, record, visit)          the rows of a list
+///     io.rowsWithContent(name, record, ...) the same; rows for which the visit would write nothing are left out
+///     io.keyed(name, key, text, visit)      the child elements of that name whose attribute `key` is `text`
+///     io.element(name)                      a child element, to visit further
+///     io.derive(flag, condition)            a flag that reading computes from what the members then hold
+///
+/// `field`, `value`, `text` and `array` take the quantity of their numbers as a last argument: one of `quantities.h`,
+/// or a choice of two. Without it a number is the application's.
 ///
 /// `value`, `attribute`, `text`, `array` on a plain vector, and the visits handed to `structure`, `group` and `rows`
-/// answer whether they found something: that becomes the flag of a structure and decides whether a row is kept.
+/// answer whether they found something: that becomes the flag of a structure and decides whether a row is kept. The
+/// answer is for `|=`, `derive` and the end of a visit; to the describer it says what was looked for.
 ///
-/// A gate before the operation says where the directions differ or a condition holds. After a closed gate reading
-/// finds nothing, as if the element were missing, and nothing is written:
+/// A gate before the operation says where the directions differ or a condition (`conditions.h`) decides. After a closed
+/// gate reading finds nothing, as if the element were missing, and nothing is written:
 ///
 ///     io.readWhen(condition)               closes reading
 ///     io.writeWhen(condition)              closes writing
@@ -60,9 +67,21 @@ public:
         return {toElement(parameter), WrapperMark::isAsParsed(parameter)};
     }
 
-    [[nodiscard]] Reader readWhen(bool condition) const { return condition ? *this : Reader(nullptr, isAsParsed_); }
-    [[nodiscard]] Reader writeWhen(bool /*condition*/) const { return *this; }
-    [[nodiscard]] Reader when(bool condition) const { return readWhen(condition); }
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Reader readWhen(const Gate& condition) const {
+        return condition.holds() ? *this : Reader(nullptr, isAsParsed_);
+    }
+
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Reader writeWhen(const Gate& /*condition*/) const {
+        return *this;
+    }
+
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Reader when(const Gate& condition) const {
+        return readWhen(condition);
+    }
+
     [[nodiscard]] Reader always() const { return *this; }
 
     /// Whether there is an element to read from.
@@ -74,12 +93,14 @@ public:
     /// That element as the wrapper that applications know.
     [[nodiscard]] XMLElement xmlElement() const { return toHandle(element_); }
 
-    /// Of interest to writing only.
-    [[nodiscard]] static bool writesHLGSystemGamma() { return false; }
-
     [[nodiscard]] Reader element(const char* name) const { return Reader(children_.find(name), isAsParsed_); }
 
-    static void derive(bool& flag, bool condition) { flag = condition; }
+    static void derive(bool& flag, bool found) { flag = found; }
+
+    template <class Gate, class = RequireCondition<Gate>>
+    static void derive(bool& flag, const Gate& condition) {
+        flag = condition.holds();
+    }
 
     template <class T>
     bool attribute(const char* name, T& member) {
@@ -94,31 +115,32 @@ public:
 
     void constant(const char* /*name*/, const char* /*text*/) {}
 
-    template <class T>
-    bool text(T& member) {
+    template <class T, class AnyQuantity = Quantity>
+    bool text(T& member, const AnyQuantity& /*quantity*/ = quantities::number) {
         return read(element_, member);
     }
 
-    template <class T>
-    void field(const char* name, property<T>& member) {
+    template <class T, class AnyQuantity = Quantity>
+    void field(const char* name, property<T>& member, const AnyQuantity& /*quantity*/ = quantities::number) {
         member.hasValue = value(name, member.value);
     }
 
-    template <class T>
-    bool value(const char* name, T& member) {
+    template <class T, class AnyQuantity = Quantity>
+    bool value(const char* name, T& member, const AnyQuantity& /*quantity*/ = quantities::number) {
         return read(children_.find(name), member);
     }
 
     /// Entries of another number stay in memory, but the flag is cleared.
-    template <class Number>
-    void array(const char* name, property<std::vector<Number>>& member, std::initializer_list<std::size_t> lengths) {
+    template <class Number, class AnyQuantity>
+    void array(const char* name, property<std::vector<Number>>& member, std::initializer_list<std::size_t> lengths,
+               const AnyQuantity& /*quantity*/) {
         field(name, member);
         member.hasValue = member.hasValue && std::count(lengths.begin(), lengths.end(), member.value.size()) != 0;
     }
 
     /// A plain vector takes any number of entries.
     template <class Number>
-    bool array(const char* name, std::vector<Number>& member, std::size_t /*length*/) {
+    bool array(const char* name, std::vector<Number>& member, std::size_t /*length*/, const Quantity& /*quantity*/) {
         return value(name, member);
     }
 
@@ -153,8 +175,8 @@ public:
         }
     }
 
-    template <class Record, class Visit, class HasContent>
-    void rows(const char* name, Record& record, Visit visit, HasContent /*decidesWriting*/) {
+    template <class Record, class Visit>
+    void rowsWithContent(const char* name, Record& record, Visit visit) {
         rows(name, record, visit);
     }
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <lvdata/core/detail/ContentProbe.h>
 #include <lvdata/core/detail/RecordParent.h>
+#include <lvdata/core/detail/conditions.h>
+#include <lvdata/core/quantities.h>
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/detail/Output.h>
 #include <lvdata/xml/detail/handle.h>
@@ -29,12 +32,22 @@ public:
     explicit Writer(const XMLElement& element, bool writeHLGSystemGamma = false)
         : Writer(Output(toElement(element)), writeHLGSystemGamma) {}
 
-    [[nodiscard]] Writer readWhen(bool /*condition*/) const { return *this; }
-    [[nodiscard]] Writer writeWhen(bool condition) const {
-        return condition ? *this : Writer(Output(), writeHLGSystemGamma_);
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Writer readWhen(const Gate& /*condition*/) const {
+        return *this;
     }
 
-    [[nodiscard]] Writer when(bool condition) const { return writeWhen(condition); }
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Writer writeWhen(const Gate& condition) const {
+        return condition.holds() ? *this : closed();
+    }
+
+    [[nodiscard]] Writer writeWhen(HLGSwitch /*condition*/) const { return writeHLGSystemGamma_ ? *this : closed(); }
+
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Writer when(const Gate& condition) const {
+        return writeWhen(condition);
+    }
 
     [[nodiscard]] Writer always() const {
         Writer io = *this;
@@ -48,14 +61,13 @@ public:
     /// That element as the wrapper that applications know; invalid when it has become text.
     [[nodiscard]] XMLElement xmlElement() const { return toHandle(output_.node()); }
 
-    [[nodiscard]] bool writesHLGSystemGamma() const { return writeHLGSystemGamma_; }
-
     [[nodiscard]] Writer element(const char* name) const { return Writer(output_.append(name), writeHLGSystemGamma_); }
 
     /// Nothing more comes into the elements appended so far, and their names need not live any longer.
     void finishElements() const { output_.finish(); }
 
-    static void derive(const bool& /*flag*/, bool /*condition*/) {}
+    template <class AnyCondition>
+    static void derive(const bool& /*flag*/, const AnyCondition& /*condition*/) {}
 
     template <class T>
     bool attribute(const char* name, const T& member) {
@@ -70,35 +82,35 @@ public:
 
     void constant(const char* name, const std::string& text) { attribute(name, text); }
 
-    template <class T>
-    bool text(const T& member) {
+    template <class T, class AnyQuantity = Quantity>
+    bool text(const T& member, const AnyQuantity& /*quantity*/ = quantities::number) {
         output_.addText(member);
         return exists();
     }
 
-    template <class T>
-    void field(const char* name, const property<T>& member) {
+    template <class T, class AnyQuantity = Quantity>
+    void field(const char* name, const property<T>& member, const AnyQuantity& /*quantity*/ = quantities::number) {
         if (writes(member.hasValue)) {
             value(name, member.value);
         }
     }
 
-    template <class T>
-    bool value(const char* name, const T& member) {
+    template <class T, class AnyQuantity = Quantity>
+    bool value(const char* name, const T& member, const AnyQuantity& /*quantity*/ = quantities::number) {
         output_.appendLeaf(name, member);
         return exists();
     }
 
-    template <class Number>
+    template <class Number, class AnyQuantity>
     void array(const char* name, const property<std::vector<Number>>& member,
-               std::initializer_list<std::size_t> lengths) {
+               std::initializer_list<std::size_t> lengths, const AnyQuantity& /*quantity*/) {
         if (std::count(lengths.begin(), lengths.end(), member.value.size()) != 0) {
             field(name, member);
         }
     }
 
     template <class Number>
-    bool array(const char* name, const std::vector<Number>& member, std::size_t length) {
+    bool array(const char* name, const std::vector<Number>& member, std::size_t length, const Quantity& /*quantity*/) {
         return member.size() == length && value(name, member);
     }
 
@@ -140,20 +152,32 @@ public:
 
     template <class Record, class Visit>
     void rows(const char* name, const Record& record, Visit visit) {
-        rows(name, record, visit, [](const auto& /*row*/) { return true; });
+        for (const auto& row : record.objects) {
+            this->row(name, row, visit);
+        }
     }
 
-    template <class Record, class Visit, class HasContent>
-    void rows(const char* name, const Record& record, Visit visit, HasContent hasContent) {
+    template <class Record, class Visit>
+    void rowsWithContent(const char* name, const Record& record, Visit visit) {
+        const ContentProbe probe;
         for (const auto& row : record.objects) {
-            if (exists() && hasContent(row)) {
-                Writer io = element(name);
-                visit(io, row);
+            if (visit(probe, row)) {
+                this->row(name, row, visit);
             }
         }
     }
 
 private:
+    [[nodiscard]] Writer closed() const { return Writer(Output(), writeHLGSystemGamma_); }
+
+    template <class Row, class Visit>
+    void row(const char* name, const Row& row, Visit visit) {
+        if (exists()) {
+            Writer io = element(name);
+            visit(io, row);
+        }
+    }
+
     /// Whether a member with that flag is written: not after a closed gate.
     [[nodiscard]] bool writes(bool flag) const { return exists() && (flag || always_); }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <lvdata/core/DataObject.h>
+#include <lvdata/core/detail/Describer.h>
+#include <lvdata/core/detail/MemberCollector.h>
 #include <lvdata/core/detail/Reader.h>
 #include <lvdata/core/detail/RecordParent.h>
 #include <lvdata/core/detail/Writer.h>
@@ -55,6 +57,26 @@ XMLElement appendRecord(const Record& record, const char* rootName, XMLNode& par
         own->writer().finishElements();  // while the name lives
     }
     return io.xmlElement();
+}
+
+/// What every record's `describe` does.
+template <class Record, class Visit>
+[[gnu::cold]] [[nodiscard]] Description describeRecord(const char* rootName, Visit visit) {
+    Record fresh;
+    RecordDescriber describer(rootName, fresh.version.value, fresh.minorVersion.value);
+    Describer io = describer.rootElement();
+    visitVersion(io, fresh);
+    visit(io, fresh);
+    return describer.finish();
+}
+
+/// What every record's `==` does.
+template <class Record, class Visit>
+[[nodiscard]] bool areEqualRecords(const Record& left, const Record& right, Visit visit) {
+    return areEqual(left, right, [visit](auto& io, const auto& record) {
+        visitVersion(io, record);
+        visit(io, record);
+    });
 }
 
 }  // namespace lv::detail

@@ -9,8 +9,8 @@ using SixNames = std::array<const char*, 6>;
 
 /// Visits six numbers as one child element each; answers whether at least one was found.
 template <class Io, class SixColours>
-bool visitSixColours(Io& io, SixColours& colours, const SixNames& names) {
-    bool any = io.value(names[0], colours.red);
+auto visitSixColours(Io& io, SixColours& colours, const SixNames& names) {
+    auto any = io.value(names[0], colours.red);
     any |= io.value(names[1], colours.green);
     any |= io.value(names[2], colours.blue);
     any |= io.value(names[3], colours.cyan);

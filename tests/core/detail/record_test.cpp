@@ -112,8 +112,8 @@ TEST(RecordOfRows, UnderNothingAppendsNothing) {
 void writeInEveryWay(Writer io, const property<int>& member) {
     io.field("Field", member);
     io.value("Value", member.value);
-    io.array("Array", std::vector<int>{1, 2}, 2);
-    io.array("Array", property<std::vector<int>>{{1, 2}, true}, {2});
+    io.array("Array", std::vector<int>{1, 2}, 2, quantities::number);
+    io.array("Array", property<std::vector<int>>{{1, 2}, true}, {2}, quantities::number);
     io.structure("Structure", member, [](Writer& inner, int value) { inner.value("Inside", value); });
     io.group(member, [](Writer& group, int value) { group.value("InGroup", value); });
     io.record(Shelf(), true);
@@ -127,10 +127,11 @@ TEST(Writer, ClosedGatesWriteNothing) {
     const XMLElement root = document.appendChild("Root");
     const Writer open(root);
     const property<int> member{7, true};
-    writeInEveryWay(open.writeWhen(false), member);
-    writeInEveryWay(open.always().when(false), member);
+    const bool isFlag = false;
+    writeInEveryWay(open.writeWhen(isSet(isFlag)), member);
+    writeInEveryWay(open.always().when(isSet(isFlag)), member);
     EXPECT_EQ(document.toXMLString(false, false), "<Root/>");
-    writeInEveryWay(open.readWhen(false), member);
+    writeInEveryWay(open.readWhen(isSet(isFlag)), member);
     EXPECT_EQ(root.getElements("Book").size(), 2U);
     EXPECT_TRUE(root.getElement("Structure").getElement("Inside").isValid());
     EXPECT_TRUE(root.getElement("InGroup").isValid());
@@ -146,7 +147,7 @@ public:
     }
     XMLElement appendXMLElement(XMLNode& parent) const override {
         return appendRecord(*this, "Room", parent, [](auto& io, auto& self) {
-            io.value("Switch", io.writesHLGSystemGamma());
+            io.writeWhen(HLGSwitch()).value("Switch", true);
             io.record(self.shelf, self.hasShelf);
         });
     }

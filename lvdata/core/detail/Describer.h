@@ -1,0 +1,246 @@
+#pragma once
+
+#include <lvdata/core/Description.h>
+#include <lvdata/core/detail/conditions.h>
+#include <lvdata/core/quantities.h>
+#include <lvdata/xml/property.h>
+
+#include <cstddef>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace lv::detail {
+
+struct DraftGate;
+struct DraftNode;
+
+/// The content of an element or attribute that holds a `T`.
+template <class T>
+inline constexpr Description::Content contentOf = Description::Content::none;
+template <>
+inline constexpr Description::Content contentOf<std::string> = Description::Content::string;
+template <>
+inline constexpr Description::Content contentOf<bool> = Description::Content::boolean;
+template <>
+inline constexpr Description::Content contentOf<unsigned int> = Description::Content::unsignedNumber;
+template <>
+inline constexpr Description::Content contentOf<int> = Description::Content::signedNumber;
+template <>
+inline constexpr Description::Content contentOf<std::vector<unsigned int>> = Description::Content::unsignedArray;
+template <>
+inline constexpr Description::Content contentOf<std::vector<int>> = Description::Content::signedArray;
+
+/// The quantity of a member: one, or a choice of two.
+struct SaidQuantity {
+    const Quantity* usual;
+    const Quantity* other = nullptr;
+    const SaidCondition* when = nullptr;
+};
+
+[[nodiscard]] inline SaidQuantity say(Draft& /*draft*/, const Quantity& quantity) {
+    return {&quantity};
+}
+
+template <class Gate>
+[[nodiscard]] SaidQuantity say(Draft& draft, const QuantityChoice<Gate>& choice) {
+    return {&choice.otherwise, &choice.whenItHolds, choice.condition.sayTo(draft)};
+}
+
+/// Runs over a visit to describe what it reads and writes. `Reader` explains the operations. They are called with a
+/// fresh record, whose members say by their addresses where a condition looks.
+///
+/// The templates only find out what a member is. The work is done behind plain calls, and what they return has no
+/// destructor, so that the sources of the records stay small.
+class Describer {
+public:
+    /// What an operation looks for. Not a bool, so that every answer in a visit comes from an operation.
+    class Found {
+    public:
+        Found(Draft& draft, const std::vector<DraftNode*>* nodes) : draft_(&draft), nodes_(nodes) {}
+
+        Found& operator|=(const Found& other);
+
+        [[nodiscard]] const std::vector<DraftNode*>& nodes() const { return *nodes_; }
+
+    private:
+        Draft* draft_;
+        const std::vector<DraftNode*>* nodes_;
+    };
+
+    /// Of the node of an element.
+    Describer(Draft& draft, DraftNode& node) : draft_(&draft), node_(&node) {}
+
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Describer readWhen(const Gate& condition) const {
+        return behind(condition.sayTo(*draft_), true, false);
+    }
+
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Describer writeWhen(const Gate& condition) const {
+        return behind(condition.sayTo(*draft_), false, true);
+    }
+
+    template <class Gate, class = RequireCondition<Gate>>
+    [[nodiscard]] Describer when(const Gate& condition) const {
+        return behind(condition.sayTo(*draft_), true, true);
+    }
+
+    [[nodiscard]] Describer always() const;
+
+    [[nodiscard]] Found exists() const;
+
+    [[nodiscard]] Describer element(const char* name) const;
+
+    void constant(const char* name, const char* text);
+
+    template <class T>
+    Found attribute(const char* name, T& member) {
+        return addLeaf({name, Description::Place::attribute, contentOf<T>, &member}, {&quantities::number});
+    }
+
+    template <class T>
+    Found attribute(const char* name, property<T>& member) {
+        Found found = attribute(name, member.value);
+        addFlag(found, member.hasValue);
+        return found;
+    }
+
+    template <class T, class AnyQuantity = Quantity>
+    Found text(T& member, const AnyQuantity& quantity = quantities::number) {
+        return addLeaf({"", Description::Place::text, contentOf<T>, &member}, say(*draft_, quantity));
+    }
+
+    template <class T, class AnyQuantity = Quantity>
+    Found value(const char* name, T& member, const AnyQuantity& quantity = quantities::number) {
+        return addLeaf({name, Description::Place::element, contentOf<T>, &member}, say(*draft_, quantity));
+    }
+
+    template <class T, class AnyQuantity = Quantity>
+    void field(const char* name, property<T>& member, const AnyQuantity& quantity = quantities::number) {
+        optional().addFlag(optional().value(name, member.value, quantity), member.hasValue);
+    }
+
+    template <class Number, class AnyQuantity>
+    void array(const char* name, property<std::vector<Number>>& member, std::initializer_list<std::size_t> lengths,
+               const AnyQuantity& quantity) {
+        field(name, member, quantity);
+        setLengths(lengths);
+    }
+
+    template <class Number>
+    Found array(const char* name, std::vector<Number>& member, std::size_t length, const Quantity& quantity) {
+        Found found = value(name, member, quantity);
+        setLengths({length});
+        return found;
+    }
+
+    template <class T, class Visit>
+    void structure(const char* name, property<T>& member, Visit visit) {
+        Describer inner = optional().element(name);
+        inner.addFlag(visit(inner, member.value), member.hasValue, inner.exists());
+    }
+
+    template <class T, class Visit>
+    void group(property<T>& member, Visit visit) {
+        Describer inner = optional();
+        addFlag(visit(inner, member.value), member.hasValue);
+    }
+
+    template <class Record>
+    void record(Record& /*member*/, const bool& flag) {
+        addRecord(Record::describe(), flag);
+    }
+
+    template <class Record>
+    void record(property<Record>& member) {
+        record(member.value, member.hasValue);
+    }
+
+    template <class Record, class Visit>
+    void rows(const char* name, Record& record, Visit visit) {
+        Describer row = rowElement(name);
+        row.keepWhen(visit(row, record.objects.emplace_back()));
+    }
+
+    template <class Record, class Visit>
+    void rowsWithContent(const char* name, Record& record, Visit visit) {
+        Describer row = rowElement(name);
+        row.keepWhen(visit(row, record.objects.emplace_back()));
+        row.writeWhenAnyArrayCounts();
+    }
+
+    template <class Visit>
+    void keyed(const char* name, const char* key, const char* text, Visit visit) {
+        Describer child = keyedElement(name, key, text);
+        visit(child);
+    }
+
+    /// A flag that tells whether something was found.
+    void derive(const bool& flag, const Found& found) { addFlag(found, flag); }
+
+    template <class Gate, class = RequireCondition<Gate>>
+    void derive(const bool& flag, const Gate& condition) {
+        addFlag(*condition.sayTo(*draft_), flag);
+    }
+
+private:
+    struct Leaf {
+        const char* name;
+        Description::Place place;
+        Description::Content content;
+        const void* member;
+    };
+
+    [[nodiscard]] Describer behind(const SaidCondition* condition, bool closesReading, bool closesWriting) const;
+
+    /// What is named next is written only when it is set, unless writing does not consult the flag.
+    [[nodiscard]] Describer optional() const;
+
+    [[nodiscard]] Found foundBy(DraftNode& node) const;
+
+    /// A new child behind the gates.
+    [[nodiscard]] DraftNode& addNode(const char* name, Description::Place place) const;
+    [[nodiscard]] Describer rowElement(const char* name) const;
+    [[nodiscard]] Describer keyedElement(const char* name, const char* key, const char* text) const;
+
+    Found addLeaf(const Leaf& leaf, const SaidQuantity& quantity);
+    void addRecord(Description nested, const bool& flag);
+    void setLengths(std::initializer_list<std::size_t> lengths);
+
+    /// What sets the flag of a member, whose own nodes are those that are found unless others are stated.
+    void addFlag(const Found& found, const bool& flag);
+    void addFlag(const Found& found, const bool& flag, const Found& owners);
+    void addFlag(const SaidCondition& condition, const bool& flag);
+
+    void keepWhen(const Found& found);
+    void writeWhenAnyArrayCounts();
+
+    Draft* draft_;
+    DraftNode* node_;
+    const DraftGate* gate_ = nullptr;
+    bool isOptional_ = false;
+    bool isAlways_ = false;
+};
+
+/// The description of one record in the making.
+class RecordDescriber {
+public:
+    RecordDescriber(const char* rootName, unsigned int version, unsigned int minorVersion);
+    RecordDescriber(const RecordDescriber&) = delete;
+    RecordDescriber& operator=(const RecordDescriber&) = delete;
+    RecordDescriber(RecordDescriber&&) = delete;
+    RecordDescriber& operator=(RecordDescriber&&) = delete;
+    ~RecordDescriber();
+
+    /// For the visit of the root element.
+    [[nodiscard]] Describer rootElement();
+
+    [[nodiscard]] Description finish() const;
+
+private:
+    std::unique_ptr<Draft> draft_;
+};
+
+}  // namespace lv::detail

@@ -1,0 +1,175 @@
+#include <lvdata/core/detail/Draft.h>
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+
+namespace lv::detail {
+namespace {
+
+using Path = std::vector<const DraftNode*>;
+
+/// The nodes from the root to this one.
+Path pathTo(const DraftNode* node) {
+    Path path;
+    for (; node != nullptr; node = node->parent) {
+        path.insert(path.begin(), node);
+    }
+    return path;
+}
+
+/// One step of an XPath expression.
+std::string stepTo(const Description& facts) {
+    switch (facts.place) {
+    case Description::Place::attribute:
+        return '@' + facts.name;
+    case Description::Place::text:
+        return "text()";
+    case Description::Place::element:
+        break;
+    }
+    if (facts.repetition == Description::Repetition::byKey) {
+        return facts.name + "[@" + facts.keyAttribute + "='" + facts.keyText + "']";
+    }
+    return facts.name;
+}
+
+/// From one node to another: up to the last that both paths have, then down.
+std::string xpath(const DraftNode& from, const DraftNode& to) {
+    const Path start = pathTo(&from);
+    const Path end = pathTo(&to);
+    const auto [up, down] = std::mismatch(start.begin(), start.end(), end.begin(), end.end());
+    std::string path;
+    for (auto step = up; step != start.end(); ++step) {
+        path += path.empty() ? ".." : "/..";
+    }
+    for (auto step = down; step != end.end(); ++step) {
+        path += (path.empty() ? "" : "/") + stepTo((*step)->facts);
+    }
+    return path.empty() ? "." : path;
+}
+
+/// A string is found when it is there; the other contents need a text.
+bool isFoundWithoutText(const Description& facts) {
+    return facts.content == Description::Content::none || facts.content == Description::Content::string;
+}
+
+Condition isFound(const DraftNodes& nodes, const DraftNode& node) {
+    Condition condition;
+    condition.kind = isFoundWithoutText(nodes.front()->facts) ? Condition::Kind::exists : Condition::Kind::hasText;
+    for (const DraftNode* const found : nodes) {
+        condition.subjects.push_back(xpath(node, *found));
+    }
+    return condition;
+}
+
+/// A gate that asks for the node's own flag makes it optional, as operations that consult the flag do.
+void moveOwnFlag(Description& description) {
+    const auto asksForOwnFlag = [](const Condition& condition) {
+        const auto& subjects = condition.subjects;
+        return condition.kind == Condition::Kind::isSet &&
+               std::find(subjects.begin(), subjects.end(), ".") != subjects.end();
+    };
+    auto& conditions = description.writtenWhen;
+    const auto found = std::find_if(conditions.begin(), conditions.end(), asksForOwnFlag);
+    if (found != conditions.end()) {
+        conditions.erase(found);
+        description.isOptional = true;
+    }
+}
+
+}  // namespace
+
+const SaidCondition* sayComparison(Draft& draft, Condition::Kind kind, const void* subject,
+                                   const std::string_view* texts, std::size_t count) {
+    SaidCondition said{{kind}, {subject}};
+    said.words.texts.assign(texts, texts + count);
+    return draft.keep(std::move(said));
+}
+
+const SaidCondition* sayComparison(Draft& draft, Condition::Kind kind, const void* subject, const unsigned int* numbers,
+                                   std::size_t count) {
+    SaidCondition said{{kind}, {subject}};
+    std::transform(numbers, numbers + count, std::back_inserter(said.words.texts),
+                   [](unsigned int number) { return std::to_string(number); });
+    return draft.keep(std::move(said));
+}
+
+const SaidCondition* sayOfOne(Draft& draft, Condition::Kind kind, const void* subject) {
+    return draft.keep({{kind}, {subject}});
+}
+
+const SaidCondition* sayEntries(Draft& draft, std::size_t entries, const void* const* subjects, std::size_t count) {
+    SaidCondition said{{Condition::Kind::haveEntries}};
+    said.subjects.assign(subjects, subjects + count);
+    said.words.entries = entries;
+    return draft.keep(std::move(said));
+}
+
+const SaidCondition* sayAnyOf(Draft& draft, const SaidCondition* const* alternatives, std::size_t count) {
+    SaidCondition said{{Condition::Kind::anyOf}};
+    said.alternatives.assign(alternatives, alternatives + count);
+    return draft.keep(std::move(said));
+}
+
+const SaidCondition* sayHLGSwitch(Draft& draft) {
+    return draft.keep({{Condition::Kind::hlgSwitch}});
+}
+
+const SaidCondition* sayRule(Draft& draft, const char* words) {
+    SaidCondition said{{Condition::Kind::rule}};
+    said.words.rule = words;
+    return draft.keep(std::move(said));
+}
+
+DraftNode& Draft::addChild(DraftNode& parent) {
+    DraftNode& child = descendants_.emplace_back();
+    child.parent = &parent;
+    parent.children.push_back(&child);
+    return child;
+}
+
+const DraftNodes& Draft::nodesOf(const void* member) const {
+    static const DraftNodes none;
+    const auto found = nodes_.find(member);
+    return found == nodes_.end() ? none : found->second;
+}
+
+Condition Draft::finished(const SaidCondition& said, const DraftNode& node) const {
+    Condition condition = said.words;
+    for (const void* const member : said.subjects) {
+        for (const DraftNode* const subject : nodesOf(member)) {
+            condition.subjects.push_back(xpath(node, *subject));
+        }
+    }
+    condition.alternatives = finished(said.alternatives, node);
+    return condition;
+}
+
+std::vector<Condition> Draft::finished(const SaidConditions& said, const DraftNode& node) const {
+    std::vector<Condition> conditions;
+    std::transform(said.begin(), said.end(), std::back_inserter(conditions),
+                   [&](const SaidCondition* each) { return finished(*each, node); });
+    return conditions;
+}
+
+Description Draft::finished(const DraftNode& node) const {
+    Description description = node.facts;
+    description.writtenWhen = finished(node.writtenWhen, node);
+    moveOwnFlag(description);
+    description.readWhen = finished(node.readWhen, node);
+    if (description.otherQuantity) {
+        description.otherQuantity->condition = finished(*node.quantityWhen, node);
+    }
+    if (node.flagWhen != nullptr) {
+        description.flag = finished(*node.flagWhen, node);
+    } else if (!node.flagNodes.empty()) {
+        description.flag = isFound(node.flagNodes, node);
+    }
+    for (const DraftNode* const child : node.children) {  // a nested record has its own
+        description.children.push_back(finished(*child));
+    }
+    return description;
+}
+
+}  // namespace lv::detail

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <lvdata/core/Description.h>
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace lv::detail {
+
+class Draft;
+
+/// What a condition of a visit says. Its subjects are members, named by their addresses; `Draft` knows which elements
+/// those are.
+struct SaidCondition {
+    /// All but the subjects and the alternatives.
+    Condition words;
+    std::vector<const void*> subjects{};
+    std::vector<const SaidCondition*> alternatives{};
+};
+
+// These make a condition that lives as long as the draft. They are plain calls, so that the sources of the records,
+// each of which says its conditions, stay small.
+
+/// That a member is, or is not, one of some texts or numbers.
+const SaidCondition* sayComparison(Draft& draft, Condition::Kind kind, const void* subject,
+                                   const std::string_view* texts, std::size_t count);
+const SaidCondition* sayComparison(Draft& draft, Condition::Kind kind, const void* subject, const unsigned int* numbers,
+                                   std::size_t count);
+
+/// Something of one member.
+const SaidCondition* sayOfOne(Draft& draft, Condition::Kind kind, const void* subject);
+
+/// That members have so many entries.
+const SaidCondition* sayEntries(Draft& draft, std::size_t entries, const void* const* subjects, std::size_t count);
+
+const SaidCondition* sayAnyOf(Draft& draft, const SaidCondition* const* alternatives, std::size_t count);
+const SaidCondition* sayHLGSwitch(Draft& draft);
+const SaidCondition* sayRule(Draft& draft, const char* words);
+
+}  // namespace lv::detail

@@ -1,0 +1,205 @@
+#pragma once
+
+#include <lvdata/core/Quantity.h>
+#include <lvdata/core/detail/SaidCondition.h>
+#include <lvdata/xml/property.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <vector>
+
+namespace lv::detail {
+
+// The conditions of the gates in a record's visit: `Reader` and `Writer` ask whether they hold (`holds`), the
+// `Describer` asks what they say (`sayTo`). A condition refers to members, and is used up in the statement that makes
+// it. "And" is two gates in a row.
+
+/// The base of all conditions: nothing else is one, least of all a bool.
+struct GateCondition {};
+
+template <class Gate>
+using RequireCondition = std::enable_if_t<std::is_base_of_v<GateCondition, Gate>>;
+
+/// What a member is compared with: a literal, whose length is then known at compile time, or a number.
+template <class T>
+using Comparand = std::conditional_t<std::is_same_v<T, std::string>, std::string_view, T>;
+
+[[nodiscard]] inline bool isEqualTo(const std::string& text, std::string_view expected) {
+    return text.size() == expected.size() && std::memcmp(text.data(), expected.data(), expected.size()) == 0;
+}
+
+[[nodiscard]] inline bool isEqualTo(unsigned int number, unsigned int expected) {
+    return number == expected;
+}
+
+/// See `oneOf` and `noneOf`.
+template <class T, std::size_t Size, Condition::Kind Kind>
+struct Comparison : GateCondition {
+    const T& subject;
+    std::array<Comparand<T>, Size> comparands;
+
+    Comparison(const T& member, const std::array<Comparand<T>, Size>& expected)
+        : subject(member),
+          comparands(expected) {}
+
+    [[nodiscard]] bool holds() const {
+        const bool isOne = std::any_of(comparands.begin(), comparands.end(),
+                                       [this](const Comparand<T>& comparand) { return isEqualTo(subject, comparand); });
+        return isOne == (Kind == Condition::Kind::oneOf);
+    }
+
+    const SaidCondition* sayTo(Draft& draft) const {
+        return sayComparison(draft, Kind, &subject, comparands.data(), Size);
+    }
+};
+
+/// The member is one of these texts or numbers.
+template <class T, class... Comparands>
+[[nodiscard]] auto oneOf(const T& subject, const Comparands&... comparands) {
+    return Comparison<T, sizeof...(Comparands), Condition::Kind::oneOf>(subject, {Comparand<T>(comparands)...});
+}
+
+template <std::size_t Size>
+[[nodiscard]] auto oneOf(const unsigned int& subject, const std::array<unsigned int, Size>& comparands) {
+    return Comparison<unsigned int, Size, Condition::Kind::oneOf>(subject, comparands);
+}
+
+/// The member is none of these texts.
+template <class T, class... Comparands>
+[[nodiscard]] auto noneOf(const T& subject, const Comparands&... comparands) {
+    return Comparison<T, sizeof...(Comparands), Condition::Kind::noneOf>(subject, {Comparand<T>(comparands)...});
+}
+
+/// See `isSet`.
+struct IsSet : GateCondition {
+    const bool& flag;
+
+    explicit IsSet(const bool& memberFlag) : flag(memberFlag) {}
+
+    [[nodiscard]] bool holds() const { return flag; }
+    const SaidCondition* sayTo(Draft& draft) const { return sayOfOne(draft, Condition::Kind::isSet, &flag); }
+};
+
+/// The flag is set.
+[[nodiscard]] inline IsSet isSet(const bool& flag) {
+    return IsSet(flag);
+}
+
+template <class T>
+[[nodiscard]] IsSet isSet(const property<T>& member) {
+    return IsSet(member.hasValue);
+}
+
+/// See `notEmpty`.
+template <class T>
+struct NotEmpty : GateCondition {
+    const T& subject;
+
+    explicit NotEmpty(const T& member) : subject(member) {}
+
+    [[nodiscard]] bool holds() const { return !subject.empty(); }
+    const SaidCondition* sayTo(Draft& draft) const { return sayOfOne(draft, Condition::Kind::notEmpty, &subject); }
+};
+
+/// The string has characters, the array has entries.
+template <class T>
+[[nodiscard]] NotEmpty<T> notEmpty(const T& subject) {
+    return NotEmpty<T>(subject);
+}
+
+/// See `haveEntries`.
+template <class Number, std::size_t Size>
+struct HaveEntries : GateCondition {
+    std::size_t entries;
+    std::array<const std::vector<Number>*, Size> subjects;
+
+    HaveEntries(std::size_t count, const std::array<const std::vector<Number>*, Size>& arrays)
+        : entries(count),
+          subjects(arrays) {}
+
+    [[nodiscard]] bool holds() const {
+        return std::all_of(subjects.begin(), subjects.end(),
+                           [this](const std::vector<Number>* array) { return array->size() == entries; });
+    }
+
+    const SaidCondition* sayTo(Draft& draft) const {
+        std::array<const void*, Size> addresses{};
+        std::copy(subjects.begin(), subjects.end(), addresses.begin());
+        return sayEntries(draft, entries, addresses.data(), Size);
+    }
+};
+
+/// Each of the arrays has exactly that many entries.
+template <class Number, class... Arrays>
+[[nodiscard]] auto haveEntries(std::size_t entries, const std::vector<Number>& first, const Arrays&... others) {
+    return HaveEntries<Number, 1 + sizeof...(Arrays)>(entries, {&first, &others...});
+}
+
+/// See `anyOf`.
+template <class... Conditions>
+struct AnyOf : GateCondition {
+    std::tuple<Conditions...> alternatives;
+
+    explicit AnyOf(const Conditions&... conditions) : alternatives(conditions...) {}
+
+    [[nodiscard]] bool holds() const {
+        return std::apply([](const auto&... each) { return (each.holds() || ...); }, alternatives);
+    }
+
+    const SaidCondition* sayTo(Draft& draft) const {
+        const auto all =
+            std::apply([&draft](const auto&... each) { return std::array{each.sayTo(draft)...}; }, alternatives);
+        return sayAnyOf(draft, all.data(), all.size());
+    }
+};
+
+/// At least one of the conditions holds.
+template <class... Conditions>
+[[nodiscard]] AnyOf<Conditions...> anyOf(const Conditions&... conditions) {
+    return AnyOf<Conditions...>(conditions...);
+}
+
+/// The record that is printed has `writeHLGSystemGamma` set. Only a writer knows that, so there is no `holds`.
+struct HLGSwitch : GateCondition {
+    static const SaidCondition* sayTo(Draft& draft) { return sayHLGSwitch(draft); }
+};
+
+/// See `rule`.
+struct Rule : GateCondition {
+    const char* words;
+    bool isKept;
+
+    Rule(const char* text, bool isTrue) : words(text), isKept(isTrue) {}
+
+    [[nodiscard]] bool holds() const { return isKept; }
+    const SaidCondition* sayTo(Draft& draft) const { return sayRule(draft, words); }
+};
+
+/// A rule that the other conditions cannot say: in words, and whether it is kept.
+[[nodiscard]] inline Rule rule(const char* words, bool isKept) {
+    return {words, isKept};
+}
+
+/// A quantity that depends on a condition.
+template <class Gate>
+struct QuantityChoice {
+    Gate condition;
+    const Quantity& whenItHolds;
+    const Quantity& otherwise;
+
+    [[nodiscard]] const Quantity& chosen() const { return condition.holds() ? whenItHolds : otherwise; }
+};
+
+template <class Gate>
+[[nodiscard]] QuantityChoice<Gate> choose(const Gate& condition, const Quantity& whenItHolds,
+                                          const Quantity& otherwise) {
+    return {condition, whenItHolds, otherwise};
+}
+
+}  // namespace lv::detail
