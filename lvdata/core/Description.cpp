@@ -47,7 +47,7 @@ std::string Condition::toString() const {
         return joined(subjects, "and") + " is not empty";
     case Kind::haveEntries:
         return joined(subjects, "and") + (subjects.size() == 1 ? " has " : " each have ") + std::to_string(entries) +
-               " entries";
+               (entries == 1 ? " entry" : " entries");
     case Kind::exists:
         return joined(subjects, "or") + " exists";
     case Kind::hasText:
