@@ -7,17 +7,16 @@ namespace {
 using detail::isSet;
 using detail::notEmpty;
 
-template <class Io, class Entry>
-void visitMap(Io& io, const char* name, Entry& entry) {
-    auto map = io.element(name).writeWhen(isSet(entry.valid));
+constexpr auto visitMap = [](const auto& io, auto& entry) {
+    auto map = io.writeWhen(isSet(entry.valid));
     map.value("Values", entry.values);
     map.value("UpdatedAt", entry.updatedAt);
-    io.derive(entry.valid, notEmpty(entry.values));
-}
+    map.derive(entry.valid, notEmpty(entry.values));
+};
 
 constexpr auto visit = [](auto& io, auto& self) {
-    visitMap(io, "Uniformity", self.uniformity);
-    visitMap(io, "Brightness", self.brightness);
+    visitMap(io.element("Uniformity"), self.uniformity);
+    visitMap(io.element("Brightness"), self.brightness);
 };
 
 }  // namespace
@@ -37,7 +36,7 @@ Description CandelaMap::describe() {
 }
 
 bool operator==(const CandelaMapEntry& left, const CandelaMapEntry& right) {
-    return detail::areEqual(left, right, [](auto& io, auto& map) { visitMap(io, "", map); });
+    return detail::areEqual(left, right, visitMap);
 }
 
 bool operator==(const CandelaMap& left, const CandelaMap& right) {

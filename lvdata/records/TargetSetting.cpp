@@ -38,13 +38,17 @@ constexpr auto visitWhitePoint = [](auto& io, auto& whitePoint) {
     return found;
 };
 
+constexpr auto visitCurve = [](auto& io, auto& color) {
+    io.attribute("Type", color.type);
+    io.writeWhen(oneOf(color.type, "Formula")).value("Formula", color.formula, quantities::gamma);
+    io.writeWhen(oneOf(color.type, "Lut")).value("Lut", color.lut, quantities::curveEntry16);
+    io.writeWhen(oneOf(color.type, "Lut24")).value("Lut24", color.lut24, quantities::curveEntry24);
+};
+
 template <class Io, class Color>
 Io visitGammaColor(const Io& io, const char* name, Color& color) {
     Io curve = io.element(name);
-    curve.attribute("Type", color.type);
-    curve.writeWhen(oneOf(color.type, "Formula")).value("Formula", color.formula, quantities::gamma);
-    curve.writeWhen(oneOf(color.type, "Lut")).value("Lut", color.lut, quantities::curveEntry16);
-    curve.writeWhen(oneOf(color.type, "Lut24")).value("Lut24", color.lut24, quantities::curveEntry24);
+    visitCurve(curve, color);
     return curve;
 }
 
@@ -204,7 +208,7 @@ bool operator==(const TargetSetting::white_point_t& left, const TargetSetting::w
 }
 
 bool operator==(const TargetSetting::gamma_t::gamma_color& left, const TargetSetting::gamma_t::gamma_color& right) {
-    return detail::areEqual(left, right, [](auto& io, auto& color) { visitGammaColor(io, "", color); });
+    return detail::areEqual(left, right, visitCurve);
 }
 
 bool operator==(const TargetSetting::gamma_t::imported_lut_file& left,

@@ -14,28 +14,71 @@ import re
 OPERATIONS = "field|value|attribute|constant|text|array|structure|group|record|rows|keyed|derive"
 VISITS = re.compile(rf"(?:^|[.\s=(!])(?:{OPERATIONS}|(?:detail::)?visit\w*)\(")
 ACTION = re.compile(r"(?!return\b|static_assert\b)[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(]")
-BOOL = re.compile(r"(?:const )?bool \w+ = ")
+DECLARED = re.compile(r"(?:const )?(?:bool|auto) \w+ = ")
 ANSWER = re.compile(r" (?:\|\||&&|==|!=|<|>=?) |(?:^|[.\s!])(?:exists|empty)\(\)$|^(?:true|false|any|found)$")
 
-GATE = re.compile(r"\.(?:(?:readWhen|writeWhen|when)\(|derive\([\w.]+, )")
+GATE = re.compile(r"\.(?:readWhen|writeWhen|when)\((?!HLGSwitch)|\bderive\([\w.]+, (?=(?:notEmpty|haveEntries)\()")
 CONDITION = re.compile(r"\bif \(")
 CHOICE = re.compile(r"(?:\breturn|[^=!<>]=) ([^;{}?=]*?(?: == [^;{}?=]*?)?) \? ")
 ALWAYS = re.compile(r"\b(\w+)\.always\(\)")
 OPERATORS = (" = ", "|| ", "&& ", " ||", " &&")  # around one of its letters
 LOGICAL = re.compile(r" (\|\||&&) ")
 LITERAL = re.compile(r'"[^"\n]*"')
-TEXT_FOLLOWS = re.compile(r"""(?:[!=]= |\bconstant\("_*", )$""")  # else it is the name of an element or an attribute
+TEXT_FOLLOWS = re.compile(r"""(?:[!=]= |\bconstant\("_*", |\b(?:one|none)Of\([^;()]*)$""")  # else it is the name of an element or an attribute
 ROOT_NAME = re.compile(r"(?<=[ (])(?:Record::)?rootElementName\b")
 NUMBER = re.compile(r"(?<![\w.<\[])(?:0x[0-9A-F]+|\d+(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
 LENGTH = re.compile(r"(?<=\.size\(\) [=>]= )[A-Za-z][\w:.]*(?:\(\))?")
-ENTRIES = re.compile(r"\{\s*([a-z]\w*(?:,\s+[a-z]\w*)*)\s*\}")
+ENTRIES = re.compile(r"(?:(?<=[=,] )\{\s*|\boneOf\(kind, )((?!with)[a-z]\w*(?:,\s+[a-z]\w*)*)\s*[})]")
 CONSTANT = re.compile(r"constexpr (?!auto\b)")
 
 COMPARISON = re.compile(r" (<=?|>=?) (?=[\w(*&-])")
 CHARACTER = re.compile(r"(?<=[ (])'(?:[^'\\\\]|\\\\.)'")
 LOOP = re.compile(r"\b(?:while \(|for \([^;()]*(?:\([^()]*\)[^;()]*)*; )")
 
+# What mutants of either header need.
+CONDITIONS = """
+// A result that a call would have had, or nothing.
+template <class Call>
+auto unless(int mutant, Call call) -> decltype(call()) {
+    if constexpr (std::is_default_constructible_v<decltype(call())>) {
+        if (on(mutant)) {
+            return {};
+        }
+    }
+    return call();
+}
+
+// The opposite of an answer; what a visit that describes answers has none.
+template <class Answer>
+auto opposite(int mutant, const Answer& answer) {
+    if constexpr (std::is_same_v<Answer, bool>) {
+        return on(mutant) != answer;
+    } else {
+        return answer;
+    }
+}
+
+// The opposite of a gate's condition, which says the same as before.
+template <class Gate>
+struct Inverted : Gate {
+    int mutant;
+
+    Inverted(int number, const Gate& gate) : Gate(gate), mutant(number) {}
+
+    [[nodiscard]] bool holds() const { return on(mutant) != Gate::holds(); }
+};
+
+template <class Gate>
+Inverted<Gate> inverted(int mutant, const Gate& gate) {
+    return {mutant, gate};
+}
+
+}  // namespace lv::mutation
+"""
+
 SINGLE_MUTATION_HEADER = """#pragma once
+
+#include <type_traits>
 
 namespace lv::mutation {
 
@@ -48,13 +91,12 @@ template <class T>
 constexpr T pick(int /*mutant*/, const T& changed, const T& /*original*/) {
     return changed;
 }
-
-}  // namespace lv::mutation
-"""
+""" + CONDITIONS
 
 MUTATION_HEADER = """#pragma once
 
 #include <cstdlib>
+#include <type_traits>
 
 namespace lv::mutation {
 
@@ -69,9 +111,7 @@ template <class T>
 T pick(int mutant, const T& changed, const T& original) {
     return on(mutant) ? changed : original;
 }
-
-}  // namespace lv::mutation
-"""
+""" + CONDITIONS
 
 
 @dataclasses.dataclass
@@ -137,7 +177,7 @@ def inverted(kind, start, end):
 def in_statement(code, start, end):
     """Visits and other statements that are removed, and answers that are inverted."""
     statement = code[start:end]
-    declared = BOOL.match(statement)
+    declared = DECLARED.match(statement)
     if ACTION.match(statement) and not statement.endswith((" = delete", " = default")):
         yield removed("visit" if VISITS.search(statement) else "statement", start, end)
     elif declared:
@@ -149,10 +189,9 @@ def in_statement(code, start, end):
 def answer(code, start, end):
     expression = code[start:end]
     if VISITS.search(expression):
-        before = f"(mutation::on(@) ? decltype({expression})() : ("
-        yield Mutant("visit", start, end, before, "))", "removed")
+        yield Mutant("visit", start, end, "mutation::unless(@, [&] { return ", "; })", "removed")
     elif ANSWER.search(expression) and " ? " not in expression:
-        yield inverted("condition", start, end)
+        yield Mutant("condition", start, end, "mutation::opposite(@, ", ")", "inverted")
 
 
 def operand(code, position, step):
@@ -180,14 +219,15 @@ def operands(code):
         right = operand(code, match.end(), 1)
         for start, end in ((left, match.start()), (match.end(), right)):
             start, end = skip_space(code, start, end), start + len(code[start:end].rstrip())
-            if (start, end) not in seen:
+            is_fold = "..." in (code[start:end], code[match.end() : match.end() + 3])
+            if (start, end) not in seen and not is_fold:
                 seen.add((start, end))
                 yield Mutant("operand", start, end, neutral, "))", "left out")
 
 
 def gates(code):
     for match in GATE.finditer(code):
-        yield inverted("gate", match.end(), closing(code, match.end()))
+        yield Mutant("gate", match.end(), closing(code, match.end()), "mutation::inverted(@, ", ")", "inverted")
     for match in CONDITION.finditer(code):
         yield inverted("condition", match.end(), closing(code, match.end()))
     for match in CHOICE.finditer(code):
@@ -238,7 +278,7 @@ def lengths(code):
 
 
 def entries(code):
-    """The constants in lists such as {once, yearly}."""
+    """The constants in lists such as {once, yearly} and oneOf(kind, once, yearly)."""
     for match in ENTRIES.finditer(code):
         for entry in re.finditer(r"\w+", match.group(1)):
             start, end = (match.start(1) + offset for offset in entry.span())

@@ -6,10 +6,9 @@
 namespace lv::detail {
 namespace {
 
-/// Arrays are of numbers, too.
+/// Whether a member with that content is a number, or several.
 bool isNumeric(Description::Content content) {
-    return content != Description::Content::none && content != Description::Content::string &&
-           content != Description::Content::boolean;
+    return content != Description::Content::string && content != Description::Content::boolean;
 }
 
 void setQuantity(DraftNode& node, const SaidQuantity& quantity) {
@@ -116,7 +115,7 @@ Describer::Found Describer::addLeaf(const Leaf& leaf, const SaidQuantity& quanti
 }
 
 void Describer::addRecord(Description nested, const bool& flag) {
-    DraftNode& node = optional().addNode("", Description::Place::element);
+    DraftNode& node = optional().addNode(nested.name.c_str(), Description::Place::element);
     nested.isOptional = node.facts.isOptional;
     node.facts = std::move(nested);
     addFlag(foundBy(node), flag);

@@ -102,9 +102,9 @@ public:
 
     template <class T>
     Found attribute(const char* name, property<T>& member) {
-        Found found = attribute(name, member.value);
-        addFlag(found, member.hasValue);
-        return found;
+        const Found leaf = attribute(name, member.value);
+        addFlag(leaf, member.hasValue);
+        return leaf;
     }
 
     template <class T, class AnyQuantity = Quantity>
@@ -131,9 +131,9 @@ public:
 
     template <class Number>
     Found array(const char* name, std::vector<Number>& member, std::size_t length, const Quantity& quantity) {
-        Found found = value(name, member, quantity);
+        const Found leaf = value(name, member, quantity);
         setLengths({length});
-        return found;
+        return leaf;
     }
 
     template <class T, class Visit>

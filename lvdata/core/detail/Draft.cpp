@@ -7,6 +7,7 @@
 namespace lv::detail {
 namespace {
 
+using Members = std::vector<const void*>;
 using Path = std::vector<const DraftNode*>;
 
 /// The nodes from the root to this one.
@@ -82,21 +83,21 @@ void moveOwnFlag(Description& description) {
 
 const SaidCondition* sayComparison(Draft& draft, Condition::Kind kind, const void* subject,
                                    const std::string_view* texts, std::size_t count) {
-    SaidCondition said{{kind}, {subject}};
+    SaidCondition said{{kind}, Members{subject}};
     said.words.texts.assign(texts, texts + count);
     return draft.keep(std::move(said));
 }
 
 const SaidCondition* sayComparison(Draft& draft, Condition::Kind kind, const void* subject, const unsigned int* numbers,
                                    std::size_t count) {
-    SaidCondition said{{kind}, {subject}};
+    SaidCondition said{{kind}, Members{subject}};
     std::transform(numbers, numbers + count, std::back_inserter(said.words.texts),
                    [](unsigned int number) { return std::to_string(number); });
     return draft.keep(std::move(said));
 }
 
 const SaidCondition* sayOfOne(Draft& draft, Condition::Kind kind, const void* subject) {
-    return draft.keep({{kind}, {subject}});
+    return draft.keep({{kind}, Members{subject}});
 }
 
 const SaidCondition* sayEntries(Draft& draft, std::size_t entries, const void* const* subjects, std::size_t count) {
@@ -161,7 +162,7 @@ Description Draft::finished(const DraftNode& node) const {
     description.writtenWhen = finished(node.writtenWhen, node);
     moveOwnFlag(description);
     description.readWhen = finished(node.readWhen, node);
-    if (description.otherQuantity) {
+    if (description.otherQuantity.has_value()) {
         description.otherQuantity->condition = finished(*node.quantityWhen, node);
     }
     if (node.flagWhen != nullptr) {

@@ -41,10 +41,10 @@ struct DraftNode {
 
 /// Gates in a row, the innermost first.
 struct DraftGate {
-    const DraftGate* outer = nullptr;
-    const SaidCondition* condition = nullptr;
-    bool closesReading = false;
-    bool closesWriting = false;
+    const DraftGate* outer;
+    const SaidCondition* condition;
+    bool closesReading;
+    bool closesWriting;
 };
 
 /// The tree, and where in it each member of the record is. Owns all that is made on the way.

@@ -138,7 +138,7 @@ struct HaveEntries : GateCondition {
 /// Each of the arrays has exactly that many entries.
 template <class Number, class... Arrays>
 [[nodiscard]] auto haveEntries(std::size_t entries, const std::vector<Number>& first, const Arrays&... others) {
-    return HaveEntries<Number, 1 + sizeof...(Arrays)>(entries, {&first, &others...});
+    return HaveEntries<Number, sizeof...(Arrays) + 1>(entries, {&first, &others...});
 }
 
 /// See `anyOf`.
