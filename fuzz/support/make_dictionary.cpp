@@ -58,8 +58,8 @@ void addWords(Words& words, const Description& node) {
             addWords(words, condition);
         }
     }
-    if (node.otherQuantity) {
-        addWords(words, node.otherQuantity->condition);
+    for (const Description::QuantityWhen& other : node.otherQuantities) {
+        addWords(words, other.condition);
     }
     for (const Description& child : node.children) {
         addWords(words, child);

@@ -1,17 +1,23 @@
 #include <lvdata/core/Description.h>
 
 #include <algorithm>
-#include <numeric>
+#include <iterator>
 
 namespace lv {
 namespace {
 
+using Texts = std::vector<std::string>;
+
+bool isNumber(const std::string& text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+}
+
 std::string quoted(const std::string& text) {
-    return '"' + text + '"';
+    return isNumber(text) ? text : '"' + text + '"';
 }
 
 /// "a", "a or b", "a, b or c".
-std::string joined(const std::vector<std::string>& parts, const std::string& lastWord) {
+std::string joined(const Texts& parts, const std::string& lastWord) {
     std::string text;
     for (std::size_t index = 0; index < parts.size(); ++index) {
         const bool isLast = index + 1 == parts.size();
@@ -21,45 +27,88 @@ std::string joined(const std::vector<std::string>& parts, const std::string& las
     return text;
 }
 
-std::vector<std::string> quoted(std::vector<std::string> texts) {
+Texts quoted(Texts texts) {
     std::transform(texts.begin(), texts.end(), texts.begin(), [](const std::string& text) { return quoted(text); });
     return texts;
 }
 
-std::vector<std::string> toStrings(const std::vector<Condition>& conditions) {
-    std::vector<std::string> texts;
-    std::transform(conditions.begin(), conditions.end(), std::back_inserter(texts),
-                   [](const Condition& condition) { return condition.toString(); });
-    return texts;
+std::string isNone(const Texts& texts) {
+    return texts.size() == 1 ? "not " + quoted(texts.front()) : "neither " + joined(quoted(texts), "nor");
+}
+
+/// What a condition says of its subjects; empty for one that has none.
+std::string predicateOf(const Condition& condition) {
+    const bool isOne = condition.subjects.size() == 1;
+    const std::string verb = isOne ? "is " : "are ";
+    switch (condition.kind) {
+    case Condition::Kind::oneOf:
+        return verb + joined(quoted(condition.texts), "or");
+    case Condition::Kind::noneOf:
+        return verb + isNone(condition.texts);
+    case Condition::Kind::isSet:
+        return verb + "set";
+    case Condition::Kind::notEmpty:
+        return verb + "not empty";
+    case Condition::Kind::haveEntries:
+        return (isOne ? "has " : "each have ") + std::to_string(condition.entries) +
+               (condition.entries == 1 ? " entry" : " entries");
+    case Condition::Kind::exists:
+        return "exists";
+    case Condition::Kind::hasText:
+        return "has text";
+    case Condition::Kind::anyOf:
+    case Condition::Kind::hlgSwitch:
+    case Condition::Kind::rule:
+        break;
+    }
+    return "";
+}
+
+/// One of its subjects is enough.
+bool needsOneSubject(const Condition& condition) {
+    return condition.kind == Condition::Kind::exists || condition.kind == Condition::Kind::hasText;
+}
+
+/// Whether they say the same, each of one subject.
+bool saySame(const std::vector<Condition>& conditions) {
+    return !conditions.empty() && std::all_of(conditions.begin(), conditions.end(), [&](const Condition& condition) {
+        return condition.subjects.size() == 1 && predicateOf(condition) == predicateOf(conditions.front());
+    });
+}
+
+std::string anyOfInWords(const std::vector<Condition>& alternatives) {
+    const bool areSame = saySame(alternatives);
+    Texts parts;
+    std::transform(alternatives.begin(), alternatives.end(), std::back_inserter(parts),
+                   [&](const Condition& each) { return areSame ? each.subjects.front() : each.toString(); });
+    return joined(parts, "or") + (areSame ? ' ' + predicateOf(alternatives.front()) : "");
 }
 
 }  // namespace
 
 std::string Condition::toString() const {
     switch (kind) {
-    case Kind::oneOf:
-        return joined(subjects, "and") + " is " + joined(quoted(texts), "or");
-    case Kind::noneOf:
-        return joined(subjects, "and") + " is not " + joined(quoted(texts), "or");
-    case Kind::isSet:
-        return joined(subjects, "and") + (subjects.size() == 1 ? " is set" : " are set");
-    case Kind::notEmpty:
-        return joined(subjects, "and") + " is not empty";
-    case Kind::haveEntries:
-        return joined(subjects, "and") + (subjects.size() == 1 ? " has " : " each have ") + std::to_string(entries) +
-               (entries == 1 ? " entry" : " entries");
-    case Kind::exists:
-        return joined(subjects, "or") + " exists";
-    case Kind::hasText:
-        return joined(subjects, "or") + " has text";
     case Kind::anyOf:
-        return joined(toStrings(alternatives), "or");
+        return anyOfInWords(alternatives);
     case Kind::hlgSwitch:
         return "writeHLGSystemGamma is set in the record that is printed";
     case Kind::rule:
+        return rule;
+    default:
+        return joined(subjects, needsOneSubject(*this) ? "or" : "and") + ' ' + predicateOf(*this);
+    }
+}
+
+std::string Description::xpathStep() const {
+    switch (place) {
+    case Place::attribute:
+        return '@' + name;
+    case Place::text:
+        return "text()";
+    case Place::element:
         break;
     }
-    return rule;
+    return repetition == Repetition::byKey ? name + "[@" + keyAttribute + "='" + keyText + "']" : name;
 }
 
 }  // namespace lv

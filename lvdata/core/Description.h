@@ -54,7 +54,7 @@ struct LVDATA_EXPORT Condition {
 ///
 /// It is made from the very code that reads and writes the record, so it cannot contradict that. A plain value, made
 /// anew by each call.
-struct Description {
+struct LVDATA_EXPORT Description {
     /// Where the described thing stands in its parent element.
     enum class Place {
         element,    ///< A child element.
@@ -77,10 +77,10 @@ struct Description {
     enum class Repetition {
         once,   ///< Once. Of several, the first is read.
         rows,   ///< Any number of times, one for each row of a list.
-        byKey,  ///< Once for each text of a key attribute. Of several with the same key, the last is read.
+        byKey,  ///< Once for each text of a key attribute. Of several with the same key, the last with a text is read.
     };
 
-    /// A quantity that takes the place of another one when a condition holds.
+    /// A quantity that takes the place of the usual one when a condition holds.
     struct QuantityWhen {
         Condition condition;
         Quantity quantity;
@@ -94,8 +94,8 @@ struct Description {
     /// What its number or numbers stand for. Nothing for other contents.
     std::optional<Quantity> quantity{};
 
-    /// Present where a condition decides between two quantities.
-    std::optional<QuantityWhen> otherQuantity{};
+    /// Other quantities, of which the first whose condition holds counts.
+    std::vector<QuantityWhen> otherQuantities{};
 
     /// The numbers of entries at which an array counts; empty: any. An array with another number of entries is not
     /// written, and when it is read it clears its flag.
@@ -132,6 +132,9 @@ struct Description {
 
     /// Attributes, texts and elements in the order of writing.
     std::vector<Description> children{};
+
+    /// The last step of an XPath expression that leads here: "Type", "@Type", "text()", "MeasuredXYZ[@Color='Red']".
+    [[nodiscard]] std::string xpathStep() const;
 };
 
 }  // namespace lv

@@ -20,6 +20,12 @@ namespace lv::quantities {
 /// A number whose factor is 1 and whose unit and meaning are the application's.
 inline constexpr Quantity number = {"number", 1, unknownUnit, "defined by the application"};
 
+/// One of the version numbers of a record.
+inline constexpr Quantity version = {"version", 1, "", "version number of the record's format"};
+
+/// A number that only tells things apart, such as an index, a sensor's identifier or a kind of schedule.
+inline constexpr Quantity identifier = {"identifier", 1, "", "a number that identifies something"};
+
 /// One of R, G and B as a fraction of the code value 255.
 inline constexpr Quantity codeValue = {"codeValue", 255, "", "RGB code value as a fraction of 255"};
 
@@ -69,9 +75,9 @@ inline constexpr Quantity gain = {"gain", 1000000, "", "gain of a channel"};
 inline constexpr Quantity matrixEntry = {"matrixEntry", 1000000, "", "entry of the emulation matrix"};
 
 /// A brightness of the type "Candela". The record says no more than that word.
-inline constexpr Quantity candela = {"candela", 1, "candela", "brightness, in the unit that its type names"};
+inline constexpr Quantity candela = {"candela", 1, "candela", "brightness"};
 
 /// A brightness of the type "Percent".
-inline constexpr Quantity percent = {"percent", 1, "%", "brightness, in the unit that its type names"};
+inline constexpr Quantity percent = {"percent", 1, "%", "brightness in per cent"};
 
 }  // namespace lv::quantities

@@ -23,20 +23,20 @@ void visitExecutor(Io& io, Property& executorType) {
 constexpr auto visit = [](auto& io, auto& self) {
     io.field("UsageHours", self.usageHours);
     io.field("UsageMinutes", self.usageMinutes);
-    io.field("ColorSensorID", self.colorSensorID);
+    io.field("ColorSensorID", self.colorSensorID, quantities::identifier);
     io.field("ColorSensorName", self.colorSensorName);
     io.field("ColorSensorSerial", self.colorSensorSerial);
     io.field("ColorSensorCorrection", self.colorSensorCorrection);
-    io.field("ReferenceColorSensorID", self.referenceColorSensorID);
+    io.field("ReferenceColorSensorID", self.referenceColorSensorID, quantities::identifier);
     io.field("ReferenceColorSensorName", self.referenceColorSensorName);
     io.field("ReferenceColorSensorSerial", self.referenceColorSensorSerial);
-    io.field("ColorSensorCorrelationID", self.colorSensorCorrelationID);
+    io.field("ColorSensorCorrelationID", self.colorSensorCorrelationID, quantities::identifier);
     io.field("ColorSensorCorrelationDate", self.colorSensorCorrelationDate);
-    io.field("ColorSensorCorrelationMatrixID", self.colorSensorCorrelationMatrixID);
+    io.field("ColorSensorCorrelationMatrixID", self.colorSensorCorrelationMatrixID, quantities::identifier);
     io.field("UseColorSensorCorrelationMatrix", self.useColorSensorCorrelationMatrix);
     visitWhite(io, "CorrelationTargetWhite", self.correlationTargetWhite);
     visitWhite(io, "JustCalibratedWhite", self.justCalibratedWhite);
-    io.field("ExCorrectionID", self.exCorrectionID);
+    io.field("ExCorrectionID", self.exCorrectionID, quantities::identifier);
     io.field("ExCorrectionName", self.exCorrectionName);
     io.field("BackLightLightingTime", self.backLightLightingTime);
     io.field("Software", self.software);

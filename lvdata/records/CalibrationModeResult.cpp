@@ -11,14 +11,14 @@ template <class Io, class EmulationLUT>
 void visitEmulationLUT(Io& io, EmulationLUT& table) {
     auto element = io.writeWhen(isSet(table.present)).element("EmulationLUT");
     element.value("Availability", table.availability);
-    element.value("Index", table.index);
+    element.value("Index", table.index, quantities::identifier);
     element.writeWhen(notEmpty(table.name)).value("Name", table.name);
     io.derive(table.present, element.exists());
 }
 
 constexpr auto visitRow = [](auto& io, auto& row) {
     io.attribute("Type", row.type);
-    io.field("Index", row.index);
+    io.field("Index", row.index, quantities::identifier);
     io.field("Name", row.name);
     io.field("CalibratedTime", row.calibratedTime);
     io.record(row.basicData, row.hasBasicData);

@@ -16,7 +16,7 @@ void visitTarget(const Io& io, Property& targetSetting) {
 constexpr auto visitRow = [](auto& io, auto& row) {
     io.attribute("Type", row.type);
     const std::string& type = row.type.value;
-    io.field("Index", row.index);
+    io.field("Index", row.index, quantities::identifier);
     io.field("Name", row.name);
     io.field("Availability", row.availability);
     io.always().writeWhen(oneOf(type, "Standard", "SyncSignal")).record(row.parameterSetting);

@@ -8,11 +8,12 @@ namespace {
 
 using detail::choose;
 using detail::oneOf;
+using detail::when;
 
 constexpr std::size_t matrixLength = 9;
 
 auto tableQuantity(const MonitorParameter& self) {
-    return choose(oneOf(self.isHDRLUT.value, 1U), quantities::hdrTableEntry, quantities::tableEntry);
+    return choose(quantities::tableEntry, when(oneOf(self.isHDRLUT.value, 1U), quantities::hdrTableEntry));
 }
 
 std::uint32_t tableFactor(const MonitorParameter& self) {

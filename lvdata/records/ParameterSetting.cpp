@@ -9,13 +9,16 @@ using detail::choose;
 using detail::HLGSwitch;
 using detail::noneOf;
 using detail::oneOf;
+using detail::when;
 
 constexpr auto visitBrightness = [](auto& io, auto& brightness) {
     io.attribute("Type", brightness.type);
     const std::string& type = brightness.type;
+    const auto quantity = choose(quantities::number, when(oneOf(type, "Candela"), quantities::candela),
+                                 when(oneOf(type, "Percent"), quantities::percent));
     io.readWhen(noneOf(type, "SyncSignal"))
         .writeWhen(oneOf(type, "Candela", "Percent"))
-        .value("Value", brightness.value, choose(oneOf(type, "Candela"), quantities::candela, quantities::percent));
+        .value("Value", brightness.value, quantity);
     return io.exists();
 };
 

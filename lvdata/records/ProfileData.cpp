@@ -51,7 +51,7 @@ void visitLimited109(Io& io, Property& limited) {
 }
 
 constexpr auto visitCurveContent = [](auto& io, auto& curve) {
-    io.attribute("Type", curve.type);
+    io.writeWhen(oneOf(curve.type, "Formula", "Lut", "LStar")).attribute("Type", curve.type);
     io.when(oneOf(curve.type, "Formula")).text(curve.formula, quantities::curveParameter);
     io.when(oneOf(curve.type, "Lut")).text(curve.lut, quantities::curveEntry);
 };
@@ -60,7 +60,7 @@ template <class Io, class Curve>
 Io visitCurve(Io io, const char* name, Curve& curve) {
     const Io element = io.element(name);
     io.derive(curve.hasValue, element.exists());
-    auto content = element.writeWhen(isSet(curve)).writeWhen(oneOf(curve.value.type, "Formula", "Lut", "LStar"));
+    auto content = element.writeWhen(isSet(curve));
     visitCurveContent(content, curve.value);
     return element;
 }

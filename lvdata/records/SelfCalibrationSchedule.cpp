@@ -50,7 +50,7 @@ void visitFields(Io& io, Self& self) {
 
 constexpr auto visit = [](auto& io, auto& self) {
     auto type = io.writeWhen(isSet(self.type)).element("Type");
-    type.attribute("Type", self.type);
+    type.attribute("Type", self.type, quantities::identifier);
     visitFields(type, self);
 };
 

@@ -19,8 +19,8 @@ std::vector<Condition> conditionsOf(const lv::Description& node) {
     if (node.flag) {
         conditions.push_back(*node.flag);
     }
-    if (node.otherQuantity) {
-        conditions.push_back(node.otherQuantity->condition);
+    for (const lv::Description::QuantityWhen& other : node.otherQuantities) {
+        conditions.push_back(other.condition);
     }
     for (std::size_t index = 0; index < conditions.size(); ++index) {
         const std::vector<Condition> alternatives = conditions[index].alternatives;
@@ -71,8 +71,8 @@ TYPED_TEST(EveryRecordDescription, NamesNothingTwiceUnderOneParent) {
         std::set<lv::Description::Content> texts;
         for (const lv::Description& child : node->children) {
             const bool isText = child.place == lv::Description::Place::text;
-            const bool isNew = isText ? texts.insert(child.content).second : steps.insert(stepTo(child)).second;
-            EXPECT_TRUE(isNew) << node.name() << " has " << stepTo(child) << " twice";
+            const bool isNew = isText ? texts.insert(child.content).second : steps.insert(child.xpathStep()).second;
+            EXPECT_TRUE(isNew) << node.name() << " has " << child.xpathStep() << " twice";
         }
     }
 }

@@ -38,16 +38,6 @@ void addWithDescendants(const DescribedNode& node, bool entersRecords, std::vect
 
 }  // namespace
 
-std::string stepTo(const lv::Description& node) {
-    if (node.place == lv::Description::Place::attribute) {
-        return '@' + node.name;
-    }
-    if (node.place == lv::Description::Place::text) {
-        return "text()";
-    }
-    return isKeyed(node) ? node.name + "[@" + node.keyAttribute + "='" + node.keyText + "']" : node.name;
-}
-
 std::vector<DescribedNode> DescribedNode::children() const {
     std::vector<DescribedNode> children;
     for (const lv::Description& description : path_.back()->children) {
@@ -77,7 +67,7 @@ DescribedNode DescribedNode::step(const std::string& step) const {
     }
     const auto& all = path_.back()->children;
     const auto isMeant = [&](const lv::Description& node) {
-        return stepTo(node) == step;
+        return node.xpathStep() == step;
     };
     if (std::count_if(all.begin(), all.end(), isMeant) == 0) {
         throw std::out_of_range(name() + " has no " + step);
@@ -97,7 +87,7 @@ DescribedNode DescribedNode::at(const std::string& xpath) const {
 std::string DescribedNode::name() const {
     std::string name;
     for (const lv::Description* const node : path_) {
-        name += (name.empty() ? "" : "/") + stepTo(*node);
+        name += (name.empty() ? "" : "/") + node->xpathStep();
     }
     return name;
 }

@@ -57,7 +57,4 @@ private:
 /// The same without what nested records hold, which those describe themselves.
 [[nodiscard]] std::vector<DescribedNode> ownNodes(const lv::Description& record);
 
-/// One step of an XPath expression to the node: "@Type", "Value", "MeasuredXYZ[@Color='Red']", "text()".
-[[nodiscard]] std::string stepTo(const lv::Description& node);
-
 }  // namespace lv::test

@@ -13,10 +13,7 @@ bool isNumeric(Description::Content content) {
 
 void setQuantity(DraftNode& node, const SaidQuantity& quantity) {
     node.facts.quantity = *quantity.usual;
-    if (quantity.other != nullptr) {
-        node.facts.otherQuantity = Description::QuantityWhen{{}, *quantity.other};
-        node.quantityWhen = quantity.when;
-    }
+    node.otherQuantities.assign(quantity.others, quantity.others + quantity.count);
 }
 
 /// The outermost gate comes first.

@@ -5,10 +5,12 @@
 #include <lvdata/core/quantities.h>
 #include <lvdata/xml/property.h>
 
+#include <array>
 #include <cstddef>
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace lv::detail {
@@ -32,21 +34,12 @@ inline constexpr Description::Content contentOf<std::vector<unsigned int>> = Des
 template <>
 inline constexpr Description::Content contentOf<std::vector<int>> = Description::Content::signedArray;
 
-/// The quantity of a member: one, or a choice of two.
+/// The quantities of a member: the usual one, and others that conditions choose.
 struct SaidQuantity {
     const Quantity* usual;
-    const Quantity* other = nullptr;
-    const SaidCondition* when = nullptr;
+    const SaidQuantityWhen* others = nullptr;
+    std::size_t count = 0;
 };
-
-[[nodiscard]] inline SaidQuantity say(Draft& /*draft*/, const Quantity& quantity) {
-    return {&quantity};
-}
-
-template <class Gate>
-[[nodiscard]] SaidQuantity say(Draft& draft, const QuantityChoice<Gate>& choice) {
-    return {&choice.otherwise, &choice.whenItHolds, choice.condition.sayTo(draft)};
-}
 
 /// Runs over a visit to describe what it reads and writes. `Reader` explains the operations. They are called with a
 /// fresh record, whose members say by their addresses where a condition looks.
@@ -96,25 +89,25 @@ public:
     void constant(const char* name, const char* text);
 
     template <class T>
-    Found attribute(const char* name, T& member) {
-        return addLeaf({name, Description::Place::attribute, contentOf<T>, &member}, {&quantities::number});
+    Found attribute(const char* name, T& member, const Quantity& quantity = quantities::number) {
+        return addValue({name, Description::Place::attribute, contentOf<T>, &member}, quantity);
     }
 
     template <class T>
-    Found attribute(const char* name, property<T>& member) {
-        const Found leaf = attribute(name, member.value);
+    Found attribute(const char* name, property<T>& member, const Quantity& quantity = quantities::number) {
+        const Found leaf = attribute(name, member.value, quantity);
         addFlag(leaf, member.hasValue);
         return leaf;
     }
 
     template <class T, class AnyQuantity = Quantity>
     Found text(T& member, const AnyQuantity& quantity = quantities::number) {
-        return addLeaf({"", Description::Place::text, contentOf<T>, &member}, say(*draft_, quantity));
+        return addValue({"", Description::Place::text, contentOf<T>, &member}, quantity);
     }
 
     template <class T, class AnyQuantity = Quantity>
     Found value(const char* name, T& member, const AnyQuantity& quantity = quantities::number) {
-        return addLeaf({name, Description::Place::element, contentOf<T>, &member}, say(*draft_, quantity));
+        return addValue({name, Description::Place::element, contentOf<T>, &member}, quantity);
     }
 
     template <class T, class AnyQuantity = Quantity>
@@ -192,6 +185,18 @@ private:
         Description::Content content;
         const void* member;
     };
+
+    Found addValue(const Leaf& leaf, const Quantity& quantity) { return addLeaf(leaf, {&quantity}); }
+
+    template <class... Gates>
+    Found addValue(const Leaf& leaf, const QuantityChoice<Gates...>& choice) {
+        const auto others = std::apply(
+            [this](const auto&... each) {
+                return std::array{SaidQuantityWhen{each.condition.sayTo(*draft_), &each.quantity}...};
+            },
+            choice.others);
+        return addLeaf(leaf, {&choice.usual, others.data(), others.size()});
+    }
 
     [[nodiscard]] Describer behind(const SaidCondition* condition, bool closesReading, bool closesWriting) const;
 

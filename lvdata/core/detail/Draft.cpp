@@ -19,22 +19,6 @@ Path pathTo(const DraftNode* node) {
     return path;
 }
 
-/// One step of an XPath expression.
-std::string stepTo(const Description& facts) {
-    switch (facts.place) {
-    case Description::Place::attribute:
-        return '@' + facts.name;
-    case Description::Place::text:
-        return "text()";
-    case Description::Place::element:
-        break;
-    }
-    if (facts.repetition == Description::Repetition::byKey) {
-        return facts.name + "[@" + facts.keyAttribute + "='" + facts.keyText + "']";
-    }
-    return facts.name;
-}
-
 /// From one node to another: up to the last that both paths have, then down.
 std::string xpath(const DraftNode& from, const DraftNode& to) {
     const Path start = pathTo(&from);
@@ -45,7 +29,7 @@ std::string xpath(const DraftNode& from, const DraftNode& to) {
         path += path.empty() ? ".." : "/..";
     }
     for (auto step = down; step != end.end(); ++step) {
-        path += (path.empty() ? "" : "/") + stepTo((*step)->facts);
+        path += (path.empty() ? "" : "/") + (*step)->facts.xpathStep();
     }
     return path.empty() ? "." : path;
 }
@@ -162,8 +146,8 @@ Description Draft::finished(const DraftNode& node) const {
     description.writtenWhen = finished(node.writtenWhen, node);
     moveOwnFlag(description);
     description.readWhen = finished(node.readWhen, node);
-    if (description.otherQuantity.has_value()) {
-        description.otherQuantity->condition = finished(*node.quantityWhen, node);
+    for (const SaidQuantityWhen& other : node.otherQuantities) {
+        description.otherQuantities.push_back({finished(*other.when, node), *other.quantity});
     }
     if (node.flagWhen != nullptr) {
         description.flag = finished(*node.flagWhen, node);

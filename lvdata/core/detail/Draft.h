@@ -30,7 +30,7 @@ struct DraftNode {
 
     SaidConditions writtenWhen{};
     SaidConditions readWhen{};
-    const SaidCondition* quantityWhen = nullptr;
+    std::vector<SaidQuantityWhen> otherQuantities{};
 
     /// What sets the flag: a condition, or that one of the nodes is found.
     const SaidCondition* flagWhen = nullptr;

@@ -68,8 +68,8 @@ public:
     [[nodiscard]] MemberCollector element(const char* /*name*/) const { return *this; }
     static void constant(const char* /*name*/, const char* /*text*/) {}
 
-    template <class T>
-    bool attribute(const char* /*name*/, const T& member) {
+    template <class T, class... AnyQuantity>
+    bool attribute(const char* /*name*/, const T& member, const AnyQuantity&... /*quantity*/) {
         return add(member);
     }
 

@@ -103,12 +103,12 @@ public:
     }
 
     template <class T>
-    bool attribute(const char* name, T& member) {
+    bool attribute(const char* name, T& member, const Quantity& /*quantity*/ = quantities::number) {
         return readAttribute(element_, name, member);
     }
 
     template <class T>
-    bool attribute(const char* name, property<T>& member) {
+    bool attribute(const char* name, property<T>& member, const Quantity& /*quantity*/ = quantities::number) {
         member.hasValue = attribute(name, member.value);
         return member.hasValue;
     }

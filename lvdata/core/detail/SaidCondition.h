@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lvdata/core/Description.h>
+#include <lvdata/core/Quantity.h>
 
 #include <cstddef>
 #include <string_view>
@@ -17,6 +18,12 @@ struct SaidCondition {
     Condition words;
     std::vector<const void*> subjects{};
     std::vector<const SaidCondition*> alternatives{};
+};
+
+/// A quantity, and what chooses it.
+struct SaidQuantityWhen {
+    const SaidCondition* when;
+    const Quantity* quantity;
 };
 
 // These make a condition that lives as long as the draft. They are plain calls, so that the sources of the records,

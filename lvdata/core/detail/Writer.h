@@ -70,13 +70,13 @@ public:
     static void derive(const bool& /*flag*/, const AnyCondition& /*condition*/) {}
 
     template <class T>
-    bool attribute(const char* name, const T& member) {
+    bool attribute(const char* name, const T& member, const Quantity& /*quantity*/ = quantities::number) {
         output_.setAttribute(name, member);
         return exists();
     }
 
     template <class T>
-    bool attribute(const char* name, const property<T>& member) {
+    bool attribute(const char* name, const property<T>& member, const Quantity& /*quantity*/ = quantities::number) {
         return attribute(name, member.value);
     }
 

@@ -186,20 +186,41 @@ struct Rule : GateCondition {
     return {words, isKept};
 }
 
-/// A quantity that depends on a condition.
+/// See `when`.
 template <class Gate>
-struct QuantityChoice {
+struct QuantityWhen {
     Gate condition;
-    const Quantity& whenItHolds;
-    const Quantity& otherwise;
-
-    [[nodiscard]] const Quantity& chosen() const { return condition.holds() ? whenItHolds : otherwise; }
+    const Quantity& quantity;
 };
 
-template <class Gate>
-[[nodiscard]] QuantityChoice<Gate> choose(const Gate& condition, const Quantity& whenItHolds,
-                                          const Quantity& otherwise) {
-    return {condition, whenItHolds, otherwise};
+/// A quantity that counts when a condition holds, for `choose`.
+template <class Gate, class = RequireCondition<Gate>>
+[[nodiscard]] QuantityWhen<Gate> when(const Gate& condition, const Quantity& quantity) {
+    return {condition, quantity};
+}
+
+/// See `choose`.
+template <class... Gates>
+struct QuantityChoice {
+    const Quantity& usual;
+    std::tuple<QuantityWhen<Gates>...> others;
+
+    [[nodiscard]] const Quantity& chosen() const {
+        const Quantity* result = nullptr;
+        const auto consider = [&result](const auto& other) {
+            if (result == nullptr && other.condition.holds()) {
+                result = &other.quantity;
+            }
+        };
+        std::apply([&consider](const auto&... each) { (consider(each), ...); }, others);
+        return result == nullptr ? usual : *result;
+    }
+};
+
+/// The first quantity whose condition holds, otherwise the usual one.
+template <class... Gates>
+[[nodiscard]] QuantityChoice<Gates...> choose(const Quantity& usual, const QuantityWhen<Gates>&... others) {
+    return {usual, {others...}};
 }
 
 }  // namespace lv::detail

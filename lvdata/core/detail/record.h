@@ -14,8 +14,8 @@ namespace lv::detail {
 /// The attributes of every record's root element.
 template <class Io, class Record>
 void visitVersion(Io& io, Record& record) {
-    io.attribute("Version", record.version);
-    io.attribute("MinorVersion", record.minorVersion);
+    io.attribute("Version", record.version, quantities::version);
+    io.attribute("MinorVersion", record.minorVersion, quantities::version);
 }
 
 /// What every record's `parseXMLElement` does: refuses an element of another name, then reads the version attributes

@@ -101,17 +101,20 @@ TEST(Describer, GivesNumbersTheirQuantityAndOthersNone) {
         io.field("Height", desk.height);
         io.field("Sizes", desk.sizes, quantities::gain);
         io.value("Scratches", desk.scratches,
-                 choose(isSet(desk.isNew), quantities::hdrTableEntry, quantities::tableEntry));
+                 choose(quantities::number, when(isSet(desk.isNew), quantities::candela),
+                        when(isSet(desk.maker), quantities::percent)));
         io.field("IsNew", desk.isNew);
     });
     EXPECT_FALSE(nodes.at(0).quantity.has_value());
     EXPECT_EQ(nodes.at(1).quantity->name, quantities::number.name);
     EXPECT_EQ(nodes.at(2).quantity->name, quantities::gain.name);
-    EXPECT_FALSE(nodes.at(2).otherQuantity.has_value());
-    EXPECT_EQ(nodes.at(3).quantity->name, quantities::tableEntry.name);
-    ASSERT_TRUE(nodes.at(3).otherQuantity.has_value());
-    EXPECT_EQ(nodes.at(3).otherQuantity->quantity.name, quantities::hdrTableEntry.name);
-    EXPECT_EQ(nodes.at(3).otherQuantity->condition.toString(), "../IsNew is set");
+    EXPECT_TRUE(nodes.at(2).otherQuantities.empty());
+    EXPECT_EQ(nodes.at(3).quantity->name, quantities::number.name);
+    ASSERT_EQ(nodes.at(3).otherQuantities.size(), 2U);
+    EXPECT_EQ(nodes.at(3).otherQuantities[0].quantity.name, quantities::candela.name);
+    EXPECT_EQ(nodes.at(3).otherQuantities[0].condition.toString(), "../IsNew is set");
+    EXPECT_EQ(nodes.at(3).otherQuantities[1].quantity.name, quantities::percent.name);
+    EXPECT_EQ(nodes.at(3).otherQuantities[1].condition.toString(), "../Maker is set");
     EXPECT_FALSE(nodes.at(4).quantity.has_value());
 }
 

@@ -82,12 +82,16 @@ TEST(Conditions, ARuleHoldsAsItWasFound) {
     EXPECT_FALSE(rule("words", false).holds());
 }
 
-TEST(Conditions, AChoiceFollowsItsCondition) {
-    bool flag = true;
-    const auto choice = choose(isSet(flag), quantities::hdrTableEntry, quantities::tableEntry);
-    EXPECT_EQ(&choice.chosen(), &quantities::hdrTableEntry);
-    flag = false;
-    EXPECT_EQ(&choice.chosen(), &quantities::tableEntry);
+TEST(Conditions, AChoiceIsTheFirstWhoseConditionHolds) {
+    bool first = true;
+    bool second = true;
+    const auto choice =
+        choose(quantities::number, when(isSet(first), quantities::candela), when(isSet(second), quantities::percent));
+    EXPECT_EQ(&choice.chosen(), &quantities::candela);
+    first = false;
+    EXPECT_EQ(&choice.chosen(), &quantities::percent);
+    second = false;
+    EXPECT_EQ(&choice.chosen(), &quantities::number);
 }
 
 // Nothing but a condition gates: a bool does not compile, in no direction and at no gate.
