@@ -12,16 +12,21 @@ namespace lv {
 /// `Row` is a plain value without a base: it needs a default state and copying. Rows are never printed by themselves;
 /// the record that owns them reads and writes their elements. Parsing replaces the rows and never merges them: a root
 /// element of the right name empties the list first; one with a different name leaves the old rows in place.
+///
+/// \tparam Row  the type of one row, such as `MeasurementDataObject`
 template <class Row>
 class LVDATA_EXPORT DataArrayObject : public DataObject {
 public:
-    /// The rows in document order, reached directly: filled before printing, read after parsing.
+    /// The rows in document order, reached directly: fill them before printing, read them after parsing. The record
+    /// says which rows are written and which are kept when read.
     std::vector<Row> objects;
 
-    /// Whether this record was ever read from a root element of its own name, even one without rows.
+    /// Whether this record was ever read from a root element of its own name, even one without rows. Not in documents,
+    /// not compared, and used by nothing in the library.
     bool parsed = false;
 
 protected:
+    /// Takes the version numbers of the record's class; the list is empty.
     using DataObject::DataObject;
 };
 

@@ -18,9 +18,10 @@ namespace lv {
 /// or inside another record's element. One thread at a time, or any number of threads as long as all of them only read
 /// or print it; every call works on its own document.
 ///
-/// Nothing is thrown but the standard library's exceptions (`std::bad_alloc`), and nothing is logged.
+/// Failures are return values: only the standard library throws (`std::bad_alloc`), and nothing is logged.
 class LVDATA_EXPORT DataObject {
 public:
+    /// Records may be destroyed through a pointer to this class.
     virtual ~DataObject();
 
     /// Reads the record from its root element. False, with the record unchanged, when the element is invalid or has a
@@ -34,14 +35,15 @@ public:
     /// record itself is unchanged. When the parent cannot have children, nothing happens and the result is invalid.
     virtual XMLElement appendXMLElement(XMLNode& parent) const = 0;
 
-    /// Reads the record from a whole XML document in UTF-8, which may be a string that the record itself holds. False,
-    /// with the record unchanged, when the XML library refuses the text or `parseXMLElement` refuses the document's
-    /// first element. When memory runs out on the way (`std::bad_alloc`), each value and each flag is as it was or as
-    /// the document has it, and a list may end in a row read in part; the record stays usable, and parsing once more
-    /// reads it whole.
+    /// Reads the record from a whole XML document in UTF-8. False, with the record unchanged, when the XML library
+    /// refuses the text or `parseXMLElement` refuses the document's first element. `text` may be a member of this
+    /// record.
+    ///
+    /// When memory runs out (`std::bad_alloc`), each value and each flag is as it was or as the document has it, and a
+    /// list may end in a row read in part. The record stays usable, and parsing once more reads it whole.
     bool parseXMLString(const std::string& text);
 
-    /// The same, with the reason and the line when the text is refused.
+    /// The same as `parseXMLString`, with the reason and the line when the text is refused.
     ParseResult parseXML(const std::string& text);
 
     /// The record as a whole XML document in UTF-8: with an XML declaration when `declaration` is true, indented when
@@ -51,31 +53,44 @@ public:
     /// Appends a root element of that name to a document or an element; invalid when the parent cannot take it.
     XMLElement appendRootXMLElement(const std::string& name, XMLNode& parent) const;
 
-    /// Sets the attributes "Version" and "MinorVersion" to the values of the two members, whatever their flags, and
-    /// returns the element.
+    /// Sets the attributes "Version" and "MinorVersion" to the values of `version` and `minorVersion`, whatever their
+    /// flags, and returns the element. Of an invalid element nothing is set.
     XMLElement appendVersionAttribute(XMLElement element) const;
 
-    /// Reads both attributes into the two members. A missing or empty one clears the flag and keeps the number. No
-    /// number is refused, so a record read from a document of another version writes that document's numbers back.
+    /// Reads both attributes into `version` and `minorVersion`. A missing or empty one clears the flag and keeps the
+    /// number. No number is refused, so a record read from a document of another version writes that document's numbers
+    /// back.
     void parseVersionAttribute(XMLElement element);
 
-    /// The version of the record's format, attributes "Version" and "MinorVersion". Fresh records hold the numbers of
-    /// their class with clear flags; after parsing the flags say whether the document had them.
+    /// The version of the record's format, attribute "Version" of the root element. A fresh record holds the number of
+    /// its class with a clear flag; after parsing, the flag says whether the document had a number. Written always.
     property<unsigned int> version;
+
+    /// The minor version of the record's format, attribute "MinorVersion" of the root element. A fresh record holds the
+    /// number of its class with a clear flag; after parsing, the flag says whether the document had a number. Written
+    /// always.
     property<unsigned int> minorVersion;
 
     /// Whether `ParameterSetting` and `TargetSetting` write their element "HLGSystemGamma". The switch of the record
-    /// that is printed counts for all records inside it; their own switches are neither used nor changed.
+    /// that is printed counts for all records inside it; their own switches are neither used nor changed. It is not in
+    /// documents, and parsing leaves it as it is.
     bool writeHLGSystemGamma = false;
 
 protected:
-    /// \param major, minor  the version numbers of the record's class
+    /// \param major  the version of the record's class
+    /// \param minor  its minor version
     DataObject(unsigned int major, unsigned int minor) : version{major, false}, minorVersion{minor, false} {}
 
-    // Copied and moved only as part of a whole record.
+    /// Copied only as part of a whole record, never by itself. The copy shares nothing with its source.
     DataObject(const DataObject&) = default;
+
+    /// Assigned only as part of a whole record.
     DataObject& operator=(const DataObject&) = default;
+
+    /// Moved only as part of a whole record.
     DataObject(DataObject&&) = default;
+
+    /// Moved only as part of a whole record.
     DataObject& operator=(DataObject&&) = default;
 };
 

@@ -15,6 +15,7 @@ namespace lv {
 /// Subjects are XPath expressions. They start at the element, attribute or text whose description holds the condition:
 /// "." is the described thing itself, "../@Type" an attribute of its parent element.
 struct LVDATA_EXPORT Condition {
+    /// What a condition asks. It decides which of the other members count.
     enum class Kind {
         oneOf,        ///< The subject's text is one of `texts`.
         noneOf,       ///< The subject's text is none of `texts`.
@@ -28,21 +29,23 @@ struct LVDATA_EXPORT Condition {
         rule,         ///< What `rule` says.
     };
 
+    /// What the condition asks.
     Kind kind = Kind::exists;
 
     /// The XPath expressions of what is compared; empty for `anyOf`, `hlgSwitch` and `rule`.
     std::vector<std::string> subjects{};
 
-    /// What the subject is compared with, for `oneOf` and `noneOf`. Numbers are in decimal, as in a document.
+    /// What the subject is compared with, for `oneOf` and `noneOf`; otherwise empty. Numbers are in decimal, as in a
+    /// document.
     std::vector<std::string> texts{};
 
-    /// The number of entries, for `haveEntries`.
+    /// The number of entries, for `haveEntries`; otherwise 0.
     std::size_t entries = 0;
 
-    /// The conditions of `anyOf`.
+    /// The conditions of which one must hold, for `anyOf`; otherwise empty.
     std::vector<Condition> alternatives{};
 
-    /// A rule in words, for `rule`.
+    /// A rule in words, for `rule`; otherwise empty.
     std::string rule{};
 
     /// The condition in words: `../@Type is "PQ" or "HLG"`.
@@ -82,13 +85,20 @@ struct LVDATA_EXPORT Description {
 
     /// A quantity that takes the place of the usual one when a condition holds.
     struct QuantityWhen {
+        /// When the other quantity counts.
         Condition condition;
+
+        /// The quantity that then counts, instead of `Description::quantity`.
         Quantity quantity;
     };
 
     /// The name of the element or attribute; empty for a text.
     std::string name{};
+
+    /// Whether it is a child element, an attribute or the text of its parent.
     Place place = Place::element;
+
+    /// What its text is.
     Content content = Content::none;
 
     /// What its number or numbers stand for. Nothing for other contents.
@@ -104,17 +114,22 @@ struct LVDATA_EXPORT Description {
     /// A text that is written always; what a document has in its place is not looked at.
     std::optional<std::string> constant{};
 
+    /// How often it stands in its parent.
     Repetition repetition = Repetition::once;
 
-    /// With `Repetition::byKey`: the attribute and its text. The attribute is one of `children`, too.
+    /// With `Repetition::byKey`: the name of the key attribute, which is one of `children`, too. Otherwise empty.
     std::string keyAttribute{};
+
+    /// With `Repetition::byKey`: the text of the key attribute. Otherwise empty.
     std::string keyText{};
 
     /// The class of the record that the element is; empty for any other. Nested records are described whole.
     std::string record{};
 
-    /// The version numbers of a fresh record of that class; 0 for anything else.
+    /// The version of a fresh record of that class; 0 for anything else.
     unsigned int version = 0;
+
+    /// The minor version of a fresh record of that class; 0 for anything else.
     unsigned int minorVersion = 0;
 
     /// Whether it is written only when its flag is set. Otherwise it is written always, or under `writtenWhen` alone.

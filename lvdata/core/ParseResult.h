@@ -6,6 +6,7 @@ namespace lv {
 
 /// How reading a record from a text ended: done, or why not. Converts to true when it is done.
 struct ParseResult {
+    /// How far reading came.
     enum class Outcome {
         done,                ///< The record was read.
         notXML,              ///< The XML library refused the text.
@@ -13,15 +14,17 @@ struct ParseResult {
         rootElementRefused,  ///< The record refused the root element: usually because it has a different name.
     };
 
+    /// Whether the record was read, and if not, what refused the text.
     Outcome outcome = Outcome::done;
 
     /// Why it was refused, in a few words: "mismatched element"; with `rootElementRefused` the name of the root
     /// element, which may be as long as the text. Empty when done.
     std::string reason;
 
-    /// The line where that was noticed, counted from 1; 0 where no line is to blame.
+    /// The line where that was noticed, counted from 1; 0 when no line applies, as in an empty text.
     int line = 0;
 
+    /// Whether the record was read.
     [[nodiscard]] explicit operator bool() const { return outcome == Outcome::done; }
 };
 

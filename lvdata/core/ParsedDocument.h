@@ -10,9 +10,8 @@ namespace lv {
 
 class DataObject;
 
-/// A text that was parsed as XML, to be read into a record: for whoever must look at the root element before they know
-/// which record to make, and wants to know why a text is refused. `DataObject::parseXMLString` does both for a record
-/// that is there already.
+/// A text that was parsed as XML, to be read into a record. Use it when the root element decides which record to make.
+/// When you have the record already, `DataObject::parseXML` does everything in one call.
 ///
 ///     lv::ParsedDocument document(text);
 ///     if (document.rootElementName() == lv::MonitorInfo::rootElementName) {
@@ -22,23 +21,23 @@ class DataObject;
 /// One thread at a time.
 class LVDATA_EXPORT ParsedDocument {
 public:
-    /// Parses a whole XML document in UTF-8, as `XMLDocument::parseXMLString` does. The text is not needed any more
-    /// afterwards.
+    /// Parses a whole XML document in UTF-8, as `XMLDocument::parseXMLString` does. The text is copied, so it need not
+    /// live longer than this call. `parseResult` says whether it was accepted.
     explicit ParsedDocument(const std::string& text);
 
-    /// Why nothing can be read: `notXML` or `nothingThere`; otherwise done.
+    /// Whether there is a root element to read from: `done`, or why not: `notXML` or `nothingThere`.
     [[nodiscard]] const ParseResult& parseResult() const { return parsed_; }
 
     /// The name of the root element; empty when there is none.
     [[nodiscard]] std::string rootElementName() const;
 
-    /// Reads the record from the root element. When that is not possible the record is unchanged. A document can be
-    /// read into any number of records; the first is read fastest.
+    /// Reads the record from the root element. When that is not possible, the record is unchanged and the result says
+    /// why. A document can be read into any number of records; the first is read fastest.
     [[nodiscard]] ParseResult read(DataObject& record);
 
 private:
-    // Nobody had the nodes who might have changed them, and no attribute can hold a NUL. Found out first, so that the
-    // text is in the processor's caches when the XML library copies it.
+    // Whether arrays may be read the fast way: nobody else had the nodes and could have changed them, and no attribute
+    // can hold a NUL. The first member, so that the text is in the processor's caches when the XML library copies it.
     bool mayReadInPlace_;
     XMLDocument document_;
     bool isXML_;

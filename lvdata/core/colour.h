@@ -5,40 +5,39 @@
 ///
 /// An accessor fills or reads only the members of its own notation; in a colour that a getter returns every other
 /// member is zero. No record stores a colour: each keeps scaled integers of its own, so what comes back from an
-/// accessor pair is the value rounded to that scale. A plain aggregate, all zero by default, copied by value.
+/// accessor pair is the value rounded to that scale (see lvdata/core/quantities.h). A plain aggregate, all zero by
+/// default, copied by value.
 struct colour {
-    /// CMYK as fractions, 1.0 = 100 %.
-    double cyan = 0.0;
-    double magenta = 0.0;
-    double yellow = 0.0;
-    double black = 0.0;
+    double cyan = 0.0;     ///< Cyan of CMYK as a fraction: 1.0 is 100 %.
+    double magenta = 0.0;  ///< Magenta of CMYK as a fraction: 1.0 is 100 %.
+    double yellow = 0.0;   ///< Yellow of CMYK as a fraction: 1.0 is 100 %.
+    double black = 0.0;    ///< Black (K) of CMYK as a fraction: 1.0 is 100 %.
 
-    /// RGB as fractions, 1.0 = code value 255.
-    double red = 0.0;
-    double green = 0.0;
-    double blue = 0.0;
+    double red = 0.0;    ///< Red of RGB as a fraction: 1.0 is the code value 255.
+    double green = 0.0;  ///< Green of RGB as a fraction: 1.0 is the code value 255.
+    double blue = 0.0;   ///< Blue of RGB as a fraction: 1.0 is the code value 255.
 
-    /// CIE XYZ tristimulus values, as measured. PQR triples of measurement rows travel here, too: P in X, Q in Y, R in
-    /// Z.
+    /// CIE X tristimulus value, as measured; unit not recorded. In `MeasurementDataObject::PQR_x` it carries P.
     double X = 0.0;
+
+    /// CIE Y tristimulus value, as measured; whether it is absolute, in cd/m², is not recorded. In
+    /// `MeasurementDataObject::PQR_x` it carries Q.
     double Y = 0.0;
+
+    /// CIE Z tristimulus value, as measured; unit not recorded. In `MeasurementDataObject::PQR_x` it carries R.
     double Z = 0.0;
 
-    /// CIE 1931 chromaticity coordinates, 0 to 1.
-    double x = 0.0;
-    double y = 0.0;
+    double x = 0.0;  ///< CIE 1931 chromaticity coordinate x, 0 to 1.
+    double y = 0.0;  ///< CIE 1931 chromaticity coordinate y, 0 to 1.
 
-    /// Neither read nor written by the library.
-    double extra0 = 0.0;
+    double extra0 = 0.0;  ///< Not used by the library; zero in every colour that it returns.
 
-    /// CIELAB L*, a* and b*, as measured.
-    double L = 0.0;
-    double a = 0.0;
-    double b = 0.0;
+    double L = 0.0;  ///< CIELAB L*, as measured.
+    double a = 0.0;  ///< CIELAB a*, as measured; may be negative.
+    double b = 0.0;  ///< CIELAB b*, as measured; may be negative.
 
-    /// Neither read nor written by the library.
-    double extra1 = 0.0;
-    double extra2 = 0.0;
+    double extra1 = 0.0;  ///< Not used by the library; zero in every colour that it returns.
+    double extra2 = 0.0;  ///< Not used by the library; zero in every colour that it returns.
 };
 
 namespace lv {

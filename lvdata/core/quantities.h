@@ -2,28 +2,33 @@
 
 #include <lvdata/core/Quantity.h>
 
-/// The quantities that the records store. The `_x` accessors convert with the factor of these constants, and the
-/// descriptions of the records name them.
+/// The quantities that the records store, and the rules of their fixed-point numbers.
 ///
-/// Every conversion follows the same rules. A getter divides the stored integer by the factor and does not look at the
-/// flag. A setter stores the value times the factor plus 0.5, truncated toward zero:
+/// Records and documents hold a fraction as an integer: the value times a factor. Accessors whose names end in `_x`
+/// convert with the factors of these constants, and the descriptions of the records name the constants. All accessors
+/// follow the same rules.
 ///
-/// - In unsigned numbers negative values are stored as 0.
-/// - Signed numbers keep their sign. Since one half is added on either side of zero, -0.7 with the factor 1000000 is
-///   stored as -699999, and a negative number that is read and set again moves toward zero by one step each time.
-/// - Nothing is limited: a result that needs more than 32 bits keeps its low 32 bits. With the factor 1000000 that is
-///   anything from 4294.967296 for unsigned numbers. For signed ones it is anything from 2147.483648, which then reads
-///   as a negative value: a Y of 4000 is read as -294.967296.
-/// - NaN, infinities and products of 2^63 and more are stored as 0.
+/// A getter returns the stored integer divided by the factor, as a double. It does not look at the member's flag.
+///
+/// A setter stores the value times the factor plus 0.5, truncated toward zero. It never fails and checks no range:
+///
+/// - A negative value is stored as 0 in an unsigned number.
+/// - A signed number (XYZ, CIELAB and PQR of a measurement, the emulation matrix) takes negative values. Since one half
+///   is added to them, too, they are stored one step closer to zero than rounding gives: with the factor 1000000, -0.7
+///   becomes -699999. Reading such a number and setting it again moves it one step each time: it drifts toward zero.
+/// - A result that does not fit into 32 bits wraps: its low 32 bits are stored. With the factor 1000000 an unsigned
+///   number holds values up to 4294.967295, a signed one up to 2147.483647 and then reads back as negative: a Y of 4000
+///   in a measurement comes back as -294.967296.
+/// - NaN, infinities and products of 2^63 and more in magnitude are stored as 0.
 namespace lv::quantities {
 
-/// A number whose factor is 1 and whose unit and meaning are the application's.
+/// A number that is stored as it is. Its unit and its meaning are not recorded: the application defines them.
 inline constexpr Quantity number = {"number", 1, unknownUnit, "defined by the application"};
 
-/// One of the version numbers of a record.
+/// One of the two version numbers of a record.
 inline constexpr Quantity version = {"version", 1, "", "version number of the record's format"};
 
-/// A number that only tells things apart, such as an index, a sensor's identifier or a kind of schedule.
+/// A number that only tells things apart: an index, the identifier of a sensor, a kind of schedule.
 inline constexpr Quantity identifier = {"identifier", 1, "", "a number that identifies something"};
 
 /// One of R, G and B as a fraction of the code value 255.
@@ -32,13 +37,13 @@ inline constexpr Quantity codeValue = {"codeValue", 255, "", "RGB code value as 
 /// One of C, M, Y and K as a fraction, stored in per cent.
 inline constexpr Quantity inkAmount = {"inkAmount", 100, "", "CMYK amount as a fraction of 100 %"};
 
-/// One of CIE X, Y and Z. Whether Y is absolute, in cd/m², is not recorded.
+/// One of CIE X, Y and Z. Unit not recorded: nothing says whether Y is absolute, in cd/m².
 inline constexpr Quantity tristimulus = {"tristimulus", 1000000, unknownUnit, "CIE XYZ tristimulus value"};
 
 /// One of CIE L*, a* and b*.
 inline constexpr Quantity cielab = {"cielab", 1000000, "", "CIELAB L*, a* or b*"};
 
-/// One of P, Q and R, a second triple of the measurements whose meaning is the application's.
+/// One of P, Q and R, a second triple of values in a measurement. What they mean is not recorded.
 inline constexpr Quantity pqr = {"pqr", 1000000, unknownUnit, "P, Q or R, defined by the application"};
 
 /// A CIE 1931 chromaticity coordinate x or y.
@@ -56,16 +61,16 @@ inline constexpr Quantity curveEntry16 = {"curveEntry16", 65535, "", "tone curve
 /// An entry of a tone curve of 24 bits.
 inline constexpr Quantity curveEntry24 = {"curveEntry24", 16777215, "", "tone curve entry as a fraction of 16777215"};
 
-/// The one parameter of a target curve that is given by a formula.
+/// The one parameter of a target curve that is given by a formula. What it means is not recorded.
 inline constexpr Quantity curveParameter = {"curveParameter", 1000000, unknownUnit, "parameter of a target curve"};
 
 /// An entry of a target curve that is given by a table.
 inline constexpr Quantity curveEntry = {"curveEntry", 1000000, "", "entry of a target curve"};
 
-/// An entry of a look-up table of the monitor.
+/// An entry of a look-up table of the monitor, at the normal scale.
 inline constexpr Quantity tableEntry = {"tableEntry", 1000000, "", "look-up table entry as a fraction"};
 
-/// An entry of a look-up table of the monitor that is stored at the HDR scale.
+/// An entry of a look-up table of the monitor, at the HDR scale: when the value of `MonitorParameter::isHDRLUT` is 1.
 inline constexpr Quantity hdrTableEntry = {"hdrTableEntry", 1000000000, "", "look-up table entry as a fraction"};
 
 /// A gain of one channel.
@@ -74,7 +79,7 @@ inline constexpr Quantity gain = {"gain", 1000000, "", "gain of a channel"};
 /// An entry of the emulation matrix.
 inline constexpr Quantity matrixEntry = {"matrixEntry", 1000000, "", "entry of the emulation matrix"};
 
-/// A brightness of the type "Candela". The record says no more than that word.
+/// A brightness of the type "Candela". The record says no more than that word: whether it means cd/m² is not recorded.
 inline constexpr Quantity candela = {"candela", 1, "candela", "brightness"};
 
 /// A brightness of the type "Percent".

@@ -12,85 +12,127 @@ namespace lv {
 /// The circumstances of a calibration run: the monitor's usage time, the sensors, the correlation between them, white
 /// points, and who ran it when with what.
 ///
-/// Each member is written when it is set, as the child of the root element that bears its name in upper camel case,
-/// unless its comment says otherwise. Units and ranges of the numbers are the application's. Version 3.0.
+/// All members are children of the root element; only "Type" of the executor stands one level deeper. Numbers are
+/// stored as they are, except the two white points: see lvdata/core/quantities.h for how their accessors convert.
+/// Version 3.0.
 class LVDATA_EXPORT BasicData : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "BasicData";
 
+    /// A fresh record with nothing set, version 3.0.
     BasicData();
 
+    /// Reads an element "BasicData". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "BasicData" to a document or an element and returns it; invalid when `parent` cannot take it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// How long the monitor had been in use, elements "UsageHours" and "UsageMinutes".
+    /// Usage time of the monitor, element "UsageHours". Unit not recorded; the name says hours. Written when set.
     property<unsigned int> usageHours;
+
+    /// Usage time of the monitor, element "UsageMinutes". Unit not recorded; the name says minutes. Written when set.
     property<unsigned int> usageMinutes;
 
-    /// The colour sensor that measured, elements "ColorSensorID" to "ColorSensorCorrection".
+    /// Identifier of the colour sensor that measured, element "ColorSensorID". Written when set.
     property<unsigned int> colorSensorID;
+
+    /// Name of the colour sensor that measured, element "ColorSensorName". Written when set.
     property<std::string> colorSensorName;
+
+    /// Serial number of the colour sensor that measured, element "ColorSensorSerial", kept as text. Written when set.
     property<std::string> colorSensorSerial;
+
+    /// Correction of the colour sensor that measured, element "ColorSensorCorrection". What the number means is not
+    /// recorded. Written when set.
     property<unsigned int> colorSensorCorrection;
 
-    /// The sensor that it was correlated with, elements "ReferenceColorSensorID" to "ReferenceColorSensorSerial".
+    /// Identifier of the sensor that the colour sensor was correlated with, element "ReferenceColorSensorID". Written
+    /// when set.
     property<unsigned int> referenceColorSensorID;
+
+    /// Name of the sensor that the colour sensor was correlated with, element "ReferenceColorSensorName". Written when
+    /// set.
     property<std::string> referenceColorSensorName;
+
+    /// Serial number of the sensor that the colour sensor was correlated with, element "ReferenceColorSensorSerial",
+    /// kept as text. Written when set.
     property<std::string> referenceColorSensorSerial;
 
-    /// The correlation and its matrix, elements "ColorSensorCorrelationID" to "UseColorSensorCorrelationMatrix". The
-    /// last is text like "true", kept as it stands and never converted to a bool.
+    /// Identifier of the correlation, element "ColorSensorCorrelationID". Written when set.
     property<unsigned int> colorSensorCorrelationID;
+
+    /// Date of the correlation, element "ColorSensorCorrelationDate": any text, its form is not recorded. Written when
+    /// set.
     property<std::string> colorSensorCorrelationDate;
+
+    /// Identifier of the correlation matrix in use, element "ColorSensorCorrelationMatrixID". Written when set.
     property<unsigned int> colorSensorCorrelationMatrixID;
+
+    /// Whether the correlation matrix is used, element "UseColorSensorCorrelationMatrix". A text such as "true", never
+    /// converted to a bool. Written when set.
     property<std::string> useColorSensorCorrelationMatrix;
 
-    /// The white aimed at for the correlation and the white just reached: CIE X, Y and Z, each times 1000000. Elements
-    /// "CorrelationTargetWhite" and "JustCalibratedWhite". Parsing takes any number of values and sets the flag;
-    /// writing looks at the number alone: exactly three are written whatever the flag says, any other number is not.
+    /// Target white of the correlation, element "CorrelationTargetWhite": CIE X, Y, Z, each stored as
+    /// `quantities::tristimulus`, times 1000000; unit not recorded. Written when it has exactly three entries, whatever
+    /// the flag; parsing takes any number of entries and sets the flag.
     property<std::vector<unsigned int>> correlationTargetWhite;
+
+    /// White reached by the calibration, element "JustCalibratedWhite": CIE X, Y, Z, each stored as
+    /// `quantities::tristimulus`, times 1000000; unit not recorded. Written when it has exactly three entries, whatever
+    /// the flag; parsing takes any number of entries and sets the flag.
     property<std::vector<unsigned int>> justCalibratedWhite;
 
-    /// An external correction, elements "ExCorrectionID" and "ExCorrectionName".
+    /// Identifier of an external correction, element "ExCorrectionID". Written when set.
     property<unsigned int> exCorrectionID;
+
+    /// Name of an external correction, element "ExCorrectionName". Written when set.
     property<std::string> exCorrectionName;
 
-    /// How long the backlight had been lit, element "BackLightLightingTime".
+    /// Lighting time of the backlight, element "BackLightLightingTime". Unit not recorded. Written when set.
     property<unsigned int> backLightLightingTime;
 
-    /// The software that ran the calibration, element "Software".
+    /// The software that ran the calibration, element "Software". Written when set.
     property<std::string> software;
 
-    /// When it ran, as any text, element "executedDate" with a small initial.
+    /// When the calibration ran, element "executedDate" (first letter in lower case): any text, its form is not
+    /// recorded. Written when set.
     property<std::string> executedDate;
 
-    /// A priority number of the application's, element "DUEPriority".
+    /// A priority, element "DUEPriority". What the number means is not recorded. Written when set.
     property<unsigned int> DUEPriority;
 
-    /// The kind of executor, element "Type" inside "Executor". After parsing, the flag tells whether the text that the
-    /// member then holds is not empty, an earlier text included; a set but empty one is written all the same.
+    /// What kind of executor ran the calibration, element "Type" inside "Executor". Written when set, also when empty.
+    /// After parsing, the flag says whether the text that the member then holds is not empty, an earlier text included.
     property<std::string> executorType;
 
     /// \name The white points as colours
-    /// The getters return X, Y and Z, the stored values divided by 1000000, or an all-zero colour when fewer than three
-    /// are stored; the flag is not consulted. The setters store three values, each times 1000000 plus 0.5, truncated,
-    /// and the low 32 bits of what is larger; 0 for negatives, NaN, infinities and magnitudes of 2^63 and more. They
-    /// set the flag.
+    /// Only X, Y and Z of a colour are converted, see lvdata/core/quantities.h. These arrays are unsigned: a negative
+    /// value is stored as 0.
     /// @{
+
+    /// Returns `correlationTargetWhite` as X, Y and Z; all zero when fewer than three entries are stored.
     [[nodiscard]] colour correlationTargetWhite_x() const;
+
+    /// Replaces `correlationTargetWhite` by three entries and sets its flag.
     void correlationTargetWhite_x(const colour& white);
+
+    /// Returns `justCalibratedWhite` as X, Y and Z; all zero when fewer than three entries are stored.
     [[nodiscard]] colour justCalibratedWhite_x() const;
+
+    /// Replaces `justCalibratedWhite` by three entries and sets its flag.
     void justCalibratedWhite_x(const colour& white);
     /// @}
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const BasicData& left, const BasicData& right);
 [[nodiscard]] inline bool operator!=(const BasicData& left, const BasicData& right) {

@@ -11,78 +11,105 @@
 
 namespace lv {
 
-/// The outcome of one colour mode's last calibration.
+/// The outcome of one colour mode's last calibration, element "ColorMode".
 ///
-/// The nested records `basicData`, `measurementData` and `monitorParameter` are written when their flags are set. After
-/// parsing, each flag tells whether its record was found.
+/// Unless said otherwise, a member is a child of that element. The nested records `basicData`, `measurementData` and
+/// `monitorParameter` are written when their flags are set: if you fill one, set its flag, too. `profileData` is always
+/// written.
 class CalibrationModeResultObject {
 public:
-    /// The emulation look-up table in use. Plain values without flags of their own.
+    /// The emulation look-up table in use. Plain values without flags of their own: when `present` is set, a missing
+    /// number is written as 0.
     struct EmulationLUT {
-        /// Elements "Availability" and "Index", written always within their parent.
+        /// Availability of the table, element "Availability" inside "EmulationLUT". What the number means is not
+        /// recorded. Written whenever "EmulationLUT" is.
         unsigned int availability = 0;
+
+        /// Which table it is, element "Index" inside "EmulationLUT". Written whenever "EmulationLUT" is.
         unsigned int index = 0;
 
-        /// Element "Name", written when it is not empty.
+        /// Name of the table, element "Name" inside "EmulationLUT". Written when it is not empty.
         std::string name{};
 
-        /// Whether the element "EmulationLUT" was found; it is written when this is set.
+        /// Whether there is a table: the element "EmulationLUT" is written when this is set. After parsing: whether the
+        /// element was found.
         bool present = false;
     };
 
-    /// The kind of colour mode, attribute "Type": written always, whatever text is held.
+    /// The kind of colour mode, attribute "Type". Always written, whatever the flag; empty in a fresh row. Which texts
+    /// there are is defined by the application.
     property<std::string> type{};
 
-    /// Which mode it is and when it was calibrated, elements "Index", "Name" and "CalibratedTime", written when set.
+    /// Which colour mode it is, element "Index". Rows are neither merged nor sorted by it. Written when set.
     property<unsigned int> index{};
+
+    /// Name of the colour mode, element "Name". Written when set.
     property<std::string> name{};
+
+    /// When the mode was calibrated, element "CalibratedTime": any text, its form is not recorded. Written when set.
     property<std::string> calibratedTime{};
 
-    /// The circumstances of the run, element "BasicData".
+    /// The circumstances of the run, element "BasicData". Written when `hasBasicData` is set.
     BasicData basicData{};
+
+    /// Whether `basicData` is set. After parsing: whether its element was found.
     bool hasBasicData = false;
 
-    /// The measurements taken, element "MeasurementData".
+    /// The measurements taken, element "MeasurementData". Written when `hasMeasurementData` is set.
     MeasurementData measurementData{};
+
+    /// Whether `measurementData` is set. After parsing: whether its element was found.
     bool hasMeasurementData = false;
 
-    /// Whether the black measurement is valid, element "HasValidMeasuredBlackValue", written when set.
+    /// Whether the black measurement is valid, element "HasValidMeasuredBlackValue". Written when set, also when false.
     property<bool> hasValidMeasuredBlackValue{};
 
-    /// The monitor's adjustments, element "MonitorParameter".
+    /// The monitor's adjustments, element "MonitorParameter". Written when `hasMonitorParameter` is set.
     MonitorParameter monitorParameter{};
+
+    /// Whether `monitorParameter` is set. After parsing: whether its element was found.
     bool hasMonitorParameter = false;
 
-    /// What the profile was built from, element "ProfileData": written always. So a row that was read without it gains
-    /// a default one in the next text.
+    /// What the profile was built from, element "ProfileData". Always written: a row that was read without it gains one
+    /// with default values when it is printed.
     ProfileData profileData{};
+
+    /// After parsing: whether the element "ProfileData" was found. Writing does not look at it.
     bool hasProfileData = false;
 
-    /// Element "EmulationLUT".
+    /// The emulation look-up table in use, element "EmulationLUT". Written when its member `present` is set.
     EmulationLUT emulationLUT{};
 };
 
+/// The emulation look-up table of a row, under a shorter name.
 using EmulationLUT = CalibrationModeResultObject::EmulationLUT;
 
-/// The outcomes of the last calibrations, one element "ColorMode" per colour mode in list order: nothing is merged or
-/// sorted, and every such element makes a row, however empty. Version 2.0.
+/// The outcomes of the last calibrations, one element "ColorMode" per colour mode in list order. Nothing is merged or
+/// sorted, and every such element makes a row, even an empty one. Version 2.0.
 class LVDATA_EXPORT CalibrationModeResult : public DataArrayObject<CalibrationModeResultObject> {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "CalibrationModeResult";
 
+    /// A fresh record without rows, version 2.0.
     CalibrationModeResult();
 
+    /// Reads an element "CalibrationModeResult", and replaces all rows. False, with nothing changed, when the element
+    /// has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "CalibrationModeResult" to a document or an element and returns it; invalid when `parent`
+    /// cannot take it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma` and `parsed`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma` and `parsed`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const CalibrationModeResultObject::EmulationLUT& left,
                                             const CalibrationModeResultObject::EmulationLUT& right);

@@ -8,46 +8,56 @@
 
 namespace lv {
 
-/// One map of luminance values over the screen.
+/// One map of luminance values over the screen, inside the element "Uniformity" or "Brightness".
+///
+/// To have a map written, fill `values` and set `valid`.
 struct CandelaMapEntry {
-    /// The values in stored order, element "Values"; grid and unit are the application's.
+    /// The values in stored order, element "Values", stored as they are: shape of the grid and unit not recorded.
+    /// Written when `valid`, also when empty.
     std::vector<unsigned int> values{};
 
-    /// When the map was last updated, as any text, element "UpdatedAt".
+    /// When the map was last updated, element "UpdatedAt": any text, its form is not recorded. Written when `valid`,
+    /// also when empty.
     std::string updatedAt{};
 
-    /// Whether the map is present: the caller sets it for the map to be written. After parsing it tells whether
-    /// `values` then holds any; an update time alone does not make a map.
+    /// Whether there is a map; not an element of its own. Set it for the map to be written. Parsing sets it to whether
+    /// `values` then holds any number, an earlier document's included: an update time alone does not make a map.
     bool valid = false;
 };
 
-/// The maps of luminance over the screen, flat lists that are stored and handed on as they stand.
+/// Two maps of luminance over the screen, flat lists of numbers that are stored as they are.
 ///
-/// The elements "Uniformity" and "Brightness" are written always; both their children, also when empty, when the map is
-/// valid. Version 1.0.
+/// The elements "Uniformity" and "Brightness" are always written; they are empty when the map is not valid.
+/// Version 1.0.
 class LVDATA_EXPORT CandelaMap : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "CandelaMap";
 
+    /// A fresh record with nothing set, version 1.0.
     CandelaMap();
 
+    /// Reads an element "CandelaMap". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "CandelaMap" to a document or an element and returns it; invalid when `parent` cannot take
+    /// it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// Element "Uniformity".
+    /// The map of uniformity, element "Uniformity". The element is always written, its children when the map is valid.
     CandelaMapEntry uniformity;
 
-    /// Element "Brightness".
+    /// The map of brightness, element "Brightness". The element is always written, its children when the map is valid.
     CandelaMapEntry brightness;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const CandelaMapEntry& left, const CandelaMapEntry& right);
 [[nodiscard]] inline bool operator!=(const CandelaMapEntry& left, const CandelaMapEntry& right) {

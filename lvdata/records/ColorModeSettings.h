@@ -10,52 +10,65 @@
 
 namespace lv {
 
-/// One colour mode: what it is, and the records that define it.
+/// One colour mode, element "ColorMode": what it is, and the records that define it.
 ///
-/// The text of `type` alone, set or not, chooses which nested records are written; their flags are not consulted, so an
-/// unset one is written with its defaults. Parsing takes all three whatever the type says; each flag is whether the
-/// record was found.
+/// The text of `type` alone decides which nested records are written. Their flags do not matter: one that is not set is
+/// written with its defaults. Parsing reads all three, whatever the type; each flag says whether its element was found.
+/// So printing what was read drops the records that do not belong to the type.
 class ColorModeSettingsObject {
 public:
-    /// The kind of mode, attribute "Type": written always. "Standard", "SyncSignal" and "Calibration" steer what is
-    /// written; any other text is kept and written back.
+    /// The kind of mode, attribute "Type". "Standard", "SyncSignal" and "Calibration" decide what is written; any other
+    /// text is kept and written back. Always written, whatever the flag.
     property<std::string> type{};
 
-    /// Elements "Index", "Name" and "Availability", written when set.
+    /// Which mode it is, element "Index". What the number means is not recorded. Written when set.
     property<unsigned int> index{};
+
+    /// The mode's name, element "Name". Written when set.
     property<std::string> name{};
+
+    /// Availability of the mode, element "Availability". What the number means is not recorded. Written when set.
     property<unsigned int> availability{};
 
-    /// Device parameters, element "ParameterSetting", written for "Standard" and "SyncSignal".
+    /// Device parameters, element "ParameterSetting". Written when `type` is "Standard" or "SyncSignal", whatever the
+    /// flag.
     property<ParameterSetting> parameterSetting{};
 
-    /// Calibration target, element "TargetSetting" inside an element "Target" whose attribute "Type" is "Lumivale";
-    /// written for "Calibration".
+    /// Calibration target, element "TargetSetting" inside an element "Target" with the attribute "Type" "Lumivale".
+    /// Written when `type` is "Calibration", whatever the flag.
     property<TargetSetting> targetSetting{};
 
-    /// Profile-making policy, element "ProfilePolicy", written always.
+    /// How to make the colour profile, element "ProfilePolicy". Always written, whatever the flag.
     property<ProfilePolicy> profilePolicy{};
 };
 
-/// A monitor's colour modes, one element "ColorMode" per mode in list order; every such element makes a row, however
-/// empty. The record's own `writeHLGSystemGamma` is in force for the parameters and targets of all rows. Version 2.0.
+/// A monitor's colour modes, one element "ColorMode" per mode in list order. Every such element makes a row, even an
+/// empty one. When this record is printed, its own `writeHLGSystemGamma` counts for the parameters and targets of all
+/// rows. Version 2.0.
 class LVDATA_EXPORT ColorModeSettings : public DataArrayObject<ColorModeSettingsObject> {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "ColorModeSettings";
 
+    /// A fresh record without rows, version 2.0.
     ColorModeSettings();
 
+    /// Reads an element "ColorModeSettings", and replaces all rows. False, with nothing changed, when the element has a
+    /// different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "ColorModeSettings" to a document or an element and returns it; invalid when `parent` cannot
+    /// take it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma` and `parsed`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma` and `parsed`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const ColorModeSettingsObject& left, const ColorModeSettingsObject& right);
 [[nodiscard]] inline bool operator!=(const ColorModeSettingsObject& left, const ColorModeSettingsObject& right) {

@@ -9,34 +9,40 @@ namespace lv {
 
 /// Against which reference sensor the monitor's own colour sensor was last correlated, and when.
 ///
-/// All three values are opaque text, the sensor's identifier included: leading zeros stay. Each is written when it is
-/// set, as a child of the root element under its own name in upper camel case. Version 1.0.
+/// All three values are kept as text and not converted, the sensor's identifier included: leading zeros stay. Each is a
+/// child of the root element. Version 1.0.
 class LVDATA_EXPORT CorrelationInfo : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "CorrelationInfo";
 
+    /// A fresh record with nothing set, version 1.0.
     CorrelationInfo();
 
+    /// Reads an element "CorrelationInfo". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "CorrelationInfo" to a document or an element and returns it; invalid when `parent` cannot
+    /// take it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// Identifier of the reference sensor, element "ReferenceSensorID".
+    /// Identifier of the reference sensor, element "ReferenceSensorID". Written when set.
     property<std::string> referenceSensorID;
 
-    /// Its serial number, element "ReferenceSensorSerial".
+    /// Serial number of the reference sensor, element "ReferenceSensorSerial". Written when set.
     property<std::string> referenceSensorSerial;
 
-    /// Date of the correlation, element "CorrelationDate"; any text, neither checked nor converted.
+    /// Date of the correlation, element "CorrelationDate": any text, its form is not recorded. Written when set.
     property<std::string> correlationDate;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const CorrelationInfo& left, const CorrelationInfo& right);
 [[nodiscard]] inline bool operator!=(const CorrelationInfo& left, const CorrelationInfo& right) {

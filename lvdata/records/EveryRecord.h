@@ -24,8 +24,8 @@ namespace lv {
 template <class... Records>
 struct RecordTypes {};
 
-/// All record classes, by name. For what is known only when the program runs, such as the root element of a document,
-/// there is `recordClass`.
+/// All record classes, by name. When the class is known only at run time, for instance from the root element of a
+/// document, use `recordClass`.
 using EveryRecord = RecordTypes<  //
     AssetInfo,                    //
     BasicData,                    //

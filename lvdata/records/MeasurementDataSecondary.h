@@ -8,21 +8,23 @@
 namespace lv {
 
 /// A second series of measurements beside `MeasurementData`: the same record under a root element of its own. Neither
-/// accepts the other's element.
+/// record accepts the other's element. Version 2.0.
 class LVDATA_EXPORT MeasurementDataSecondary : public MeasurementData {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "MeasurementDataSecondary";
 
+    /// The name of the root element that this series is written under and accepts: "MeasurementDataSecondary".
     [[nodiscard]] std::string getRootElementName() const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma` and `parsed`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma` and `parsed`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const MeasurementDataSecondary& left,
                                             const MeasurementDataSecondary& right);

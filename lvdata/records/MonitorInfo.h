@@ -15,40 +15,56 @@ namespace lv {
 
 /// Everything stored about one monitor. The outermost record: it holds every other one, directly or inside another.
 ///
-/// Each nested record stands in an element of its own name; its flag is whether the record was found. Five of the six
-/// are written always, an unset one with its defaults, so a document without them gains them on a round trip; the
-/// candela map is written only when it is set. The record's own `writeHLGSystemGamma` is in force for its configuration
-/// when it is printed. Version 2.2.
+/// All members are children of the root element. After parsing, the flag of a nested record says whether its element
+/// was found. Five of the six are always written, with their defaults when not set: a document without them gains them
+/// when it is read and printed again. The candela map is written only when it is set.
+///
+/// When this record is printed, its own `writeHLGSystemGamma` counts for its configuration. Version 2.2.
 class LVDATA_EXPORT MonitorInfo : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "MonitorInfo";
 
+    /// A fresh record with nothing set, version 2.2.
     MonitorInfo();
 
+    /// Reads an element "MonitorInfo". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "MonitorInfo" to a document or an element and returns it; invalid when `parent` cannot take
+    /// it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// The monitor's identifier, any text, element "UUID", written when set.
+    /// The monitor's identifier, element "UUID": any text, neither checked nor converted. Written when set.
     property<std::string> uuid;
 
-    /// Written always.
+    /// The monitor's name, colour modes and schedule, element "MonitorConfiguration". Always written, whatever the
+    /// flag.
     property<MonitorConfiguration> monitorConfiguration;
+
+    /// The last calibration of each colour mode, element "CalibrationModeResult". Always written, whatever the flag.
     property<CalibrationModeResult> calibrationModeResult;
+
+    /// The measurement of the standard mode, element "StandardModeResult". Always written, whatever the flag.
     property<StandardModeResult> standardModeResult;
+
+    /// Labels that the owner attached to the monitor, element "AssetInfo". Always written, whatever the flag.
     property<AssetInfo> assetInfo;
+
+    /// The last correlation of the monitor's own sensor, element "CorrelationInfo". Always written, whatever the flag.
     property<CorrelationInfo> correlationInfo;
 
-    /// Written when set.
+    /// Maps of luminance over the screen, element "CandelaMap". Written when set.
     property<CandelaMap> candelaMap;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorInfo& left, const MonitorInfo& right);
 [[nodiscard]] inline bool operator!=(const MonitorInfo& left, const MonitorInfo& right) {

@@ -10,110 +10,171 @@ namespace lv {
 /// The adjustment values read from or written to a monitor: brightness and contrast, the look-up tables of the three
 /// channels, HLG settings, six-colour adjustments, gains and an emulation matrix.
 ///
-/// Fractions are stored in fixed point, as the document carries them. The `_x` accessors convert: a getter divides the
-/// stored value by its factor, whether or not the flag is set; a setter stores the value times the factor plus 0.5,
-/// truncated toward zero, and sets the flag. Negative input becomes 0 in the unsigned fields. Nothing fails: NaN,
-/// infinities and magnitudes of 2^63 and more store 0, and what exceeds 32 bits keeps its low 32 bits.
+/// All members are children of the root element. Fractions are stored as integers, as the document holds them; the `_x`
+/// accessors convert, see lvdata/core/quantities.h. Getters do not look at the flag, setters set it.
 ///
-/// Unless said otherwise a member is written when it is set, as a child of the root element under its own name.
-/// Version 4.0.
+/// A look-up table counts with 256 or 1024 entries, the emulation matrix with 9. With any other number of entries they
+/// are not written, even though a setter accepts them and sets the flag. When such an array is read, its entries stay
+/// in memory and its flag is cleared. Version 4.0.
 class LVDATA_EXPORT MonitorParameter : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "MonitorParameter";
 
-    /// One signed adjustment for each of six colours, in the monitor's own steps.
+    /// One signed adjustment for each of six colours, stored as it is; unit not recorded. Each is an element of its
+    /// own, a child of the root element; all six are written together.
     struct six_colors_t {
-        int red = 0;
-        int green = 0;
-        int blue = 0;
-        int cyan = 0;
-        int magenta = 0;
-        int yellow = 0;
+        int red = 0;      ///< Element "RedHue", "RedSaturation" or "RedLightness". Unit not recorded.
+        int green = 0;    ///< Element "GreenHue", "GreenSaturation" or "GreenLightness". Unit not recorded.
+        int blue = 0;     ///< Element "BlueHue", "BlueSaturation" or "BlueLightness". Unit not recorded.
+        int cyan = 0;     ///< Element "CyanHue", "CyanSaturation" or "CyanLightness". Unit not recorded.
+        int magenta = 0;  ///< Element "MagentaHue", "MagentaSaturation" or "MagentaLightness". Unit not recorded.
+        int yellow = 0;   ///< Element "YellowHue", "YellowSaturation" or "YellowLightness". Unit not recorded.
     };
 
+    /// A fresh record with nothing set, version 4.0.
     MonitorParameter();
 
+    /// Reads an element "MonitorParameter". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "MonitorParameter" to a document or an element and returns it; invalid when `parent` cannot
+    /// take it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// Brightness and contrast in the monitor's own units, elements "Brightness" and "Contrast".
+    /// Brightness, element "Brightness", stored as it is; unit not recorded. Written when set.
     property<unsigned int> brightness;
+
+    /// Contrast, element "Contrast", stored as it is; unit not recorded. Written when set.
     property<unsigned int> contrast;
 
-    /// 1: the look-up tables are stored at the HDR scale; any other value: at the normal one. Element "isHDRLUT".
+    /// Scale of the three look-up tables, element "isHDRLUT": HDR when the value is 1, whatever the flag, otherwise
+    /// normal. A number: the text "true" reads as 0. Written when set.
     property<unsigned int> isHDRLUT;
 
-    /// Look-up tables of 256 or 1024 entries, each times 1000000, or times 1000000000 when `isHDRLUT` is 1. Elements
-    /// "RedLUT", "GreenLUT", "BlueLUT". A table of another length is neither written nor, when it was read, flagged as
-    /// set; its entries stay in memory.
+    /// Look-up table of the red channel, element "RedLUT": each entry stored as `quantities::tableEntry`, times
+    /// 1000000, or as `quantities::hdrTableEntry`, times 1000000000, when `isHDRLUT` is 1. Written when set, with 256
+    /// or 1024 entries.
     property<std::vector<unsigned int>> redLUT;
+
+    /// Look-up table of the green channel, element "GreenLUT": each entry stored as `quantities::tableEntry`, times
+    /// 1000000, or as `quantities::hdrTableEntry`, times 1000000000, when `isHDRLUT` is 1. Written when set, with 256
+    /// or 1024 entries.
     property<std::vector<unsigned int>> greenLUT;
+
+    /// Look-up table of the blue channel, element "BlueLUT": each entry stored as `quantities::tableEntry`, times
+    /// 1000000, or as `quantities::hdrTableEntry`, times 1000000000, when `isHDRLUT` is 1. Written when set, with 256
+    /// or 1024 entries.
     property<std::vector<unsigned int>> blueLUT;
 
-    /// System gamma of HLG (ITU-R BT.2100) times 100, element "HLGSystemGamma".
+    /// System gamma of HLG (ITU-R BT.2100), element "HLGSystemGamma", stored as `quantities::hlgSystemGamma`, times
+    /// 100. Written when set; in this record, `writeHLGSystemGamma` does not matter.
     property<unsigned int> hlgSystemGamma;
 
-    /// HLG clipping in the monitor's own units, element "HLGClipping".
+    /// HLG clipping, element "HLGClipping", stored as it is; unit not recorded. Written when set.
     property<unsigned int> hlgClipping;
 
-    /// Six-colour adjustments: elements "RedHue" to "YellowHue", "RedSaturation" to "YellowSaturation", "RedLightness"
-    /// to "YellowLightness". A group is set when at least one of its elements was found; the others then keep their
-    /// earlier values. A group that is set is written with all six elements.
+    /// Hue of six colours, elements "RedHue" to "YellowHue". Unit not recorded. Written when set, then all six. After
+    /// parsing, the flag says whether at least one of them was found; the others keep their earlier values.
     property<six_colors_t> hue;
+
+    /// Saturation of six colours, elements "RedSaturation" to "YellowSaturation". Unit not recorded. Written when set,
+    /// then all six. After parsing, the flag says whether at least one of them was found; the others keep their earlier
+    /// values.
     property<six_colors_t> saturation;
+
+    /// Lightness of six colours, elements "RedLightness" to "YellowLightness". Unit not recorded. Written when set,
+    /// then all six. After parsing, the flag says whether at least one of them was found; the others keep their earlier
+    /// values.
     property<six_colors_t> lightness;
 
-    /// Gains times 1000000, elements "RedGain", "GreenGain", "BlueGain".
+    /// Gain of the red channel, element "RedGain", stored as `quantities::gain`, times 1000000. Written when set.
     property<unsigned int> redGain;
+
+    /// Gain of the green channel, element "GreenGain", stored as `quantities::gain`, times 1000000. Written when set.
     property<unsigned int> greenGain;
+
+    /// Gain of the blue channel, element "BlueGain", stored as `quantities::gain`, times 1000000. Written when set.
     property<unsigned int> blueGain;
 
-    /// A 3 x 3 matrix: 9 signed entries, each times 1000000, element "EmulationMatrix". With another number of entries
-    /// it is treated as a look-up table of another length is.
+    /// A 3 x 3 matrix of signed entries, element "EmulationMatrix", each stored as `quantities::matrixEntry`, times
+    /// 1000000. Written when set, with 9 entries.
     property<std::vector<int>> emulationMatrix;
 
-    /// The Limited109 setting in the monitor's own units, element "Limited109Setting".
+    /// The "Limited109" setting, element "Limited109Setting", stored as it is. What the number means
+    /// is not recorded. Written when set.
     property<unsigned int> limited109Setting;
 
     /// \name Look-up tables as fractions
-    /// The scale is the one that the value of `isHDRLUT` chooses at the moment of the call, so that is to be set first.
-    /// Any number of entries is taken.
+    /// Set `isHDRLUT` first: its value at the moment of the call chooses the scale. Changing it later changes what the
+    /// getters return, not what is stored. Normal tables hold values up to 4294.967295, HDR tables up to 4.294967295;
+    /// beyond that they wrap.
     /// @{
+
+    /// Returns the entries of `redLUT` as fractions, at the scale that `isHDRLUT` now chooses.
     [[nodiscard]] std::vector<double> redLUT_x() const;
+
+    /// Replaces `redLUT` and sets its flag. Takes any number of entries, but only 256 or 1024 are written.
     void redLUT_x(const std::vector<double>& values);
+
+    /// Returns the entries of `greenLUT` as fractions, at the scale that `isHDRLUT` now chooses.
     [[nodiscard]] std::vector<double> greenLUT_x() const;
+
+    /// Replaces `greenLUT` and sets its flag. Takes any number of entries, but only 256 or 1024 are written.
     void greenLUT_x(const std::vector<double>& values);
+
+    /// Returns the entries of `blueLUT` as fractions, at the scale that `isHDRLUT` now chooses.
     [[nodiscard]] std::vector<double> blueLUT_x() const;
+
+    /// Replaces `blueLUT` and sets its flag. Takes any number of entries, but only 256 or 1024 are written.
     void blueLUT_x(const std::vector<double>& values);
     /// @}
 
-    /// The HLG system gamma, 1.2 for a stored 120.
+    /// Returns the HLG system gamma: 1.2 for a stored 120.
     [[nodiscard]] double hlgSystemGamma_x() const;
+
+    /// Stores the HLG system gamma in `hlgSystemGamma` and sets its flag: 1.2 is stored as 120.
     void hlgSystemGamma_x(double exponent);
 
     /// \name Gains as fractions
+    /// 1.0 is stored as 1000000, a negative gain as 0.
     /// @{
+
+    /// Returns `redGain` as a fraction.
     [[nodiscard]] double redGain_x() const;
+
+    /// Stores the gain in `redGain` and sets its flag.
     void redGain_x(double gain);
+
+    /// Returns `greenGain` as a fraction.
     [[nodiscard]] double greenGain_x() const;
+
+    /// Stores the gain in `greenGain` and sets its flag.
     void greenGain_x(double gain);
+
+    /// Returns `blueGain` as a fraction.
     [[nodiscard]] double blueGain_x() const;
+
+    /// Stores the gain in `blueGain` and sets its flag.
     void blueGain_x(double gain);
     /// @}
 
-    /// The emulation matrix, row by row as the caller orders it; any number of entries is taken. Truncation is toward
-    /// zero on either side of it, so -0.3 is stored as -299999.
+    /// Returns the entries of `emulationMatrix` as fractions, in stored order.
     [[nodiscard]] std::vector<double> emulationMatrix_x() const;
+
+    /// Replaces `emulationMatrix` and sets its flag. Takes any number of entries, but only 9 are written. Negative
+    /// entries are stored one step closer to zero (-0.3 as -299999): they drift toward zero when read and set again and
+    /// again.
     void emulationMatrix_x(const std::vector<double>& entries);
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorParameter::six_colors_t& left,
                                             const MonitorParameter::six_colors_t& right);

@@ -7,103 +7,126 @@
 
 namespace lv {
 
-/// The display parameters that a colour mode is set to: brightness, white point, gamma and gamut, each tagged by a type
-/// that says how it is given, and one setting for the signal range "Limited109".
+/// The display parameters that a colour mode is set to: brightness, white point, gamma and gamut, each with a type that
+/// says how it is given, and one setting for the signal range "Limited109".
 ///
-/// The elements of the four parameters are written always with their attribute "Type"; only the children that belong to
-/// the type are written inside. Parsing takes whatever children there are, except that for the type "SyncSignal"
-/// brightness and gamma read none and the gamut does not read "Fixed"; the flag of a parameter is whether its element
-/// was found. A round trip therefore drops children that do not belong to the type. Texts and units are the
-/// application's unless said otherwise. Version 2.0.
+/// The four parameters are always written, with their attribute "Type" and the children that belong to the type. Types
+/// are compared exactly; any other text is kept and written back. Parsing reads all children, whatever the type, with
+/// one exception: for "SyncSignal", brightness and gamma read none and the gamut does not read "Fixed". So printing
+/// what was read drops children that do not belong to the type.
+///
+/// The accessors of the gamma convert as lvdata/core/quantities.h says. Version 2.0.
 class LVDATA_EXPORT ParameterSetting : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "ParameterSetting";
 
+    /// How bright the display is to be.
     struct brightness_t {
-        /// Attribute "Type": "Candela", "Percent" or "SyncSignal".
+        /// How the brightness is given, attribute "Type": "Candela", "Percent" or "SyncSignal". Always written.
         std::string type{};
 
-        /// The brightness in the unit that the type names. Element "Value", written for "Candela" and "Percent".
+        /// The brightness, element "Value", in the unit that the type names: stored as `quantities::candela` for
+        /// "Candela", as `quantities::percent` for "Percent". Written for these two types.
         unsigned int value = 0;
     };
 
+    /// The white that the display is to have.
     struct white_point_t {
-        /// Attribute "Type": "Temperature" or "Fixed".
+        /// How the white point is given, attribute "Type": "Temperature" or "Fixed". Always written.
         std::string type{};
 
-        /// The colour temperature. Element "Temperature", written for that type.
+        /// Colour temperature, element "Temperature", stored as it is; unit not recorded. Written for the type
+        /// "Temperature".
         unsigned int temperature = 0;
 
-        /// The name of a standard white point. Element "Fixed", written for that type.
+        /// Name of a standard white point, element "Fixed". Written for the type "Fixed".
         std::string fixed{};
     };
 
+    /// The tone curve that the display is to have.
     struct LVDATA_EXPORT gamma_t {
-        /// Attribute "Type": "Value", "Fixed" or "SyncSignal".
+        /// How the curve is given, attribute "Type": "Value", "Fixed" or "SyncSignal". Always written.
         std::string type{};
 
-        /// Gamma times 100. Element "Value", written for that type.
+        /// The exponent, element "Value", stored as `quantities::gamma`, times 100. Written for the type "Value".
         unsigned int value = 0;
 
-        /// The name of a standard curve; "PQ" and "HLG" (ITU-R BT.2100) are the two that carry clipping. Element
-        /// "Fixed", written for that type.
+        /// Name of a standard curve, element "Fixed", such as "PQ" or "HLG" (ITU-R BT.2100). Written for the type
+        /// "Fixed".
         std::string fixed{};
 
-        /// Clipping of a PQ or HLG curve. Element "PQHLGClipping", written for the type "Fixed" with one of the two.
+        /// Clipping of a PQ or HLG curve, element "PQHLGClipping". Which texts there are is not recorded. Written for
+        /// the type "Fixed" when `fixed` is "PQ" or "HLG".
         std::string pqhlgClipping{};
 
-        /// System gamma of HLG times 100. Element "HLGSystemGamma", written for every type when the record that is
-        /// printed has `writeHLGSystemGamma` set.
+        /// System gamma of HLG (ITU-R BT.2100), element "HLGSystemGamma", stored as `quantities::hlgSystemGamma`, times
+        /// 100. Written for every type, but only when the record that is printed has `writeHLGSystemGamma` set.
         unsigned int hlgSystemGamma = 0;
 
-        /// Both gammas as fractions. The setters store the value times 100 plus 0.5, truncated, and the low 32 bits of
-        /// what is larger; 0 for negatives, NaN, infinities and magnitudes of 2^63 and more. They change neither the
-        /// type nor any flag.
+        /// Returns the exponent: 2.2 for a stored 220.
         [[nodiscard]] double value_x() const;
+
+        /// Stores the exponent in `value`: 2.2 as 220, a negative one as 0. Changes neither the type nor any flag.
         void value_x(double exponent);
+
+        /// Returns the HLG system gamma: 1.2 for a stored 120.
         [[nodiscard]] double hlgSystemGamma_x() const;
+
+        /// Stores the HLG system gamma in `hlgSystemGamma`: 1.2 as 120. Changes neither the type nor any flag.
         void hlgSystemGamma_x(double exponent);
     };
 
+    /// The gamut that the display is to have.
     struct gamut_t {
-        /// Attribute "Type": "Fixed" or "SyncSignal".
+        /// How the gamut is given, attribute "Type": "Fixed" or "SyncSignal". Always written.
         std::string type{};
 
-        /// The name of a standard gamut. Element "Fixed", written for that type.
+        /// Name of a standard gamut, element "Fixed". Written for the type "Fixed".
         std::string fixed{};
 
-        /// Gamut clipping. Element "Clipping", read and written for every type.
+        /// Gamut clipping, element "Clipping". What the number means is not recorded. Read and written for every type.
         unsigned int clipping = 0;
     };
 
+    /// A fresh record with nothing set, version 2.0.
     ParameterSetting();
 
+    /// Reads an element "ParameterSetting". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "ParameterSetting" to a document or an element and returns it; invalid when `parent` cannot
+    /// take it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// Element "Brightness".
+    /// The brightness, element "Brightness". Always written, whatever the flag. After parsing, the flag says whether
+    /// the element was found.
     property<brightness_t> brightness;
 
-    /// Element "WhitePoint".
+    /// The white point, element "WhitePoint". Always written, whatever the flag. After parsing, the flag says whether
+    /// the element was found.
     property<white_point_t> whitePoint;
 
-    /// Element "Gamma".
+    /// The tone curve, element "Gamma". Always written, whatever the flag. After parsing, the flag says whether the
+    /// element was found.
     property<gamma_t> gamma;
 
-    /// Element "Gamut".
+    /// The gamut, element "Gamut". Always written, whatever the flag. After parsing, the flag says whether the element
+    /// was found.
     property<gamut_t> gamut;
 
-    /// Element "Limited109Setting", written when set.
+    /// Setting for the signal range "Limited109", element "Limited109Setting". What the number means is not recorded.
+    /// Written when set.
     property<unsigned int> limited109Setting;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const ParameterSetting::brightness_t& left,
                                             const ParameterSetting::brightness_t& right);

@@ -12,90 +12,136 @@ namespace lv {
 /// What a colour profile was built from: a description, the measured tristimulus values of the display's primaries,
 /// white and black, once for the full panel and once for the state "Limited109", and a target curve per channel.
 ///
-/// Tristimulus values and curves are stored in fixed point, times 1000000. The `_x` accessors convert: getters divide;
-/// setters store the value times 1000000 plus 0.5, truncated, and the low 32 bits of what is larger; 0 for negatives,
-/// NaN, infinities and magnitudes of 2^63 and more. Version 2.0.
+/// All members are children of the root element. Tristimulus values and curves are stored as unsigned integers; the
+/// `_x` accessors convert, see lvdata/core/quantities.h. Version 2.0.
 class LVDATA_EXPORT ProfileData : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "ProfileData";
 
-    /// Measured CIE XYZ of five colours: three entries X, Y, Z each, times 1000000.
+    /// Measured CIE XYZ of five colours, for the full panel or for the state "Limited109". Each colour is an element
+    /// "MeasuredXYZ" of its own, named by its attribute "Color". Of two elements with the same colour the last counts.
+    /// Whether Y is absolute is not recorded.
     struct xyz_set_t {
+        /// X, Y, Z of red, "Color" is "Red" or "Limited109Red": three entries, each stored as
+        /// `quantities::tristimulus`, times 1000000. Written when the set's flag is set.
         std::vector<unsigned int> red{};
+
+        /// X, Y, Z of green, "Color" is "Green" or "Limited109Green": three entries, each stored as
+        /// `quantities::tristimulus`, times 1000000. Written when the set's flag is set.
         std::vector<unsigned int> green{};
+
+        /// X, Y, Z of blue, "Color" is "Blue" or "Limited109Blue": three entries, each stored as
+        /// `quantities::tristimulus`, times 1000000. Written when the set's flag is set.
         std::vector<unsigned int> blue{};
+
+        /// X, Y, Z of white, "Color" is "White" or "Limited109White": three entries, each stored as
+        /// `quantities::tristimulus`, times 1000000. Written when the set's flag is set.
         std::vector<unsigned int> white{};
+
+        /// X, Y, Z of black, "Color" is "Black": three entries, each stored as `quantities::tristimulus`, times
+        /// 1000000. Written when the set's flag is set. There is no black for "Limited109".
         std::vector<unsigned int> black{};
     };
 
-    /// The tone curve that one channel is to have.
+    /// The tone curve that one channel is to have. Its type decides which member is the text of its element.
     struct LVDATA_EXPORT target_curve {
-        /// The attribute "Type": "Formula", "Lut" or "LStar" (the lightness curve of CIE 15). A curve of another type
-        /// is written as an empty element without the attribute.
+        /// How the curve is given, attribute "Type": "Formula", "Lut" or "LStar" (the lightness curve of CIE 15).
+        /// Written when the curve is set and has one of these types; any other curve is written as an empty element.
         std::string type{};
 
-        /// For "Formula", the element's text: the curve's parameter times 1000000.
+        /// The curve's one parameter, text of the curve's element, stored as `quantities::curveParameter`, times
+        /// 1000000; unit not recorded. Read and written for the type "Formula".
         unsigned int formula = 0;
 
-        /// For "Lut", the element's text: any number of entries, each times 1000000.
+        /// The curve's table of any length, text of the curve's element, each entry stored as `quantities::curveEntry`,
+        /// times 1000000. Read and written for the type "Lut".
         std::vector<unsigned int> lut{};
 
-        /// The parameter and the table as fractions. The setters change nothing but their own member; neither the type
-        /// nor any flag.
+        /// Returns the parameter: 2.2 for a stored 2200000.
         [[nodiscard]] double formula_x() const;
+
+        /// Stores the parameter in `formula`, a negative one as 0. Changes neither the type nor any flag.
         void formula_x(double parameter);
+
+        /// Returns the entries of `lut` as fractions.
         [[nodiscard]] std::vector<double> lut_x() const;
+
+        /// Replaces `lut` by any number of entries, negative ones as 0. Changes neither the type nor any flag.
         void lut_x(const std::vector<double>& entries);
     };
 
+    /// A fresh record with nothing set, version 2.0.
     ProfileData();
 
+    /// Reads an element "ProfileData". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "ProfileData" to a document or an element and returns it; invalid when `parent` cannot take
+    /// it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// Free text, element "Description", written when set.
+    /// Free text about the profile, element "Description". Written when set.
     property<std::string> description;
 
-    /// The full panel: elements "MeasuredXYZ" whose attribute "Color" is "Red", "Green", "Blue", "White" or "Black".
-    /// All five are written always, empty when the set is unset. After parsing, the flag tells whether all five vectors
-    /// then hold exactly three entries, wherever these came from; a colour that occurs twice takes the later element.
+    /// The full panel: five elements "MeasuredXYZ" with "Color" "Red", "Green", "Blue", "White", "Black". Always
+    /// written, without numbers when not set, otherwise whatever the lengths. After parsing, the flag says whether all
+    /// five vectors now hold exactly three entries, even if an earlier document gave them.
     property<xyz_set_t> measuredXYZ;
 
-    /// The state "Limited109": "Color" is "Limited109Red", "Limited109Green", "Limited109Blue" or "Limited109White";
-    /// the flag is computed from these four alone. Written only when set; `black` is neither read nor written.
+    /// The state "Limited109": four elements "MeasuredXYZ" with "Color" "Limited109Red" and so on, without black.
+    /// Written when set, whatever the lengths. After parsing, the flag says whether these four vectors now hold exactly
+    /// three entries. `black` is not read, written or compared.
     property<xyz_set_t> measuredXYZLimited109;
 
-    /// Elements "RedTargetCurve", "GreenTargetCurve", "BlueTargetCurve": written always, empty when unset. The flag is
+    /// Target curve of red, element "RedTargetCurve". Always written, empty when not set. After parsing, the flag says
     /// whether the element was found.
     property<target_curve> redTargetCurve;
+
+    /// Target curve of green, element "GreenTargetCurve". Always written, empty when not set. After parsing, the flag
+    /// says whether the element was found.
     property<target_curve> greenTargetCurve;
+
+    /// Target curve of blue, element "BlueTargetCurve". Always written, empty when not set. After parsing, the flag
+    /// says whether the element was found.
     property<target_curve> blueTargetCurve;
 
-    /// One target curve: reads it from the first child `name` of `element`, or appends it as that child; returns the
-    /// child, an invalid one when it is missing.
+    /// Reads a target curve from the first child `name` of `element` and returns that child. When there is none, the
+    /// result is invalid, the curve's flag is cleared and its value stays as it was.
     XMLElement parseTargetCurve(const std::string& name, XMLElement& element, property<target_curve>& curve) const;
+
+    /// Appends a target curve as a new last child `name` of `element` and returns that child, which is empty when the
+    /// curve is not set. Invalid when `element` is.
     XMLElement appendTargetCurve(const std::string& name, XMLElement& element,
                                  const property<target_curve>& curve) const;
 
     /// \name The measured sets as colours
-    /// Only X, Y and Z are converted. A getter leaves a colour zero whose vector holds fewer than three entries, and
-    /// does not consult the flag. A setter replaces all five vectors and sets the flag. For "Limited109" black is left
-    /// out: the getter returns zero for it, the setter empties the vector.
+    /// Only X, Y and Z of a colour are converted. These sets are unsigned, unlike the XYZ of a measurement: a negative
+    /// value is stored as 0. A getter returns a colour as zero when its vector holds fewer than three entries; further
+    /// entries are ignored, and so is the flag.
     /// @{
+
+    /// Returns all five colours of `measuredXYZ`.
     [[nodiscard]] PrimaryColours measuredXYZ_x() const;
+
+    /// Replaces all five vectors of `measuredXYZ` and sets its flag.
     void measuredXYZ_x(const PrimaryColours& measured);
+
+    /// Returns red, green, blue and white of `measuredXYZLimited109`; black is always zero.
     [[nodiscard]] PrimaryColours measuredXYZLimited109_x() const;
+
+    /// Replaces red, green, blue and white of `measuredXYZLimited109`, empties its `black` and sets its flag.
     void measuredXYZLimited109_x(const PrimaryColours& measured);
     /// @}
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const ProfileData::xyz_set_t& left, const ProfileData::xyz_set_t& right);
 [[nodiscard]] inline bool operator!=(const ProfileData::xyz_set_t& left, const ProfileData::xyz_set_t& right) {

@@ -9,44 +9,62 @@ namespace lv {
 
 /// How the colour profile of a colour mode is to be made and kept up to date.
 ///
-/// All fields are opaque text or switches; which texts there are is the application's choice. Version 2.0.
+/// All members are texts or switches that the library does not interpret: which texts there are is defined by the
+/// application. Version 2.0.
 class LVDATA_EXPORT ProfilePolicy : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "ProfilePolicy";
 
+    /// A fresh record with nothing set, version 2.0.
     ProfilePolicy();
 
+    /// Reads an element "ProfilePolicy". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "ProfilePolicy" to a document or an element and returns it; invalid when `parent` cannot take
+    /// it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// The update rule: attribute "Type" of the element "UpdateRule", which is written only when this is set.
+    /// The rule for updating the profile: attribute "Type" of the element "UpdateRule". Written when set; without it
+    /// the whole element is left out.
     property<std::string> updateRule;
 
-    /// What the rule produces: "ProfileDescription", "ProfileName" and "Content" inside "UpdateRule". Written when both
-    /// they and the rule are set: without a rule they are lost on a round trip.
+    /// Description of the profile that the rule produces, element "ProfileDescription" inside "UpdateRule". Written
+    /// when it and `updateRule` are set; without a rule it is lost.
     property<std::string> profileDescription;
+
+    /// Name of the profile that the rule produces, element "ProfileName" inside "UpdateRule". Written when it and
+    /// `updateRule` are set; without a rule it is lost.
     property<std::string> profileName;
+
+    /// Content of the profile that the rule produces, element "Content" inside "UpdateRule". Written when it and
+    /// `updateRule` are set; without a rule it is lost.
     property<std::string> content;
 
-    /// Version of the profile format and kind of tone curve, elements "ProfileVersion" and "ToneCurve", written when
-    /// set.
+    /// Version of the profile format, element "ProfileVersion". Written when set.
     property<std::string> profileVersion;
+
+    /// Kind of the profile's tone curve, element "ToneCurve". Written when set.
     property<std::string> toneCurve;
 
-    /// What the profile includes, elements "ReflectBlackLevels", "Create3DLut" and "CreateLuminanceTag", written when
-    /// set, also when false.
+    /// Whether the profile reflects black levels, element "ReflectBlackLevels". Written when set, also when false.
     property<bool> reflectBlackLevels;
+
+    /// Whether to create a 3D look-up table, element "Create3DLut". Written when set, also when false.
     property<bool> create3DLut;
+
+    /// Whether to create a luminance tag, element "CreateLuminanceTag". Written when set, also when false.
     property<bool> createLuminanceTag;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const ProfilePolicy& left, const ProfilePolicy& right);
 [[nodiscard]] inline bool operator!=(const ProfilePolicy& left, const ProfilePolicy& right) {

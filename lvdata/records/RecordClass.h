@@ -10,28 +10,34 @@
 
 namespace lv {
 
-/// A record class as a value, for programs that learn only at run time which record they have.
+/// A record class as a value, for programs that learn only at run time which record they have. It lives as long as the
+/// program.
 ///
 ///     lv::ParsedDocument document(text);
 ///     if (const lv::RecordClass* found = lv::recordClass(document.rootElementName())) {
 ///         const std::unique_ptr<lv::DataObject> record = found->make();
 ///         const lv::ParseResult result = document.read(*record);
 struct RecordClass {
-    /// The name of the class, which is that of its root element.
+    /// The name of the class, which is also the name of its root element.
     const char* name;
 
-    /// A fresh record.
+    /// Makes a fresh record of the class; never null.
     std::unique_ptr<DataObject> (*make)();
 
-    /// What a document of the record consists of.
+    /// Returns what a document of the record can contain: the static function `describe` of the class.
     Description (*describe)();
 };
 
-/// All record classes, in the order of their names.
+/// All record classes, in the order of their names: `for (const lv::RecordClass& each : lv::RecordClasses())`.
 class LVDATA_EXPORT RecordClasses {
 public:
+    /// The first record class.
     [[nodiscard]] const RecordClass* begin() const;
+
+    /// One after the last record class.
     [[nodiscard]] const RecordClass* end() const;
+
+    /// The number of record classes.
     [[nodiscard]] std::size_t size() const;
 };
 

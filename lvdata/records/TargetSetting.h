@@ -16,231 +16,332 @@ namespace lv {
 /// newer ones that name a standard ("WhitePointV7", "GammaV7", "GamutV7"). Each is held, parsed and written by itself;
 /// neither is converted into the other.
 ///
-/// Every member of the record is written only when it is set. Levels, white points, standards and curves have a type,
-/// compared exactly, that decides which of their children are written; where something else decides, the member's
-/// comment says so. Parsing takes whatever children there are, and a missing one leaves its member as it was. A round
-/// trip therefore drops children that are not to be written.
+/// Every member of the record is written only when it is set. Levels, white points, standards and curves have a type
+/// that decides which of their children are written. Types are compared exactly; any other text is kept and written
+/// back. Parsing reads all children, whatever the type, and a missing one leaves its member as it was. So printing what
+/// was read drops children that do not belong to the type.
 ///
-/// Fractions are stored in fixed point: setters store the value times a factor plus 0.5, truncated, and the low 32 bits
-/// of what is larger; 0 for negatives, NaN, infinities and magnitudes of 2^63 and more. Getters divide. They touch no
-/// flag. Version 3.2.
+/// Fractions are stored as unsigned integers; the `_x` accessors convert, see lvdata/core/quantities.h. They change
+/// neither a flag nor a type: set these, too. Version 3.2.
 class LVDATA_EXPORT TargetSetting : public DataObject {
 public:
-    /// The name of the root element.
+    /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "TargetSetting";
 
-    /// A level: attribute "Type", and the element "Value", written for the type "Value".
+    /// A level, for the elements "Brightness" and "BlackLevel".
     struct level_t {
+        /// How the level is given, attribute "Type": "Value", or any other text. Written whenever the level is.
         std::string type{};
+
+        /// The level, element "Value", stored as it is; unit not recorded. Written for the type "Value".
         unsigned int value = 0;
     };
 
-    /// A standard by its name: attribute "Type", and the element "Standard", written for the type "Standard".
+    /// A standard by its name, for the elements "WhitePointV7", "GammaV7" and "GamutV7".
     struct standard_t {
+        /// Attribute "Type": "Standard", or any other text. Written whenever the element is.
         std::string type{};
+
+        /// Name of the standard, element "Standard": any text. Written for the type "Standard".
         std::string standard{};
     };
 
     /// A white point by its temperature or its chromaticity.
     struct LVDATA_EXPORT white_point_t {
-        /// Attribute "Type": "Temperature" or "Coordinate".
+        /// How the white point is given, attribute "Type": "Temperature" or "Coordinate". Written whenever the white
+        /// point is.
         std::string type{};
 
-        /// Colour temperature, element "Temperature", written for that type.
+        /// Colour temperature, element "Temperature", stored as it is; unit not recorded. Written for the type
+        /// "Temperature".
         unsigned int temperature = 0;
 
-        /// CIE 1931 chromaticity times 10000, elements "x" and "y", written for the type "Coordinate".
+        /// CIE 1931 chromaticity x, element "x", stored as `quantities::chromaticity`, times 10000. Written for the
+        /// type "Coordinate".
         unsigned int x = 0;
+
+        /// CIE 1931 chromaticity y, element "y", stored as `quantities::chromaticity`, times 10000. Written for the
+        /// type "Coordinate".
         unsigned int y = 0;
 
-        /// The chromaticity as the members x and y of a colour.
+        /// Returns the chromaticity in the members `x` and `y` of a colour.
         [[nodiscard]] colour coordinate_x() const;
+
+        /// Stores the chromaticity from the members `x` and `y` of a colour. Set `type` to "Coordinate" to have it
+        /// written.
         void coordinate_x(const colour& chromaticity);
     };
 
     /// The tone curves of the three channels and what goes with them.
     struct LVDATA_EXPORT gamma_t {
-        /// One channel's curve: attribute "Type", and one child of that name when the type has one.
+        /// The tone curve of one channel.
         struct LVDATA_EXPORT gamma_color {
-            /// "Formula", "Lut" or "Lut24"; "PQ", "HLG" (ITU-R BT.2100) and any other text have no child.
+            /// How the curve is given, attribute "Type": "Formula", "Lut" or "Lut24", each written with the child of
+            /// that name. "PQ", "HLG" (ITU-R BT.2100) and any other text have no child. Written whenever the curve is.
             std::string type{};
 
-            /// Gamma times 100, element "Formula".
+            /// The exponent, element "Formula", stored as `quantities::gamma`, times 100. Written for the type
+            /// "Formula".
             unsigned int formula = 0;
 
-            /// Curve values of 16 bits, full scale 65535, element "Lut"; any number of them.
+            /// Curve of 16 bits and any length, element "Lut", each entry stored as `quantities::curveEntry16`, times
+            /// 65535. Written for the type "Lut".
             std::vector<unsigned int> lut{};
 
-            /// Curve values of 24 bits, full scale 16777215, element "Lut24"; any number of them.
+            /// Curve of 24 bits and any length, element "Lut24", each entry stored as `quantities::curveEntry24`, times
+            /// 16777215. Written for the type "Lut24".
             std::vector<unsigned int> lut24{};
 
-            /// Gamma as a fraction.
+            /// Returns the exponent: 2.2 for a stored 220.
             [[nodiscard]] double formula_x() const;
+
+            /// Stores the exponent in `formula`: 2.2 as 220, a negative one as 0.
             void formula_x(double exponent);
 
-            /// The curve of 16 bits as fractions of full scale; the setter replaces it.
+            /// Returns the entries of `lut` as fractions of full scale.
             [[nodiscard]] std::vector<double> lut_x() const;
+
+            /// Replaces `lut`; takes any number of entries.
             void lut_x(const std::vector<double>& entries);
 
-            /// The curve of 24 bits as fractions of full scale. The setter empties the other curve, `lut`, and appends
-            /// its entries behind those that `lut24` holds: to replace a curve, clear `lut24` first; to have both, set
-            /// this one first.
+            /// Returns the entries of `lut24` as fractions of full scale.
             [[nodiscard]] std::vector<double> lut24_x() const;
+
+            /// Appends the entries after those that `lut24` already holds, and empties the other curve, `lut`. To
+            /// replace the curve, clear `lut24` first. To have both curves, call this before `lut_x`.
             void lut24_x(const std::vector<double>& entries);
         };
 
         /// The file that a curve was imported from.
         struct LVDATA_EXPORT imported_lut_file {
-            /// Element "FileName".
+            /// Name of the file, element "FileName" inside "ImportedLutFile". Written whenever that element is.
             std::string fileName{};
 
+            /// Returns `fileName` as it is.
             [[nodiscard]] std::string fileName_x() const;
+
+            /// Stores the name in `fileName` as it is.
             void fileName_x(const std::string& name);
         };
 
-        /// Elements "Red", "Green" and "Blue".
-        gamma_color red{};
-        gamma_color green{};
-        gamma_color blue{};
+        gamma_color red{};    ///< Curve of the red channel, element "Red". Written whenever "Gamma" is.
+        gamma_color green{};  ///< Curve of the green channel, element "Green". Written whenever "Gamma" is.
+        gamma_color blue{};   ///< Curve of the blue channel, element "Blue". Written whenever "Gamma" is.
 
-        /// Clipping of PQ and HLG, element "PQHLGClipping", written when the red curve is "PQ" or "HLG".
+        /// Clipping of a PQ or HLG curve, element "PQHLGClipping". Which texts there are is not recorded. Written when
+        /// the type of the red curve is "PQ" or "HLG"; green and blue do not matter.
         std::string pqhlgClipping{};
 
-        /// System gamma of HLG times 100, element "HLGSystemGamma", written when the record that is printed has
-        /// `writeHLGSystemGamma` set; always read.
+        /// System gamma of HLG (ITU-R BT.2100), element "HLGSystemGamma", stored as `quantities::hlgSystemGamma`, times
+        /// 100. Written when the record that is printed has `writeHLGSystemGamma` set; always read.
         unsigned int hlgSystemGamma = 0;
 
-        /// Element "ImportedLutFile", written when it has a name and the red curve is "Lut" or "Lut24".
+        /// The file that the curve was imported from, element "ImportedLutFile". Written when the file name is not
+        /// empty and the type of the red curve is "Lut" or "Lut24".
         imported_lut_file importedLutFile{};
 
-        /// The system gamma as a fraction.
+        /// Returns the HLG system gamma: 1.2 for a stored 120.
         [[nodiscard]] double hlgSystemGamma_x() const;
+
+        /// Stores the HLG system gamma in `hlgSystemGamma`: 1.2 as 120, a negative one as 0.
         void hlgSystemGamma_x(double exponent);
     };
 
     /// A gamut by the chromaticities of its primaries.
     struct LVDATA_EXPORT gamut_t {
-        /// CIE 1931 chromaticity times 10000, elements "x" and "y".
+        /// The chromaticity of one primary.
         struct coordinate {
+            /// CIE 1931 chromaticity x, element "x", stored as `quantities::chromaticity`, times 10000. Written
+            /// whenever the primary is.
             unsigned int x = 0;
+
+            /// CIE 1931 chromaticity y, element "y", stored as `quantities::chromaticity`, times 10000. Written
+            /// whenever the primary is.
             unsigned int y = 0;
         };
 
-        /// Elements "Red", "Green" and "Blue", written when the gamut is not native.
-        coordinate red{};
-        coordinate green{};
-        coordinate blue{};
+        coordinate red{};    ///< The red primary, element "Red". Written when `isNative()` is false.
+        coordinate green{};  ///< The green primary, element "Green". Written when `isNative()` is false.
+        coordinate blue{};   ///< The blue primary, element "Blue". Written when `isNative()` is false.
 
-        /// Element "ProfileName", written when it is not empty.
+        /// Name of a profile, element "ProfileName". Written when it is not empty.
         std::string profileName{};
 
-        /// Element "Value" inside "GamutClipping", written always.
+        /// Gamut clipping, element "Value" inside "GamutClipping". What the number means is not recorded. Written
+        /// whenever "Gamut" is.
         unsigned int gamutClipping = 0;
 
-        /// Whether this is the panel's own gamut: at least one of the six coordinates is 0.
+        /// Whether this is the panel's own gamut: at least one of the six stored coordinates is 0. Then none of the
+        /// primaries is written.
         [[nodiscard]] bool isNative() const;
 
-        /// The primaries' chromaticities as the members x and y of a colour.
+        /// Returns the red primary in the members `x` and `y` of a colour.
         [[nodiscard]] colour red_x() const;
+
+        /// Stores the red primary from the members `x` and `y` of a colour.
         void red_x(const colour& chromaticity);
+
+        /// Returns the green primary in the members `x` and `y` of a colour.
         [[nodiscard]] colour green_x() const;
+
+        /// Stores the green primary from the members `x` and `y` of a colour.
         void green_x(const colour& chromaticity);
+
+        /// Returns the blue primary in the members `x` and `y` of a colour.
         [[nodiscard]] colour blue_x() const;
+
+        /// Stores the blue primary from the members `x` and `y` of a colour.
         void blue_x(const colour& chromaticity);
     };
 
-    /// Tint of the black level, in the monitor's adjustment steps: elements "red", "green" and "blue".
+    /// Tint of the black level, stored as it is, in adjustment steps of the monitor; the size of a step is not
+    /// recorded. All three are written together.
     struct black_level_t {
-        int red = 0;
-        int green = 0;
-        int blue = 0;
+        int red = 0;    ///< Tint of red, element "red" inside "blackLevel". Unit not recorded.
+        int green = 0;  ///< Tint of green, element "green" inside "blackLevel". Unit not recorded.
+        int blue = 0;   ///< Tint of blue, element "blue" inside "blackLevel". Unit not recorded.
     };
 
-    /// Fine corrections, in the monitor's adjustment steps; unscaled and unchecked.
+    /// Fine corrections, stored as they are, in adjustment steps of the monitor; the size of a step is not recorded.
+    /// Values are not checked.
     struct advanced_settings_t {
+        /// The tint of the black level, under the name that it has inside this structure.
         using black_level_t = TargetSetting::black_level_t;
 
-        /// One correction for each of six colours: elements "red" to "yellow".
+        /// One correction for each of six colours, inside "hue", "saturation" or "lightness" of "sixColors". All six
+        /// are written together.
         struct advanced_settings_six_colors_t {
-            int red = 0;
-            int green = 0;
-            int blue = 0;
-            int cyan = 0;
-            int magenta = 0;
-            int yellow = 0;
+            int red = 0;      ///< Correction of red, element "red". Unit not recorded.
+            int green = 0;    ///< Correction of green, element "green". Unit not recorded.
+            int blue = 0;     ///< Correction of blue, element "blue". Unit not recorded.
+            int cyan = 0;     ///< Correction of cyan, element "cyan". Unit not recorded.
+            int magenta = 0;  ///< Correction of magenta, element "magenta". Unit not recorded.
+            int yellow = 0;   ///< Correction of yellow, element "yellow". Unit not recorded.
         };
 
-        /// Shifts of all colours, elements "hue" and "saturation".
+        /// Hue shift of all colours, element "hue" inside "AdvancedSettings". Unit not recorded. Written when set.
         property<int> hue{};
+
+        /// Saturation shift of all colours, element "saturation" inside "AdvancedSettings". Unit not recorded. Written
+        /// when set.
         property<int> saturation{};
 
-        /// Element "blackLevel"; set when at least one of its three children was found.
+        /// Tint of the black level, element "blackLevel". Written when set. After parsing, the flag says whether at
+        /// least one of its three children was found; the others keep their earlier values.
         property<black_level_t> blackLevel{};
 
-        /// Elements "hue", "saturation" and "lightness" inside "sixColors"; each is set when at least one of its six
-        /// children was found, and written with all six.
+        /// Hue of six colours, element "hue" inside "sixColors". Written when set. After parsing, the flag says whether
+        /// at least one of its six children was found; the others keep their earlier values.
         property<advanced_settings_six_colors_t> sixColorsHue{};
+
+        /// Saturation of six colours, element "saturation" inside "sixColors". Written when set. After parsing, the
+        /// flag says whether at least one of its six children was found; the others keep their earlier values.
         property<advanced_settings_six_colors_t> sixColorsSaturation{};
+
+        /// Lightness of six colours, element "lightness" inside "sixColors". Written when set. After parsing, the flag
+        /// says whether at least one of its six children was found; the others keep their earlier values.
         property<advanced_settings_six_colors_t> sixColorsLightness{};
     };
 
+    /// A fresh record with nothing set, version 3.2.
     TargetSetting();
 
+    /// Reads an element "TargetSetting". False, with nothing changed, when the element has a different name.
     bool parseXMLElement(XMLElement element) override;
+
+    /// Appends an element "TargetSetting" to a document or an element and returns it; invalid when `parent` cannot take
+    /// it.
     XMLElement appendXMLElement(XMLNode& parent) const override;
 
-    /// What a document of this record consists of.
+    /// Everything that a document of this record can contain, as a tree of its elements and attributes; the same for
+    /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// Elements "LumivaleVersion" and "FineContrast".
+    /// A version text, element "LumivaleVersion". Written when set.
     property<std::string> lumivaleVersion;
+
+    /// The fine contrast, element "FineContrast". Which texts there are is not recorded. Written when set.
     property<std::string> fineContrast;
 
-    /// Elements "Brightness", "BlackLevel", "WhitePoint" and "WhitePointV7"; set when the attribute "Type" was found.
+    /// Target brightness, element "Brightness". Unit not recorded. Written when set. After parsing, the flag says
+    /// whether the element has the attribute "Type".
     property<level_t> brightness;
+
+    /// Target black level, element "BlackLevel". Unit not recorded. Written when set. After parsing, the flag says
+    /// whether the element has the attribute "Type".
     property<level_t> blackLevel;
+
+    /// Target white point, element "WhitePoint" (older form). Written when set. After parsing, the flag says whether
+    /// the element has the attribute "Type".
     property<white_point_t> whitePoint;
+
+    /// Target white point by the name of a standard, element "WhitePointV7" (newer form). Written when set. After
+    /// parsing, the flag says whether the element has the attribute "Type".
     property<standard_t> whitePointV7;
 
-    /// Element "Gamma"; set when at least one of its children "Red", "Green" and "Blue" was found.
+    /// Target tone curves, element "Gamma" (older form). Written when set. After parsing, the flag says whether at
+    /// least one of its children "Red", "Green" and "Blue" was found.
     property<gamma_t> gamma;
 
-    /// Element "GammaV7"; set when the attribute "Type" was found.
+    /// Target tone curve by the name of a standard, element "GammaV7" (newer form). Written when set. After parsing,
+    /// the flag says whether the element has the attribute "Type".
     property<standard_t> gammaV7;
 
-    /// Element "Gamut"; set when it was found.
+    /// Target gamut, element "Gamut" (older form). Written when set. After parsing, the flag says whether the element
+    /// was found.
     property<gamut_t> gamut;
 
-    /// Element "GamutV7"; set when the attribute "Type" was found.
+    /// Target gamut by the name of a standard, element "GamutV7" (newer form). Written when set. After parsing, the
+    /// flag says whether the element has the attribute "Type".
     property<standard_t> gamutV7;
 
-    /// Element "Type" inside "GrayBalance".
+    /// The type of grey balance, element "Type" inside "GrayBalance". What the number means is not recorded. Written
+    /// when set.
     property<unsigned int> grayBalance;
 
-    /// Element "CreationType".
+    /// How the target was created, element "CreationType". Which texts there are is not recorded. Written when set.
     property<std::string> creationType;
 
-    /// Element "AdvancedSettings"; set when it was found.
+    /// Fine corrections, element "AdvancedSettings". Written when set. After parsing, the flag says whether the element
+    /// was found.
     property<advanced_settings_t> advancedSettings;
 
-    /// Element "OptimizeForLimited109".
+    /// Whether to optimize for "Limited109", element "OptimizeForLimited109". Which texts there are is not recorded.
+    /// Written when set.
     property<std::string> optimizeForLimited109;
 
     /// \name Parts of the record
-    /// Each reads or appends one child of the given element by the rules above and returns that child, an invalid one
-    /// when it is missing or cannot be appended. A missing child leaves plain values as they were and clears flags.
+    /// Each reads or appends one child of the given element by the rules above and returns that child. The result is
+    /// invalid when the child is missing or cannot be appended. A missing child leaves plain values as they were and
+    /// clears flags.
     /// @{
+
+    /// Reads one channel's curve from the child `name` of `parent`.
     XMLElement parseGammaElement(XMLElement& parent, const std::string& name, gamma_t::gamma_color& color) const;
+
+    /// Appends one channel's curve to `parent` as the child `name`.
     XMLElement appendGammaElement(XMLElement& parent, const std::string& name, const gamma_t::gamma_color& color) const;
+
+    /// Reads a primary from the child `name` of `parent`. Its attribute "Type" is not read.
     XMLElement parseGamutCoordinateElement(XMLElement& parent, const std::string& name,
                                            gamut_t::coordinate& coordinate) const;
+
+    /// Appends a primary to `parent` as the child `name` with the attribute "Type" "Coordinate", also one that is 0.
     XMLElement appendGamutCoordinateElement(XMLElement& parent, const std::string& name,
                                             const gamut_t::coordinate& coordinate) const;
+
+    /// Reads the fine corrections from the child "AdvancedSettings" of `parent`.
     XMLElement parseAdvancedSettingsElement(XMLElement& parent, advanced_settings_t& settings) const;
+
+    /// Appends the fine corrections to `parent` as the child "AdvancedSettings", empty when none of them is set.
     XMLElement appendAdvancedSettingElement(XMLElement& parent, const advanced_settings_t& settings) const;
+
+    /// Reads six corrections from the child `name` of `sixColors`; the flag becomes whether at least one was found.
     XMLElement
     parseAdvancedSettingsSixColorsElement(XMLElement& sixColors, const std::string& name,
                                           property<advanced_settings_t::advanced_settings_six_colors_t>& target) const;
+
+    /// Appends six corrections to `sixColors` as the child `name`.
     XMLElement
     appendAdvancedSettingSixColorElement(XMLElement& sixColors, const std::string& name,
                                          const advanced_settings_t::advanced_settings_six_colors_t& values) const;
@@ -248,8 +349,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are, flags and version numbers included. Not compared:
-/// `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
+/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::level_t& left, const TargetSetting::level_t& right);
 [[nodiscard]] inline bool operator!=(const TargetSetting::level_t& left, const TargetSetting::level_t& right) {

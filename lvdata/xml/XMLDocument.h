@@ -11,8 +11,8 @@ namespace lv {
 /// An XML document: parses text, prints itself, and gives out wrappers of the elements it holds.
 ///
 /// A default-constructed wrapper owns its document: both are deleted together, and every wrapper into the document
-/// dangles from then on. It can be neither copied nor moved, so that no two wrappers delete one document. A document
-/// wrapped from a handle is borrowed and never deleted. One thread at a time, together with all wrappers into it.
+/// dangles from then on. It cannot be copied or moved. A document wrapped from a handle is borrowed and never deleted.
+/// One thread at a time, together with all wrappers into it.
 class LVDATA_EXPORT XMLDocument : public XMLNode {
 public:
     /// A new, empty document, owned by the wrapper: entities are processed, white space is preserved.
@@ -22,7 +22,10 @@ public:
     /// kind of node, there is no document: nothing can be parsed into it, printed from it or appended to it.
     XMLDocument(void* document);  // NOLINT(google-explicit-constructor)
 
+    /// Deletes the document if the wrapper owns it; a borrowed one stays.
     ~XMLDocument() override;
+
+    // Neither copied nor moved: the document would be deleted twice.
     XMLDocument(const XMLDocument&) = delete;
     XMLDocument& operator=(const XMLDocument&) = delete;
     XMLDocument(XMLDocument&&) = delete;
@@ -34,9 +37,10 @@ public:
     /// is empty. The text ends at its first NUL. A byte order mark is dropped: `toXMLString` does not write one.
     bool parseXMLString(const std::string& text);
 
-    /// Why the last `parseXMLString` failed, in a few words ("mismatched element"), and the line where the XML library
-    /// noticed it, counted from 1; 0 for an empty text. After a success: an empty string and 0.
+    /// Why the last `parseXMLString` failed, in a few words: "mismatched element". Empty after a success.
     [[nodiscard]] std::string parseErrorText() const;
+
+    /// The line where the XML library noticed the error, counted from 1. 0 for an empty text and after a success.
     [[nodiscard]] int parseErrorLine() const;
 
     /// The document's text in UTF-8: indented by four spaces a level when `pretty` is true, otherwise without added
@@ -52,7 +56,7 @@ public:
     XMLElement appendChild(const std::string& name) const;
 
 private:
-    void* owned_ = nullptr;  // what the destructor deletes: the handle itself may be assigned through the base class
+    void* owned_ = nullptr;  // What the destructor deletes. The handle may be assigned through the base class.
 };
 
 }  // namespace lv

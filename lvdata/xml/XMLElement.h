@@ -20,10 +20,11 @@ namespace lv {
 /// Names and text are C strings to the XML library: they end at their first NUL.
 class LVDATA_EXPORT XMLElement : public XMLNode {
 public:
+    /// An invalid wrapper, which has no element.
     XMLElement() = default;
 
-    /// Wraps a node passed as `XMLNode` takes it, and converts from it; one that is not an element behaves like
-    /// an invalid wrapper.
+    /// Wraps a node passed as `XMLNode` takes it, and converts from it. A node that is not an element behaves like an
+    /// invalid wrapper.
     XMLElement(void* node) : XMLNode(node) {}  // NOLINT(google-explicit-constructor)
 
     /// The tag name; "" when invalid.
@@ -41,31 +42,49 @@ public:
     /// Each getter returns this element when the value was found, otherwise an invalid one with `out` untouched.
     /// @{
 
-    /// Found whenever the element is valid; without a text `out` stays untouched even so.
+    /// Reads the text. Found whenever the element is valid; without a text `out` stays untouched even so.
     XMLElement getStringValue(std::string& out) const;
 
-    /// Found when the text is not empty; it is converted as `lexical_cast` does.
+    /// Reads a signed number. Found when the text is not empty; `lexical_cast` converts it.
     XMLElement getIntValue(int& out) const;
+
+    /// Reads an unsigned number. Found when the text is not empty; `lexical_cast` converts it.
     XMLElement getUIntValue(unsigned int& out) const;
 
-    /// Found when the text is not empty; true exactly for "true" and "TRUE".
+    /// Reads a boolean. Found when the text is not empty; true exactly for "true" and "TRUE".
     XMLElement getBoolValue(bool& out) const;
 
-    /// Found when the text is not empty. It is split as `split_string` does, and `out` is replaced by the numbers of
-    /// the pieces that are not empty: "1||2|" gives two numbers.
+    /// Reads signed numbers. Found when the text is not empty. It is split as `split_string` does, and `out` is
+    /// replaced by the numbers of the pieces that are not empty: "1||2|" gives two numbers.
     XMLElement getIntArray(std::vector<int>& out, const std::string& separator) const;
+
+    /// Reads unsigned numbers, as `getIntArray` reads signed ones.
     XMLElement getUIntArray(std::vector<unsigned int>& out, const std::string& separator) const;
     /// @}
 
     /// \name Reading a child's text
     /// The getters above, applied to the first child element of that name. Arrays are always split at "|", whatever
     /// separator is given, since every document separates them so.
+    /// Each returns the child when the value was found, otherwise an invalid element with `out` untouched.
     /// @{
+
+    /// Reads the child's text. Found whenever there is such a child; without a text `out` stays untouched even so.
     XMLElement getStringValue(const std::string& name, std::string& out) const;
+
+    /// Reads a signed number from the child. Found when its text is not empty.
     XMLElement getIntValue(const std::string& name, int& out) const;
+
+    /// Reads an unsigned number from the child. Found when its text is not empty.
     XMLElement getUIntValue(const std::string& name, unsigned int& out) const;
+
+    /// Reads a boolean from the child. Found when its text is not empty; true exactly for "true" and "TRUE".
     XMLElement getBoolValue(const std::string& name, bool& out) const;
+
+    /// Reads signed numbers from the child. Found when its text is not empty. `separator` is ignored: it is always "|".
     XMLElement getIntArray(const std::string& name, std::vector<int>& out, const std::string& separator) const;
+
+    /// Reads unsigned numbers from the child. Found when its text is not empty. `separator` is ignored: it is always
+    /// "|".
     XMLElement getUIntArray(const std::string& name, std::vector<unsigned int>& out,
                             const std::string& separator) const;
     /// @}
@@ -74,51 +93,109 @@ public:
     /// The same getters. The flag becomes whether the value was found; when it was not, the value stays as it was.
     /// Arrays are always split at "|".
     /// @{
+
+    /// Reads this element's text; the flag becomes whether the element is valid.
     XMLElement getStringValue(property<std::string>& out) const;
+
+    /// Reads this element's text as a signed number; the flag becomes whether the text is not empty.
     XMLElement getIntValue(property<int>& out) const;
+
+    /// Reads this element's text as an unsigned number; the flag becomes whether the text is not empty.
     XMLElement getUIntValue(property<unsigned int>& out) const;
+
+    /// Reads this element's text as a boolean; the flag becomes whether the text is not empty.
     XMLElement getBoolValue(property<bool>& out) const;
+
+    /// Reads this element's text as signed numbers split at "|"; the flag becomes whether the text is not empty.
+    /// `separator` is ignored.
     XMLElement getIntArray(property<std::vector<int>>& out, const std::string& separator) const;
+
+    /// Reads this element's text as unsigned numbers split at "|"; the flag becomes whether the text is not empty.
+    /// `separator` is ignored.
     XMLElement getUIntArray(property<std::vector<unsigned int>>& out, const std::string& separator) const;
 
+    /// Reads the child's text; the flag becomes whether there is such a child.
     XMLElement getStringValue(const std::string& name, property<std::string>& out) const;
+
+    /// Reads a signed number from the child; the flag becomes whether it was found.
     XMLElement getIntValue(const std::string& name, property<int>& out) const;
+
+    /// Reads an unsigned number from the child; the flag becomes whether it was found.
     XMLElement getUIntValue(const std::string& name, property<unsigned int>& out) const;
+
+    /// Reads a boolean from the child; the flag becomes whether it was found.
     XMLElement getBoolValue(const std::string& name, property<bool>& out) const;
+
+    /// Reads signed numbers from the child, split at "|"; the flag becomes whether they were found. `separator` is
+    /// ignored.
     XMLElement getIntArray(const std::string& name, property<std::vector<int>>& out,
                            const std::string& separator) const;
+
+    /// Reads unsigned numbers from the child, split at "|"; the flag becomes whether they were found. `separator` is
+    /// ignored.
     XMLElement getUIntArray(const std::string& name, property<std::vector<unsigned int>>& out,
                             const std::string& separator) const;
     /// @}
 
     /// \name Attributes
-    /// A string attribute is found when it exists, even if it is empty; a number only when it is not empty. The setters
-    /// create or replace the attribute and return this wrapper. When it is not an element, nothing is set.
+    /// The getters return this element when the attribute was found, otherwise an invalid one with `out` untouched; of
+    /// a property the flag says the same. The setters return this wrapper; when it is not an element, nothing is set.
     /// @{
+
+    /// Reads an attribute. Found when it exists, even if it is empty.
     XMLElement getAttributeString(const std::string& name, std::string& out) const;
+
+    /// Reads an attribute as a signed number. Found when it is not empty.
     XMLElement getAttributeInt(const std::string& name, int& out) const;
+
+    /// Reads an attribute as an unsigned number. Found when it is not empty.
     XMLElement getAttributeUInt(const std::string& name, unsigned int& out) const;
+
+    /// Reads an attribute; the flag becomes whether it exists.
     XMLElement getAttributeString(const std::string& name, property<std::string>& out) const;
+
+    /// Reads an attribute as a signed number; the flag becomes whether it exists and is not empty.
     XMLElement getAttributeInt(const std::string& name, property<int>& out) const;
+
+    /// Reads an attribute as an unsigned number; the flag becomes whether it exists and is not empty.
     XMLElement getAttributeUInt(const std::string& name, property<unsigned int>& out) const;
 
+    /// Creates or replaces an attribute.
     XMLElement setAttributeString(const std::string& name, const std::string& value) const;
+
+    /// Creates or replaces an attribute by a number in decimal.
     XMLElement setAttributeInt(const std::string& name, int value) const;
+
+    /// Creates or replaces an attribute by an unsigned number in decimal.
     XMLElement setAttributeUInt(const std::string& name, unsigned int value) const;
     /// @}
 
     /// \name Appending children
     /// Each appends a new last child element and returns it. On an invalid element nothing happens and the result is
-    /// invalid. `appendChild` adds no text node ("<A/>"); the others always add one, even for an empty text
-    /// ("<A></A>"). An array is written as its decimal numbers with the separator between neighbours.
+    /// invalid.
     /// @{
+
+    /// Appends a child without a text: "<A/>".
     XMLElement appendChild(const std::string& name) const;
+
+    /// Appends a child with a text, also with an empty one: "<A></A>".
     XMLElement appendChildString(const std::string& name, const std::string& text) const;
+
+    /// Appends a child with a number in decimal.
     XMLElement appendChildInt(const std::string& name, int value) const;
+
+    /// Appends a child with an unsigned number in decimal.
     XMLElement appendChildUInt(const std::string& name, unsigned int value) const;
+
+    /// Appends a child with the text "true" or "false".
     XMLElement appendChildBool(const std::string& name, bool value) const;
+
+    /// Appends a child with numbers in decimal, the separator between neighbours; an empty array gives an empty text.
     XMLElement appendChildIntArray(const std::string& name, const std::vector<int>& values,
                                    const std::string& separator) const;
+
+    /// Appends a child with unsigned numbers in decimal, the separator between neighbours; an empty array gives an
+    /// empty text.
     XMLElement appendChildUIntArray(const std::string& name, const std::vector<unsigned int>& values,
                                     const std::string& separator) const;
 
@@ -127,6 +204,8 @@ public:
                                    const std::string& separator) const {
         return appendChildIntArray(name, std::vector<int>(values), separator);
     }
+
+    /// The same for a list in braces, which may be empty: `appendChildUIntArray("Values", {}, "|")`.
     XMLElement appendChildUIntArray(const std::string& name, std::initializer_list<unsigned int> values,
                                     const std::string& separator) const {
         return appendChildUIntArray(name, std::vector<unsigned int>(values), separator);
@@ -134,15 +213,28 @@ public:
     /// @}
 
     /// \name Appending a property
-    /// A set property is appended like its value. For an unset one an element without a text node is appended when
-    /// `writeEmpty` is true; otherwise, and for every unset array, nothing is appended and the result is invalid.
+    /// A set property is appended like its value, and the new child is returned. What is not appended gives an invalid
+    /// element.
     /// @{
+
+    /// Appends the text when it is set; otherwise an empty child ("<A/>") if `writeEmpty` is true, or nothing.
     XMLElement appendChildString(const std::string& name, const property<std::string>& text, bool writeEmpty) const;
+
+    /// Appends the number when it is set; otherwise an empty child ("<A/>") if `writeEmpty` is true, or nothing.
     XMLElement appendChildInt(const std::string& name, const property<int>& value, bool writeEmpty) const;
+
+    /// Appends the unsigned number when it is set; otherwise an empty child ("<A/>") if `writeEmpty` is true, or
+    /// nothing.
     XMLElement appendChildUInt(const std::string& name, const property<unsigned int>& value, bool writeEmpty) const;
+
+    /// Appends the boolean when it is set; otherwise an empty child ("<A/>") if `writeEmpty` is true, or nothing.
     XMLElement appendChildBool(const std::string& name, const property<bool>& value, bool writeEmpty) const;
+
+    /// Appends the numbers when they are set; otherwise nothing.
     XMLElement appendChildIntArray(const std::string& name, const property<std::vector<int>>& values,
                                    const std::string& separator) const;
+
+    /// Appends the unsigned numbers when they are set; otherwise nothing.
     XMLElement appendChildUIntArray(const std::string& name, const property<std::vector<unsigned int>>& values,
                                     const std::string& separator) const;
     /// @}

@@ -20,15 +20,20 @@ class WrapperMark;
 /// wrappers into it belong to one thread at a time.
 class LVDATA_EXPORT XMLNode {
 public:
-    /// An invalid wrapper.
+    /// An invalid wrapper, which has no node.
     XMLNode() = default;
 
     /// Wraps a node of the XML library, passed as an untyped `tinyxml2::XMLNode*`; null makes an invalid wrapper.
-    /// Handles convert to wrappers: `XMLElement element = handle;` and `return nullptr;` are what they look like.
+    /// Handles convert to wrappers, so `XMLElement element = handle;` and `return nullptr;` compile.
     XMLNode(void* node) : node_(node) {}  // NOLINT(google-explicit-constructor)
 
+    /// Leaves the node alone: it belongs to its document.
     virtual ~XMLNode();
+
+    /// Copies the handle: both wrappers then refer to the same node.
     XMLNode(const XMLNode& other) : node_(other.get()) {}
+
+    /// Lets this wrapper refer to the same node as `other`. No node is changed.
     XMLNode& operator=(const XMLNode& other) {  // NOLINT(cert-oop54-cpp): to itself the handle is the same
         node_ = other.get();
         return *this;
@@ -37,12 +42,11 @@ public:
     /// Whether there is a node.
     [[nodiscard]] bool isValid() const { return get() != nullptr; }
 
-    /// What `type` answers for a document, for an element, and for anything else.
-    static constexpr int documentType = 1;
-    static constexpr int elementType = 2;
-    static constexpr int otherType = 0;
+    static constexpr int documentType = 1;  ///< What `type` returns for a document.
+    static constexpr int elementType = 2;   ///< What `type` returns for an element.
+    static constexpr int otherType = 0;     ///< What `type` returns for anything else and for an invalid wrapper.
 
-    /// The kind of node: 1 for a document, 2 for an element, 0 for anything else and for an invalid wrapper.
+    /// The kind of node: `documentType`, `elementType` or `otherType`. Safe on an invalid wrapper, too.
     [[nodiscard]] int type() const;
 
     /// The untyped handle, null when invalid; from a const wrapper as well.
@@ -55,7 +59,7 @@ private:
     friend class detail::WrapperMark;
 
     // The handle. The lowest bits of an address, which are 0, mark a wrapper that the library passes to one of its own
-    // functions directly. No copy has a mark; detail/WrapperMark.h says what follows from that.
+    // functions directly. Copies have no mark. detail/WrapperMark.h explains why.
     static constexpr unsigned int marks = 3;
     void* node_ = nullptr;
 };

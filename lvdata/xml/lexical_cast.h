@@ -6,7 +6,7 @@
 
 namespace lv {
 
-/// Converts between a number and its text.
+/// The number that a text begins with.
 ///
 /// Accepted number text is what formatted extraction from a stream in the classic "C" locale accepts, whatever locale
 /// the application has set: leading white space (space, tab, line feed, vertical tab, form feed, carriage return) is
@@ -23,11 +23,13 @@ namespace lv {
 template <class Target>
 Target lexical_cast(std::string text) = delete;
 
-/// \copydoc lexical_cast(std::string)
+/// The signed number that the text begins with, by the rules above: "12abc" gives 12, "abc" gives 0, "99999999999"
+/// gives 2147483647.
 template <>
 [[nodiscard]] LVDATA_EXPORT int lexical_cast<int>(std::string text);
 
-/// \copydoc lexical_cast(std::string)
+/// The unsigned number that the text begins with, by the rules above: "12abc" gives 12, "abc" gives 0, and "-1" gives
+/// the largest number.
 template <>
 [[nodiscard]] LVDATA_EXPORT unsigned int lexical_cast<unsigned int>(std::string text);
 
@@ -36,15 +38,15 @@ template <>
 template <class Target>
 Target lexical_cast(int value) = delete;
 
-/// \copydoc lexical_cast(int)
+/// The same for an unsigned number.
 template <class Target>
 Target lexical_cast(unsigned int value) = delete;
 
-/// \copydoc lexical_cast(int)
+/// The plain decimal text of a signed number: "-17", "0".
 template <>
 [[nodiscard]] LVDATA_EXPORT std::string lexical_cast<std::string>(int value);
 
-/// \copydoc lexical_cast(int)
+/// The plain decimal text of an unsigned number: "4294967295".
 template <>
 [[nodiscard]] LVDATA_EXPORT std::string lexical_cast<std::string>(unsigned int value);
 

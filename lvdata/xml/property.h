@@ -16,7 +16,7 @@ struct property {
     /// The value. Writing to it directly does not touch the flag; `set` does both.
     T value{};
 
-    /// True when the value was set by the caller or read from a document.
+    /// Whether the value is set: by the caller, or by a document that was read.
     bool hasValue = false;
 
     /// Replaces the value and sets the flag.
@@ -29,6 +29,8 @@ struct property {
     friend bool operator==(const property& left, const property& right) {
         return left.hasValue == right.hasValue && left.value == right.value;
     }
+
+    /// The opposite of `==`.
     friend bool operator!=(const property& left, const property& right) { return !(left == right); }
 };
 
