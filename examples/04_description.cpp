@@ -46,6 +46,9 @@ void print(const lv::Description& node, const std::string& indentation) {
     if (node.quantity && node.quantity->factor != 1) {
         std::cout << " x " << node.quantity->factor;
     }
+    if (node.isOptional) {
+        std::cout << ", written when set";
+    }
     for (const lv::Condition& condition : node.writtenWhen) {
         std::cout << ", written when " << condition.toString();
     }

@@ -66,6 +66,14 @@ void addWords(Words& words, const Description& node) {
     }
 }
 
+std::string quoted(const std::string& word) {
+    std::string text = "\"";
+    for (const char letter : word) {
+        text += letter == '"' || letter == '\\' ? std::string("\\") + letter : std::string(1, letter);
+    }
+    return text + '"';
+}
+
 Words wordsOfRecords() {
     Words words;
     for (const RecordClass& each : RecordClasses()) {
@@ -81,6 +89,6 @@ Words wordsOfRecords() {
 int main() {
     std::cout << lv::fuzz::syntax;
     for (const std::string& word : lv::fuzz::wordsOfRecords()) {
-        std::cout << '"' << word << "\"\n";
+        std::cout << lv::fuzz::quoted(word) << '\n';
     }
 }

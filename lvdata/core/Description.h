@@ -10,15 +10,17 @@
 
 namespace lv {
 
-/// A condition on the content of a document or a record, such as `../@Type is "Value"`.
+/// A condition on what a record holds, such as `../\@Type is "Value"`.
 ///
 /// Subjects are XPath expressions. They start at the element, attribute or text whose description holds the condition:
-/// "." is the described thing itself, "../@Type" an attribute of its parent element.
+/// "." is the described thing itself, "../\@Type" an attribute of its parent element. They stand for the members that
+/// are read from there. So a condition looks at values as they were read, at the first of several elements, and at the
+/// value that a fresh record has (`Description::defaultText`) where the document has none.
 struct LVDATA_EXPORT Condition {
     /// What a condition asks. It decides which of the other members count.
     enum class Kind {
-        oneOf,        ///< The subject's text is one of `texts`.
-        noneOf,       ///< The subject's text is none of `texts`.
+        oneOf,        ///< The subject's value is one of `texts`.
+        noneOf,       ///< The subject's value is none of `texts`.
         isSet,        ///< The flag of the subjects is set; several subjects share one flag.
         notEmpty,     ///< The subject has a text or, if it is an array, entries.
         haveEntries,  ///< Each of the subjects has exactly `entries` entries.
@@ -32,7 +34,7 @@ struct LVDATA_EXPORT Condition {
     /// What the condition asks.
     Kind kind = Kind::exists;
 
-    /// The XPath expressions of what is compared; empty for `anyOf`, `hlgSwitch` and `rule`.
+    /// The XPath expressions of what is looked at; empty for `anyOf` and `hlgSwitch`.
     std::vector<std::string> subjects{};
 
     /// What the subject is compared with, for `oneOf` and `noneOf`; otherwise empty. Numbers are in decimal, as in a
@@ -62,7 +64,7 @@ struct LVDATA_EXPORT Description {
     enum class Place {
         element,    ///< A child element.
         attribute,  ///< An attribute.
-        text,       ///< The parent's own text.
+        text,  ///< The parent's own text. Of several in one element, conditions let at most one be read and written.
     };
 
     /// What its text is.
@@ -111,6 +113,10 @@ struct LVDATA_EXPORT Description {
     /// written, and when it is read it clears its flag.
     std::vector<std::size_t> lengths{};
 
+    /// The text of a fresh record: what a value has that no document gave. "0", "false", or empty for strings and
+    /// arrays; only version numbers begin with something else.
+    std::string defaultText{};
+
     /// A text that is written always; what a document has in its place is not looked at.
     std::optional<std::string> constant{};
 
@@ -141,8 +147,8 @@ struct LVDATA_EXPORT Description {
     /// All these must hold for it to be read; otherwise it is ignored as if it were not there.
     std::vector<Condition> readWhen{};
 
-    /// What sets the member's flag when a document is read; the flag is clear otherwise. Of a row: what keeps it.
-    /// Nothing for a plain value, which has no flag.
+    /// What sets the member's flag when a document is read; the flag is clear otherwise. An array must also have one of
+    /// the `lengths`. Of a row: what keeps it. Nothing for a plain value, which has no flag.
     std::optional<Condition> flag{};
 
     /// Attributes, texts and elements in the order of writing.

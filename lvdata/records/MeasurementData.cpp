@@ -82,10 +82,6 @@ Description MeasurementData::describe() {
     return detail::describeRecord<MeasurementData>(rootElementName, visit);
 }
 
-Description MeasurementDataSecondary::describe() {
-    return detail::describeRecord<MeasurementDataSecondary>(rootElementName, visit);
-}
-
 std::string MeasurementData::getRootElementName() const {
     return rootElementName;
 }
@@ -95,10 +91,6 @@ bool operator==(const MeasurementDataObject& left, const MeasurementDataObject& 
 }
 
 bool operator==(const MeasurementData& left, const MeasurementData& right) {
-    return detail::areEqualRecords(left, right, visit);
-}
-
-bool operator==(const MeasurementDataSecondary& left, const MeasurementDataSecondary& right) {
     return detail::areEqualRecords(left, right, visit);
 }
 

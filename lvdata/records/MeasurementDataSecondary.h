@@ -31,6 +31,12 @@ public:
 [[nodiscard]] inline bool operator!=(const MeasurementDataSecondary& left, const MeasurementDataSecondary& right) {
     return !(left == right);
 }
+
+/// A series does not compare with one of another root element.
+bool operator==(const MeasurementData& left, const MeasurementDataSecondary& right) = delete;
+bool operator==(const MeasurementDataSecondary& left, const MeasurementData& right) = delete;
+bool operator!=(const MeasurementData& left, const MeasurementDataSecondary& right) = delete;
+bool operator!=(const MeasurementDataSecondary& left, const MeasurementData& right) = delete;
 /// @}
 
 }  // namespace lv

@@ -30,6 +30,8 @@ void visitColours(Io& io, Group& group, const detail::SixNames& names) {
     io.group(group, [&names](auto& inner, auto& colours) { return detail::visitSixColours(inner, colours, names); });
 }
 
+constexpr detail::SixNames hueNames = {"RedHue", "GreenHue", "BlueHue", "CyanHue", "MagentaHue", "YellowHue"};
+
 constexpr auto visit = [](auto& io, auto& self) {
     io.field("Brightness", self.brightness);
     io.field("Contrast", self.contrast);
@@ -39,7 +41,7 @@ constexpr auto visit = [](auto& io, auto& self) {
     visitTable(io, "BlueLUT", self, self.blueLUT);
     io.field("HLGSystemGamma", self.hlgSystemGamma, quantities::hlgSystemGamma);
     io.field("HLGClipping", self.hlgClipping);
-    visitColours(io, self.hue, {"RedHue", "GreenHue", "BlueHue", "CyanHue", "MagentaHue", "YellowHue"});
+    visitColours(io, self.hue, hueNames);
     visitColours(io, self.saturation,
                  {"RedSaturation", "GreenSaturation", "BlueSaturation", "CyanSaturation", "MagentaSaturation",
                   "YellowSaturation"});
@@ -134,7 +136,8 @@ void MonitorParameter::emulationMatrix_x(const std::vector<double>& entries) {
 }
 
 bool operator==(const MonitorParameter::six_colors_t& left, const MonitorParameter::six_colors_t& right) {
-    return detail::areEqual(left, right, [](auto& io, auto& colours) { detail::visitSixColours(io, colours, {}); });
+    return detail::areEqual(left, right,
+                            [](auto& io, auto& colours) { detail::visitSixColours(io, colours, hueNames); });
 }
 
 bool operator==(const MonitorParameter& left, const MonitorParameter& right) {

@@ -77,7 +77,8 @@ Io visitPrimary(const Io& io, const char* name, Coordinate& primary) {
 }
 
 constexpr auto visitGamut = [](auto& io, auto& gamut) {
-    const auto primaries = io.writeWhen(rule("no coordinate of the primaries is 0", !gamut.isNative()));
+    const auto primaries = io.writeWhen(rule("no coordinate of the primaries is 0", !gamut.isNative(), gamut.red.x,
+                                             gamut.red.y, gamut.green.x, gamut.green.y, gamut.blue.x, gamut.blue.y));
     visitPrimary(primaries, "Red", gamut.red);
     visitPrimary(primaries, "Green", gamut.green);
     visitPrimary(primaries, "Blue", gamut.blue);

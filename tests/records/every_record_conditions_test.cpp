@@ -53,6 +53,7 @@ std::size_t waysToFail(const Condition& condition, const DescribedNode& node) {
     case Condition::Kind::noneOf:
         return condition.texts.size();
     case Condition::Kind::haveEntries:
+    case Condition::Kind::rule:
         return condition.subjects.size();
     case Condition::Kind::isSet: {
         const DescribedNode subject = node.at(condition.subjects.at(0));

@@ -30,7 +30,7 @@ std::vector<Condition> conditionsOf(const lv::Description& node) {
 }
 
 bool needsSubjects(const Condition& condition) {
-    return condition.kind != Kind::anyOf && condition.kind != Kind::hlgSwitch && condition.kind != Kind::rule;
+    return condition.kind != Kind::anyOf && condition.kind != Kind::hlgSwitch;
 }
 
 bool isArray(const lv::Description& node) {

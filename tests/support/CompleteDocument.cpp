@@ -17,14 +17,6 @@ std::string otherThan(const std::vector<std::string>& texts) {
     return other;
 }
 
-/// The first number in the node or below it.
-DescribedNode firstNumber(const DescribedNode& node) {
-    const std::vector<DescribedNode> all = withDescendants(node);
-    return *std::find_if(all.begin(), all.end(), [](const DescribedNode& each) {
-        return each->content == lv::Description::Content::unsignedNumber;
-    });
-}
-
 }  // namespace
 
 std::string sampleArray(std::size_t entries) {
@@ -171,8 +163,8 @@ void CompleteDocument::falsify(const Condition& condition, const DescribedNode& 
     case Condition::Kind::hlgSwitch:
         hlgSwitch_ = false;
         return;
-    case Condition::Kind::rule:
-        setText(firstNumber(node), "0");
+    case Condition::Kind::rule:  // the one that there is asks for numbers that are not 0
+        setText(node.at(condition.subjects.at(subject)), "0");
         return;
     }
 }

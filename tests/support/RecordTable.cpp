@@ -138,7 +138,7 @@ std::string scale(const Quantity& quantity) {
 }
 
 std::string unit(const Quantity& quantity) {
-    return quantity.unit == std::string_view(unknownUnit) ? "not recorded" : quantity.unit;
+    return quantity.unit == unknownUnit ? "not recorded" : std::string(quantity.unit);
 }
 
 /// That of the quantity, and that of the other one where it is different.

@@ -1,6 +1,8 @@
 #include <lvdata/core/detail/Describer.h>
 #include <lvdata/core/detail/Draft.h>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace lv::detail {
@@ -11,17 +13,39 @@ bool isNumeric(Description::Content content) {
     return content != Description::Content::string && content != Description::Content::boolean;
 }
 
-void setQuantity(DraftNode& node, const SaidQuantity& quantity) {
+/// A value is reached through its address, whose type the content tells.
+template <class T>
+const T& valueAt(const void* member) {
+    return *static_cast<const T*>(member);
+}
+
+/// The text of a fresh record's member; arrays are empty there.
+std::string defaultTextOf(Description::Content content, const void* member) {
+    switch (content) {
+    case Description::Content::string:
+        return valueAt<std::string>(member);
+    case Description::Content::boolean:
+        return valueAt<bool>(member) ? "true" : "false";
+    case Description::Content::unsignedNumber:
+        return std::to_string(valueAt<unsigned int>(member));
+    case Description::Content::signedNumber:
+        return std::to_string(valueAt<int>(member));
+    default:
+        return "";
+    }
+}
+
+void setQuantity(DraftNode& node, const DraftQuantity& quantity) {
     node.facts.quantity = *quantity.usual;
-    node.otherQuantities.assign(quantity.others, quantity.others + quantity.count);
+    std::copy_n(quantity.others, quantity.count, std::back_inserter(node.otherQuantities));
 }
 
 /// The outermost gate comes first.
-void putBehind(const DraftGate* gate, DraftNode& node) {
+void putBehindGates(const DraftGate* gate, DraftNode& node) {
     if (gate == nullptr) {
         return;
     }
-    putBehind(gate->outer, node);
+    putBehindGates(gate->outer, node);
     if (gate->closesReading) {
         node.readWhen.push_back(gate->condition);
     }
@@ -39,7 +63,7 @@ Describer::Found& Describer::Found::operator|=(const Found& other) {
     return *this;
 }
 
-Describer Describer::behind(const SaidCondition* condition, bool closesReading, bool closesWriting) const {
+Describer Describer::behindGate(const DraftCondition* condition, bool closesReading, bool closesWriting) const {
     Describer gated = *this;
     gated.gate_ = draft_->keep({gate_, condition, closesReading, closesWriting});
     return gated;
@@ -57,12 +81,12 @@ Describer Describer::optional() const {
     return gated;
 }
 
-Describer::Found Describer::foundBy(DraftNode& node) const {
+Describer::Found Describer::lookingFor(DraftNode& node) const {
     return {*draft_, draft_->keep(DraftNodes{&node})};
 }
 
 Describer::Found Describer::exists() const {
-    return foundBy(*node_);
+    return lookingFor(*node_);
 }
 
 DraftNode& Describer::addNode(const char* name, Description::Place place) const {
@@ -70,7 +94,7 @@ DraftNode& Describer::addNode(const char* name, Description::Place place) const 
     child.facts.name = name;
     child.facts.place = place;
     child.facts.isOptional = isOptional_;
-    putBehind(gate_, child);
+    putBehindGates(gate_, child);
     return child;
 }
 
@@ -100,22 +124,23 @@ void Describer::constant(const char* name, const char* text) {
     attribute.facts.constant = text;
 }
 
-Describer::Found Describer::addLeaf(const Leaf& leaf, const SaidQuantity& quantity) {
+Describer::Found Describer::addLeaf(const Leaf& leaf, const DraftQuantity& quantity) {
     DraftNode& node = addNode(leaf.name, leaf.place);
     node.facts.content = leaf.content;
+    node.facts.defaultText = defaultTextOf(leaf.content, leaf.member);
     node.member = leaf.member;
     if (isNumeric(leaf.content)) {
         setQuantity(node, quantity);
     }
     draft_->addNodeOf(leaf.member, node);
-    return foundBy(node);
+    return lookingFor(node);
 }
 
 void Describer::addRecord(Description nested, const bool& flag) {
     DraftNode& node = optional().addNode(nested.name.c_str(), Description::Place::element);
     nested.isOptional = node.facts.isOptional;
     node.facts = std::move(nested);
-    addFlag(foundBy(node), flag);
+    addFlag(lookingFor(node), flag);
 }
 
 void Describer::setLengths(std::initializer_list<std::size_t> lengths) {
@@ -133,7 +158,7 @@ void Describer::addFlag(const Found& found, const bool& flag, const Found& owner
     }
 }
 
-void Describer::addFlag(const SaidCondition& condition, const bool& flag) {
+void Describer::addFlag(const DraftCondition& condition, const bool& flag) {
     for (const void* const member : condition.subjects) {
         for (DraftNode* const owner : draft_->nodesOf(member)) {
             owner->flagWhen = &condition;
@@ -147,11 +172,11 @@ void Describer::keepWhen(const Found& found) {
 }
 
 void Describer::writeWhenAnyArrayCounts() {
-    SaidConditions counts;
+    DraftConditions counts;
     for (const DraftNode* const array : node_->children) {
-        counts.push_back(sayEntries(*draft_, array->facts.lengths.front(), &array->member, 1));
+        counts.push_back(draftEntries(*draft_, array->facts.lengths.front(), &array->member, 1));
     }
-    node_->writtenWhen.push_back(sayAnyOf(*draft_, counts.data(), counts.size()));
+    node_->writtenWhen.push_back(draftAnyOf(*draft_, counts.data(), counts.size()));
 }
 
 RecordDescriber::RecordDescriber(const char* rootName, unsigned int version, unsigned int minorVersion)

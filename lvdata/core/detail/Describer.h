@@ -20,24 +20,36 @@ struct DraftNode;
 
 /// The content of an element or attribute that holds a `T`.
 template <class T>
-inline constexpr Description::Content contentOf = Description::Content::none;
+constexpr Description::Content contentOf() = delete;
 template <>
-inline constexpr Description::Content contentOf<std::string> = Description::Content::string;
+constexpr Description::Content contentOf<std::string>() {
+    return Description::Content::string;
+}
 template <>
-inline constexpr Description::Content contentOf<bool> = Description::Content::boolean;
+constexpr Description::Content contentOf<bool>() {
+    return Description::Content::boolean;
+}
 template <>
-inline constexpr Description::Content contentOf<unsigned int> = Description::Content::unsignedNumber;
+constexpr Description::Content contentOf<unsigned int>() {
+    return Description::Content::unsignedNumber;
+}
 template <>
-inline constexpr Description::Content contentOf<int> = Description::Content::signedNumber;
+constexpr Description::Content contentOf<int>() {
+    return Description::Content::signedNumber;
+}
 template <>
-inline constexpr Description::Content contentOf<std::vector<unsigned int>> = Description::Content::unsignedArray;
+constexpr Description::Content contentOf<std::vector<unsigned int>>() {
+    return Description::Content::unsignedArray;
+}
 template <>
-inline constexpr Description::Content contentOf<std::vector<int>> = Description::Content::signedArray;
+constexpr Description::Content contentOf<std::vector<int>>() {
+    return Description::Content::signedArray;
+}
 
 /// The quantities of a member: the usual one, and others that conditions choose.
-struct SaidQuantity {
+struct DraftQuantity {
     const Quantity* usual;
-    const SaidQuantityWhen* others = nullptr;
+    const DraftQuantityWhen* others = nullptr;
     std::size_t count = 0;
 };
 
@@ -67,17 +79,17 @@ public:
 
     template <class Gate, class = RequireCondition<Gate>>
     [[nodiscard]] Describer readWhen(const Gate& condition) const {
-        return behind(condition.sayTo(*draft_), true, false);
+        return behindGate(condition.describeTo(*draft_), true, false);
     }
 
     template <class Gate, class = RequireCondition<Gate>>
     [[nodiscard]] Describer writeWhen(const Gate& condition) const {
-        return behind(condition.sayTo(*draft_), false, true);
+        return behindGate(condition.describeTo(*draft_), false, true);
     }
 
     template <class Gate, class = RequireCondition<Gate>>
     [[nodiscard]] Describer when(const Gate& condition) const {
-        return behind(condition.sayTo(*draft_), true, true);
+        return behindGate(condition.describeTo(*draft_), true, true);
     }
 
     [[nodiscard]] Describer always() const;
@@ -90,7 +102,7 @@ public:
 
     template <class T>
     Found attribute(const char* name, T& member, const Quantity& quantity = quantities::number) {
-        return addValue({name, Description::Place::attribute, contentOf<T>, &member}, quantity);
+        return addValue({name, Description::Place::attribute, contentOf<T>(), &member}, quantity);
     }
 
     template <class T>
@@ -102,12 +114,12 @@ public:
 
     template <class T, class AnyQuantity = Quantity>
     Found text(T& member, const AnyQuantity& quantity = quantities::number) {
-        return addValue({"", Description::Place::text, contentOf<T>, &member}, quantity);
+        return addValue({"", Description::Place::text, contentOf<T>(), &member}, quantity);
     }
 
     template <class T, class AnyQuantity = Quantity>
     Found value(const char* name, T& member, const AnyQuantity& quantity = quantities::number) {
-        return addValue({name, Description::Place::element, contentOf<T>, &member}, quantity);
+        return addValue({name, Description::Place::element, contentOf<T>(), &member}, quantity);
     }
 
     template <class T, class AnyQuantity = Quantity>
@@ -173,9 +185,15 @@ public:
     /// A flag that tells whether something was found.
     void derive(const bool& flag, const Found& found) { addFlag(found, flag); }
 
-    template <class Gate, class = RequireCondition<Gate>>
-    void derive(const bool& flag, const Gate& condition) {
-        addFlag(*condition.sayTo(*draft_), flag);
+    /// A flag that follows from members, whose nodes then have it. No other condition says whose flag it is.
+    template <class T>
+    void derive(const bool& flag, const NotEmpty<T>& condition) {
+        addFlag(*condition.describeTo(*draft_), flag);
+    }
+
+    template <class Number, std::size_t Size>
+    void derive(const bool& flag, const HaveEntries<Number, Size>& condition) {
+        addFlag(*condition.describeTo(*draft_), flag);
     }
 
 private:
@@ -192,32 +210,32 @@ private:
     Found addValue(const Leaf& leaf, const QuantityChoice<Gates...>& choice) {
         const auto others = std::apply(
             [this](const auto&... each) {
-                return std::array{SaidQuantityWhen{each.condition.sayTo(*draft_), &each.quantity}...};
+                return std::array{DraftQuantityWhen{each.condition.describeTo(*draft_), &each.quantity}...};
             },
             choice.others);
         return addLeaf(leaf, {&choice.usual, others.data(), others.size()});
     }
 
-    [[nodiscard]] Describer behind(const SaidCondition* condition, bool closesReading, bool closesWriting) const;
+    [[nodiscard]] Describer behindGate(const DraftCondition* condition, bool closesReading, bool closesWriting) const;
 
     /// What is named next is written only when it is set, unless writing does not consult the flag.
     [[nodiscard]] Describer optional() const;
 
-    [[nodiscard]] Found foundBy(DraftNode& node) const;
+    [[nodiscard]] Found lookingFor(DraftNode& node) const;
 
     /// A new child behind the gates.
     [[nodiscard]] DraftNode& addNode(const char* name, Description::Place place) const;
     [[nodiscard]] Describer rowElement(const char* name) const;
     [[nodiscard]] Describer keyedElement(const char* name, const char* key, const char* text) const;
 
-    Found addLeaf(const Leaf& leaf, const SaidQuantity& quantity);
+    Found addLeaf(const Leaf& leaf, const DraftQuantity& quantity);
     void addRecord(Description nested, const bool& flag);
     void setLengths(std::initializer_list<std::size_t> lengths);
 
     /// What sets the flag of a member, whose own nodes are those that are found unless others are stated.
     void addFlag(const Found& found, const bool& flag);
     void addFlag(const Found& found, const bool& flag, const Found& owners);
-    void addFlag(const SaidCondition& condition, const bool& flag);
+    void addFlag(const DraftCondition& condition, const bool& flag);
 
     void keepWhen(const Found& found);
     void writeWhenAnyArrayCounts();

@@ -63,47 +63,54 @@ void moveOwnFlag(Description& description) {
     }
 }
 
+template <class T>
+const T* endOf(const T* begin, std::size_t count) {
+    return std::next(begin, static_cast<std::ptrdiff_t>(count));
+}
+
 }  // namespace
 
-const SaidCondition* sayComparison(Draft& draft, Condition::Kind kind, const void* subject,
-                                   const std::string_view* texts, std::size_t count) {
-    SaidCondition said{{kind}, Members{subject}};
-    said.words.texts.assign(texts, texts + count);
+const DraftCondition* draftComparison(Draft& draft, Condition::Kind kind, const void* subject,
+                                      const std::string_view* texts, std::size_t count) {
+    DraftCondition said{{kind}, Members{subject}};
+    std::transform(texts, endOf(texts, count), std::back_inserter(said.words.texts),
+                   [](std::string_view text) { return std::string(text); });
     return draft.keep(std::move(said));
 }
 
-const SaidCondition* sayComparison(Draft& draft, Condition::Kind kind, const void* subject, const unsigned int* numbers,
-                                   std::size_t count) {
-    SaidCondition said{{kind}, Members{subject}};
-    std::transform(numbers, numbers + count, std::back_inserter(said.words.texts),
+const DraftCondition* draftComparison(Draft& draft, Condition::Kind kind, const void* subject,
+                                      const unsigned int* numbers, std::size_t count) {
+    DraftCondition said{{kind}, Members{subject}};
+    std::transform(numbers, endOf(numbers, count), std::back_inserter(said.words.texts),
                    [](unsigned int number) { return std::to_string(number); });
     return draft.keep(std::move(said));
 }
 
-const SaidCondition* sayOfOne(Draft& draft, Condition::Kind kind, const void* subject) {
+const DraftCondition* draftOfOne(Draft& draft, Condition::Kind kind, const void* subject) {
     return draft.keep({{kind}, Members{subject}});
 }
 
-const SaidCondition* sayEntries(Draft& draft, std::size_t entries, const void* const* subjects, std::size_t count) {
-    SaidCondition said{{Condition::Kind::haveEntries}};
-    said.subjects.assign(subjects, subjects + count);
+const DraftCondition* draftEntries(Draft& draft, std::size_t entries, const void* const* subjects, std::size_t count) {
+    DraftCondition said{{Condition::Kind::haveEntries}};
+    std::copy_n(subjects, count, std::back_inserter(said.subjects));
     said.words.entries = entries;
     return draft.keep(std::move(said));
 }
 
-const SaidCondition* sayAnyOf(Draft& draft, const SaidCondition* const* alternatives, std::size_t count) {
-    SaidCondition said{{Condition::Kind::anyOf}};
-    said.alternatives.assign(alternatives, alternatives + count);
+const DraftCondition* draftAnyOf(Draft& draft, const DraftCondition* const* alternatives, std::size_t count) {
+    DraftCondition said{{Condition::Kind::anyOf}};
+    std::copy_n(alternatives, count, std::back_inserter(said.alternatives));
     return draft.keep(std::move(said));
 }
 
-const SaidCondition* sayHLGSwitch(Draft& draft) {
+const DraftCondition* draftHLGSwitch(Draft& draft) {
     return draft.keep({{Condition::Kind::hlgSwitch}});
 }
 
-const SaidCondition* sayRule(Draft& draft, const char* words) {
-    SaidCondition said{{Condition::Kind::rule}};
+const DraftCondition* draftRule(Draft& draft, const char* words, const void* const* subjects, std::size_t count) {
+    DraftCondition said{{Condition::Kind::rule}};
     said.words.rule = words;
+    std::copy_n(subjects, count, std::back_inserter(said.subjects));
     return draft.keep(std::move(said));
 }
 
@@ -114,13 +121,12 @@ DraftNode& Draft::addChild(DraftNode& parent) {
     return child;
 }
 
-const DraftNodes& Draft::nodesOf(const void* member) const {
-    static const DraftNodes none;
+DraftNodes Draft::nodesOf(const void* member) const {
     const auto found = nodes_.find(member);
-    return found == nodes_.end() ? none : found->second;
+    return found == nodes_.end() ? DraftNodes() : found->second;
 }
 
-Condition Draft::finished(const SaidCondition& said, const DraftNode& node) const {
+Condition Draft::finished(const DraftCondition& said, const DraftNode& node) const {
     Condition condition = said.words;
     for (const void* const member : said.subjects) {
         if (nodesOf(member).empty()) {
@@ -134,10 +140,10 @@ Condition Draft::finished(const SaidCondition& said, const DraftNode& node) cons
     return condition;
 }
 
-std::vector<Condition> Draft::finished(const SaidConditions& said, const DraftNode& node) const {
+std::vector<Condition> Draft::finished(const DraftConditions& said, const DraftNode& node) const {
     std::vector<Condition> conditions;
     std::transform(said.begin(), said.end(), std::back_inserter(conditions),
-                   [&](const SaidCondition* each) { return finished(*each, node); });
+                   [&](const DraftCondition* each) { return finished(*each, node); });
     return conditions;
 }
 
@@ -146,7 +152,7 @@ Description Draft::finished(const DraftNode& node) const {
     description.writtenWhen = finished(node.writtenWhen, node);
     moveOwnFlag(description);
     description.readWhen = finished(node.readWhen, node);
-    for (const SaidQuantityWhen& other : node.otherQuantities) {
+    for (const DraftQuantityWhen& other : node.otherQuantities) {
         description.otherQuantities.push_back({finished(*other.when, node), *other.quantity});
     }
     if (node.flagWhen != nullptr) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lvdata/core/Description.h>
-#include <lvdata/core/detail/SaidCondition.h>
+#include <lvdata/core/detail/DraftCondition.h>
 
 #include <deque>
 #include <map>
@@ -15,7 +15,7 @@ struct DraftNode;
 /// The nodes that an operation looks for, or several of them.
 using DraftNodes = std::vector<DraftNode*>;
 
-using SaidConditions = std::vector<const SaidCondition*>;
+using DraftConditions = std::vector<const DraftCondition*>;
 
 /// A node of a description in the making. It is known by its place in the tree, so that conditions can refer to it
 /// before the tree is whole.
@@ -28,12 +28,12 @@ struct DraftNode {
     /// The member that is read and written here; null for an element that holds others.
     const void* member = nullptr;
 
-    SaidConditions writtenWhen{};
-    SaidConditions readWhen{};
-    std::vector<SaidQuantityWhen> otherQuantities{};
+    DraftConditions writtenWhen{};
+    DraftConditions readWhen{};
+    std::vector<DraftQuantityWhen> otherQuantities{};
 
     /// What sets the flag: a condition, or that one of the nodes is found.
-    const SaidCondition* flagWhen = nullptr;
+    const DraftCondition* flagWhen = nullptr;
     DraftNodes flagNodes{};
 
     DraftNodes children{};
@@ -42,7 +42,7 @@ struct DraftNode {
 /// Gates in a row, the innermost first.
 struct DraftGate {
     const DraftGate* outer;
-    const SaidCondition* condition;
+    const DraftCondition* condition;
     bool closesReading;
     bool closesWriting;
 };
@@ -55,7 +55,7 @@ public:
     /// A new last child.
     [[nodiscard]] DraftNode& addChild(DraftNode& parent);
 
-    const SaidCondition* keep(SaidCondition condition) { return &conditions_.emplace_back(std::move(condition)); }
+    const DraftCondition* keep(DraftCondition condition) { return &conditions_.emplace_back(std::move(condition)); }
     const DraftGate* keep(const DraftGate& gate) { return &gates_.emplace_back(gate); }
     const DraftNodes* keep(DraftNodes nodes) { return &found_.emplace_back(std::move(nodes)); }
 
@@ -63,19 +63,19 @@ public:
     void addNodeOf(const void* member, DraftNode& node) { nodes_[member].push_back(&node); }
 
     /// The nodes of a member or a flag.
-    [[nodiscard]] const DraftNodes& nodesOf(const void* member) const;
+    [[nodiscard]] DraftNodes nodesOf(const void* member) const;
 
     /// The description, when the visit is over.
     [[nodiscard]] Description finish() const { return finished(root_); }
 
 private:
     [[nodiscard]] Description finished(const DraftNode& node) const;
-    [[nodiscard]] Condition finished(const SaidCondition& said, const DraftNode& node) const;
-    [[nodiscard]] std::vector<Condition> finished(const SaidConditions& said, const DraftNode& node) const;
+    [[nodiscard]] Condition finished(const DraftCondition& said, const DraftNode& node) const;
+    [[nodiscard]] std::vector<Condition> finished(const DraftConditions& said, const DraftNode& node) const;
 
     DraftNode root_;
     std::deque<DraftNode> descendants_;
-    std::deque<SaidCondition> conditions_;
+    std::deque<DraftCondition> conditions_;
     std::deque<DraftGate> gates_;
     std::deque<DraftNodes> found_;
     std::map<const void*, DraftNodes> nodes_;

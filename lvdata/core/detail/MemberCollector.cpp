@@ -8,13 +8,13 @@ MemberPairs::MemberPairs() = default;
 MemberPairs::~MemberPairs() = default;
 
 void MemberPairs::add(std::size_t side, const Member& member) {
-    sides_[side].push_back(member);
+    sides_.at(side).push_back(member);
 }
 
 bool MemberPairs::areEqual() const {
-    return std::equal(
-        sides_[0].begin(), sides_[0].end(), sides_[1].begin(), sides_[1].end(),
-        [](const Member& left, const Member& right) { return left.isEqual(left.address, right.address); });
+    const auto& [left, right] = sides_;
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](const Member& one, const Member& other) { return one.isEqual(one.address, other.address); });
 }
 
 }  // namespace lv::detail

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lvdata/core/Quantity.h>
-#include <lvdata/core/detail/SaidCondition.h>
+#include <lvdata/core/detail/DraftCondition.h>
 #include <lvdata/xml/property.h>
 
 #include <algorithm>
@@ -17,8 +17,8 @@
 namespace lv::detail {
 
 // The conditions of the gates in a record's visit: `Reader` and `Writer` ask whether they hold (`holds`), the
-// `Describer` asks what they say (`sayTo`). A condition refers to members, and is used up in the statement that makes
-// it. "And" is two gates in a row.
+// `Describer` asks what they say (`describeTo`). A condition refers to members, and is used up in the statement that
+// makes it. "And" is two gates in a row.
 
 /// The base of all conditions: nothing else is one, least of all a bool.
 struct GateCondition {};
@@ -54,8 +54,8 @@ struct Comparison : GateCondition {
         return isOne == (Kind == Condition::Kind::oneOf);
     }
 
-    const SaidCondition* sayTo(Draft& draft) const {
-        return sayComparison(draft, Kind, &subject, comparands.data(), Size);
+    const DraftCondition* describeTo(Draft& draft) const {
+        return draftComparison(draft, Kind, &subject, comparands.data(), Size);
     }
 };
 
@@ -64,6 +64,9 @@ template <class T, class... Comparands>
 [[nodiscard]] auto oneOf(const T& subject, const Comparands&... comparands) {
     return Comparison<T, sizeof...(Comparands), Condition::Kind::oneOf>(subject, {Comparand<T>(comparands)...});
 }
+
+template <class T, class... Comparands>
+void oneOf(const T&& subject, const Comparands&... comparands) = delete;
 
 template <std::size_t Size>
 [[nodiscard]] auto oneOf(const unsigned int& subject, const std::array<unsigned int, Size>& comparands) {
@@ -76,6 +79,9 @@ template <class T, class... Comparands>
     return Comparison<T, sizeof...(Comparands), Condition::Kind::noneOf>(subject, {Comparand<T>(comparands)...});
 }
 
+template <class T, class... Comparands>
+void noneOf(const T&& subject, const Comparands&... comparands) = delete;
+
 /// See `isSet`.
 struct IsSet : GateCondition {
     const bool& flag;
@@ -83,7 +89,7 @@ struct IsSet : GateCondition {
     explicit IsSet(const bool& memberFlag) : flag(memberFlag) {}
 
     [[nodiscard]] bool holds() const { return flag; }
-    const SaidCondition* sayTo(Draft& draft) const { return sayOfOne(draft, Condition::Kind::isSet, &flag); }
+    const DraftCondition* describeTo(Draft& draft) const { return draftOfOne(draft, Condition::Kind::isSet, &flag); }
 };
 
 /// The flag is set.
@@ -96,6 +102,11 @@ template <class T>
     return IsSet(member.hasValue);
 }
 
+void isSet(const bool&& flag) = delete;
+
+template <class T>
+void isSet(const property<T>&& member) = delete;
+
 /// See `notEmpty`.
 template <class T>
 struct NotEmpty : GateCondition {
@@ -104,7 +115,9 @@ struct NotEmpty : GateCondition {
     explicit NotEmpty(const T& member) : subject(member) {}
 
     [[nodiscard]] bool holds() const { return !subject.empty(); }
-    const SaidCondition* sayTo(Draft& draft) const { return sayOfOne(draft, Condition::Kind::notEmpty, &subject); }
+    const DraftCondition* describeTo(Draft& draft) const {
+        return draftOfOne(draft, Condition::Kind::notEmpty, &subject);
+    }
 };
 
 /// The string has characters, the array has entries.
@@ -112,6 +125,9 @@ template <class T>
 [[nodiscard]] NotEmpty<T> notEmpty(const T& subject) {
     return NotEmpty<T>(subject);
 }
+
+template <class T>
+void notEmpty(const T&& subject) = delete;
 
 /// See `haveEntries`.
 template <class Number, std::size_t Size>
@@ -128,10 +144,10 @@ struct HaveEntries : GateCondition {
                            [this](const std::vector<Number>* array) { return array->size() == entries; });
     }
 
-    const SaidCondition* sayTo(Draft& draft) const {
+    const DraftCondition* describeTo(Draft& draft) const {
         std::array<const void*, Size> addresses{};
         std::copy(subjects.begin(), subjects.end(), addresses.begin());
-        return sayEntries(draft, entries, addresses.data(), Size);
+        return draftEntries(draft, entries, addresses.data(), Size);
     }
 };
 
@@ -152,10 +168,10 @@ struct AnyOf : GateCondition {
         return std::apply([](const auto&... each) { return (each.holds() || ...); }, alternatives);
     }
 
-    const SaidCondition* sayTo(Draft& draft) const {
+    const DraftCondition* describeTo(Draft& draft) const {
         const auto all =
-            std::apply([&draft](const auto&... each) { return std::array{each.sayTo(draft)...}; }, alternatives);
-        return sayAnyOf(draft, all.data(), all.size());
+            std::apply([&draft](const auto&... each) { return std::array{each.describeTo(draft)...}; }, alternatives);
+        return draftAnyOf(draft, all.data(), all.size());
     }
 };
 
@@ -167,23 +183,29 @@ template <class... Conditions>
 
 /// The record that is printed has `writeHLGSystemGamma` set. Only a writer knows that, so there is no `holds`.
 struct HLGSwitch : GateCondition {
-    static const SaidCondition* sayTo(Draft& draft) { return sayHLGSwitch(draft); }
+    static const DraftCondition* describeTo(Draft& draft) { return draftHLGSwitch(draft); }
 };
 
 /// See `rule`.
+template <std::size_t Size>
 struct Rule : GateCondition {
     const char* words;
     bool isKept;
+    std::array<const void*, Size> subjects;
 
-    Rule(const char* text, bool isTrue) : words(text), isKept(isTrue) {}
+    Rule(const char* text, bool isTrue, const std::array<const void*, Size>& members)
+        : words(text),
+          isKept(isTrue),
+          subjects(members) {}
 
     [[nodiscard]] bool holds() const { return isKept; }
-    const SaidCondition* sayTo(Draft& draft) const { return sayRule(draft, words); }
+    const DraftCondition* describeTo(Draft& draft) const { return draftRule(draft, words, subjects.data(), Size); }
 };
 
-/// A rule that the other conditions cannot say: in words, and whether it is kept.
-[[nodiscard]] inline Rule rule(const char* words, bool isKept) {
-    return {words, isKept};
+/// A rule about these members that the other conditions cannot say: in words, and whether it is kept.
+template <class... Members>
+[[nodiscard]] auto rule(const char* words, bool isKept, const Members&... members) {
+    return Rule<sizeof...(Members)>(words, isKept, {&members...});
 }
 
 /// See `when`.

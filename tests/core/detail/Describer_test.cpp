@@ -106,16 +106,30 @@ TEST(Describer, GivesNumbersTheirQuantityAndOthersNone) {
         io.field("IsNew", desk.isNew);
     });
     EXPECT_FALSE(nodes.at(0).quantity.has_value());
-    EXPECT_EQ(nodes.at(1).quantity->name, quantities::number.name);
-    EXPECT_EQ(nodes.at(2).quantity->name, quantities::gain.name);
+    EXPECT_EQ(nodes.at(1).quantity, quantities::number);
+    EXPECT_EQ(nodes.at(2).quantity, quantities::gain);
     EXPECT_TRUE(nodes.at(2).otherQuantities.empty());
-    EXPECT_EQ(nodes.at(3).quantity->name, quantities::number.name);
+    EXPECT_EQ(nodes.at(3).quantity, quantities::number);
     ASSERT_EQ(nodes.at(3).otherQuantities.size(), 2U);
-    EXPECT_EQ(nodes.at(3).otherQuantities[0].quantity.name, quantities::candela.name);
+    EXPECT_EQ(nodes.at(3).otherQuantities[0].quantity, quantities::candela);
     EXPECT_EQ(nodes.at(3).otherQuantities[0].condition.toString(), "../IsNew is set");
-    EXPECT_EQ(nodes.at(3).otherQuantities[1].quantity.name, quantities::percent.name);
+    EXPECT_EQ(nodes.at(3).otherQuantities[1].quantity, quantities::percent);
     EXPECT_EQ(nodes.at(3).otherQuantities[1].condition.toString(), "../Maker is set");
     EXPECT_FALSE(nodes.at(4).quantity.has_value());
+}
+
+TEST(Describer, TellsWhatAFreshRecordHas) {
+    const Description root = describeRecord<Desk>(Desk::rootElementName, [](auto& io, auto& desk) {
+        io.field("Maker", desk.maker);
+        io.field("Height", desk.height);
+        io.field("IsNew", desk.isNew);
+        io.field("Sizes", desk.sizes);
+    });
+    std::vector<std::string> texts;
+    for (const Description& child : root.children) {
+        texts.push_back(child.defaultText);
+    }
+    EXPECT_THAT(texts, ElementsAre("4", "2", "", "0", "false", ""));
 }
 
 TEST(Describer, TellsWhatSetsAFlag) {
@@ -162,7 +176,7 @@ TEST(Describer, KeepsGatesInTheirOrderAndForTheirDirection) {
         auto gated = lamp.when(oneOf(desk.lamp.value.type, "A", "B"));
         gated.writeWhen(HLGSwitch()).value("Watts", desk.lamp.value.watts);
         gated.value("Colour", desk.lamp.value.colour);
-        io.writeWhen(rule("on Sundays", true)).field("Maker", desk.maker);
+        io.writeWhen(rule("on Sundays", true, desk.lamp.value.watts)).field("Maker", desk.maker);
         io.writeWhen(anyOf(notEmpty(desk.scratches), isSet(desk.maker))).field("Height", desk.height);
         io.writeWhen(noneOf(desk.lamp.value.type, "C")).value("Scratches", desk.scratches);
     });
@@ -175,6 +189,7 @@ TEST(Describer, KeepsGatesInTheirOrderAndForTheirDirection) {
                 ElementsAre(R"(../@Type is "A" or "B")", "writeHLGSystemGamma is set in the record that is printed"));
     EXPECT_THAT(words(inLamp.at(2).writtenWhen), ElementsAre(R"(../@Type is "A" or "B")"));
     EXPECT_THAT(words(nodes.at(1).writtenWhen), ElementsAre("on Sundays"));
+    EXPECT_THAT(nodes.at(1).writtenWhen.at(0).subjects, ElementsAre("../Lamp/Watts"));
     EXPECT_THAT(words(nodes.at(2).writtenWhen), ElementsAre("../Scratches is not empty or ../Maker is set"));
     EXPECT_THAT(words(nodes.at(3).writtenWhen), ElementsAre(R"(../Lamp/@Type is not "C")"));
 }

@@ -48,15 +48,21 @@ TEST(Conditions, IsSetAsksTheFlagAlone) {
     EXPECT_TRUE(isSet(flag).holds());
     flag = false;
     EXPECT_FALSE(isSet(flag).holds());
-    EXPECT_TRUE(isSet(property<int>{0, true}).holds());
-    EXPECT_FALSE(isSet(property<int>{1, false}).holds());
+    property<int> member{0, true};
+    EXPECT_TRUE(isSet(member).holds());
+    member = {1, false};
+    EXPECT_FALSE(isSet(member).holds());
 }
 
 TEST(Conditions, NotEmptyHoldsForStringsAndArrays) {
-    EXPECT_TRUE(notEmpty(std::string(" ")).holds());
-    EXPECT_FALSE(notEmpty(std::string()).holds());
-    EXPECT_TRUE(notEmpty(std::vector<int>{0}).holds());
-    EXPECT_FALSE(notEmpty(std::vector<int>()).holds());
+    std::string text = " ";
+    EXPECT_TRUE(notEmpty(text).holds());
+    text.clear();
+    EXPECT_FALSE(notEmpty(text).holds());
+    std::vector<int> array = {0};
+    EXPECT_TRUE(notEmpty(array).holds());
+    array.clear();
+    EXPECT_FALSE(notEmpty(array).holds());
 }
 
 TEST(Conditions, HaveEntriesAsksEachArray) {
@@ -121,6 +127,16 @@ constexpr bool gatesNowhere = !readsWhen<Io, Gate> && !writesWhen<Io, Gate> && !
 static_assert(gates<Reader, IsSet> && gates<Writer, IsSet> && gates<Describer, IsSet> && gates<MemberCollector, IsSet>);
 static_assert(gatesNowhere<Reader, bool> && gatesNowhere<Writer, bool>);
 static_assert(gatesNowhere<Describer, bool> && gatesNowhere<MemberCollector, bool>);
+
+// Nor can a bool become a condition on the way.
+
+template <class T, class = void>
+constexpr bool canBeSet = false;
+template <class T>
+constexpr bool canBeSet<T, std::void_t<decltype(isSet(std::declval<T>()))>> = true;
+
+static_assert(canBeSet<bool&> && canBeSet<property<int>&>);
+static_assert(!canBeSet<bool> && !canBeSet<property<int>>);
 
 // Neither does a flag take a bool from elsewhere, when it is described.
 static_assert(!std::is_constructible_v<Describer::Found, bool>);
