@@ -75,7 +75,7 @@ private:
 
 void makeSeeds(const fs::path& golden, const fs::path& output) {
     const Seeds seeds(output);
-    const std::vector<std::string> records = rootElementNames(test::EveryRecord());
+    const std::vector<std::string> records = rootElementNames(EveryRecord());
     for (std::size_t index = 0; index < records.size(); ++index) {
         seeds.addRecord(records[index], letterOf(index), documentsIn(golden / records[index]));
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tests/support/every_record.h>
+#include <lvdata/records/EveryRecord.h>
 
 #include <array>
 #include <cstddef>
@@ -30,7 +30,7 @@ inline char letterOf(std::size_t recordIndex) {
 }
 
 template <class... Records>
-std::vector<std::string> rootElementNames(::testing::Types<Records...> /*list*/) {
+std::vector<std::string> rootElementNames(RecordTypes<Records...> /*list*/) {
     return {Records::rootElementName...};
 }
 
@@ -42,7 +42,7 @@ void takeFresh(bool writeHLGSystemGamma, Take& take) {
 }
 
 template <class Take, class... Records>
-void withPickedRecord(const RecordInput& input, Take take, ::testing::Types<Records...> /*list*/) {
+void withPickedRecord(const RecordInput& input, Take take, RecordTypes<Records...> /*list*/) {
     constexpr std::array calls = {&takeFresh<Records, Take>...};
     calls.at(input.recordIndex % calls.size())(input.writeHLGSystemGamma, take);
 }
@@ -50,7 +50,7 @@ void withPickedRecord(const RecordInput& input, Take take, ::testing::Types<Reco
 /// Calls `take` with a fresh record of the class that the input picks.
 template <class Take>
 void withPickedRecord(const RecordInput& input, Take take) {
-    withPickedRecord(input, take, test::EveryRecord());
+    withPickedRecord(input, take, EveryRecord());
 }
 
 }  // namespace lv::fuzz

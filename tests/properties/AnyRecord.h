@@ -1,7 +1,8 @@
 #pragma once
 
-#include <tests/properties/Found.h>
-#include <tests/properties/Members.h>
+#include <tests/support/Member.h>
+#include <tests/support/model/traits.h>
+#include <tests/support/round_trip.h>
 
 #include <memory>
 #include <string>
@@ -22,22 +23,22 @@ public:
     /// All members, a line each.
     [[nodiscard]] virtual std::string description() const = 0;
 
-    virtual void visit(Members& members) = 0;
+    [[nodiscard]] virtual Members members() = 0;
+    [[nodiscard]] virtual const TraitsByPath& traits() const = 0;
 
-    [[nodiscard]] virtual std::string text(bool declaration, bool pretty) const = 0;
+    [[nodiscard]] virtual std::string text(const PrintForm& form) const = 0;
     [[nodiscard]] virtual bool parse(const std::string& text) = 0;
 
-    /// What parsing is to do.
-    [[nodiscard]] virtual bool readByTheRules(const Found& element) = 0;
-
-    /// Drops what printing and parsing into a fresh record are to drop.
-    virtual void loseByTheRules() = 0;
+    /// What printing and parsing are to do.
+    [[nodiscard]] virtual std::string textByTheRules(const PrintForm& form) const = 0;
+    [[nodiscard]] virtual bool parseByTheRules(const std::string& text) = 0;
 
     [[nodiscard]] virtual std::unique_ptr<AnyRecord> fresh() const = 0;
 
-    /// The record's own copy construction and assignment; the other one is of the same class.
+    /// The record's own copy construction, assignment and comparison; the other one is of the same class.
     [[nodiscard]] virtual std::unique_ptr<AnyRecord> copy() const = 0;
     virtual void assign(const AnyRecord& other) = 0;
+    [[nodiscard]] virtual bool isEqualTo(const AnyRecord& other) const = 0;
 };
 
 /// A record that several may look at.

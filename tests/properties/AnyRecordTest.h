@@ -41,7 +41,7 @@ protected:
         return (*samplesOf(GetParam(), texts)).record;
     }
 
-    [[nodiscard]] static std::string compactTextOf(const AnyRecord& record) { return record.text(false, false); }
+    [[nodiscard]] static std::string compactTextOf(const AnyRecord& record) { return record.text({false, false}); }
 
     /// A fresh record that has read the text.
     [[nodiscard]] static std::unique_ptr<AnyRecord> parsed(const std::string& text) {

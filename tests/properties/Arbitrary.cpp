@@ -1,4 +1,5 @@
 #include <tests/properties/Arbitrary.h>
+#include <tests/support/model/reading.h>
 
 #include <algorithm>
 
@@ -30,9 +31,10 @@ const Pieces& otherPieces() {
 
 }  // namespace
 
-Arbitrary::Arbitrary(const rc::Random& random, Texts texts)
+Arbitrary::Arbitrary(const rc::Random& random, Texts texts, const TraitsByPath& traits)
     : random_(random),
       texts_(texts),
+      traits_(&traits),
       setInEight_(oneOf<std::size_t>({1, 4, 7, 8})) {}
 
 std::size_t Arbitrary::below(std::size_t end) {
@@ -52,39 +54,48 @@ std::string Arbitrary::text() {
     return text;
 }
 
-std::size_t Arbitrary::length(const MemberTraits& traits) {
+std::size_t Arbitrary::length(const Traits& traits) {
     static const std::vector<std::size_t> lengths = {0, 0, 1, 2, 3, 4, 5, 8, 9, 10, 255, 257};
     return traits.lengths.empty() || oneIn(3) ? oneOf(lengths) : oneOf(traits.lengths);
 }
 
-void Arbitrary::visit(bool& member) {
-    member = below(8) < setInEight_;
+void Arbitrary::visit(const std::string& path, const Place& place) {
+    static const Traits none;
+    const auto found = traits_->find(path);
+    std::visit([&](auto* value) { give(*value, found == traits_->end() ? none : found->second); }, place);
 }
 
-void Arbitrary::visit(int& member) {
-    member = static_cast<int>(number());
+void Arbitrary::visitRows(const std::string& /*path*/, Rows& rows) {
+    rows.resize(below(4));
 }
 
-void Arbitrary::visit(unsigned int& member, const MemberTraits& traits) {
-    member = traits.numbers.empty() || oneIn(4) ? number() : oneOf(traits.numbers);
+void Arbitrary::give(bool& value, const Traits& /*traits*/) {
+    value = below(8) < setInEight_;
 }
 
-void Arbitrary::visit(std::string& member, const MemberTraits& traits) {
-    member = traits.texts.empty() || oneIn(4) ? text() : oneOf(traits.texts);
+void Arbitrary::give(int& value, const Traits& /*traits*/) {
+    value = static_cast<int>(number());
 }
 
-void Arbitrary::visit(std::vector<int>& member, const MemberTraits& traits) {
-    member.resize(length(traits));
-    std::generate(member.begin(), member.end(), [this] { return static_cast<int>(number()); });
+void Arbitrary::give(unsigned int& value, const Traits& traits) {
+    value = number();
+    if (!traits.texts.empty() && !oneIn(4)) {
+        assign(&value, oneOf(traits.texts));
+    }
 }
 
-void Arbitrary::visit(std::vector<unsigned int>& member, const MemberTraits& traits) {
-    member.resize(length(traits));
-    std::generate(member.begin(), member.end(), [this] { return number(); });
+void Arbitrary::give(double& value, const Traits& /*traits*/) {
+    value = number();
 }
 
-std::size_t Arbitrary::rowCount(std::size_t /*present*/) {
-    return below(4);
+void Arbitrary::give(std::string& value, const Traits& traits) {
+    value = traits.texts.empty() || oneIn(4) ? text() : oneOf(traits.texts);
+}
+
+template <class Number>
+void Arbitrary::give(std::vector<Number>& values, const Traits& traits) {
+    values.resize(length(traits));
+    std::generate(values.begin(), values.end(), [this] { return static_cast<Number>(number()); });
 }
 
 }  // namespace lv::test

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tests/properties/Members.h>
+#include <tests/support/model/traits.h>
 
 #include <cstddef>
 #include <string>
@@ -19,18 +19,22 @@ enum class Texts {
 /// Gives every member any state: set or not, values behind clear flags, limits, odd texts, arrays of lengths that count
 /// and of others, any number of rows. In some records hardly any flag is set, in others all are: where only two set
 /// flags let a value be written, both are often enough.
-class Arbitrary : public Members {
+class Arbitrary : public MemberVisitor {
 public:
-    Arbitrary(const rc::Random& random, Texts texts);
+    Arbitrary(const rc::Random& random, Texts texts, const TraitsByPath& traits);
 
 private:
-    void visit(bool& member) override;
-    void visit(int& member) override;
-    void visit(unsigned int& member, const MemberTraits& traits) override;
-    void visit(std::string& member, const MemberTraits& traits) override;
-    void visit(std::vector<int>& member, const MemberTraits& traits) override;
-    void visit(std::vector<unsigned int>& member, const MemberTraits& traits) override;
-    [[nodiscard]] std::size_t rowCount(std::size_t present) override;
+    void visit(const std::string& path, const Place& place) override;
+    void visitRows(const std::string& path, Rows& rows) override;
+
+    void give(bool& value, const Traits& traits);
+    void give(int& value, const Traits& traits);
+    void give(unsigned int& value, const Traits& traits);
+    void give(double& value, const Traits& traits);
+    void give(std::string& value, const Traits& traits);
+
+    template <class Number>
+    void give(std::vector<Number>& values, const Traits& traits);
 
     /// A number below `end`.
     [[nodiscard]] std::size_t below(std::size_t end);
@@ -43,10 +47,11 @@ private:
 
     [[nodiscard]] unsigned int number();
     [[nodiscard]] std::string text();
-    [[nodiscard]] std::size_t length(const MemberTraits& traits);
+    [[nodiscard]] std::size_t length(const Traits& traits);
 
     rc::Random random_;
     Texts texts_;
+    const TraitsByPath* traits_;
     std::size_t setInEight_;  ///< how many of eight flags are set
 };
 

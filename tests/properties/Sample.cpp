@@ -11,7 +11,7 @@ namespace {
 rc::Maybe<Sample> simplerAt(std::size_t place, const Sample& sample) {
     std::shared_ptr<AnyRecord> candidate = sample.record->copy();
     Simpler simpler(place);
-    candidate->visit(simpler);
+    simpler.visitAll(candidate->members());
     return simpler.done() ? rc::Maybe<Sample>(Sample{candidate}) : rc::Nothing;
 }
 
@@ -29,8 +29,7 @@ std::ostream& operator<<(std::ostream& out, const Sample& sample) {
 rc::Gen<Sample> samplesOf(const SharedRecord& fresh, Texts texts) {
     return [fresh, texts](const rc::Random& random, int /*size*/) {
         std::shared_ptr<AnyRecord> record = fresh->copy();
-        Arbitrary give(random, texts);
-        record->visit(give);
+        Arbitrary(random, texts, fresh->traits()).visitAll(record->members());
         return rc::shrinkable::shrinkRecur(Sample{record}, &simplerThan);
     };
 }

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <tests/properties/Members.h>
+#include <tests/support/Member.h>
 
 #include <cstddef>
+#include <string>
 
 namespace lv::test {
 
 /// Makes a record simpler in one place: of all that can be set back to its default, or erased, one. What a failing case
 /// is shrunk by, until nothing is left in it that the failure can do without.
-class Simpler : public Members {
+class Simpler : public MemberVisitor {
 public:
     explicit Simpler(std::size_t place) : place_(place) {}
 
@@ -16,16 +17,24 @@ public:
     [[nodiscard]] bool done() const { return seen_ > place_; }
 
 private:
-    void visit(bool& /*member*/) override {}
-    void visit(int& /*member*/) override {}
-    void visit(unsigned int& /*member*/, const MemberTraits& /*traits*/) override {}
-    void visit(std::string& /*member*/, const MemberTraits& /*traits*/) override {}
-    void visit(std::vector<int>& /*member*/, const MemberTraits& /*traits*/) override {}
-    void visit(std::vector<unsigned int>& /*member*/, const MemberTraits& /*traits*/) override {}
+    void visit(const std::string& /*path*/, const Place& place) override {
+        std::visit([this](auto* value) { reset(*value); }, place);
+    }
 
-    [[nodiscard]] bool resetsProperty(bool /*hasValue*/, bool isDefault) override { return !isDefault && isThePlace(); }
-    [[nodiscard]] bool resetsPlain(bool isDefault) override { return !isDefault && isThePlace(); }
-    [[nodiscard]] bool erasesRow() override { return isThePlace(); }
+    void visitRows(const std::string& /*path*/, Rows& rows) override {
+        for (std::size_t index = rows.size(); index > 0; --index) {
+            if (isThePlace()) {
+                rows.erase(index - 1);
+            }
+        }
+    }
+
+    template <class T>
+    void reset(T& value) {
+        if (value != T() && isThePlace()) {
+            value = T();
+        }
+    }
 
     [[nodiscard]] bool isThePlace() { return seen_++ == place_; }
 

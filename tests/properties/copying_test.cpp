@@ -1,5 +1,5 @@
 #include <tests/properties/AnyRecordTest.h>
-#include <tests/properties/Changed.h>
+#include <tests/support/Changed.h>
 
 // Copies of any record hold all of it and share nothing.
 
@@ -8,10 +8,7 @@ namespace {
 
 class CopyOfAnyRecord : public AnyRecordTest {
 protected:
-    static void changeEveryMember(AnyRecord& record) {
-        Changed changed;
-        record.visit(changed);
-    }
+    static void changeEveryMember(AnyRecord& record) { Changed().visitAll(record.members()); }
 };
 
 INSTANTIATE_TEST_SUITE_P(Every, CopyOfAnyRecord, testing::ValuesIn(everyRecord()), nameOf);

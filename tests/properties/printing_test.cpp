@@ -16,8 +16,8 @@ TEST_P(PrintingOfAnyRecord, ChangesNoMember) {
     expectHolds([] {
         const SharedRecord record = anyRecord();
         const std::string before = record->description();
-        for (const auto& [declaration, pretty] : everyPrintForm) {
-            static_cast<void>(record->text(declaration, pretty));
+        for (const PrintForm& form : everyPrintForm) {
+            static_cast<void>(record->text(form));
             requireEqual(record->description(), before);
         }
     });
@@ -26,9 +26,18 @@ TEST_P(PrintingOfAnyRecord, ChangesNoMember) {
 TEST_P(PrintingOfAnyRecord, GivesTheSameTextAgain) {
     expectHolds([] {
         const SharedRecord record = anyRecord();
-        for (const auto& [declaration, pretty] : everyPrintForm) {
-            const std::string text = record->text(declaration, pretty);
-            requireEqual(record->text(declaration, pretty), text);
+        for (const PrintForm& form : everyPrintForm) {
+            const std::string text = record->text(form);
+            requireEqual(record->text(form), text);
+        }
+    });
+}
+
+TEST_P(PrintingOfAnyRecord, FollowsTheRules) {
+    expectHolds([] {
+        const SharedRecord record = anyRecord();
+        for (const PrintForm& form : everyPrintForm) {
+            requireEqual(record->text(form), record->textByTheRules(form));
         }
     });
 }
@@ -46,8 +55,8 @@ std::string rootNameByAnotherParser(const std::string& text) {
 TEST_P(PrintingOfAnyRecord, IsWellFormedForAnotherParser) {
     expectHolds([] {
         const SharedRecord record = anyRecord(Texts::xml);
-        for (const auto& [declaration, pretty] : everyPrintForm) {
-            const std::string text = record->text(declaration, pretty);
+        for (const PrintForm& form : everyPrintForm) {
+            const std::string text = record->text(form);
             requireEqual(rootNameByAnotherParser(text), record->rootName());
         }
     });

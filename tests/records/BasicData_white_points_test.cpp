@@ -141,7 +141,7 @@ TEST_P(WhitePointTest, SetterReplacesTheVectorSetsTheFlagAndTouchesNothingElse) 
         BasicData expected = filled<BasicData>();
         record.*GetParam().stored = {earlier, false};
         (record.*GetParam().set)(filled<colour>());
-        (expected.*GetParam().stored).set({80000, 90000, 100000});
+        (expected.*GetParam().stored).set({180000, 190000, 200000});
         EXPECT_EQ(describe(record), describe(expected));
     }
 }

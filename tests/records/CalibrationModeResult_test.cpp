@@ -24,48 +24,51 @@ struct Part {
     void (*clearFlag)(Row&);
 };
 
-const std::array everyPart = {Part{"<Index>1</Index>", [](Row& row) { row.index.set(1); },
-                                   [](Row& row) {
-                                       row.index.hasValue = false;
-                                   }},
-                              Part{"<Name>a &amp; b</Name>", [](Row& row) { row.name.set("a & b"); },
-                                   [](Row& row) {
-                                       row.name.hasValue = false;
-                                   }},
-                              Part{"<CalibratedTime>2024-07-01</CalibratedTime>",
-                                   [](Row& row) { row.calibratedTime.set("2024-07-01"); },
-                                   [](Row& row) {
-                                       row.calibratedTime.hasValue = false;
-                                   }},
-                              Part{compact(filled<BasicData>()),
-                                   [](Row& row) {
-                                       row.basicData = filledAndParsedBack<BasicData>();
-                                       row.hasBasicData = true;
-                                   },
-                                   [](Row& row) {
-                                       row.hasBasicData = false;
-                                   }},
-                              Part{compact(filled<MeasurementData>()),
-                                   [](Row& row) {
-                                       row.measurementData = filledAndParsedBack<MeasurementData>();
-                                       row.hasMeasurementData = true;
-                                   },
-                                   [](Row& row) {
-                                       row.hasMeasurementData = false;
-                                   }},
-                              Part{"<HasValidMeasuredBlackValue>true</HasValidMeasuredBlackValue>",
-                                   [](Row& row) { row.hasValidMeasuredBlackValue.set(true); },
-                                   [](Row& row) {
-                                       row.hasValidMeasuredBlackValue.hasValue = false;
-                                   }},
-                              Part{compact(filled<MonitorParameter>()),
-                                   [](Row& row) {
-                                       row.monitorParameter = filledAndParsedBack<MonitorParameter>();
-                                       row.hasMonitorParameter = true;
-                                   },
-                                   [](Row& row) {
-                                       row.hasMonitorParameter = false;
-                                   }}};
+const auto& everyPart() {
+    static const std::array all = {Part{"<Index>1</Index>", [](Row& row) { row.index.set(1); },
+                                        [](Row& row) {
+                                            row.index.hasValue = false;
+                                        }},
+                                   Part{"<Name>a &amp; b</Name>", [](Row& row) { row.name.set("a & b"); },
+                                        [](Row& row) {
+                                            row.name.hasValue = false;
+                                        }},
+                                   Part{"<CalibratedTime>2024-07-01</CalibratedTime>",
+                                        [](Row& row) { row.calibratedTime.set("2024-07-01"); },
+                                        [](Row& row) {
+                                            row.calibratedTime.hasValue = false;
+                                        }},
+                                   Part{compact(filled<BasicData>()),
+                                        [](Row& row) {
+                                            row.basicData = filledAndParsedBack<BasicData>();
+                                            row.hasBasicData = true;
+                                        },
+                                        [](Row& row) {
+                                            row.hasBasicData = false;
+                                        }},
+                                   Part{compact(filled<MeasurementData>()),
+                                        [](Row& row) {
+                                            row.measurementData = filledAndParsedBack<MeasurementData>();
+                                            row.hasMeasurementData = true;
+                                        },
+                                        [](Row& row) {
+                                            row.hasMeasurementData = false;
+                                        }},
+                                   Part{"<HasValidMeasuredBlackValue>true</HasValidMeasuredBlackValue>",
+                                        [](Row& row) { row.hasValidMeasuredBlackValue.set(true); },
+                                        [](Row& row) {
+                                            row.hasValidMeasuredBlackValue.hasValue = false;
+                                        }},
+                                   Part{compact(filled<MonitorParameter>()),
+                                        [](Row& row) {
+                                            row.monitorParameter = filledAndParsedBack<MonitorParameter>();
+                                            row.hasMonitorParameter = true;
+                                        },
+                                        [](Row& row) {
+                                            row.hasMonitorParameter = false;
+                                        }}};
+    return all;
+}
 
 CalibrationModeResult with(const Row& row) {
     CalibrationModeResult record;
@@ -94,14 +97,15 @@ TEST(CalibrationModeResult, DefaultRecordWritesTheRootWithItsVersionAndNoRow) {
 }
 
 TEST(CalibrationModeResult, FilledRowWritesAllElementsInOrder) {
-    EXPECT_EQ(compact(with(filled<Row>())),
-              written(R"(<ColorMode Type="Standard"><Index>1</Index><Name>Mode 1</Name>)"
-                      "<CalibratedTime>2024-07-01</CalibratedTime>" +
-                      compact(filled<BasicData>()) + compact(filled<MeasurementData>()) +
-                      "<HasValidMeasuredBlackValue>true</HasValidMeasuredBlackValue>" +
-                      compact(filled<MonitorParameter>()) + compact(filled<ProfileData>()) +
-                      "<EmulationLUT><Availability>2</Availability><Index>3</Index><Name>Table 4</Name></EmulationLUT>"
-                      "</ColorMode>"));
+    EXPECT_EQ(
+        compact(with(filled<CalibrationModeResult>().objects.front())),
+        written(R"(<ColorMode Type="type 13"><Index>14</Index><Name>name 15</Name>)"
+                "<CalibratedTime>calibratedTime 16</CalibratedTime>" +
+                compact(filled<BasicData>()) + compact(filled<MeasurementData>()) +
+                "<HasValidMeasuredBlackValue>true</HasValidMeasuredBlackValue>" + compact(filled<MonitorParameter>()) +
+                compact(filled<ProfileData>()) +
+                "<EmulationLUT><Availability>17</Availability><Index>18</Index><Name>name 19</Name></EmulationLUT>"
+                "</ColorMode>"));
 }
 
 TEST(CalibrationModeResult, ColorModeWithoutChildrenGivesARowWithNothingSetAndIsWrittenWithTypeAndProfile) {
@@ -110,7 +114,7 @@ TEST(CalibrationModeResult, ColorModeWithoutChildrenGivesARowWithNothingSetAndIs
 }
 
 TEST(CalibrationModeResult, EachPartIsWrittenAloneBeforeTheProfileAndReadBackAlone) {
-    for (const Part& part : everyPart) {
+    for (const Part& part : everyPart()) {
         Row row;
         part.fill(row);
         EXPECT_EQ(compact(with(row)), written(rowElement(part.text + defaultProfile)));
@@ -119,7 +123,7 @@ TEST(CalibrationModeResult, EachPartIsWrittenAloneBeforeTheProfileAndReadBackAlo
 }
 
 TEST(CalibrationModeResult, EachPartWhoseFlagIsClearIsNotWrittenWhateverItHolds) {
-    for (const Part& part : everyPart) {
+    for (const Part& part : everyPart()) {
         Row row;
         part.fill(row);
         part.clearFlag(row);
@@ -128,10 +132,10 @@ TEST(CalibrationModeResult, EachPartWhoseFlagIsClearIsNotWrittenWhateverItHolds)
 }
 
 TEST(CalibrationModeResult, EachPartAloneIsLeftOutOfARowThatHoldsAllOthers) {
-    for (const Part& missing : everyPart) {
+    for (const Part& missing : everyPart()) {
         Row row;
         std::string children;
-        for (const Part& part : everyPart) {
+        for (const Part& part : everyPart()) {
             part.fill(row);
             children += &part == &missing ? "" : part.text;
         }

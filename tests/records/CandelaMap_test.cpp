@@ -65,9 +65,9 @@ TEST(CandelaMap, DefaultRecordWritesBothMapsEmpty) {
 
 TEST(CandelaMap, FilledRecordWritesAllElementsInOrder) {
     EXPECT_EQ(compact(filled<CandelaMap>()),
-              R"(<CandelaMap Version="41" MinorVersion="43">)"
-              "<Uniformity><Values>101|102|103|104</Values><UpdatedAt>2024-05-01</UpdatedAt></Uniformity>"
-              "<Brightness><Values>351|352|353</Values><UpdatedAt>2024-06-02</UpdatedAt></Brightness>"
+              R"(<CandelaMap Version="11" MinorVersion="12">)"
+              "<Uniformity><Values>13|14</Values><UpdatedAt>updatedAt 15</UpdatedAt></Uniformity>"
+              "<Brightness><Values>16|17|18</Values><UpdatedAt>updatedAt 19</UpdatedAt></Brightness>"
               "</CandelaMap>");
 }
 

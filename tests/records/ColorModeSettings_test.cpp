@@ -64,16 +64,9 @@ ColorModeSettingsObject rowNamed(const std::string& name) {
 }
 
 /// What is inside the sample's element for that row.
-std::string numberedChildren(const std::string& number) {
-    return element("Index", number) + element("Name", "Mode " + number) + element("Availability", number + '0');
-}
-
-/// The sample's nested record as it is printed in the row of that number.
-template <class Record>
-std::string numberedRecord(unsigned int version) {
-    auto record = filled<Record>();
-    record.version.set(version);
-    return compact(record);
+std::string numberedChildren(unsigned int first) {
+    return element("Index", std::to_string(first)) + element("Name", "name " + std::to_string(first + 1)) +
+           element("Availability", std::to_string(first + 2));
 }
 
 TEST(ColorModeSettings, EmptyListWritesTheRootWithItsVersionAndNoRow) {
@@ -82,14 +75,13 @@ TEST(ColorModeSettings, EmptyListWritesTheRootWithItsVersionAndNoRow) {
 
 TEST(ColorModeSettings, FilledRecordWritesItsRowsInOrderWithWhatBelongsToTheirTypes) {
     EXPECT_EQ(compact(filled<ColorModeSettings>()),
-              R"(<ColorModeSettings Version="41" MinorVersion="43"><ColorMode Type="Standard">)" +
-                  numberedChildren("1") + numberedRecord<ParameterSetting>(101) + numberedRecord<ProfilePolicy>(301) +
-                  R"(</ColorMode><ColorMode Type="SyncSignal">)" + numberedChildren("2") +
-                  numberedRecord<ParameterSetting>(102) + numberedRecord<ProfilePolicy>(302) +
-                  R"(</ColorMode><ColorMode Type="Calibration">)" + numberedChildren("3") +
-                  R"(<Target Type="Lumivale">)" + numberedRecord<TargetSetting>(203) + "</Target>" +
-                  numberedRecord<ProfilePolicy>(303) + R"(</ColorMode><ColorMode Type="Vendor">)" +
-                  numberedChildren("4") + numberedRecord<ProfilePolicy>(304) + "</ColorMode></ColorModeSettings>");
+              R"(<ColorModeSettings Version="11" MinorVersion="12"><ColorMode Type="SyncSignal">)" +
+                  numberedChildren(14) + compact(filled<ParameterSetting>()) + compact(filled<ProfilePolicy>()) +
+                  R"(</ColorMode><ColorMode Type="Calibration">)" + numberedChildren(18) +
+                  R"(<Target Type="Lumivale">)" + compact(filled<TargetSetting>()) + "</Target>" +
+                  compact(filled<ProfilePolicy>()) + R"(</ColorMode><ColorMode Type="Standard">)" +
+                  numberedChildren(22) + compact(filled<ParameterSetting>()) + compact(filled<ProfilePolicy>()) +
+                  "</ColorMode></ColorModeSettings>");
 }
 
 TEST(ColorModeSettings, ListWithoutChildrenParsesToNoRowsWithParsedTrueAndWritesTheRootAlone) {
@@ -236,7 +228,7 @@ TEST(ColorModeSettings, RowThatBreaksTheDocumentLeavesTheRowsInPlace) {
 
 TEST(ColorModeSettings, ParsedRowsStartFromAFreshRowEachTime) {
     const auto rows =
-        rowsFrom(R"(<ColorMode Type="Standard">)" + numberedChildren("1") + compact(filled<ParameterSetting>()) +
+        rowsFrom(R"(<ColorMode Type="Standard">)" + numberedChildren(1) + compact(filled<ParameterSetting>()) +
                  compact(filled<ProfilePolicy>()) + "</ColorMode><ColorMode/>");
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_EQ(describe(rows[1]), describe(ColorModeSettingsObject()));

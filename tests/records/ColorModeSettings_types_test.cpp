@@ -160,10 +160,11 @@ TEST(ColorModeSettingsTypes, DefaultRowOfTypeCalibrationCarriesTargetAndPolicyAn
 }
 
 TEST(ColorModeSettingsTypes, RowOfUnknownTypeCarriesIndexNameAvailabilityAndPolicy) {
-    auto row = filled<ColorModeSettingsObject>();
+    auto row = filled<ColorModeSettings>().objects.front();
+    row.type.value = "Vendor";
     EXPECT_EQ(
         compact(listOf(row)),
-        written("<ColorMode Type=\"Vendor\"><Index>61</Index><Name>Mode 62</Name><Availability>63</Availability>" +
+        written("<ColorMode Type=\"Vendor\"><Index>14</Index><Name>name 15</Name><Availability>16</Availability>" +
                 compact(filled<ProfilePolicy>()) + "</ColorMode>"));
 }
 

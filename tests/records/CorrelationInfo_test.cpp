@@ -29,11 +29,12 @@ TEST(CorrelationInfo, DefaultRecordWritesTheRootWithItsVersionAndNoChild) {
 }
 
 TEST(CorrelationInfo, FilledRecordWritesAllTextsInOrder) {
-    EXPECT_EQ(compact(filled<CorrelationInfo>()), R"(<CorrelationInfo Version="41" MinorVersion="43">)"
-                                                  "<ReferenceSensorID>0012</ReferenceSensorID>"
-                                                  "<ReferenceSensorSerial>SN-5521</ReferenceSensorSerial>"
-                                                  "<CorrelationDate>2024-03-17</CorrelationDate>"
-                                                  "</CorrelationInfo>");
+    EXPECT_EQ(compact(filled<CorrelationInfo>()),
+              R"(<CorrelationInfo Version="11" MinorVersion="12">)"
+              "<ReferenceSensorID>referenceSensorID 13</ReferenceSensorID>"
+              "<ReferenceSensorSerial>referenceSensorSerial 14</ReferenceSensorSerial>"
+              "<CorrelationDate>correlationDate 15</CorrelationDate>"
+              "</CorrelationInfo>");
 }
 
 TEST(CorrelationInfo, NoChildrenParseToTrueWithAllThreeMembersUnset) {
@@ -90,7 +91,7 @@ TEST(CorrelationInfo, MissingTextClearsItsFlagAndKeepsTheEarlierText) {
         }
         (expected.*member).set("new");
         CorrelationInfo record = filled<CorrelationInfo>();
-        ASSERT_TRUE(record.parseXMLString(R"(<CorrelationInfo Version="41" MinorVersion="43"><)" + element + ">new</" +
+        ASSERT_TRUE(record.parseXMLString(R"(<CorrelationInfo Version="11" MinorVersion="12"><)" + element + ">new</" +
                                           element + "></CorrelationInfo>"));
         EXPECT_EQ(describe(record), describe(expected));
     }

@@ -88,7 +88,7 @@ TEST(MeasurementDataObject, PQRTravelsInTheMembersOfXYZ) {
 }
 
 TEST_P(SignedNotationTest, GetterDividesByAMillionAndFillsNothingElse) {
-    MeasurementDataObject row = filled<MeasurementDataObject>();
+    MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.*GetParam().stored = {95047000, -1500000, 1};
     colour expected;
     expected.*GetParam().members[0] = 95.047;
@@ -99,7 +99,7 @@ TEST_P(SignedNotationTest, GetterDividesByAMillionAndFillsNothingElse) {
 
 TEST_P(SignedNotationTest, FewerThanThreeEntriesReadAsEighteenZeros) {
     for (const Numbers& few : {Numbers{}, Numbers{5000000}, Numbers{5000000, 6000000}}) {
-        MeasurementDataObject row = filled<MeasurementDataObject>();
+        MeasurementDataObject row = filled<MeasurementData>().objects.front();
         row.*GetParam().stored = few;
         EXPECT_EQ(describe((row.*GetParam().get)()), describe(colour()));
     }
@@ -115,10 +115,10 @@ TEST_P(SignedNotationTest, GetterIgnoresEntriesBehindTheThird) {
 
 TEST_P(SignedNotationTest, SetterReplacesItsVectorAndTouchesNoOtherMember) {
     const colour source = filled<colour>();
-    MeasurementDataObject row = filled<MeasurementDataObject>();
+    MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.*GetParam().stored = {9, 9, 9, 9, 9};
     (row.*GetParam().set)(source);
-    MeasurementDataObject expected = filled<MeasurementDataObject>();
+    MeasurementDataObject expected = filled<MeasurementData>().objects.front();
     for (std::size_t index = 0; index < 3; ++index) {
         const double value = source.*GetParam().members[index];
         (expected.*GetParam().stored)[index] = static_cast<int>(std::lround(value * 1e6));

@@ -46,7 +46,7 @@ TEST(MeasurementDataObject, FreshRowHoldsNothingAndReadsAsEighteenZerosEverywher
 }
 
 TEST(MeasurementDataObject, RGBGetterDividesBy255AndFillsNothingElse) {
-    MeasurementDataObject row = filled<MeasurementDataObject>();
+    MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.RGB = {51, 255, 306};
     colour expected;
     expected.red = 51 / 255.0;
@@ -56,7 +56,7 @@ TEST(MeasurementDataObject, RGBGetterDividesBy255AndFillsNothingElse) {
 }
 
 TEST(MeasurementDataObject, RGBOfTwoEntriesReadsAsEighteenZeros) {
-    MeasurementDataObject row = filled<MeasurementDataObject>();
+    MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.RGB = {255, 255};
     EXPECT_EQ(describe(row.RGB_x()), describe(colour()));
 }
@@ -101,7 +101,7 @@ TEST(MeasurementDataObject, RGBSetterStoresZeroWhereThereIsNoInteger) {
 }
 
 TEST(MeasurementDataObject, CMYKGetterDividesBy100AndFillsNothingElse) {
-    MeasurementDataObject row = filled<MeasurementDataObject>();
+    MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.CMYK = {25, 100, 120, 7};
     colour expected;
     expected.cyan = 0.25;
@@ -112,7 +112,7 @@ TEST(MeasurementDataObject, CMYKGetterDividesBy100AndFillsNothingElse) {
 }
 
 TEST(MeasurementDataObject, CMYKOfThreeEntriesReadsAsEighteenZeros) {
-    MeasurementDataObject row = filled<MeasurementDataObject>();
+    MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.CMYK = {100, 100, 100};
     EXPECT_EQ(describe(row.CMYK_x()), describe(colour()));
 }
@@ -135,20 +135,20 @@ TEST(MeasurementDataObject, CMYKSetterClampsBelowAndNotAbove) {
 }
 
 TEST(MeasurementDataObject, RGBSetterReplacesItsVectorAndTouchesNoOtherMember) {
-    MeasurementDataObject row = filled<MeasurementDataObject>();
+    MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.RGB = {9, 9, 9, 9, 9};
     row.RGB_x(filled<colour>());
-    MeasurementDataObject expected = filled<MeasurementDataObject>();
-    expected.RGB = {13, 15, 18};  // 0.05, 0.06 and 0.07 of 255
+    MeasurementDataObject expected = filled<MeasurementData>().objects.front();
+    expected.RGB = {38, 41, 43};  // 0.15, 0.16 and 0.17 of 255
     EXPECT_EQ(describe(row), describe(expected));
 }
 
 TEST(MeasurementDataObject, CMYKSetterReplacesItsVectorAndTouchesNoOtherMember) {
-    MeasurementDataObject row = filled<MeasurementDataObject>();
+    MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.CMYK = {9};
     row.CMYK_x(filled<colour>());
-    MeasurementDataObject expected = filled<MeasurementDataObject>();
-    expected.CMYK = {1, 2, 3, 4};
+    MeasurementDataObject expected = filled<MeasurementData>().objects.front();
+    expected.CMYK = {11, 12, 13, 14};
     EXPECT_EQ(describe(row), describe(expected));
 }
 

@@ -17,11 +17,11 @@ TEST(MeasurementDataSecondary, RowsAreWrittenAsThoseOfTheFirstSeries) {
     MeasurementDataSecondary secondary;
     secondary.objects = filled<MeasurementData>().objects;
     EXPECT_EQ(compact(secondary), R"(<MeasurementDataSecondary Version="2" MinorVersion="0">)"
-                                  "<Measurements><RGB>1|2|3</RGB><CMYK>4|5|6|7</CMYK><XYZ>8|9|10</XYZ>"
-                                  "<CIELAB>11|-12|13</CIELAB><PQR>14|15|-16</PQR></Measurements>"
-                                  "<Measurements><RGB>101|102|103</RGB><CMYK>104|105|106|107</CMYK>"
-                                  "<XYZ>108|109|110</XYZ><CIELAB>111|-112|113</CIELAB><PQR>114|115|-116</PQR>"
-                                  "</Measurements></MeasurementDataSecondary>");
+                                  "<Measurements><RGB>13|14|15</RGB><CMYK>16|17|18|19</CMYK><XYZ>-20|21|-22</XYZ>"
+                                  "<CIELAB>23|-24|25</CIELAB><PQR>-26|27|-28</PQR></Measurements>"
+                                  "<Measurements><RGB>29|30|31</RGB><CMYK>32|33|34|35</CMYK><XYZ>-36|37|-38</XYZ>"
+                                  "<CIELAB>39|-40|41</CIELAB><PQR>-42|43|-44</PQR></Measurements>"
+                                  "</MeasurementDataSecondary>");
 }
 
 TEST(MeasurementDataSecondary, AcceptsOnlyItsOwnRootName) {

@@ -71,10 +71,10 @@ TEST(MonitorConfiguration, DefaultRecordWritesTheTwoNestedRecordsAndNothingElse)
 
 TEST(MonitorConfiguration, FilledRecordWritesAllElementsInOrder) {
     EXPECT_EQ(compact(filled<MonitorConfiguration>()),
-              R"(<MonitorConfiguration Version="41" MinorVersion="43">)"
-              "<Name>Left monitor</Name><Model>Model 27</Model><Serial>SN-004711</Serial>" +
+              R"(<MonitorConfiguration Version="11" MinorVersion="12">)"
+              "<Name>name 13</Name><Model>model 14</Model><Serial>serial 15</Serial>" +
                   compact(filled<ColorModeSettings>()) + compact(filled<SelfCalibrationSchedule>()) +
-                  "<StandardModeCalibration>71</StandardModeCalibration><KeyLock>72</KeyLock>"
+                  "<StandardModeCalibration>16</StandardModeCalibration><KeyLock>17</KeyLock>"
                   "</MonitorConfiguration>");
 }
 
@@ -172,7 +172,7 @@ TEST(MonitorConfiguration, EmptyNumberCountsAsMissing) {
 
 TEST(MonitorConfiguration, DocumentWithoutKeyLockClearsItsFlagAndPrintsWithoutIt) {
     const auto record = filledAndThen("<StandardModeCalibration>5</StandardModeCalibration>");
-    EXPECT_EQ(record.keyLock, (property<unsigned int>{72, false}));
+    EXPECT_EQ(record.keyLock, (property<unsigned int>{17, false}));
     EXPECT_EQ(compact(record).find("KeyLock"), std::string::npos);
 }
 

@@ -51,8 +51,9 @@ TEST(MonitorParameter, OnlyCyanHueSetsTheHueAndAllSixAreWrittenTheOthersWithThei
     MonitorParameter record = filled<MonitorParameter>();
     ASSERT_TRUE(record.parseXMLString(written("<CyanHue>99</CyanHue>")));
     EXPECT_TRUE(record.hue.hasValue);
-    EXPECT_EQ(compact(record), written("<RedHue>1</RedHue><GreenHue>-2</GreenHue><BlueHue>3</BlueHue>"
-                                       "<CyanHue>99</CyanHue><MagentaHue>5</MagentaHue><YellowHue>-6</YellowHue>"));
+    EXPECT_EQ(compact(record),
+              written("<RedHue>-1554</RedHue><GreenHue>1555</GreenHue><BlueHue>-1556</BlueHue>"
+                      "<CyanHue>99</CyanHue><MagentaHue>-1558</MagentaHue><YellowHue>1559</YellowHue>"));
 }
 
 TEST(MonitorParameter, EachElementOfAGroupAloneSetsTheGroupAndReplacesItsMember) {

@@ -73,23 +73,23 @@ TEST(MonitorParameter, DefaultRecordWritesTheRootWithItsVersionAndNoChild) {
 
 TEST(MonitorParameter, FilledRecordWritesAllElementsInOrder) {
     EXPECT_EQ(compact(filled<MonitorParameter>()),
-              R"(<MonitorParameter Version="41" MinorVersion="43">)"
-              "<Brightness>51</Brightness><Contrast>52</Contrast><isHDRLUT>1</isHDRLUT>" +
-                  element("RedLUT", joined(numbersFrom(10000, 256))) +
-                  element("GreenLUT", joined(numbersFrom(20000, 1024))) +
-                  element("BlueLUT", joined(numbersFrom(30000, 256))) +
-                  "<HLGSystemGamma>120</HLGSystemGamma><HLGClipping>54</HLGClipping>"
-                  "<RedHue>1</RedHue><GreenHue>-2</GreenHue><BlueHue>3</BlueHue>"
-                  "<CyanHue>-4</CyanHue><MagentaHue>5</MagentaHue><YellowHue>-6</YellowHue>"
-                  "<RedSaturation>-11</RedSaturation><GreenSaturation>12</GreenSaturation>"
-                  "<BlueSaturation>-13</BlueSaturation><CyanSaturation>14</CyanSaturation>"
-                  "<MagentaSaturation>-15</MagentaSaturation><YellowSaturation>16</YellowSaturation>"
-                  "<RedLightness>21</RedLightness><GreenLightness>-22</GreenLightness>"
-                  "<BlueLightness>23</BlueLightness><CyanLightness>-24</CyanLightness>"
-                  "<MagentaLightness>25</MagentaLightness><YellowLightness>-26</YellowLightness>"
-                  "<RedGain>1000001</RedGain><GreenGain>1000002</GreenGain><BlueGain>1000003</BlueGain>"
-                  "<EmulationMatrix>-4|-3|-2|-1|0|1|2|3|4</EmulationMatrix>"
-                  "<Limited109Setting>55</Limited109Setting>"
+              R"(<MonitorParameter Version="11" MinorVersion="12">)"
+              "<Brightness>13</Brightness><Contrast>14</Contrast><isHDRLUT>15</isHDRLUT>" +
+                  element("RedLUT", joined(numbersFrom(16, 256))) +
+                  element("GreenLUT", joined(numbersFrom(272, 1024))) +
+                  element("BlueLUT", joined(numbersFrom(1296, 256))) +
+                  "<HLGSystemGamma>1552</HLGSystemGamma><HLGClipping>1553</HLGClipping>"
+                  "<RedHue>-1554</RedHue><GreenHue>1555</GreenHue><BlueHue>-1556</BlueHue>"
+                  "<CyanHue>1557</CyanHue><MagentaHue>-1558</MagentaHue><YellowHue>1559</YellowHue>"
+                  "<RedSaturation>-1560</RedSaturation><GreenSaturation>1561</GreenSaturation>"
+                  "<BlueSaturation>-1562</BlueSaturation><CyanSaturation>1563</CyanSaturation>"
+                  "<MagentaSaturation>-1564</MagentaSaturation><YellowSaturation>1565</YellowSaturation>"
+                  "<RedLightness>-1566</RedLightness><GreenLightness>1567</GreenLightness>"
+                  "<BlueLightness>-1568</BlueLightness><CyanLightness>1569</CyanLightness>"
+                  "<MagentaLightness>-1570</MagentaLightness><YellowLightness>1571</YellowLightness>"
+                  "<RedGain>1572</RedGain><GreenGain>1573</GreenGain><BlueGain>1574</BlueGain>"
+                  "<EmulationMatrix>1575|-1576|1577|-1578|1579|-1580|1581|-1582|1583</EmulationMatrix>"
+                  "<Limited109Setting>1584</Limited109Setting>"
                   "</MonitorParameter>");
 }
 

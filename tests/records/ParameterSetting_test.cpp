@@ -51,13 +51,13 @@ TEST(ParameterSetting, DefaultRecordWithTheSwitchWritesAnHLGSystemGammaOf0) {
 
 TEST(ParameterSetting, FilledRecordWritesAllElementsOfItsTypesInOrder) {
     EXPECT_EQ(compact(filled<ParameterSetting>()),
-              R"(<ParameterSetting Version="41" MinorVersion="43">)"
-              R"(<Brightness Type="Candela"><Value>121</Value></Brightness>)"
-              R"(<WhitePoint Type="Temperature"><Temperature>6504</Temperature></WhitePoint>)"
-              R"(<Gamma Type="Fixed"><Fixed>HLG</Fixed><PQHLGClipping>Clip 3</PQHLGClipping>)"
-              "<HLGSystemGamma>125</HLGSystemGamma></Gamma>"
-              R"(<Gamut Type="Fixed"><Fixed>Gamut 4</Fixed><Clipping>61</Clipping></Gamut>)"
-              "<Limited109Setting>71</Limited109Setting></ParameterSetting>");
+              R"(<ParameterSetting Version="11" MinorVersion="12">)"
+              R"(<Brightness Type="Candela"><Value>14</Value></Brightness>)"
+              R"(<WhitePoint Type="Temperature"><Temperature>16</Temperature></WhitePoint>)"
+              R"(<Gamma Type="Fixed"><Fixed>HLG</Fixed><PQHLGClipping>pqhlgClipping 21</PQHLGClipping>)"
+              "<HLGSystemGamma>22</HLGSystemGamma></Gamma>"
+              R"(<Gamut Type="Fixed"><Fixed>fixed 24</Fixed><Clipping>25</Clipping></Gamut>)"
+              "<Limited109Setting>26</Limited109Setting></ParameterSetting>");
 }
 
 TEST(ParameterSetting, ParametersAreWrittenWhetherOrNotTheyAreSet) {
@@ -109,10 +109,10 @@ TEST(ParameterSetting, HLGSystemGammaIsTheOnlyDifferenceThatTheSwitchMakes) {
         ParameterSetting record = filled<ParameterSetting>();
         record.gamma.value.type = type;
         std::string text = compact(record);
-        const std::string element = "<HLGSystemGamma>125</HLGSystemGamma></Gamma>";
+        const std::string element = "<HLGSystemGamma>22</HLGSystemGamma></Gamma>";
         ASSERT_NE(text.find(element), std::string::npos) << text;
         auto parsedBack = parsed<ParameterSetting>(text);
-        parsedBack.gamma.value.hlgSystemGamma = 125;
+        parsedBack.gamma.value.hlgSystemGamma = 22;
         parsedBack.writeHLGSystemGamma = true;
         EXPECT_EQ(compact(parsedBack), text);
         parsedBack.writeHLGSystemGamma = false;

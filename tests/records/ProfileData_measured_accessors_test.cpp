@@ -186,11 +186,11 @@ TEST(ProfileDataMeasuredAccessors, PanelSetterReplacesAllFiveVectorsAndTouchesNo
         record.measuredXYZ = {{{}, {9}, {9, 9}, {9, 9, 9, 9}, {9, 9, 9}}, flag};
         record.measuredXYZ_x(filled<PrimaryColours>());
         ProfileData expected = filled<ProfileData>();
-        expected.measuredXYZ.set({{1080000, 1090000, 1100000},
-                                  {2080000, 2090000, 2100000},
-                                  {3080000, 3090000, 3100000},
-                                  {4080000, 4090000, 4100000},
-                                  {5080000, 5090000, 5100000}});
+        expected.measuredXYZ.set({{180000, 190000, 200000},
+                                  {360000, 370000, 380000},
+                                  {540000, 550000, 560000},
+                                  {720000, 730000, 740000},
+                                  {900000, 910000, 920000}});
         EXPECT_EQ(describe(record), describe(expected));
     }
 }
@@ -201,10 +201,10 @@ TEST(ProfileDataMeasuredAccessors, Limited109SetterReplacesFourVectorsEmptiesBla
         record.measuredXYZLimited109 = {{{}, {9}, {9, 9}, {9, 9, 9, 9}, {9, 9, 9}}, flag};
         record.measuredXYZLimited109_x(filled<PrimaryColours>());
         ProfileData expected = filled<ProfileData>();
-        expected.measuredXYZLimited109.set({{1080000, 1090000, 1100000},
-                                            {2080000, 2090000, 2100000},
-                                            {3080000, 3090000, 3100000},
-                                            {4080000, 4090000, 4100000},
+        expected.measuredXYZLimited109.set({{180000, 190000, 200000},
+                                            {360000, 370000, 380000},
+                                            {540000, 550000, 560000},
+                                            {720000, 730000, 740000},
                                             {}});
         EXPECT_EQ(describe(record), describe(expected));
     }

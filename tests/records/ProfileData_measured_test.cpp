@@ -210,8 +210,8 @@ TEST(ProfileDataMeasured, PanelAloneIsWrittenWithFiveColours) {
     ProfileData record = complete(true);
     record.measuredXYZLimited109.hasValue = false;
     EXPECT_EQ(compact(record),
-              written(measured("Red", "11|12|13") + measured("Green", "21|22|23") + measured("Blue", "31|32|33") +
-                      measured("White", "41|42|43") + measured("Black", "51|52|53")));
+              written(measured("Red", "14|15|16") + measured("Green", "17|18|19") + measured("Blue", "20|21|22") +
+                      measured("White", "23|24|25") + measured("Black", "26|27|28")));
 }
 
 TEST(ProfileDataMeasured, Limited109AloneIsWrittenWithFourColoursBehindTheEmptyPanel) {
@@ -219,9 +219,8 @@ TEST(ProfileDataMeasured, Limited109AloneIsWrittenWithFourColoursBehindTheEmptyP
     record.measuredXYZ.hasValue = false;
     record.measuredXYZLimited109.value.black = {1, 2, 3};
     EXPECT_EQ(compact(record),
-              written(emptyPanel() + measured("Limited109Red", "111|112|113") +
-                      measured("Limited109Green", "121|122|123") + measured("Limited109Blue", "131|132|133") +
-                      measured("Limited109White", "141|142|143")));
+              written(emptyPanel() + measured("Limited109Red", "29|30|31") + measured("Limited109Green", "32|33|34") +
+                      measured("Limited109Blue", "35|36|37") + measured("Limited109White", "38|39|40")));
 }
 
 TEST(ProfileDataMeasured, SetsThatTheCallerFlaggedAreWrittenAsTheirVectorsStand) {

@@ -47,20 +47,20 @@ TEST(ProfileData, TextOfTheDefaultRecordComesBackWithTheCurvesFoundAndWithoutATy
 }
 
 TEST(ProfileData, FilledRecordWritesAllElementsInOrder) {
-    EXPECT_EQ(compact(filled<ProfileData>()), R"(<ProfileData Version="41" MinorVersion="43">)"
-                                              "<Description>Panel 1</Description>"
-                                              R"(<MeasuredXYZ Color="Red">11|12|13</MeasuredXYZ>)"
-                                              R"(<MeasuredXYZ Color="Green">21|22|23</MeasuredXYZ>)"
-                                              R"(<MeasuredXYZ Color="Blue">31|32|33</MeasuredXYZ>)"
-                                              R"(<MeasuredXYZ Color="White">41|42|43</MeasuredXYZ>)"
-                                              R"(<MeasuredXYZ Color="Black">51|52|53</MeasuredXYZ>)"
-                                              R"(<MeasuredXYZ Color="Limited109Red">111|112|113</MeasuredXYZ>)"
-                                              R"(<MeasuredXYZ Color="Limited109Green">121|122|123</MeasuredXYZ>)"
-                                              R"(<MeasuredXYZ Color="Limited109Blue">131|132|133</MeasuredXYZ>)"
-                                              R"(<MeasuredXYZ Color="Limited109White">141|142|143</MeasuredXYZ>)"
-                                              R"(<RedTargetCurve Type="Formula">2200000</RedTargetCurve>)"
-                                              R"(<GreenTargetCurve Type="Lut">0|500000|1000000</GreenTargetCurve>)"
-                                              R"(<BlueTargetCurve Type="LStar"/>)"
+    EXPECT_EQ(compact(filled<ProfileData>()), R"(<ProfileData Version="11" MinorVersion="12">)"
+                                              "<Description>description 13</Description>"
+                                              R"(<MeasuredXYZ Color="Red">14|15|16</MeasuredXYZ>)"
+                                              R"(<MeasuredXYZ Color="Green">17|18|19</MeasuredXYZ>)"
+                                              R"(<MeasuredXYZ Color="Blue">20|21|22</MeasuredXYZ>)"
+                                              R"(<MeasuredXYZ Color="White">23|24|25</MeasuredXYZ>)"
+                                              R"(<MeasuredXYZ Color="Black">26|27|28</MeasuredXYZ>)"
+                                              R"(<MeasuredXYZ Color="Limited109Red">29|30|31</MeasuredXYZ>)"
+                                              R"(<MeasuredXYZ Color="Limited109Green">32|33|34</MeasuredXYZ>)"
+                                              R"(<MeasuredXYZ Color="Limited109Blue">35|36|37</MeasuredXYZ>)"
+                                              R"(<MeasuredXYZ Color="Limited109White">38|39|40</MeasuredXYZ>)"
+                                              R"(<RedTargetCurve Type="Formula">44</RedTargetCurve>)"
+                                              R"(<GreenTargetCurve Type="Lut">50|51</GreenTargetCurve>)"
+                                              R"(<BlueTargetCurve Type="Formula">53</BlueTargetCurve>)"
                                               "</ProfileData>");
 }
 
@@ -86,43 +86,43 @@ TEST(ProfileData, DescriptionIsReadAndItsFlagTellsWhetherItWasFound) {
 TEST(ProfileData, MissingDescriptionKeepsTheEarlierTextAndAnEmptyOneSetsTheFlagOverIt) {
     ProfileData record = filled<ProfileData>();
     ASSERT_TRUE(record.parseXMLString("<ProfileData/>"));
-    EXPECT_EQ(record.description, (property<std::string>{"Panel 1", false}));
+    EXPECT_EQ(record.description, (property<std::string>{"description 13", false}));
     ASSERT_TRUE(record.parseXMLString("<ProfileData><Description></Description></ProfileData>"));
-    EXPECT_EQ(record.description, (property<std::string>{"Panel 1", true}));
+    EXPECT_EQ(record.description, (property<std::string>{"description 13", true}));
 }
 
 TEST(ProfileData, OrderOfColoursAndCurvesInTheDocumentIsFree) {
-    const auto record = parsed<ProfileData>(R"(<ProfileData Version="41" MinorVersion="43">)"
-                                            R"(<BlueTargetCurve Type="LStar"/>)"
-                                            R"(<MeasuredXYZ Color="Limited109White">141|142|143</MeasuredXYZ>)"
-                                            R"(<MeasuredXYZ Color="Black">51|52|53</MeasuredXYZ>)"
-                                            R"(<GreenTargetCurve Type="Lut">0|500000|1000000</GreenTargetCurve>)"
-                                            R"(<MeasuredXYZ Color="Limited109Blue">131|132|133</MeasuredXYZ>)"
-                                            R"(<MeasuredXYZ Color="White">41|42|43</MeasuredXYZ>)"
-                                            R"(<MeasuredXYZ Color="Limited109Red">111|112|113</MeasuredXYZ>)"
-                                            R"(<MeasuredXYZ Color="Red">11|12|13</MeasuredXYZ>)"
-                                            "<Description>Panel 1</Description>"
-                                            R"(<MeasuredXYZ Color="Green">21|22|23</MeasuredXYZ>)"
-                                            R"(<RedTargetCurve Type="Formula">2200000</RedTargetCurve>)"
-                                            R"(<MeasuredXYZ Color="Blue">31|32|33</MeasuredXYZ>)"
-                                            R"(<MeasuredXYZ Color="Limited109Green">121|122|123</MeasuredXYZ>)"
+    const auto record = parsed<ProfileData>(R"(<ProfileData Version="11" MinorVersion="12">)"
+                                            R"(<BlueTargetCurve Type="Formula">53</BlueTargetCurve>)"
+                                            R"(<MeasuredXYZ Color="Limited109White">38|39|40</MeasuredXYZ>)"
+                                            R"(<MeasuredXYZ Color="Black">26|27|28</MeasuredXYZ>)"
+                                            R"(<GreenTargetCurve Type="Lut">50|51</GreenTargetCurve>)"
+                                            R"(<MeasuredXYZ Color="Limited109Blue">35|36|37</MeasuredXYZ>)"
+                                            R"(<MeasuredXYZ Color="White">23|24|25</MeasuredXYZ>)"
+                                            R"(<MeasuredXYZ Color="Limited109Red">29|30|31</MeasuredXYZ>)"
+                                            R"(<MeasuredXYZ Color="Red">14|15|16</MeasuredXYZ>)"
+                                            "<Description>description 13</Description>"
+                                            R"(<MeasuredXYZ Color="Green">17|18|19</MeasuredXYZ>)"
+                                            R"(<RedTargetCurve Type="Formula">44</RedTargetCurve>)"
+                                            R"(<MeasuredXYZ Color="Blue">20|21|22</MeasuredXYZ>)"
+                                            R"(<MeasuredXYZ Color="Limited109Green">32|33|34</MeasuredXYZ>)"
                                             "</ProfileData>");
     EXPECT_EQ(describe(record), describe(filledAndParsedBack<ProfileData>()));
 }
 
 TEST(ProfileData, SecondParseKeepsWhatTheDocumentLacksMemberByMember) {
     ProfileData record = filled<ProfileData>();
-    ASSERT_TRUE(record.parseXMLString(R"(<ProfileData Version="41" MinorVersion="43">)"
+    ASSERT_TRUE(record.parseXMLString(R"(<ProfileData Version="11" MinorVersion="12">)"
                                       R"(<MeasuredXYZ Color="Green">7|8|9</MeasuredXYZ>)"
                                       R"(<MeasuredXYZ Color="Limited109Blue">5</MeasuredXYZ>)"
                                       R"(<RedTargetCurve Type="Lut">1|2</RedTargetCurve>)"
-                                      R"(<BlueTargetCurve Type="Formula"/></ProfileData>)"));
+                                      R"(<BlueTargetCurve Type="Formula">53</BlueTargetCurve></ProfileData>)"));
     ProfileData expected = filled<ProfileData>();
     expected.description.hasValue = false;
     expected.measuredXYZ.value.green = {7, 8, 9};
     expected.measuredXYZLimited109.value.blue = {5};
     expected.measuredXYZLimited109.hasValue = false;
-    expected.redTargetCurve.set({"Lut", 2200000, {1, 2}});
+    expected.redTargetCurve.set({"Lut", 44, {1, 2}});
     expected.greenTargetCurve.hasValue = false;
     expected.blueTargetCurve.value.type = "Formula";
     EXPECT_EQ(describe(record), describe(expected));

@@ -37,7 +37,7 @@ std::string element(const std::string& name, const std::string& content) {
 }
 
 std::string rule(const std::string& children) {
-    return R"(<UpdateRule Type="Rule 1">)" + children + "</UpdateRule>";
+    return R"(<UpdateRule Type="updateRule 13">)" + children + "</UpdateRule>";
 }
 
 std::string written(const std::string& children) {
@@ -72,28 +72,28 @@ TEST(ProfilePolicy, DefaultRecordWritesTheRootWithItsVersionAndNoChild) {
 
 TEST(ProfilePolicy, FilledRecordWritesAllElementsInOrder) {
     EXPECT_EQ(compact(filled<ProfilePolicy>()),
-              R"(<ProfilePolicy Version="41" MinorVersion="43">)"
-              R"(<UpdateRule Type="Rule 1"><ProfileDescription>Description 2</ProfileDescription>)"
-              "<ProfileName>Name 3</ProfileName><Content>Content 4</Content></UpdateRule>"
-              "<ProfileVersion>5.2</ProfileVersion><ToneCurve>Curve 6</ToneCurve>"
+              R"(<ProfilePolicy Version="11" MinorVersion="12">)"
+              R"(<UpdateRule Type="updateRule 13"><ProfileDescription>profileDescription 14</ProfileDescription>)"
+              "<ProfileName>profileName 15</ProfileName><Content>content 16</Content></UpdateRule>"
+              "<ProfileVersion>profileVersion 17</ProfileVersion><ToneCurve>toneCurve 18</ToneCurve>"
               "<ReflectBlackLevels>true</ReflectBlackLevels><Create3DLut>true</Create3DLut>"
               "<CreateLuminanceTag>true</CreateLuminanceTag></ProfilePolicy>");
 }
 
 TEST(ProfilePolicy, RuleAloneIsWrittenWithItsTypeAndNoChild) {
     ProfilePolicy record;
-    record.updateRule.set("Rule 1");
-    EXPECT_EQ(compact(record), written(R"(<UpdateRule Type="Rule 1"/>)"));
+    record.updateRule.set("updateRule 13");
+    EXPECT_EQ(compact(record), written(R"(<UpdateRule Type="updateRule 13"/>)"));
 }
 
 TEST(ProfilePolicy, EachTextOfTheRuleIsWrittenAloneInsideTheRule) {
     for (const auto& [name, member] : everyTextOfTheRule) {
         ProfilePolicy record;
-        record.updateRule.set("Rule 1");
+        record.updateRule.set("updateRule 13");
         (record.*member).set("text");
         EXPECT_EQ(compact(record), written(rule(element(name, "text"))));
         (record.*member).hasValue = false;
-        EXPECT_EQ(compact(record), written(R"(<UpdateRule Type="Rule 1"/>)"));
+        EXPECT_EQ(compact(record), written(R"(<UpdateRule Type="updateRule 13"/>)"));
     }
 }
 
@@ -222,7 +222,7 @@ TEST(ProfilePolicy, UpdateRuleWithoutATypeLeavesTheRuleUnsetAndIsDroppedWithItsC
 
 TEST(ProfilePolicy, AttributeOfTheRuleIsTypeInThisCaseOnly) {
     for (const char* attribute : {"type", "TYPE", "Rule"}) {
-        const auto record = parsedFrom(std::string("<UpdateRule ") + attribute + R"(="Rule 1"/>)");
+        const auto record = parsedFrom(std::string("<UpdateRule ") + attribute + R"(="updateRule 13"/>)");
         EXPECT_EQ(describe(record), describe(ProfilePolicy())) << attribute;
     }
 }
@@ -237,7 +237,7 @@ TEST(ProfilePolicy, ChildrenOfTheRuleDirectlyUnderTheRootAreNotFound) {
 
 TEST(ProfilePolicy, ChildrenOfTheRootInsideTheRuleAreNotFound) {
     ProfilePolicy expected;
-    expected.updateRule.set("Rule 1");
+    expected.updateRule.set("updateRule 13");
     for (const auto& [name, member] : everyTextOfTheRoot) {
         EXPECT_EQ(describe(parsedFrom(rule(element(name, "text")))), describe(expected)) << name;
     }

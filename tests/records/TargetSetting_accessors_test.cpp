@@ -50,7 +50,7 @@ TEST(TargetSettingAccessors, WhitePointReadsAndSetsTheChromaticityAlone) {
     EXPECT_EQ(describe(read.coordinate_x()), describe(chromaticity(0.3127, 0.329)));
     WhitePoint set = {"Temperature", 6500, 1, 2};
     set.coordinate_x(filled<colour>());
-    EXPECT_EQ(describe(set), describe(WhitePoint{"Temperature", 6500, 1100, 1200}));
+    EXPECT_EQ(describe(set), describe(WhitePoint{"Temperature", 6500, 2100, 2200}));
 }
 
 /// An accessor pair for a primary.
@@ -100,7 +100,7 @@ TEST_P(TargetSettingPrimaryAccess, ReadsAndSetsItsOwnChromaticityAlone) {
     EXPECT_EQ(describe((Gamut().*GetParam().get)()), describe(colour()));
     Gamut gamut = filled<TargetSetting>().gamut.value;
     Gamut expected = gamut;
-    expected.*GetParam().stored = {1100, 1200};
+    expected.*GetParam().stored = {2100, 2200};
     (gamut.*GetParam().set)(filled<colour>());
     EXPECT_EQ(describe(gamut), describe(expected));
 }

@@ -127,32 +127,32 @@ TEST(TargetSetting, FreshRecordWithTheSwitchWritesNoChildEither) {
 
 TEST(TargetSetting, FilledRecordWritesAllElementsOfItsTypesInOrder) {
     const std::string expected =
-        R"(<TargetSetting Version="41" MinorVersion="43">)"
-        "<LumivaleVersion>7.1.2</LumivaleVersion><FineContrast>Contrast 1</FineContrast>"
-        R"(<Brightness Type="Value"><Value>123</Value></Brightness>)"
-        R"(<BlackLevel Type="Value"><Value>24</Value></BlackLevel>)"
-        R"(<WhitePoint Type="Coordinate"><x>3127</x><y>3291</y></WhitePoint>)"
-        R"(<WhitePointV7 Type="Standard"><Standard>White 65</Standard></WhitePointV7>)"
-        R"(<Gamma><Red Type="Lut"><Lut>1|22|333</Lut></Red>)"
-        R"(<Green Type="Lut24"><Lut24>888|9999|16777215</Lut24></Green>)"
-        R"(<Blue Type="Formula"><Formula>223</Formula></Blue><HLGSystemGamma>126</HLGSystemGamma>)"
-        "<ImportedLutFile><FileName>curve2.txt</FileName></ImportedLutFile></Gamma>"
-        R"(<GammaV7 Type="Standard"><Standard>Curve 24</Standard></GammaV7>)"
-        R"(<Gamut><Red Type="Coordinate"><x>6401</x><y>3302</y></Red>)"
-        R"(<Green Type="Coordinate"><x>3003</x><y>6004</y></Green>)"
-        R"(<Blue Type="Coordinate"><x>1505</x><y>606</y></Blue>)"
-        "<ProfileName>Profile 3</ProfileName><GamutClipping><Value>45</Value></GamutClipping></Gamut>"
-        R"(<GamutV7 Type="Standard"><Standard>Gamut 709</Standard></GamutV7>)"
-        "<GrayBalance><Type>3</Type></GrayBalance><CreationType>Creation 4</CreationType>"
-        "<AdvancedSettings><hue>-31</hue><saturation>32</saturation>"
-        "<blackLevel><red>33</red><green>-34</green><blue>35</blue></blackLevel><sixColors>"
-        "<hue><red>1</red><green>-2</green><blue>3</blue>"
-        "<cyan>-4</cyan><magenta>5</magenta><yellow>-6</yellow></hue>"
-        "<saturation><red>-11</red><green>12</green><blue>-13</blue>"
-        "<cyan>14</cyan><magenta>-15</magenta><yellow>16</yellow></saturation>"
-        "<lightness><red>21</red><green>-22</green><blue>23</blue>"
-        "<cyan>-24</cyan><magenta>25</magenta><yellow>-26</yellow></lightness></sixColors></AdvancedSettings>"
-        "<OptimizeForLimited109>Limited 109</OptimizeForLimited109></TargetSetting>";
+        R"(<TargetSetting Version="11" MinorVersion="12">)"
+        "<LumivaleVersion>lumivaleVersion 13</LumivaleVersion><FineContrast>fineContrast 14</FineContrast>"
+        R"(<Brightness Type="Value"><Value>16</Value></Brightness>)"
+        R"(<BlackLevel Type="Value"><Value>18</Value></BlackLevel>)"
+        R"(<WhitePoint Type="Coordinate"><x>21</x><y>22</y></WhitePoint>)"
+        R"(<WhitePointV7 Type="Standard"><Standard>standard 24</Standard></WhitePointV7>)"
+        R"(<Gamma><Red Type="Lut24"><Lut24>29|30|31</Lut24></Red>)"
+        R"(<Green Type="Lut"><Lut>34|35</Lut></Green>)"
+        R"(<Blue Type="Formula"><Formula>40</Formula></Blue><HLGSystemGamma>47</HLGSystemGamma>)"
+        "<ImportedLutFile><FileName>fileName 48</FileName></ImportedLutFile></Gamma>"
+        R"(<GammaV7 Type="Standard"><Standard>standard 50</Standard></GammaV7>)"
+        R"(<Gamut><Red Type="Coordinate"><x>51</x><y>52</y></Red>)"
+        R"(<Green Type="Coordinate"><x>53</x><y>54</y></Green>)"
+        R"(<Blue Type="Coordinate"><x>55</x><y>56</y></Blue>)"
+        "<ProfileName>profileName 57</ProfileName><GamutClipping><Value>58</Value></GamutClipping></Gamut>"
+        R"(<GamutV7 Type="Standard"><Standard>standard 60</Standard></GamutV7>)"
+        "<GrayBalance><Type>61</Type></GrayBalance><CreationType>creationType 62</CreationType>"
+        "<AdvancedSettings><hue>63</hue><saturation>-64</saturation>"
+        "<blackLevel><red>65</red><green>-66</green><blue>67</blue></blackLevel><sixColors>"
+        "<hue><red>-68</red><green>69</green><blue>-70</blue>"
+        "<cyan>71</cyan><magenta>-72</magenta><yellow>73</yellow></hue>"
+        "<saturation><red>-74</red><green>75</green><blue>-76</blue>"
+        "<cyan>77</cyan><magenta>-78</magenta><yellow>79</yellow></saturation>"
+        "<lightness><red>-80</red><green>81</green><blue>-82</blue>"
+        "<cyan>83</cyan><magenta>-84</magenta><yellow>85</yellow></lightness></sixColors></AdvancedSettings>"
+        "<OptimizeForLimited109>optimizeForLimited109 86</OptimizeForLimited109></TargetSetting>";
     EXPECT_EQ(compact(filled<TargetSetting>()), expected);
 }
 
@@ -167,7 +167,7 @@ TEST(TargetSetting, EachMemberIsWrittenAloneAndOnlyWhenSet) {
 TEST(TargetSetting, NoMemberIsWrittenForTheValueBehindItsClearedFlag) {
     TargetSetting record = filledWithClearFlags();
     record.advancedSettings.value = filled<TargetSetting>().advancedSettings.value;
-    EXPECT_EQ(compact(record), R"(<TargetSetting Version="41" MinorVersion="43"/>)");
+    EXPECT_EQ(compact(record), R"(<TargetSetting Version="11" MinorVersion="12"/>)");
 }
 
 TEST(TargetSetting, EachMemberLeftOutChangesNoOther) {

@@ -34,7 +34,7 @@ protected:
         return with != read(document);
     }
 
-    lv::Description root_ = Record::describe();
+    Description root_ = Record::describe();
 };
 
 TYPED_TEST_SUITE(EveryRecordCondition, EveryRecord, RecordName);
@@ -156,8 +156,8 @@ TYPED_TEST(EveryRecordCondition, OfLengthsLetsTheseAndNoOthersBeWritten) {
 
 /// Whether the node is written even by a record that was just made.
 bool isWrittenAlways(const DescribedNode& node) {
-    return !node->isOptional && node->writtenWhen.empty() && node->repetition != lv::Description::Repetition::rows &&
-           node->place != lv::Description::Place::text && (!node.hasParent() || isWrittenAlways(node.parent()));
+    return !node->isOptional && node->writtenWhen.empty() && node->repetition != Description::Repetition::rows &&
+           node->place != Description::Place::text && (!node.hasParent() || isWrittenAlways(node.parent()));
 }
 
 TYPED_TEST(EveryRecordCondition, IsNeededByAllThatAFreshRecordDoesNotWrite) {
@@ -171,7 +171,7 @@ TYPED_TEST(EveryRecordCondition, IsNeededByAllThatAFreshRecordDoesNotWrite) {
 /// A constant is written back whatever the document had, and reading does not look at it, unless it is a key.
 TYPED_TEST(EveryRecordCondition, DoesNotDependOnConstants) {
     for (const DescribedNode& node : ownNodes(this->root_)) {
-        if (node->constant && node.parent()->repetition != lv::Description::Repetition::byKey) {
+        if (node->constant && node.parent()->repetition != Description::Repetition::byKey) {
             CompleteDocument document(this->root_);
             document.makeWritten(node);
             const TypeParam record = this->read(document);

@@ -13,13 +13,13 @@ namespace {
 using Kind = Condition::Kind;
 
 /// All conditions of a node with their alternatives.
-std::vector<Condition> conditionsOf(const lv::Description& node) {
+std::vector<Condition> conditionsOf(const Description& node) {
     std::vector<Condition> conditions = node.writtenWhen;
     conditions.insert(conditions.end(), node.readWhen.begin(), node.readWhen.end());
     if (node.flag) {
         conditions.push_back(*node.flag);
     }
-    for (const lv::Description::QuantityWhen& other : node.otherQuantities) {
+    for (const Description::QuantityWhen& other : node.otherQuantities) {
         conditions.push_back(other.condition);
     }
     for (std::size_t index = 0; index < conditions.size(); ++index) {
@@ -33,14 +33,13 @@ bool needsSubjects(const Condition& condition) {
     return condition.kind != Kind::anyOf && condition.kind != Kind::hlgSwitch;
 }
 
-bool isArray(const lv::Description& node) {
-    return node.content == lv::Description::Content::unsignedArray ||
-           node.content == lv::Description::Content::signedArray;
+bool isArray(const Description& node) {
+    return node.content == Description::Content::unsignedArray || node.content == Description::Content::signedArray;
 }
 
-bool isNumeric(const lv::Description& node) {
-    return isArray(node) || node.content == lv::Description::Content::unsignedNumber ||
-           node.content == lv::Description::Content::signedNumber;
+bool isNumeric(const Description& node) {
+    return isArray(node) || node.content == Description::Content::unsignedNumber ||
+           node.content == Description::Content::signedNumber;
 }
 
 template <class Record>
@@ -50,7 +49,7 @@ TYPED_TEST_SUITE(EveryRecordDescription, EveryRecord, RecordName);
 
 TYPED_TEST(EveryRecordDescription, BeginsWithTheRootElementAndItsVersions) {
     const TypeParam fresh;
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     EXPECT_EQ(root.name, TypeParam::rootElementName);
     EXPECT_EQ(root.record, TypeParam::rootElementName);
     EXPECT_EQ(root.version, fresh.version.value);
@@ -58,19 +57,19 @@ TYPED_TEST(EveryRecordDescription, BeginsWithTheRootElementAndItsVersions) {
     ASSERT_GT(root.children.size(), 2U);
     for (const auto& [attribute, name] : {std::pair(root.children[0], "Version"), {root.children[1], "MinorVersion"}}) {
         EXPECT_EQ(attribute.name, name);
-        EXPECT_EQ(attribute.place, lv::Description::Place::attribute);
-        EXPECT_EQ(attribute.content, lv::Description::Content::unsignedNumber);
+        EXPECT_EQ(attribute.place, Description::Place::attribute);
+        EXPECT_EQ(attribute.content, Description::Content::unsignedNumber);
         EXPECT_EQ(attribute.flag.value().toString(), ". has text");
     }
 }
 
 TYPED_TEST(EveryRecordDescription, NamesNothingTwiceUnderOneParent) {
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     for (const DescribedNode& node : withDescendants(DescribedNode(root))) {
         std::set<std::string> steps;
-        std::set<lv::Description::Content> texts;
-        for (const lv::Description& child : node->children) {
-            const bool isText = child.place == lv::Description::Place::text;
+        std::set<Description::Content> texts;
+        for (const Description& child : node->children) {
+            const bool isText = child.place == Description::Place::text;
             const bool isNew = isText ? texts.insert(child.content).second : steps.insert(child.xpathStep()).second;
             EXPECT_TRUE(isNew) << node.name() << " has " << child.xpathStep() << " twice";
         }
@@ -78,7 +77,7 @@ TYPED_TEST(EveryRecordDescription, NamesNothingTwiceUnderOneParent) {
 }
 
 TYPED_TEST(EveryRecordDescription, KnowsEverySubjectOfACondition) {
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     for (const DescribedNode& node : withDescendants(DescribedNode(root))) {
         for (const Condition& condition : conditionsOf(*node)) {
             EXPECT_NE(condition.subjects.empty(), needsSubjects(condition)) << node.name();
@@ -90,33 +89,33 @@ TYPED_TEST(EveryRecordDescription, KnowsEverySubjectOfACondition) {
 }
 
 TYPED_TEST(EveryRecordDescription, SaysOfEachNodeWhatGoesTogether) {
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     for (const DescribedNode& node : withDescendants(DescribedNode(root))) {
-        EXPECT_EQ(node->name.empty(), node->place == lv::Description::Place::text) << node.name();
+        EXPECT_EQ(node->name.empty(), node->place == Description::Place::text) << node.name();
         EXPECT_EQ(node->quantity.has_value(), isNumeric(*node)) << node.name();
         EXPECT_TRUE(node->lengths.empty() || isArray(*node)) << node.name();
         EXPECT_TRUE(!node->isOptional || node->flag) << node.name() << " has no flag that it could be written by";
-        EXPECT_EQ(node->keyAttribute.empty(), node->repetition != lv::Description::Repetition::byKey) << node.name();
-        EXPECT_EQ(node->children.empty(), node->content != lv::Description::Content::none) << node.name();
+        EXPECT_EQ(node->keyAttribute.empty(), node->repetition != Description::Repetition::byKey) << node.name();
+        EXPECT_EQ(node->children.empty(), node->content != Description::Content::none) << node.name();
     }
 }
 
 TYPED_TEST(EveryRecordDescription, HasKeysAsConstantAttributes) {
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     for (const DescribedNode& node : withDescendants(DescribedNode(root))) {
-        if (node->repetition == lv::Description::Repetition::byKey) {
+        if (node->repetition == Description::Repetition::byKey) {
             EXPECT_EQ(node.at('@' + node->keyAttribute)->constant, node->keyText) << node.name();
         }
     }
 }
 
 TYPED_TEST(EveryRecordDescription, HoldsNestedRecordsAsTheyDescribeThemselves) {
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     for (const DescribedNode& node : ownNodes(root)) {
         if (!node->record.empty() && node.hasParent()) {
             const RecordClass* const nested = recordClass(node->record);
             ASSERT_NE(nested, nullptr) << node.name();
-            const lv::Description alone = nested->describe();
+            const Description alone = nested->describe();
             EXPECT_EQ(node->name, alone.name);
             EXPECT_EQ(node->version, alone.version);
             EXPECT_EQ(node->minorVersion, alone.minorVersion);

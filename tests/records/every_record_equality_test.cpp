@@ -19,14 +19,14 @@ protected:
 TYPED_TEST_SUITE(EveryRecordEquality, EveryRecord, RecordName);
 
 /// Another text of the same kind than `sampleText` gives.
-std::string otherText(const lv::Description& node) {
+std::string otherText(const Description& node) {
     std::string text = sampleText(node);
     text.back() = text == "true" ? 'x' : '8';
     return text;
 }
 
 TYPED_TEST(EveryRecordEquality, HoldsForCopiesAndForTheSameDocument) {
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     CompleteDocument document(root);
     const TypeParam record = this->read(document);
     const TypeParam copy = record;
@@ -40,9 +40,9 @@ TYPED_TEST(EveryRecordEquality, HoldsForCopiesAndForTheSameDocument) {
 
 /// In nested records, too.
 TYPED_TEST(EveryRecordEquality, SeesEachValueThatADocumentHolds) {
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     for (const DescribedNode& node : withDescendants(DescribedNode(root))) {
-        if (node->content != lv::Description::Content::none && !node->constant) {
+        if (node->content != Description::Content::none && !node->constant) {
             CompleteDocument document(root);
             document.makeRead(node);
             const TypeParam record = this->read(document);
@@ -55,7 +55,7 @@ TYPED_TEST(EveryRecordEquality, SeesEachValueThatADocumentHolds) {
 
 /// But for flags that follow from a value, which stays as it was: the values do not differ without them.
 TYPED_TEST(EveryRecordEquality, SeesEachFlagThatADocumentSets) {
-    const lv::Description root = TypeParam::describe();
+    const Description root = TypeParam::describe();
     for (const DescribedNode& node : withDescendants(DescribedNode(root))) {
         if (node->flag && node->flag->kind != Condition::Kind::notEmpty && node.hasParent()) {
             CompleteDocument document(root);

@@ -27,25 +27,25 @@ std::string sampleArray(std::size_t entries) {
     return text;
 }
 
-std::string sampleText(const lv::Description& node) {
+std::string sampleText(const Description& node) {
     switch (node.content) {
-    case lv::Description::Content::none:
+    case Description::Content::none:
         return "";
-    case lv::Description::Content::string:
+    case Description::Content::string:
         return node.constant.value_or("text");
-    case lv::Description::Content::boolean:
+    case Description::Content::boolean:
         return "true";
-    case lv::Description::Content::unsignedNumber:
-    case lv::Description::Content::signedNumber:
+    case Description::Content::unsignedNumber:
+    case Description::Content::signedNumber:
         return "7";
-    case lv::Description::Content::unsignedArray:
-    case lv::Description::Content::signedArray:
+    case Description::Content::unsignedArray:
+    case Description::Content::signedArray:
         break;
     }
     return sampleArray(node.lengths.empty() ? 3 : node.lengths.front());
 }
 
-CompleteDocument::CompleteDocument(const lv::Description& root) {
+CompleteDocument::CompleteDocument(const Description& root) {
     addChildren(DescribedNode(root), *document_.InsertEndChild(document_.NewElement(root.name.c_str()))->ToElement());
 }
 
@@ -64,13 +64,13 @@ void CompleteDocument::addChildren(const DescribedNode& node, XMLElement& elemen
 void CompleteDocument::add(const DescribedNode& node, XMLElement& parent) {
     const std::string text = sampleText(*node);
     switch (node->place) {
-    case lv::Description::Place::attribute:
+    case Description::Place::attribute:
         parent.SetAttribute(node->name.c_str(), text.c_str());
         return;
-    case lv::Description::Place::text:
+    case Description::Place::text:
         parent.SetText(text.c_str());
         return;
-    case lv::Description::Place::element:
+    case Description::Place::element:
         break;
     }
     XMLElement& element = *parent.InsertNewChildElement(node->name.c_str());

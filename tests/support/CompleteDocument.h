@@ -14,7 +14,7 @@ namespace lv::test {
 /// length that counts. It can be changed so that conditions hold, or do not.
 class CompleteDocument {
 public:
-    explicit CompleteDocument(const lv::Description& root);
+    explicit CompleteDocument(const Description& root);
 
     [[nodiscard]] tinyxml2::XMLDocument& document() { return document_; }
     [[nodiscard]] std::string text();
@@ -45,7 +45,7 @@ private:
 };
 
 /// A text that a document can have in that place, which is not that of a fresh record.
-[[nodiscard]] std::string sampleText(const lv::Description& node);
+[[nodiscard]] std::string sampleText(const Description& node);
 
 /// An array of that many entries.
 [[nodiscard]] std::string sampleArray(std::size_t entries);

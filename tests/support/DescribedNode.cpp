@@ -11,15 +11,15 @@ namespace {
 
 using tinyxml2::XMLElement;
 
-bool isKeyed(const lv::Description& node) {
-    return node.repetition == lv::Description::Repetition::byKey;
+bool isKeyed(const Description& node) {
+    return node.repetition == Description::Repetition::byKey;
 }
 
-bool isLike(const XMLElement& element, const lv::Description& node) {
+bool isLike(const XMLElement& element, const Description& node) {
     return !isKeyed(node) || element.Attribute(node.keyAttribute.c_str(), node.keyText.c_str()) != nullptr;
 }
 
-XMLElement* childLike(XMLElement* parent, const lv::Description& node) {
+XMLElement* childLike(XMLElement* parent, const Description& node) {
     XMLElement* child = parent == nullptr ? nullptr : parent->FirstChildElement(node.name.c_str());
     while (child != nullptr && !isLike(*child, node)) {
         child = child->NextSiblingElement(node.name.c_str());
@@ -40,13 +40,13 @@ void addWithDescendants(const DescribedNode& node, bool entersRecords, std::vect
 
 std::vector<DescribedNode> DescribedNode::children() const {
     std::vector<DescribedNode> children;
-    for (const lv::Description& description : path_.back()->children) {
+    for (const Description& description : path_.back()->children) {
         children.push_back(child(description));
     }
     return children;
 }
 
-DescribedNode DescribedNode::child(const lv::Description& description) const {
+DescribedNode DescribedNode::child(const Description& description) const {
     DescribedNode node = *this;
     node.path_.push_back(&description);
     return node;
@@ -66,7 +66,7 @@ DescribedNode DescribedNode::step(const std::string& step) const {
         return hasParent() ? parent() : throw std::out_of_range(name() + " has no parent");
     }
     const auto& all = path_.back()->children;
-    const auto isMeant = [&](const lv::Description& node) {
+    const auto isMeant = [&](const Description& node) {
         return node.xpathStep() == step;
     };
     if (std::count_if(all.begin(), all.end(), isMeant) == 0) {
@@ -86,7 +86,7 @@ DescribedNode DescribedNode::at(const std::string& xpath) const {
 
 std::string DescribedNode::name() const {
     std::string name;
-    for (const lv::Description* const node : path_) {
+    for (const Description* const node : path_) {
         name += (name.empty() ? "" : "/") + node->xpathStep();
     }
     return name;
@@ -95,7 +95,7 @@ std::string DescribedNode::name() const {
 XMLElement* DescribedNode::elementIn(tinyxml2::XMLDocument& document) const {
     XMLElement* element = document.FirstChildElement(path_.front()->name.c_str());
     for (auto node = path_.begin() + 1; node != path_.end(); ++node) {
-        if ((*node)->place == lv::Description::Place::element) {
+        if ((*node)->place == Description::Place::element) {
             element = childLike(element, **node);
         }
     }
@@ -105,11 +105,11 @@ XMLElement* DescribedNode::elementIn(tinyxml2::XMLDocument& document) const {
 bool DescribedNode::isIn(tinyxml2::XMLDocument& document) const {
     const XMLElement* const element = elementIn(document);
     switch (path_.back()->place) {
-    case lv::Description::Place::attribute:
+    case Description::Place::attribute:
         return element != nullptr && element->Attribute(path_.back()->name.c_str()) != nullptr;
-    case lv::Description::Place::text:
+    case Description::Place::text:
         return element != nullptr && element->GetText() != nullptr;
-    case lv::Description::Place::element:
+    case Description::Place::element:
         break;
     }
     return element != nullptr;
@@ -117,7 +117,7 @@ bool DescribedNode::isIn(tinyxml2::XMLDocument& document) const {
 
 std::string DescribedNode::text(tinyxml2::XMLDocument& document) const {
     const XMLElement* const element = elementIn(document);
-    const bool isAttribute = path_.back()->place == lv::Description::Place::attribute;
+    const bool isAttribute = path_.back()->place == Description::Place::attribute;
     const char* const text = element == nullptr ? nullptr
                              : isAttribute      ? element->Attribute(path_.back()->name.c_str())
                                                 : element->GetText();
@@ -129,7 +129,7 @@ void DescribedNode::setText(tinyxml2::XMLDocument& document, const std::string& 
     if (element == nullptr) {
         throw std::logic_error(name() + " is not in the document");
     }
-    if (path_.back()->place == lv::Description::Place::attribute) {
+    if (path_.back()->place == Description::Place::attribute) {
         element->SetAttribute(path_.back()->name.c_str(), text.c_str());
     } else if (text.empty()) {
         element->DeleteChildren();
@@ -144,13 +144,13 @@ void DescribedNode::removeFrom(tinyxml2::XMLDocument& document) const {
         return;
     }
     switch (path_.back()->place) {
-    case lv::Description::Place::attribute:
+    case Description::Place::attribute:
         element->DeleteAttribute(path_.back()->name.c_str());
         return;
-    case lv::Description::Place::text:
+    case Description::Place::text:
         element->DeleteChildren();
         return;
-    case lv::Description::Place::element:
+    case Description::Place::element:
         element->Parent()->DeleteChild(element);
     }
 }
@@ -161,7 +161,7 @@ std::vector<DescribedNode> withDescendants(const DescribedNode& node) {
     return all;
 }
 
-std::vector<DescribedNode> ownNodes(const lv::Description& record) {
+std::vector<DescribedNode> ownNodes(const Description& record) {
     std::vector<DescribedNode> all;
     addWithDescendants(DescribedNode(record), false, all);
     return all;

@@ -17,10 +17,10 @@ namespace lv::test {
 class DescribedNode {
 public:
     /// The root; the description must outlive all nodes.
-    explicit DescribedNode(const lv::Description& root) : path_{&root} {}
+    explicit DescribedNode(const Description& root) : path_{&root} {}
 
-    [[nodiscard]] const lv::Description& operator*() const { return *path_.back(); }
-    [[nodiscard]] const lv::Description* operator->() const { return path_.back(); }
+    [[nodiscard]] const Description& operator*() const { return *path_.back(); }
+    [[nodiscard]] const Description* operator->() const { return path_.back(); }
 
     [[nodiscard]] std::vector<DescribedNode> children() const;
     [[nodiscard]] bool hasParent() const { return path_.size() > 1; }
@@ -44,17 +44,17 @@ public:
     void removeFrom(tinyxml2::XMLDocument& document) const;
 
 private:
-    [[nodiscard]] DescribedNode child(const lv::Description& description) const;
+    [[nodiscard]] DescribedNode child(const Description& description) const;
     [[nodiscard]] DescribedNode step(const std::string& step) const;
     [[nodiscard]] tinyxml2::XMLElement* elementIn(tinyxml2::XMLDocument& document) const;
 
-    std::vector<const lv::Description*> path_;
+    std::vector<const Description*> path_;
 };
 
 /// The node and all that it holds, in the order of writing.
 [[nodiscard]] std::vector<DescribedNode> withDescendants(const DescribedNode& node);
 
 /// The same without what nested records hold, which those describe themselves.
-[[nodiscard]] std::vector<DescribedNode> ownNodes(const lv::Description& record);
+[[nodiscard]] std::vector<DescribedNode> ownNodes(const Description& record);
 
 }  // namespace lv::test

@@ -6,47 +6,17 @@
 
 #include <gtest/gtest.h>
 
-#include <lvdata/records/AssetInfo.h>
-#include <lvdata/records/BasicData.h>
-#include <lvdata/records/CalibrationModeResult.h>
-#include <lvdata/records/CandelaMap.h>
-#include <lvdata/records/ColorModeSettings.h>
-#include <lvdata/records/CorrelationInfo.h>
-#include <lvdata/records/MeasurementData.h>
-#include <lvdata/records/MeasurementDataSecondary.h>
-#include <lvdata/records/MonitorConfiguration.h>
-#include <lvdata/records/MonitorInfo.h>
-#include <lvdata/records/MonitorParameter.h>
-#include <lvdata/records/ParameterSetting.h>
-#include <lvdata/records/ProfileData.h>
-#include <lvdata/records/ProfilePolicy.h>
-#include <lvdata/records/SelfCalibrationSchedule.h>
-#include <lvdata/records/StandardModeResult.h>
-#include <lvdata/records/TargetSetting.h>
+#include <lvdata/records/EveryRecord.h>
 
 #include <string>
 
 namespace lv::test {
 
-/// What the tests run for that must hold for every record. A new record is one line here.
-using EveryRecord = ::testing::Types<  //
-    AssetInfo,                         //
-    BasicData,                         //
-    CalibrationModeResult,             //
-    CandelaMap,                        //
-    ColorModeSettings,                 //
-    CorrelationInfo,                   //
-    MeasurementData,                   //
-    MeasurementDataSecondary,          //
-    MonitorConfiguration,              //
-    MonitorInfo,                       //
-    MonitorParameter,                  //
-    ParameterSetting,                  //
-    ProfileData,                       //
-    ProfilePolicy,                     //
-    SelfCalibrationSchedule,           //
-    StandardModeResult,                //
-    TargetSetting>;
+template <class... Records>
+::testing::Types<Records...> typesOf(RecordTypes<Records...> /*list*/);
+
+/// What the tests run for that must hold for every record.
+using EveryRecord = decltype(typesOf(lv::EveryRecord()));
 
 /// Names the tests after their record.
 struct RecordName {

@@ -1,18 +1,18 @@
 #pragma once
 
-#include <tests/support/Description.h>
+#include <tests/support/Member.h>
 
 namespace lv::test {
 
 /// The members that every structure of six colours has.
 template <class SixColours>
-void describeSixColours(Description& out, const SixColours& colours) {
-    out.member("red", colours.red);
-    out.member("green", colours.green);
-    out.member("blue", colours.blue);
-    out.member("cyan", colours.cyan);
-    out.member("magenta", colours.magenta);
-    out.member("yellow", colours.yellow);
+void membersOfSixColours(MemberList& list, SixColours& colours) {
+    list.add("red", colours.red);
+    list.add("green", colours.green);
+    list.add("blue", colours.blue);
+    list.add("cyan", colours.cyan);
+    list.add("magenta", colours.magenta);
+    list.add("yellow", colours.yellow);
 }
 
 }  // namespace lv::test

@@ -2,66 +2,75 @@
 
 #include <tests/support/describe.h>
 
+#include <string>
+#include <vector>
+
 namespace lv::test {
 
-/// What the getters of a record compute from its members; those of the records that have any.
-inline void describeGetters(Description& /*out*/, const DataObject& /*record*/) {}
+// What the getters of a record compute from its members; those of the records that have any.
 
-inline void describeGetters(Description& out, const BasicData& record) {
-    out.member("correlationTargetWhite_x", record.correlationTargetWhite_x());
-    out.member("justCalibratedWhite_x", record.justCalibratedWhite_x());
+inline std::string shown(const std::vector<double>& values) {
+    std::string text;
+    for (const double value : values) {
+        text += describe(value) + ' ';
+    }
+    return text;
 }
 
-inline void describeGetters(Description& out, const MeasurementData& record) {
-    out.member("getRootElementName", record.getRootElementName());
+template <class T>
+std::string shown(const T& value) {
+    return describe(value);
+}
+
+/// The values, a line each.
+template <class... Ts>
+std::string linesOf(const Ts&... values) {
+    return ((shown(values) + '\n') + ...);
+}
+
+inline std::string gettersOf(const DataObject& /*record*/) {
+    return "";
+}
+
+inline std::string gettersOf(const BasicData& record) {
+    return linesOf(record.correlationTargetWhite_x(), record.justCalibratedWhite_x());
+}
+
+inline std::string gettersOf(const MeasurementData& record) {
+    std::string text = linesOf(record.getRootElementName());
     for (const MeasurementDataObject& row : record.objects) {
-        out.member("RGB_x", row.RGB_x());
-        out.member("CMYK_x", row.CMYK_x());
-        out.member("XYZ_x", row.XYZ_x());
-        out.member("CIELAB_x", row.CIELAB_x());
-        out.member("PQR_x", row.PQR_x());
+        text += linesOf(row.RGB_x(), row.CMYK_x(), row.XYZ_x(), row.CIELAB_x(), row.PQR_x());
     }
+    return text;
 }
 
-inline void describeGetters(Description& out, const MonitorParameter& record) {
-    out.member("redLUT_x", record.redLUT_x());
-    out.member("greenLUT_x", record.greenLUT_x());
-    out.member("blueLUT_x", record.blueLUT_x());
-    out.member("hlgSystemGamma_x", record.hlgSystemGamma_x());
-    out.member("redGain_x", record.redGain_x());
-    out.member("greenGain_x", record.greenGain_x());
-    out.member("blueGain_x", record.blueGain_x());
-    out.member("emulationMatrix_x", record.emulationMatrix_x());
+inline std::string gettersOf(const MonitorParameter& record) {
+    return linesOf(record.redLUT_x(), record.greenLUT_x(), record.blueLUT_x(), record.hlgSystemGamma_x(),
+                   record.redGain_x(), record.greenGain_x(), record.blueGain_x(), record.emulationMatrix_x());
 }
 
-inline void describeGetters(Description& out, const ParameterSetting& record) {
-    out.member("value_x", record.gamma.value.value_x());
-    out.member("hlgSystemGamma_x", record.gamma.value.hlgSystemGamma_x());
+inline std::string gettersOf(const ParameterSetting& record) {
+    return linesOf(record.gamma.value.value_x(), record.gamma.value.hlgSystemGamma_x());
 }
 
-inline void describeGetters(Description& out, const ProfileData& record) {
-    out.member("measuredXYZ_x", record.measuredXYZ_x());
-    out.member("measuredXYZLimited109_x", record.measuredXYZLimited109_x());
+inline std::string gettersOf(const ProfileData& record) {
+    std::string text = linesOf(record.measuredXYZ_x(), record.measuredXYZLimited109_x());
     for (const auto* curve : {&record.redTargetCurve, &record.greenTargetCurve, &record.blueTargetCurve}) {
-        out.member("formula_x", curve->value.formula_x());
-        out.member("lut_x", curve->value.lut_x());
+        text += linesOf(curve->value.formula_x(), curve->value.lut_x());
     }
+    return text;
 }
 
-inline void describeGetters(Description& out, const TargetSetting& record) {
+inline std::string gettersOf(const TargetSetting& record) {
     const TargetSetting::gamma_t& gamma = record.gamma.value;
-    out.member("coordinate_x", record.whitePoint.value.coordinate_x());
+    const TargetSetting::gamut_t& gamut = record.gamut.value;
+    std::string text =
+        linesOf(record.whitePoint.value.coordinate_x(), gamma.importedLutFile.fileName_x(), gamma.hlgSystemGamma_x(),
+                gamut.isNative(), gamut.red_x(), gamut.green_x(), gamut.blue_x());
     for (const auto* color : {&gamma.red, &gamma.green, &gamma.blue}) {
-        out.member("formula_x", color->formula_x());
-        out.member("lut_x", color->lut_x());
-        out.member("lut24_x", color->lut24_x());
+        text += linesOf(color->formula_x(), color->lut_x(), color->lut24_x());
     }
-    out.member("fileName_x", gamma.importedLutFile.fileName_x());
-    out.member("hlgSystemGamma_x", gamma.hlgSystemGamma_x());
-    out.member("isNative", record.gamut.value.isNative());
-    out.member("red_x", record.gamut.value.red_x());
-    out.member("green_x", record.gamut.value.green_x());
-    out.member("blue_x", record.gamut.value.blue_x());
+    return text;
 }
 
 }  // namespace lv::test

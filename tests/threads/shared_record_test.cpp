@@ -15,10 +15,7 @@ TYPED_TEST_SUITE(SharedRecordInThreads, EveryRecord, RecordName);
 
 template <class Record>
 std::string membersAndGettersOf(const Record& record) {
-    Description out;
-    describe(out, record);
-    describeGetters(out, record);
-    return out.text();
+    return describe(record) + gettersOf(record);
 }
 
 TYPED_TEST(SharedRecordInThreads, IsReadAndPrintedAsInOneThread) {

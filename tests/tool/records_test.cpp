@@ -1,6 +1,9 @@
 #include "ToolTest.h"
 
 #include <tests/support/repeated.h>
+#include <tests/support/samples.h>
+
+#include <lvdata/records/EveryRecord.h>
 
 #include <algorithm>
 #include <iterator>
@@ -83,7 +86,7 @@ TEST_F(Records, AHostileNameKeepsToOneLine) {
 /// A document just as the tool prints it, compact and without declaration.
 struct Sample {
     std::string name;
-    std::string document;
+    std::string (*document)();
 };
 
 void PrintTo(const Sample& sample, std::ostream* out) {
@@ -94,58 +97,22 @@ class RecordContent : public ToolTest, public testing::WithParamInterface<Sample
 
 TEST_P(RecordContent, GoesThroughWhole) {
     const std::vector<std::string> command{"format", "-", "--compact", "--no-declaration"};
-    EXPECT_EQ(run(command, {GetParam().document}), printed(GetParam().document + '\n'));
+    const std::string document = GetParam().document();
+    EXPECT_EQ(run(command, {document}), printed(document + '\n'));
 }
 
-std::string element(const std::string& name, const std::string& text) {
-    return "<" + name + ">" + text + "</" + name + ">";
+/// Without the elements that are left out unless they are asked for.
+template <class Record>
+std::string printedSample() {
+    return lv::test::compact(lv::test::filledAndParsedBack<Record>());
 }
 
-std::string table(const std::string& name, unsigned int step) {
-    std::string entries = "0";
-    for (unsigned int entry = 1; entry < 1024; ++entry) {
-        entries += '|' + std::to_string(entry * step);
-    }
-    return element(name, entries);
+template <class... Records>
+std::vector<Sample> samplesOf(lv::RecordTypes<Records...> /*list*/) {
+    return {{Records::rootElementName, &printedSample<Records>}...};
 }
 
-std::string sixColours(const std::string& adjustment) {
-    std::string elements;
-    int value = -3;
-    for (const std::string colour : {"Red", "Green", "Blue", "Cyan", "Magenta", "Yellow"}) {
-        elements += element(colour + adjustment, std::to_string(value++));
-    }
-    return elements;
-}
-
-std::string monitorParameter() {
-    return R"(<MonitorParameter Version="4" MinorVersion="0">)" + element("Brightness", "120") +
-           element("Contrast", "50") + element("isHDRLUT", "1") + table("RedLUT", 977517) + table("GreenLUT", 977516) +
-           table("BlueLUT", 977515) + element("HLGSystemGamma", "120") + element("HLGClipping", "1") +
-           sixColours("Hue") + sixColours("Saturation") + sixColours("Lightness") + element("RedGain", "1000000") +
-           element("GreenGain", "999999") + element("BlueGain", "4294967295") +
-           element("EmulationMatrix", "1000000|0|-1|0|1000000|0|-299999|0|1000000") +
-           element("Limited109Setting", "2") + "</MonitorParameter>";
-}
-
-const std::vector<Sample> samples{
-    {"AssetInfo",
-     "<AssetInfo Version=\"1\" MinorVersion=\"0\"><Asset1>Room 4</Asset1><Asset3></Asset3><Asset8>0007</Asset8>"
-     "</AssetInfo>"},
-    {"CorrelationInfo", "<CorrelationInfo Version=\"1\" MinorVersion=\"7\"><ReferenceSensorID>012</ReferenceSensorID>"
-                        "<ReferenceSensorSerial>S 1</ReferenceSensorSerial><CorrelationDate>yesterday</CorrelationDate>"
-                        "</CorrelationInfo>"},
-    {"MeasurementData",
-     "<MeasurementData Version=\"2\" MinorVersion=\"0\"><Measurements><RGB>0|128|255</RGB><CMYK>0|10|20|100</CMYK>"
-     "<XYZ>950470|1000000|-3</XYZ><CIELAB>1|2|3</CIELAB><PQR>4|5|6</PQR></Measurements>"
-     "<Measurements><PQR>7|8|9</PQR></Measurements></MeasurementData>"},
-    {"MeasurementDataSecondary",
-     "<MeasurementDataSecondary Version=\"2\" MinorVersion=\"0\"><Measurements><RGB>1|2|3</RGB></Measurements>"
-     "</MeasurementDataSecondary>"},
-    {"MonitorParameter", monitorParameter()},
-};
-
-INSTANTIATE_TEST_SUITE_P(Records, RecordContent, testing::ValuesIn(samples),
+INSTANTIATE_TEST_SUITE_P(Records, RecordContent, testing::ValuesIn(samplesOf(lv::EveryRecord())),
                          [](const auto& test) { return test.param.name; });
 
 }  // namespace
