@@ -8,16 +8,16 @@ namespace lv {
 /// What a stored number stands for: the value is the stored integer divided by the factor, in the unit.
 struct Quantity {
     /// The name of the constant, such as "gain".
-    std::string_view name;
+    std::string_view name{};
 
     /// The stored integer is the value times this: 1 for a number that is stored as it is.
-    std::uint32_t factor;
+    std::uint32_t factor = 1;
 
     /// The unit of the value. Empty: it has none, as a ratio. `unknownUnit`: the records do not say.
-    std::string_view unit;
+    std::string_view unit{};
 
     /// What the value is, in a few words.
-    std::string_view meaning;
+    std::string_view meaning{};
 
     /// Each quantity has a name of its own.
     friend constexpr bool operator==(const Quantity& left, const Quantity& right) { return left.name == right.name; }

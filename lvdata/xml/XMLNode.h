@@ -18,7 +18,7 @@ class WrapperMark;
 ///
 /// `const` refers to the wrapper, not to the node: changing the node leaves the handle as it is. A document and all
 /// wrappers into it belong to one thread at a time.
-class LVDATA_EXPORT XMLNode {
+class LVDATA_EXPORT XMLNode {  // NOLINT(*-special-member-functions): moving a handle is copying it
 public:
     /// An invalid wrapper, which has no node.
     XMLNode() = default;
@@ -34,7 +34,7 @@ public:
     XMLNode(const XMLNode& other) : node_(other.get()) {}
 
     /// Lets this wrapper refer to the same node as `other`. No node is changed.
-    XMLNode& operator=(const XMLNode& other) {  // NOLINT(cert-oop54-cpp): to itself the handle is the same
+    XMLNode& operator=(const XMLNode& other) {  // NOLINT(*-unhandled-self-assignment,cert-oop54-cpp): the same handle
         node_ = other.get();
         return *this;
     }

@@ -1,12 +1,12 @@
-#include <tests/support/every_record.h>
 #include <tests/support/golden.h>
 #include <tests/support/lines.h>
 
 #include <gtest/gtest.h>
 
+#include <lvdata/records/RecordClass.h>
+
 #include <algorithm>
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -16,24 +16,6 @@
 
 namespace lv::test {
 namespace {
-
-using Maker = std::unique_ptr<DataObject> (*)();
-using Makers = std::map<std::string, Maker>;
-
-template <class Record>
-std::unique_ptr<DataObject> make() {
-    return std::make_unique<Record>();
-}
-
-template <class... Records>
-Makers makersOf(::testing::Types<Records...> /*list*/) {
-    return {{Records::rootElementName, &make<Records>}...};
-}
-
-const Makers& makers() {
-    static const Makers all = makersOf(EveryRecord());
-    return all;
-}
 
 /// A document and the text expected of it.
 struct Golden {
@@ -64,8 +46,8 @@ std::vector<Golden> goldenOf(const std::string& record) {
 
 std::vector<Golden> everyGolden() {
     std::vector<Golden> all;
-    for (const auto& [record, maker] : makers()) {
-        const std::vector<Golden> found = goldenOf(record);
+    for (const RecordClass& each : RecordClasses()) {
+        const std::vector<Golden> found = goldenOf(each.name);
         all.insert(all.end(), found.begin(), found.end());
     }
     return all;
@@ -75,7 +57,7 @@ class GoldenDocument : public ::testing::TestWithParam<Golden> {
 protected:
     /// A fresh record that has read the text; a refusal fails the test.
     static std::unique_ptr<DataObject> parsedFrom(const std::string& text) {
-        std::unique_ptr<DataObject> record = makers().at(GetParam().record)();
+        std::unique_ptr<DataObject> record = recordClass(GetParam().record)->make();
         record->writeHLGSystemGamma = GetParam().writeHLGSystemGamma;
         EXPECT_TRUE(record->parseXMLString(text)) << text;
         return record;
@@ -108,20 +90,20 @@ TEST_P(GoldenDocument, CompactTextSaysTheSame) {
 }
 
 TEST(GoldenFolders, EveryRecordHasDocuments) {
-    for (const auto& [record, maker] : makers()) {
-        EXPECT_FALSE(goldenOf(record).empty()) << record;
+    for (const RecordClass& each : RecordClasses()) {
+        EXPECT_FALSE(goldenOf(each.name).empty()) << each.name;
     }
 }
 
 TEST(GoldenFolders, EveryFolderBelongsToARecord) {
     for (const fs::path& folder : goldenFilesOf("")) {
-        EXPECT_EQ(makers().count(folder.filename().string()), 1U) << folder;
+        EXPECT_NE(recordClass(folder.filename().string()), nullptr) << folder;
     }
 }
 
 TEST(GoldenFolders, EveryDocumentHasItsExpectedText) {
-    for (const auto& [record, maker] : makers()) {
-        for (const fs::path& file : goldenFilesOf(record)) {
+    for (const RecordClass& each : RecordClasses()) {
+        for (const fs::path& file : goldenFilesOf(each.name)) {
             std::string name = file.filename().string();
             if (!removeEnd(name, expectedEnd)) {
                 EXPECT_TRUE(removeEnd(name, documentEnd)) << file;

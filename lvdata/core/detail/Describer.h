@@ -48,7 +48,7 @@ constexpr Description::Content contentOf<std::vector<int>>() {
 
 /// The quantities of a member: the usual one, and others that conditions choose.
 struct DraftQuantity {
-    const Quantity* usual;
+    const Quantity* usual = nullptr;
     const DraftQuantityWhen* others = nullptr;
     std::size_t count = 0;
 };

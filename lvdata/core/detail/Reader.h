@@ -93,7 +93,7 @@ public:
     /// That element as the wrapper that applications know.
     [[nodiscard]] XMLElement xmlElement() const { return toHandle(element_); }
 
-    [[nodiscard]] Reader element(const char* name) const { return Reader(children_.find(name), isAsParsed_); }
+    [[nodiscard]] Reader element(const char* name) const { return {children_.find(name), isAsParsed_}; }
 
     static void derive(bool& flag, bool found) { flag = found; }
 

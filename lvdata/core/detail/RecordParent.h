@@ -23,7 +23,7 @@ public:
 
     /// For a record that another one holds by value, so that it is of the library's own class.
     [[nodiscard]] static RecordParent nestedIn(const XMLNode& element, const DataObject& nested, const Writer& writer) {
-        return RecordParent(element, nested, writer, true);
+        return {element, nested, writer, true};
     }
 
     RecordParent(const RecordParent&) = delete;
@@ -37,7 +37,9 @@ public:
         if (!WrapperMark::isMarkedParent(parent)) {
             return nullptr;
         }
-        const auto* const marked = static_cast<const RecordParent*>(&parent);  // no other node is marked, and no copy
+        // No other node is marked, and no copy; a cast that asks would need RTTI.
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast)
+        const auto* const marked = static_cast<const RecordParent*>(&parent);
         return &marked->record_ == &record ? marked : nullptr;
     }
 

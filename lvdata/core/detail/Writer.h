@@ -61,7 +61,7 @@ public:
     /// That element as the wrapper that applications know; invalid when it has become text.
     [[nodiscard]] XMLElement xmlElement() const { return toHandle(output_.node()); }
 
-    [[nodiscard]] Writer element(const char* name) const { return Writer(output_.append(name), writeHLGSystemGamma_); }
+    [[nodiscard]] Writer element(const char* name) const { return {output_.append(name), writeHLGSystemGamma_}; }
 
     /// Nothing more comes into the elements appended so far, and their names need not live any longer.
     void finishElements() const { output_.finish(); }
@@ -168,7 +168,7 @@ public:
     }
 
 private:
-    [[nodiscard]] Writer closed() const { return Writer(Output(), writeHLGSystemGamma_); }
+    [[nodiscard]] Writer closed() const { return {Output(), writeHLGSystemGamma_}; }
 
     template <class Row, class Visit>
     void row(const char* name, const Row& row, Visit visit) {

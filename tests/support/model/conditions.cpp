@@ -41,19 +41,8 @@ bool isSet(const Node& node) {
     return *node.flag;
 }
 
-bool hasZero(const Node& node) {
-    const auto* const number = node.hasPlace ? std::get_if<unsigned int*>(&node.place) : nullptr;
-    return (number != nullptr && **number == 0) ||
-           std::any_of(node.children.begin(), node.children.end(), [](const auto& child) { return hasZero(*child); });
-}
-
-/// The rules in words, each by hand.
-bool isKept(const std::string& rule, const Node& node) {
-    if (rule != "no coordinate of the primaries is 0") {
-        throw std::logic_error("unknown rule, to be added here: " + rule);
-    }
-    const auto& siblings = node.parent->children;
-    return std::none_of(siblings.begin(), siblings.begin() + 3, [](const auto& primary) { return hasZero(*primary); });
+bool isNotZero(const Node& node) {
+    return *std::get<unsigned int*>(placeOf(node)) != 0;
 }
 
 /// Whether what is true of a node is true of the subjects.
@@ -66,6 +55,14 @@ bool ofAll(const Condition& condition, const Node& node, Test test) {
 template <class Test>
 bool ofAny(const Condition& condition, const Node& node, Test test) {
     return !ofAll(condition, node, [&test](const Node& subject) { return !test(subject); });
+}
+
+/// The rules in words, each by hand.
+bool isKept(const Condition& condition, const Node& node) {
+    if (condition.rule != "no coordinate of the primaries is 0") {
+        throw std::logic_error("unknown rule, to be added here: " + condition.rule);
+    }
+    return ofAll(condition, node, &isNotZero);
 }
 
 }  // namespace
@@ -94,7 +91,7 @@ bool holds(const Condition& condition, const Node& node, bool hlgSwitch) {
     case Condition::Kind::rule:
         break;
     }
-    return isKept(condition.rule, node);
+    return isKept(condition, node);
 }
 
 bool allHold(const std::vector<Condition>& conditions, const Node& node, bool hlgSwitch) {
