@@ -96,13 +96,34 @@ bool FailingAllocation::happened() {
 
 }  // namespace lv::test
 
-// Both pairs, so that each knows its caller; what the standard library adds to them ends here, too.
+namespace {
+
+void* allocateOrNull(std::size_t size, const void* caller) noexcept {
+    try {
+        return lv::test::allocate(size, caller);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+}  // namespace
+
+// All pairs, so that each knows its caller. Those that return null would end here, too, but for the address sanitizer,
+// which has its own.
 void* operator new(std::size_t size) {
     return lv::test::allocate(size, __builtin_return_address(0));
 }
 
 void* operator new[](std::size_t size) {
     return lv::test::allocate(size, __builtin_return_address(0));
+}
+
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    return allocateOrNull(size, __builtin_return_address(0));
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    return allocateOrNull(size, __builtin_return_address(0));
 }
 
 void operator delete(void* memory) noexcept {
