@@ -72,18 +72,18 @@ const T* endOf(const T* begin, std::size_t count) {
 
 const DraftCondition* draftComparison(Draft& draft, Condition::Kind kind, const void* subject,
                                       const std::string_view* texts, std::size_t count) {
-    DraftCondition said{{kind}, Members{subject}};
-    std::transform(texts, endOf(texts, count), std::back_inserter(said.words.texts),
+    DraftCondition condition{{kind}, Members{subject}};
+    std::transform(texts, endOf(texts, count), std::back_inserter(condition.words.texts),
                    [](std::string_view text) { return std::string(text); });
-    return draft.keep(std::move(said));
+    return draft.keep(std::move(condition));
 }
 
 const DraftCondition* draftComparison(Draft& draft, Condition::Kind kind, const void* subject,
                                       const unsigned int* numbers, std::size_t count) {
-    DraftCondition said{{kind}, Members{subject}};
-    std::transform(numbers, endOf(numbers, count), std::back_inserter(said.words.texts),
+    DraftCondition condition{{kind}, Members{subject}};
+    std::transform(numbers, endOf(numbers, count), std::back_inserter(condition.words.texts),
                    [](unsigned int number) { return std::to_string(number); });
-    return draft.keep(std::move(said));
+    return draft.keep(std::move(condition));
 }
 
 const DraftCondition* draftOfOne(Draft& draft, Condition::Kind kind, const void* subject) {
@@ -91,16 +91,16 @@ const DraftCondition* draftOfOne(Draft& draft, Condition::Kind kind, const void*
 }
 
 const DraftCondition* draftEntries(Draft& draft, std::size_t entries, const void* const* subjects, std::size_t count) {
-    DraftCondition said{{Condition::Kind::haveEntries}};
-    std::copy_n(subjects, count, std::back_inserter(said.subjects));
-    said.words.entries = entries;
-    return draft.keep(std::move(said));
+    DraftCondition condition{{Condition::Kind::haveEntries}};
+    std::copy_n(subjects, count, std::back_inserter(condition.subjects));
+    condition.words.entries = entries;
+    return draft.keep(std::move(condition));
 }
 
 const DraftCondition* draftAnyOf(Draft& draft, const DraftCondition* const* alternatives, std::size_t count) {
-    DraftCondition said{{Condition::Kind::anyOf}};
-    std::copy_n(alternatives, count, std::back_inserter(said.alternatives));
-    return draft.keep(std::move(said));
+    DraftCondition condition{{Condition::Kind::anyOf}};
+    std::copy_n(alternatives, count, std::back_inserter(condition.alternatives));
+    return draft.keep(std::move(condition));
 }
 
 const DraftCondition* draftHLGSwitch(Draft& draft) {
@@ -108,10 +108,10 @@ const DraftCondition* draftHLGSwitch(Draft& draft) {
 }
 
 const DraftCondition* draftRule(Draft& draft, const char* words, const void* const* subjects, std::size_t count) {
-    DraftCondition said{{Condition::Kind::rule}};
-    said.words.rule = words;
-    std::copy_n(subjects, count, std::back_inserter(said.subjects));
-    return draft.keep(std::move(said));
+    DraftCondition condition{{Condition::Kind::rule}};
+    condition.words.rule = words;
+    std::copy_n(subjects, count, std::back_inserter(condition.subjects));
+    return draft.keep(std::move(condition));
 }
 
 DraftNode& Draft::addChild(DraftNode& parent) {
@@ -126,9 +126,9 @@ DraftNodes Draft::nodesOf(const void* member) const {
     return found == nodes_.end() ? DraftNodes() : found->second;
 }
 
-Condition Draft::finished(const DraftCondition& said, const DraftNode& node) const {
-    Condition condition = said.words;
-    for (const void* const member : said.subjects) {
+Condition Draft::finished(const DraftCondition& draft, const DraftNode& node) const {
+    Condition condition = draft.words;
+    for (const void* const member : draft.subjects) {
         if (nodesOf(member).empty()) {
             condition.subjects.emplace_back("?");  // the visit names it nowhere; tests look for this
         }
@@ -136,13 +136,13 @@ Condition Draft::finished(const DraftCondition& said, const DraftNode& node) con
             condition.subjects.push_back(xpath(node, *subject));
         }
     }
-    condition.alternatives = finished(said.alternatives, node);
+    condition.alternatives = finished(draft.alternatives, node);
     return condition;
 }
 
-std::vector<Condition> Draft::finished(const DraftConditions& said, const DraftNode& node) const {
+std::vector<Condition> Draft::finished(const DraftConditions& draft, const DraftNode& node) const {
     std::vector<Condition> conditions;
-    std::transform(said.begin(), said.end(), std::back_inserter(conditions),
+    std::transform(draft.begin(), draft.end(), std::back_inserter(conditions),
                    [&](const DraftCondition* each) { return finished(*each, node); });
     return conditions;
 }

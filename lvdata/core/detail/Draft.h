@@ -70,8 +70,8 @@ public:
 
 private:
     [[nodiscard]] Description finished(const DraftNode& node) const;
-    [[nodiscard]] Condition finished(const DraftCondition& said, const DraftNode& node) const;
-    [[nodiscard]] std::vector<Condition> finished(const DraftConditions& said, const DraftNode& node) const;
+    [[nodiscard]] Condition finished(const DraftCondition& draft, const DraftNode& node) const;
+    [[nodiscard]] std::vector<Condition> finished(const DraftConditions& draft, const DraftNode& node) const;
 
     DraftNode root_;
     std::deque<DraftNode> descendants_;
