@@ -41,6 +41,7 @@ public:
     property<Lamp> lamp;
     std::vector<int> scratches;
     bool isScratched = false;
+    bool isStable = true;
     std::vector<unsigned int> left;
     std::vector<unsigned int> right;
     property<bool> hasSides;
@@ -124,12 +125,13 @@ TEST(Describer, TellsWhatAFreshRecordHas) {
         io.field("Height", desk.height);
         io.field("IsNew", desk.isNew);
         io.field("Sizes", desk.sizes);
+        io.value("IsStable", desk.isStable);
     });
     std::vector<std::string> texts;
     for (const Description& child : root.children) {
         texts.push_back(child.defaultText);
     }
-    EXPECT_THAT(texts, ElementsAre("4", "2", "", "0", "false", ""));
+    EXPECT_THAT(texts, ElementsAre("4", "2", "", "0", "false", "", "true"));
 }
 
 TEST(Describer, TellsWhatSetsAFlag) {
