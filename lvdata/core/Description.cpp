@@ -71,8 +71,9 @@ bool needsOneSubject(const Condition& condition) {
 
 /// Whether they say the same, each of one subject.
 bool saySame(const std::vector<Condition>& conditions) {
-    return !conditions.empty() && std::all_of(conditions.begin(), conditions.end(), [&](const Condition& condition) {
-        return condition.subjects.size() == 1 && predicateOf(condition) == predicateOf(conditions.front());
+    const std::string predicate = conditions.empty() ? "" : predicateOf(conditions.front());
+    return !predicate.empty() && std::all_of(conditions.begin(), conditions.end(), [&](const Condition& condition) {
+        return condition.subjects.size() == 1 && predicateOf(condition) == predicate;
     });
 }
 

@@ -97,5 +97,13 @@ TEST(Condition, SaysRules) {
     EXPECT_EQ(conditionOn(Kind::hlgSwitch, {}).toString(), "writeHLGSystemGamma is set in the record that is printed");
 }
 
+TEST(Condition, SaysEachRuleEvenWhenTheyAreAboutOneMember) {
+    Condition one = conditionOn(Kind::rule, {"x"});
+    one.rule = "x is odd";
+    Condition other = conditionOn(Kind::rule, {"x"});
+    other.rule = "x is a square";
+    EXPECT_EQ(anyOf({one, other}).toString(), "x is odd or x is a square");
+}
+
 }  // namespace
 }  // namespace lv
