@@ -124,7 +124,7 @@ public:
 
     template <class T, class AnyQuantity = Quantity>
     void field(const char* name, property<T>& member, const AnyQuantity& quantity = quantities::number) {
-        optional().addFlag(optional().value(name, member.value, quantity), member.hasValue);
+        addFlag(optional().value(name, member.value, quantity), member.hasValue);
     }
 
     template <class Number, class AnyQuantity>
