@@ -18,6 +18,7 @@
 #include <lvdata/xml/XMLDocument.h>
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/XMLNode.h>
+#include <lvdata/xml/XMLView.h>
 #include <lvdata/xml/lexical_cast.h>
 #include <lvdata/xml/property.h>
 #include <lvdata/xml/split_string.h>

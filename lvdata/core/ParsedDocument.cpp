@@ -33,6 +33,11 @@ std::string ParsedDocument::rootElementName() const {
     return document_.rootElement().elementName();
 }
 
+XMLView ParsedDocument::view() {
+    mayReadInPlace_ = false;  // a text that is looked at is moved in memory
+    return XMLView(document_);
+}
+
 ParseResult ParsedDocument::read(DataObject& record) {
     if (!isXML_) {
         return parsed_;

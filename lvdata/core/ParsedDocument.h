@@ -3,6 +3,7 @@
 #include <lvdata/core/ParseResult.h>
 #include <lvdata/export.h>
 #include <lvdata/xml/XMLDocument.h>
+#include <lvdata/xml/XMLView.h>
 
 #include <string>
 
@@ -34,6 +35,10 @@ public:
     /// Reads the record from the root element. When that is not possible, the record is unchanged and the result says
     /// why. A document can be read into any number of records; the first is read fastest.
     [[nodiscard]] ParseResult read(DataObject& record);
+
+    /// The document itself, to be looked at; without nodes when the text was refused. Valid as long as this object.
+    /// Read the record before: reading is slower after this call.
+    [[nodiscard]] XMLView view();
 
 private:
     // Whether arrays may be read the fast way: nobody else had the nodes and could have changed them, and no attribute

@@ -1,0 +1,90 @@
+#include <lvdata/analysis/Document.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace lv::analysis {
+namespace {
+
+int lineOf(const std::string& text, std::size_t position) {
+    const auto end = text.begin() + static_cast<std::string::difference_type>(position);
+    return 1 + static_cast<int>(std::count(text.begin(), end, '\n'));
+}
+
+/// Whether the element holds one that the switch governs, at any depth that descriptions have.
+bool holdsGoverned(const Node& element, const Shape& shape) {
+    const Shape* previous = nullptr;
+    for (const Node& child : childrenOf(element)) {
+        const Shape* const found =
+            child.kind == Node::Kind::element ? shape.firstElement(child.name, previous) : nullptr;
+        if (found != nullptr && (isGovernedByHLGSwitch(*found) || holdsGoverned(child, *found))) {
+            return true;
+        }
+        previous = found == nullptr ? previous : found;
+    }
+    return false;
+}
+
+bool hasHLGSystemGamma(const std::string& text, const Tree& tree, const Shape& shape) {
+    const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents need no closer look
+    return isNamed && holdsGoverned(*tree.root(), shape);
+}
+
+}  // namespace
+
+Document::Document(const std::string& text, const Catalogue& catalogue) {
+    const std::size_t nul = text.find('\0');
+    if (nul != std::string::npos) {
+        refuse(Refusal::Kind::nulCharacter, lineOf(text, nul), "NUL character");
+        return;
+    }
+    parsed_ = std::make_unique<ParsedDocument>(text);
+    if (const ParseResult& result = parsed_->parseResult(); !result) {
+        refuse(Refusal::Kind::notXML, result.line, result.reason);
+        return;
+    }
+    readRecord(text, catalogue);
+}
+
+void Document::readRecord(const std::string& text, const Catalogue& catalogue) {
+    const std::string root = parsed_->rootElementName();
+    entry_ = catalogue.find(root);
+    if (entry_ == nullptr) {
+        const Tree tree(parsed_->view());
+        refuse(Refusal::Kind::unknownRoot, tree.root()->line, root);
+        return;
+    }
+    record_ = entry_->recordClass->make();
+    const ParseResult result = parsed_->read(*record_);
+    if (!result) {
+        refuse(Refusal::Kind::unknownRoot, result.line, result.reason);
+        return;
+    }
+    source_.emplace(parsed_->view());
+    record_->writeHLGSystemGamma = hasHLGSystemGamma(text, *source_, *entry_->shape);
+}
+
+void Document::refuse(Refusal::Kind kind, int line, std::string reason) {
+    refusal_ = Refusal{kind, line, std::move(reason)};
+}
+
+Tree Document::printed() const {
+    return Tree::ofPrinted(record_->toXMLString(false, false));
+}
+
+bool isGovernedByHLGSwitch(const Shape& shape) {
+    const auto& conditions = shape.facts().writtenWhen;
+    return std::any_of(conditions.begin(), conditions.end(),
+                       [](const Condition& condition) { return condition.kind == Condition::Kind::hlgSwitch; });
+}
+
+std::string knownRootElements(const Catalogue& catalogue) {
+    std::string list;
+    for (const Catalogue::Entry& entry : catalogue.entries()) {
+        list += list.empty() ? "" : ", ";
+        list += entry.recordClass->name;
+    }
+    return list;
+}
+
+}  // namespace lv::analysis
