@@ -36,7 +36,7 @@ void addInputOptions(CLI::App& command, InputOptions& options) {
         command
             .add_option("--files-from", options.lists, "Read more PATHs from FILE, one per line; - for standard input")
             ->type_name("FILE")
-            ->expected(1)
+            ->allow_extra_args(false)
             ->check(complaintIfEmpty);
     command.add_flag("-0,--null", options.listsAreNulSeparated, "PATHs in FILE are separated by NUL characters")
         ->needs(lists);

@@ -1,8 +1,8 @@
 #include "Palette.h"
 
 #include "choice_option.h"
+#include "environment.h"
 
-#include <cstdlib>
 #include <map>
 
 #include <unistd.h>
@@ -10,16 +10,8 @@
 namespace tool {
 namespace {
 
-/// Empty when it is not set.
-std::string_view environmentVariable(const char* name) {
-    const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing here changes the environment
-    return value == nullptr ? "" : value;
-}
-
 bool terminalIsColored() {
-    const std::string_view terminal = environmentVariable("TERM");
-    return ::isatty(STDOUT_FILENO) == 1 && !terminal.empty() && terminal != "dumb" &&
-           environmentVariable("NO_COLOR").empty();
+    return ::isatty(STDOUT_FILENO) == 1 && terminalUnderstandsEscapes() && environmentVariable("NO_COLOR").empty();
 }
 
 /// The parameters of the escape sequence "select graphic rendition".
