@@ -3,13 +3,29 @@
 #include <charconv>
 #include <cstddef>
 #include <iterator>
-#include <string>
 
 namespace tool {
 namespace {
 
+using What = lv::Excess::What;
+
 /// 1 GiB, which no document of calibration data comes near; a parse of that much may need gigabytes many times over.
 constexpr std::size_t largest = 1'073'741'824;
+
+std::string optionFor(What what) {
+    switch (what) {
+    case What::bytes:
+        return "--max-size";
+    case What::elements:
+        return "--max-elements";
+    case What::nodes:
+        return "--max-nodes";
+    case What::attributes:
+        return "--max-attributes";
+    default:
+        return "--max-broken-references";
+    }
+}
 
 /// Decimal digits alone: hexadecimal and octal numbers, which would be converted, too, are refused.
 std::string complaintIfNoCount(const std::string& text) {
@@ -20,9 +36,9 @@ std::string complaintIfNoCount(const std::string& text) {
     return isNumber && count <= largest ? "" : "'" + text + "' is no number from 0 to " + std::to_string(largest);
 }
 
-void addOption(CLI::App& command, const std::string& name, std::size_t& limit, const std::string& things) {
+void addOption(CLI::App& command, What what, std::size_t& limit, const std::string& things) {
     command
-        .add_option(name, limit,
+        .add_option(optionFor(what), limit,
                     "Refuse a document with more " + things + " than N, " + std::to_string(limit) + " unless given")
         ->type_name("N")
         ->check(complaintIfNoCount);
@@ -30,12 +46,16 @@ void addOption(CLI::App& command, const std::string& name, std::size_t& limit, c
 
 }  // namespace
 
-void addLimitOptions(CLI::App& command, Limits& limits) {
-    addOption(command, "--max-size", limits.bytes, "bytes");
-    addOption(command, "--max-elements", limits.elements, "elements");
-    addOption(command, "--max-nodes", limits.nodes, "nodes (elements, attributes, texts, comments, other markup)");
-    addOption(command, "--max-attributes", limits.attributes, "attributes in one tag");
-    addOption(command, "--max-broken-references", limits.brokenReferences, "'&#' without ';' in one text");
+void addLimitOptions(CLI::App& command, lv::Limits& limits) {
+    addOption(command, What::bytes, limits.bytes, "bytes");
+    addOption(command, What::elements, limits.elements, "elements");
+    addOption(command, What::nodes, limits.nodes, "nodes (elements, attributes, texts, comments, other markup)");
+    addOption(command, What::attributes, limits.attributes, "attributes in one tag");
+    addOption(command, What::brokenReferences, limits.brokenReferences, "'&#' without ';' in one text");
+}
+
+std::string excessReason(const lv::Excess& excess) {
+    return excess.toString() + " (limit: " + optionFor(excess.what) + ')';
 }
 
 }  // namespace tool
