@@ -15,6 +15,7 @@
 #include <lvdata/records/EveryRecord.h>
 #include <lvdata/records/RecordClass.h>
 #include <lvdata/version.h>
+#include <lvdata/xml/Limits.h>
 #include <lvdata/xml/XMLDocument.h>
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/XMLNode.h>

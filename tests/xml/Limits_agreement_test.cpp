@@ -1,4 +1,4 @@
-#include <tools/lvdata/Limits.h>
+#include <lvdata/xml/Limits.h>
 
 #include <algorithm>
 #include <limits>
@@ -14,8 +14,8 @@
 
 namespace {
 
-using tool::findExcess;
-using tool::Limits;
+using lv::findExcess;
+using lv::Limits;
 
 /// The largest numbers in what the XML library made of a document.
 class Counts : public tinyxml2::XMLVisitor {

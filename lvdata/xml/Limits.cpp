@@ -1,10 +1,13 @@
-#include "Limits.h"
+#include <lvdata/xml/Limits.h>
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
-namespace tool {
+namespace lv {
 namespace {
+
+using What = Excess::What;
 
 constexpr std::string_view blanks = " \t\n\v\f\r";
 
@@ -31,6 +34,12 @@ constexpr bool continuesName(char character) {
     return startsName(character) || (character >= '0' && character <= '9') || character == '.' || character == '-';
 }
 
+int lineOf(std::string_view text, std::size_t position) {
+    const std::string_view before = text.substr(0, position);
+    const auto lines = std::count(before.begin(), before.end(), '\n');
+    return static_cast<int>(std::min<std::ptrdiff_t>(lines, std::numeric_limits<int>::max() - 1)) + 1;
+}
+
 std::size_t brokenReferences(std::string_view text) {
     constexpr std::string_view start = "&#";
     std::size_t count = 0;
@@ -47,12 +56,12 @@ std::size_t brokenReferences(std::string_view text) {
 /// because the XML library would refuse it there, or because something was found.
 class Scan {
 public:
-    Scan(std::string_view text, const Limits& limits) : size_(text.size()), rest_(text), limits_(limits) {}
+    Scan(std::string_view text, const Limits& limits) : text_(text), rest_(text), limits_(limits) {}
 
     std::optional<Excess> run() {
         while (takeText() && takeMarkup()) {
         }
-        return std::move(found_);
+        return found_;
     }
 
 private:
@@ -81,7 +90,7 @@ private:
     }
 
     bool takeTag() {
-        tag_ = size_ - rest_.size();
+        tag_ = here();
         take('<');
         skipBlanks();
         const bool isEnd = take('/');
@@ -91,7 +100,7 @@ private:
     bool takeAttributes(bool ofEndTag) {
         for (std::size_t count = 0; takeName(); ++count) {
             if (count == limits_.attributes) {
-                return excess(tag_, limits_.attributes, "attributes in one tag", "attributes");
+                return excess(What::attributes, limits_.attributes, tag_);
             }
             if (!takeValue() || (!ofEndTag && !countNode())) {
                 return false;
@@ -101,7 +110,7 @@ private:
         return take('>');
     }
 
-    /// The rest of an attribute, behind its name.
+    /// The rest of an attribute, after its name.
     bool takeValue() {
         skipBlanks();
         if (!take('=')) {
@@ -141,28 +150,27 @@ private:
         return found;
     }
 
+    [[nodiscard]] std::size_t here() const { return text_.size() - rest_.size(); }
+
     bool countElement() {
-        return ++elements_ > limits_.elements ? excess(tag_, limits_.elements, "elements", "elements") : countNode();
+        return ++elements_ > limits_.elements ? excess(What::elements, limits_.elements, tag_) : countNode();
     }
 
     /// One that ends, or begins, where the rest begins.
-    bool countNode() {
-        return ++nodes_ <= limits_.nodes || excess(size_ - rest_.size(), limits_.nodes, "nodes", "nodes");
-    }
+    bool countNode() { return ++nodes_ <= limits_.nodes || excess(What::nodes, limits_.nodes, here()); }
 
     /// Of a text with which the rest begins.
     bool checkReferences(std::string_view text) {
         return brokenReferences(text) <= limits_.brokenReferences ||
-               excess(size_ - rest_.size(), limits_.brokenReferences, "broken references in one text",
-                      "broken-references");
+               excess(What::brokenReferences, limits_.brokenReferences, here());
     }
 
-    bool excess(std::size_t position, std::size_t limit, const std::string& things, const std::string& name) {
-        found_ = Excess{position, excessReason(limit, things, "--max-" + name)};
+    bool excess(What what, std::size_t limit, std::size_t position) {
+        found_ = Excess{what, limit, position, lineOf(text_, position)};
         return false;
     }
 
-    std::size_t size_;
+    std::string_view text_;
     std::string_view rest_;
     const Limits& limits_;
     std::size_t tag_ = 0;  // where the latest begins
@@ -171,14 +179,46 @@ private:
     std::optional<Excess> found_;
 };
 
+std::string wordFor(What what) {
+    switch (what) {
+    case What::bytes:
+        return "byte";
+    case What::elements:
+        return "element";
+    case What::nodes:
+        return "node";
+    case What::attributes:
+        return "attribute";
+    default:
+        return "broken reference";
+    }
+}
+
+/// What the limit counts for, where that is not the document.
+std::string placeOf(What what) {
+    switch (what) {
+    case What::attributes:
+        return " per element";
+    case What::brokenReferences:
+        return " per text";
+    default:
+        return "";
+    }
+}
+
 }  // namespace
 
+std::string Excess::toString() const {
+    std::string text = "more than " + std::to_string(limit) + ' ' + wordFor(what);
+    text += limit == 1 ? "" : "s";
+    return text + placeOf(what);
+}
+
 std::optional<Excess> findExcess(std::string_view text, const Limits& limits) {
+    if (text.size() > limits.bytes) {
+        return Excess{What::bytes, limits.bytes, limits.bytes, 0};
+    }
     return Scan(text, limits).run();
 }
 
-std::string excessReason(std::size_t limit, const std::string& things, const std::string& option) {
-    return "more than " + std::to_string(limit) + ' ' + things + ", see " + option;
-}
-
-}  // namespace tool
+}  // namespace lv
