@@ -14,6 +14,7 @@
 #include <lvdata/export.h>
 #include <lvdata/records/EveryRecord.h>
 #include <lvdata/records/RecordClass.h>
+#include <lvdata/records/types.h>
 #include <lvdata/version.h>
 #include <lvdata/xml/XMLDocument.h>
 #include <lvdata/xml/XMLElement.h>

@@ -2,6 +2,7 @@
 #include <lvdata/core/detail/record.h>
 #include <lvdata/core/detail/six_colours.h>
 #include <lvdata/records/MonitorParameter.h>
+#include <lvdata/records/types.h>
 
 namespace lv {
 namespace {
@@ -13,7 +14,8 @@ using detail::when;
 constexpr std::size_t matrixLength = 9;
 
 auto tableQuantity(const MonitorParameter& self) {
-    return choose(quantities::tableEntry, when(oneOf(self.isHDRLUT.value, 1U), quantities::hdrTableEntry));
+    return choose(quantities::tableEntry,
+                  when(oneOf(self.isHDRLUT.value, types::tableScale::hdr), quantities::hdrTableEntry));
 }
 
 std::uint32_t tableFactor(const MonitorParameter& self) {

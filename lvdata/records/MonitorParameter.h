@@ -52,8 +52,8 @@ public:
     /// Contrast, element "Contrast", stored as it is; unit not recorded. Written when set.
     property<unsigned int> contrast;
 
-    /// Scale of the three look-up tables, element "isHDRLUT": HDR when the value is 1, whatever the flag, otherwise
-    /// normal. A number: the text "true" reads as 0. Written when set.
+    /// Scale of the three look-up tables, element "isHDRLUT": HDR when the value is 1 (`types::tableScale::hdr`),
+    /// whatever the flag, otherwise normal. A number: the text "true" reads as 0. Written when set.
     property<unsigned int> isHDRLUT;
 
     /// Look-up table of the red channel, element "RedLUT": each entry stored as `quantities::tableEntry`, times
