@@ -9,6 +9,7 @@
 #include <lvdata/core/ParsedDocument.h>
 #include <lvdata/core/PrimaryColours.h>
 #include <lvdata/core/Quantity.h>
+#include <lvdata/core/checked.h>
 #include <lvdata/core/colour.h>
 #include <lvdata/core/quantities.h>
 #include <lvdata/export.h>
