@@ -8,6 +8,7 @@
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -30,8 +31,9 @@ int fail(const std::string& message) {
 
 }  // namespace
 
-int main(int argumentCount, char** arguments) {
-    if (argumentCount != 3) {
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv, std::next(argv, argc));
+    if (arguments.size() != 3) {
         return fail("usage: 02_edit_file INPUT OUTPUT");
     }
     std::string text;

@@ -29,7 +29,7 @@ int main() {
     std::array<std::string, threadCount> texts;  // a place for each thread
     std::vector<std::thread> threads;
     for (std::size_t index = 0; index < threadCount; ++index) {
-        threads.emplace_back([&shared, &text = texts[index], index] {
+        threads.emplace_back([&shared, &text = texts.at(index), index] {
             text = withBrightness(shared, 100 + static_cast<unsigned int>(index));
         });
     }

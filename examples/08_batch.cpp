@@ -47,8 +47,9 @@ std::string summaryOf(const std::string& text) {
 
 }  // namespace
 
-int main(int argumentCount, char** arguments) {
-    if (argumentCount != 2) {
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv, std::next(argv, argc));
+    if (arguments.size() != 2) {
         std::cerr << "usage: 08_batch FOLDER\n";
         return 2;
     }

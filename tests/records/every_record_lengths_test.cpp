@@ -49,7 +49,7 @@ std::vector<Quantity> quantitiesOf(const Description& node) {
 
 void expectLengthsToAgree(const DescribedNode& node) {
     for (const Quantity& quantity : quantitiesOf(*node)) {
-        for (const std::size_t length : {0, 1, 2, 3, 4, 5, 8, 9, 10, 255, 256, 257, 1023, 1024, 1025}) {
+        for (const std::size_t length : Lengths{0, 1, 2, 3, 4, 5, 8, 9, 10, 255, 256, 257, 1023, 1024, 1025}) {
             EXPECT_EQ(isStored(*node, length, quantity), isWritten(*node, length))
                 << node.name() << ", " << quantity.name << ", " << length;
         }
