@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../colorimetry.h"
+#include <tests/samples/colorimetry.h>
 
 #include <array>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../colorimetry.h"
-#include "Display.h"
-#include "Instrument.h"
+#include <tests/samples/colorimetry.h>
+#include <tests/samples/studio/Display.h>
+#include <tests/samples/studio/Instrument.h>
 
 #include <lvdata/lvdata.h>
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-/// The textbook formulas that the examples compute their figures with.
+/// The textbook formulas that the sample documents are computed with.
 namespace colorimetry {
 
 /// X, Y and Z, or red, green and blue, or L*, a* and b*.

@@ -1,4 +1,4 @@
-#include "targets.h"
+#include <tests/samples/studio/targets.h>
 
 #include <cmath>
 #include <vector>

@@ -1,8 +1,8 @@
-// Builds a whole monitor and prints it: the document data/studio.xml. The figures are computed from the panel's
-// primaries and the curves of its colour modes, see support/studio/; every machine prints the same text.
+// Builds a whole monitor and prints it: the document examples/data/studio.xml. The figures are computed from the
+// panel's primaries and the curves of its colour modes, see studio/; every machine prints the same text.
 
-#include "support/studio/results.h"
-#include "support/studio/settings.h"
+#include <tests/samples/studio/results.h>
+#include <tests/samples/studio/settings.h>
 
 #include <lvdata/lvdata.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../colorimetry.h"
-#include "ColourMode.h"
+#include <tests/samples/colorimetry.h>
+#include <tests/samples/studio/ColourMode.h>
 
 #include <cstddef>
 #include <vector>

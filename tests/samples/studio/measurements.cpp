@@ -1,6 +1,6 @@
-#include "measurements.h"
+#include <tests/samples/studio/measurements.h>
 
-#include "../measurement_row.h"
+#include <tests/samples/measurement_row.h>
 
 #include <array>
 #include <vector>

@@ -1,7 +1,7 @@
-#include "settings.h"
+#include <tests/samples/studio/settings.h>
 
-#include "ColourMode.h"
-#include "targets.h"
+#include <tests/samples/studio/ColourMode.h>
+#include <tests/samples/studio/targets.h>
 
 namespace studio {
 namespace {

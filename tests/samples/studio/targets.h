@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ColourMode.h"
+#include <tests/samples/studio/ColourMode.h>
 
 #include <lvdata/lvdata.h>
 

@@ -1,9 +1,9 @@
-#include "results.h"
+#include <tests/samples/studio/results.h>
 
-#include "ColourMode.h"
-#include "Display.h"
-#include "Instrument.h"
-#include "measurements.h"
+#include <tests/samples/studio/ColourMode.h>
+#include <tests/samples/studio/Display.h>
+#include <tests/samples/studio/Instrument.h>
+#include <tests/samples/studio/measurements.h>
 
 #include <string>
 #include <vector>

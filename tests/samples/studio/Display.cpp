@@ -1,4 +1,4 @@
-#include "Display.h"
+#include <tests/samples/studio/Display.h>
 
 #include <algorithm>
 #include <cmath>

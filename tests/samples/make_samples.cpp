@@ -1,9 +1,9 @@
-// Makes the sample documents in data/: "02_samples MonitorParameter" prints one of them, without an argument the
+// Makes sample documents of examples/data: "make_samples MonitorParameter" prints one of them, without an argument the
 // program lists their names. All numbers are computed, and rounded to the steps of the device they would come from, so
 // that every machine prints the same text.
 
-#include "support/colorimetry.h"
-#include "support/measurement_row.h"
+#include <tests/samples/colorimetry.h>
+#include <tests/samples/measurement_row.h>
 
 #include <lvdata/lvdata.h>
 

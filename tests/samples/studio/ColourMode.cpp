@@ -1,4 +1,4 @@
-#include "ColourMode.h"
+#include <tests/samples/studio/ColourMode.h>
 
 #include <cmath>
 
