@@ -2,6 +2,8 @@
 
 #include "Failure.h"
 #include "Output.h"
+#include "check.h"
+#include "explain.h"
 #include "format.h"
 
 #include <lvdata/version.h>
@@ -15,7 +17,7 @@ namespace tool {
 namespace {
 
 /// Every subcommand, in the order of the help.
-constexpr std::array subcommandAdders{addFormat};
+constexpr std::array subcommandAdders{addCheck, addFormat, addExplain};
 
 /// What `--help` and `--version` ask for arrives as an error of code 0.
 void printRequested(const CLI::App& application, const CLI::ParseError& request) {
