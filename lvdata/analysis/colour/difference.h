@@ -34,8 +34,8 @@ struct UniformChromaticity {
 /// Whether the three values can be a reference white: all above 0.
 [[nodiscard]] bool isWhite(const Tristimulus& white);
 
-/// CIELAB (CIE 1976 L*a*b*, CIE 15:2018, 8.2.1) relative to the white, computed by Little CMS (`cmsXYZ2Lab`). Both are in
-/// the same unit; `isWhite(white)` must hold.
+/// CIELAB (CIE 1976 L*a*b*, CIE 15:2018, 8.2.1) relative to the white, computed by Little CMS (`cmsXYZ2Lab`). Both are
+/// in the same unit; `isWhite(white)` must hold.
 [[nodiscard]] Lab lab(const Tristimulus& colour, const Tristimulus& white);
 
 /// The colour difference ΔE00 by the formula CIEDE2000 (ISO/CIE 11664-6) with the parametric factors kL = kC = kH = 1,

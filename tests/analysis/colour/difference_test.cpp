@@ -14,8 +14,8 @@ struct Pair {
     double deltaE;
 };
 
-/// G. Sharma, W. Wu, E. N. Dalal: The CIEDE2000 color-difference formula: implementation notes, supplementary test data,
-/// and mathematical observations. Color Research and Application 30 (2005), 21-30, table 1.
+/// G. Sharma, W. Wu, E. N. Dalal: The CIEDE2000 color-difference formula: implementation notes, supplementary test
+/// data, and mathematical observations. Color Research and Application 30 (2005), 21-30, table 1.
 const std::vector<Pair> publishedPairs = {
     {{50.0000, 2.6772, -79.7751}, {50.0000, 0.0000, -82.7485}, 2.0425},
     {{50.0000, 3.1571, -77.2803}, {50.0000, 0.0000, -82.7485}, 2.8615},
