@@ -21,7 +21,7 @@ struct FormatOptions {
     bool compact = false;
     bool noDeclaration = false;
     bool hlgSystemGamma = false;
-    Limits limits;
+    lv::Limits limits;
 };
 
 int lineOf(const std::string& text, std::size_t position) {
@@ -30,13 +30,13 @@ int lineOf(const std::string& text, std::size_t position) {
 }
 
 /// Refuses what the XML library would misread or choke on.
-void checkText(const std::string& text, const Limits& limits, const std::string& name) {
+void checkText(const std::string& text, const lv::Limits& limits, const std::string& name) {
     const std::size_t nul = text.find('\0');
     if (nul != std::string::npos) {  // where the XML library would stop reading
         throw Failure(name, "NUL character", lineOf(text, nul));
     }
-    if (const auto excess = findExcess(text, limits)) {
-        throw Failure(name, excess->reason, lineOf(text, excess->position));
+    if (const auto excess = lv::findExcess(text, limits)) {
+        throw Failure(name, excessReason(*excess), excess->line);
     }
 }
 
@@ -63,7 +63,7 @@ std::string knownRootElements() {
     return list;
 }
 
-std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const Limits& limits) {
+std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const lv::Limits& limits) {
     const std::string name = inputName(file);
     const std::string text = readInput(file, limits.bytes);
     checkText(text, limits, name);
