@@ -1,9 +1,9 @@
 #include <lvdata/analysis/diff.h>
 
-#include <lvdata/analysis/IgnoredPaths.h>
-#include <lvdata/analysis/StoredValue.h>
-#include <lvdata/analysis/row_matching.h>
-#include <lvdata/analysis/value_difference.h>
+#include <lvdata/analysis/diff/IgnoredPaths.h>
+#include <lvdata/analysis/diff/StoredValue.h>
+#include <lvdata/analysis/diff/row_matching.h>
+#include <lvdata/analysis/diff/value_difference.h>
 #include <lvdata/core/quantities.h>
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <lvdata/analysis/Catalogue.h>
-#include <lvdata/analysis/Tolerances.h>
 #include <lvdata/analysis/Tree.h>
+#include <lvdata/analysis/diff/Tolerances.h>
 #include <lvdata/core/DataObject.h>
 
 #include <cstddef>

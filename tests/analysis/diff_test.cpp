@@ -1,6 +1,6 @@
 #include <lvdata/analysis/diff.h>
 
-#include <tests/analysis/differences.h>
+#include <tests/analysis/diff/differences.h>
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include <tests/analysis/differences.h>
+#include <tests/analysis/diff/differences.h>
 #include <tests/support/golden.h>
 
 #include <lvdata/records/EveryRecord.h>

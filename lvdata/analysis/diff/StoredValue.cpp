@@ -1,4 +1,4 @@
-#include <lvdata/analysis/StoredValue.h>
+#include <lvdata/analysis/diff/StoredValue.h>
 
 #include <lvdata/analysis/decimal.h>
 

@@ -1,4 +1,4 @@
-#include <lvdata/analysis/row_matching.h>
+#include <lvdata/analysis/diff/row_matching.h>
 
 #include <lvdata/core/quantities.h>
 

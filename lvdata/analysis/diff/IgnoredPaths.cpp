@@ -1,4 +1,4 @@
-#include <lvdata/analysis/IgnoredPaths.h>
+#include <lvdata/analysis/diff/IgnoredPaths.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -1,5 +1,5 @@
 #include <lvdata/analysis/JSONWriter.h>
-#include <lvdata/analysis/diff_output.h>
+#include <lvdata/analysis/diff/output.h>
 
 #include <gtest/gtest.h>
 

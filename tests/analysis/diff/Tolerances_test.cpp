@@ -1,6 +1,6 @@
-#include <lvdata/analysis/Tolerances.h>
+#include <lvdata/analysis/diff/Tolerances.h>
 
-#include <tests/analysis/differences.h>
+#include <tests/analysis/diff/differences.h>
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include <lvdata/analysis/diff_output.h>
+#include <lvdata/analysis/diff/output.h>
 
 #include <charconv>
 #include <cstddef>

@@ -1,6 +1,6 @@
-#include <lvdata/analysis/ReferenceWhites.h>
+#include <lvdata/analysis/diff/ReferenceWhites.h>
 
-#include <lvdata/analysis/StoredValue.h>
+#include <lvdata/analysis/diff/StoredValue.h>
 #include <lvdata/core/quantities.h>
 
 #include <algorithm>

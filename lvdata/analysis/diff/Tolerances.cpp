@@ -1,4 +1,4 @@
-#include <lvdata/analysis/Tolerances.h>
+#include <lvdata/analysis/diff/Tolerances.h>
 
 #include <charconv>
 #include <cmath>

@@ -1,6 +1,6 @@
-#include <lvdata/analysis/value_difference.h>
+#include <lvdata/analysis/diff/value_difference.h>
 
-#include <lvdata/analysis/StoredValue.h>
+#include <lvdata/analysis/diff/StoredValue.h>
 #include <lvdata/core/quantities.h>
 
 namespace lv::analysis {
