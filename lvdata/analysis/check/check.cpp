@@ -1,8 +1,8 @@
 #include <lvdata/analysis/check/check.h>
 
 #include <lvdata/analysis/check/Comparison.h>
-#include <lvdata/analysis/check/utf8.h>
 #include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/utf8.h>
 
 #include <algorithm>
 #include <string>
