@@ -37,6 +37,7 @@ struct TableChange {
         std::string before{};   ///< What it was,
         std::string after{};    ///< what it is,
         std::string change{};   ///< and the exact difference.
+        std::string unit{};     ///< Their unit, as that of a value.
     };
 
     std::size_t entriesBefore = 0;   ///< The number of entries that it had,
@@ -45,8 +46,8 @@ struct TableChange {
     std::optional<Entry> largest{};  ///< No value when none differs, or the two are not comparable.
 };
 
-/// One thing in which two records differ. Numbers are exact decimals of the value, in its unit; stored integers where
-/// the factor is not a power of ten: the unit then says so, as in "1/255".
+/// One thing in which two records differ. Numbers are exact decimals of the value, in its unit. Where the factor is not
+/// a power of ten they are stored integers, and the unit says so: "1/255".
 struct Difference {
     /// What happened to it.
     enum class Kind {

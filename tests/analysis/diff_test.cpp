@@ -84,7 +84,7 @@ TEST(Diff, ShowsStoredIntegersWhereTheFactorIsNotAPowerOfTen) {
     EXPECT_THAT(differencesOf(series(row("1|2|3", "1|1|1") + row("1|2|3", "1|1|1")),
                               series(row("1|2|3", "1|1|1") + row("1|2|5", "1|1|1"))),
                 ElementsAre("changed MeasurementData/Measurements[2]/RGB: 1, 2, 3 1/255 -> 1, 2, 5 1/255, "
-                            "entries 3 -> 3, 1 differ, most at 2: 3 -> 5 by 2"));
+                            "entries 3 -> 3, 1 differ, most at 2: 3 -> 5 by 2 1/255"));
 }
 
 TEST(Diff, ListsWhatAnElementHoldsThatOnlyOneSideHas) {

@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "Output.h"
+#include "diff.h"
 #include "format.h"
 
 #include <lvdata/version.h>
@@ -15,7 +16,7 @@ namespace tool {
 namespace {
 
 /// Every subcommand, in the order of the help.
-constexpr std::array subcommandAdders{addFormat};
+constexpr std::array subcommandAdders{addDiff, addFormat};
 
 /// What `--help` and `--version` ask for arrives as an error of code 0.
 void printRequested(const CLI::App& application, const CLI::ParseError& request) {

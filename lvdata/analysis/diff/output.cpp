@@ -38,8 +38,15 @@ std::string shown(const Difference& difference, const Difference::Value& value) 
     return difference.content == Content::string ? '"' + value.text + '"' : value.text;
 }
 
+/// " candela", " of 255" for "1/255"; empty where there is none.
+std::string unitInWords(const std::string& unit) {
+    constexpr std::string_view fraction = "1/";
+    const bool isFraction = unit.compare(0, fraction.size(), fraction) == 0;
+    return unit.empty() ? "" : isFraction ? " of " + unit.substr(fraction.size()) : ' ' + unit;
+}
+
 std::string withUnit(const Difference& difference, const Difference::Value& value) {
-    return shown(difference, value) + (value.unit.empty() ? "" : ' ' + value.unit);
+    return shown(difference, value) + unitInWords(value.unit);
 }
 
 /// "0.5 -> 0.6", with the unit once when it is the same.
@@ -56,7 +63,8 @@ std::string inWords(const TableChange& table) {
     text += " entries, " + std::to_string(table.differing) + " differ";
     if (table.largest) {
         const TableChange::Entry& largest = *table.largest;
-        text += ", most at index " + std::to_string(largest.index) + ": " + largest.before + " -> " + largest.after;
+        text += ", most at index " + std::to_string(largest.index) + ": " + largest.before + " -> " + largest.after +
+                unitInWords(largest.unit);
     }
     return text;
 }
@@ -123,6 +131,7 @@ void putTable(Sink& sink, const TableChange& table) {
         putString(sink, "before", table.largest->before);
         putString(sink, "after", table.largest->after);
         putString(sink, "change", table.largest->change);
+        putIfAny(sink, "unit", table.largest->unit);
         sink.endObject();
     }
     sink.endObject();

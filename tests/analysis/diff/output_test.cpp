@@ -38,7 +38,7 @@ TableChange someTable() {
     table.entriesBefore = 256;
     table.entriesAfter = 256;
     table.differing = 2;
-    table.largest = TableChange::Entry{7, "0.5", "0.25", "-0.25"};
+    table.largest = TableChange::Entry{7, "0.5", "0.25", "-0.25", ""};
     return table;
 }
 
@@ -62,6 +62,7 @@ TEST(DiffInWords, HasBothValuesAndTheUnitOnce) {
     EXPECT_EQ(inWords(number({"120", ""}, {"140", ""})), "120 -> 140");
     EXPECT_EQ(inWords(number({"120", "candela"}, {"140", "candela"})), "120 -> 140 candela");
     EXPECT_EQ(inWords(number({"50", "candela"}, {"50", "%"})), "50 candela -> 50 %");
+    EXPECT_EQ(inWords(number({"1, 2, 3", "1/255"}, {"1, 2, 4", "1/255"})), "1, 2, 3 -> 1, 2, 4 of 255");
 }
 
 TEST(DiffInWords, PutsTextsIntoQuotationMarks) {
@@ -81,6 +82,8 @@ TEST(DiffInWords, SummarisesATable) {
     difference.content = Difference::Content::table;
     difference.table = someTable();
     EXPECT_EQ(inWords(difference), "256 entries, 2 differ, most at index 7: 0.5 -> 0.25");
+    difference.table->largest->unit = "1/65535";
+    EXPECT_EQ(inWords(difference), "256 entries, 2 differ, most at index 7: 0.5 -> 0.25 of 65535");
     difference.table->entriesAfter = 1024;
     difference.table->largest.reset();
     EXPECT_EQ(inWords(difference), "256 -> 1024 entries, 2 differ");
@@ -118,11 +121,12 @@ TEST(DiffAsJSON, HasAllOfADifference) {
     Difference difference = number({"1", "candela"}, {"2", ""});
     difference.change = "1";
     difference.table = someTable();
+    difference.table->largest->unit = "1/255";
     difference.colour = colourOf(ColourChange::Formula::deltaUV, 0.00125);
     EXPECT_EQ(json({{difference}, 0, 0}),
               R"({"differences":[{"path":"A/B","kind":"changed","before":"1","before_unit":"candela","after":"2",)"
               R"("change":"1","table":{"entries_before":256,"entries_after":256,"differing":2,)"
-              R"("largest":{"index":7,"before":"0.5","after":"0.25","change":"-0.25"}},)"
+              R"("largest":{"index":7,"before":"0.5","after":"0.25","change":"-0.25","unit":"1/255"}},)"
               R"("duv":{"size":0.00125,"formula":"CIE 1976 UCS","observer":"CIE 1931 2°"}}],)"
               R"("within_tolerance":0,"ignored":0})");
 }
