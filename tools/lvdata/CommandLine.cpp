@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "Output.h"
 #include "check.h"
+#include "diff.h"
 #include "explain.h"
 #include "format.h"
 
@@ -17,7 +18,12 @@ namespace tool {
 namespace {
 
 /// Every subcommand, in the order of the help.
-constexpr std::array subcommandAdders{addCheck, addFormat, addExplain};
+constexpr std::array subcommandAdders{
+    addCheck,    //
+    addDiff,     //
+    addFormat,   //
+    addExplain,  //
+};
 
 /// What `--help` and `--version` ask for arrives as an error of code 0.
 void printRequested(const CLI::App& application, const CLI::ParseError& request) {
