@@ -138,6 +138,26 @@ TEST_F(Files, StandardOutputIsNotReplacedUnderItsOtherName) {
     EXPECT_EQ(read("log"), "before\n" + tidy + tidy);
 }
 
+TEST_F(Files, AnOpenFileWithoutANameIsWrittenInto) {
+    const int file = ::open(path("log").c_str(), O_RDWR | O_CREAT, 0600);  // NOLINT(cppcoreguidelines-pro-type-vararg)
+    fs::remove(path("log"));
+    EXPECT_EQ(formatTo("/dev/fd/" + std::to_string(file)), done());
+    std::string received(2 * tidy.size(), ' ');
+    EXPECT_EQ(::pread(file, received.data(), received.size(), 0), static_cast<ssize_t>(tidy.size()));
+    EXPECT_EQ(received.substr(0, tidy.size()), tidy);
+    ::close(file);
+    EXPECT_TRUE(holdsBesides({}));
+}
+
+TEST_F(Files, StandardOutputWithoutANameIsWrittenInto) {
+    write("log", "");
+    const auto removeName = [this] {
+        return fs::remove(path("log"));
+    };
+    EXPECT_EQ(formatTo("/dev/stdout", {"", path("log"), removeName}), done());
+    EXPECT_TRUE(holdsBesides({}));
+}
+
 TEST_F(Files, AFailingStandardOutputIsReported) {
     EXPECT_EQ(run({"format", "in.xml"}, {"", "/dev/full"}), failed("<stdout>: error: No space left on device"));
     EXPECT_EQ(run({"format", "large.xml"}, {"", "/dev/full"}), failed("<stdout>: error: No space left on device"));
