@@ -1,5 +1,9 @@
 #include "OutputTest.h"
 
+#include <array>
+#include <csignal>
+#include <functional>
+
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -156,6 +160,23 @@ TEST_F(Files, StandardOutputWithoutANameIsWrittenInto) {
     };
     EXPECT_EQ(formatTo("/dev/stdout", {"", path("log"), removeName}), done());
     EXPECT_TRUE(holdsBesides({}));
+}
+
+TEST_F(Files, APipeWithoutReaderEndsTheCommandQuietly) {
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(::pipe(pipe.data()), 0);
+    ::close(pipe[0]);
+    const auto asStandardOutput = [&pipe] {
+        return ::dup2(pipe[1], STDOUT_FILENO) >= 0;
+    };
+    const auto withSignalIgnored = [&asStandardOutput] {
+        return std::signal(SIGPIPE, SIG_IGN) != SIG_ERR && asStandardOutput();
+    };
+    for (const std::function<bool()>& prepare : {std::function<bool()>(asStandardOutput), {withSignalIgnored}}) {
+        EXPECT_EQ(formatTo("-", {"", "", prepare}), (Outcome{128 + SIGPIPE, "", ""}));
+        EXPECT_EQ(formatTo("/dev/fd/" + std::to_string(pipe[1]), {"", "", prepare}), (Outcome{128 + SIGPIPE, "", ""}));
+    }
+    ::close(pipe[1]);
 }
 
 TEST_F(Files, AFailingStandardOutputIsReported) {

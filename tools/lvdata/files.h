@@ -18,6 +18,7 @@ inline constexpr std::string_view standardStream = "-";
 
 /// Writes the text to the file, or to standard output. Throws `Failure` when that is not possible.
 ///
+/// Where the reader of a pipe is gone, the process ends as the signal SIGPIPE has it, without a message.
 /// What becomes of an existing file is described in `lvdata/analysis/files.h`.
 void writeOutput(const std::string& file, std::string_view text);
 
