@@ -1,4 +1,5 @@
 #include <lvdata/analysis/Constraint.h>
+#include <lvdata/analysis/decimal.h>
 
 #include <algorithm>
 
@@ -30,7 +31,7 @@ void tighten(Constraint& constraint, const Condition& condition) {
 }
 
 std::string quantityInWords(const Quantity& quantity, Scale scale) {
-    const bool isScaled = quantity.factor != 1 && (scale == Scale::stored || decimalsOf(quantity) == 0);
+    const bool isScaled = quantity.factor != 1 && (scale == Scale::stored || decimalsOf(quantity.factor) == 0);
     std::string words(quantity.meaning);
     words += isScaled ? ", times " + std::to_string(quantity.factor) : "";
     words += quantity.unit.empty()          ? ""
@@ -97,15 +98,6 @@ std::string explanationOf(const Description& facts, Scale scale) {
     }
     addConditions(text, facts);
     return text;
-}
-
-unsigned int decimalsOf(const Quantity& quantity) {
-    unsigned int decimals = 0;
-    std::uint32_t rest = quantity.factor;
-    for (; rest > 1 && rest % 10 == 0; rest /= 10) {
-        ++decimals;
-    }
-    return rest == 1 ? decimals : 0;
 }
 
 }  // namespace lv::analysis

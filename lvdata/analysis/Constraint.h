@@ -32,8 +32,4 @@ enum class Scale { stored, natural };
 /// What it means, in which unit, and when it is written: some sentences; empty when there is nothing to say.
 [[nodiscard]] std::string explanationOf(const Description& facts, Scale scale);
 
-/// The number of zeros of a factor that is a power of ten, so that a number with a point can stand for the value; 0 for
-/// any other factor.
-[[nodiscard]] unsigned int decimalsOf(const Quantity& quantity);
-
 }  // namespace lv::analysis

@@ -1,8 +1,8 @@
 #include <lvdata/analysis/Constraint.h>
+#include <lvdata/analysis/Projection.h>
 #include <lvdata/analysis/TypeList.h>
 #include <lvdata/analysis/json_schema.h>
 #include <lvdata/analysis/json_schema_values.h>
-#include <lvdata/analysis/snake_case.h>
 
 #include <algorithm>
 
@@ -21,15 +21,6 @@ struct Property {
 
 bool isKeyOf(const Shape& attribute) {
     return attribute.facts().name == attribute.parent()->facts().keyAttribute;
-}
-
-/// Whether the element is an object in JSON: it holds something else than one text.
-bool isObject(const Shape& element) {
-    const auto& children = element.children();
-    const bool holdsMore = std::any_of(children.begin(), children.end(), [](const auto& child) {
-        return child->facts().place != Place::text && !isKeyOf(*child);
-    });
-    return holdsMore || (textsOf(element).empty() && element.facts().content == Description::Content::none);
 }
 
 bool isRequired(const Shape& shape) {
@@ -117,8 +108,7 @@ private:
     }
 
     Property property(const std::string& key, const Shape& shape) {
-        const bool isAttribute = shape.facts().place == Place::attribute;
-        if (!isAttribute && isObject(shape)) {
+        if (!isPlain(shape)) {
             return {key, isRequired(shape), object(shape)};
         }
         if (const auto texts = textsOf(shape); !texts.empty()) {
@@ -137,7 +127,7 @@ private:
     Property keyed(const Shape& first) {
         std::vector<Property> properties;
         for (const Shape* const each : keyedLike(first)) {
-            properties.push_back(property(snakeCase(each->facts().keyText), *each));
+            properties.push_back(property(keyAmongKeyed(*each), *each));
         }
         const std::string name = types_.add(recordOf(first).facts().name, typeNameOf(first), bodyOf(properties));
         const bool isNeeded = std::any_of(properties.begin(), properties.end(),

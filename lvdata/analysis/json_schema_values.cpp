@@ -1,44 +1,37 @@
 #include <lvdata/analysis/Constraint.h>
+#include <lvdata/analysis/decimal.h>
 #include <lvdata/analysis/json_schema_values.h>
 
 #include <algorithm>
 #include <cstdint>
-#include <limits>
 
 namespace lv::analysis {
 namespace {
 
 using Content = Description::Content;
 
-/// The whole number with the point moved to the left: 4294967295 with 6 decimals is 4294.967295.
-std::string withPoint(std::int64_t number, unsigned int decimals) {
-    const bool isNegative = number < 0;
-    std::string digits = std::to_string(isNegative ? -number : number);
-    digits.insert(0, digits.size() > decimals ? 0 : decimals + 1 - digits.size(), '0');
-    if (decimals > 0 && number != 0) {
-        digits.insert(digits.size() - decimals, ".");
-    }
-    return (isNegative ? "-" : "") + (number == 0 ? "0" : digits);
+/// The natural value of a stored number.
+std::string natural(std::int64_t stored, std::size_t decimals) {
+    DecimalBuffer buffer{};
+    return std::string(naturalText(std::to_string(stored), decimals, buffer));
 }
 
 /// The numbers of decimals of its quantities.
-std::vector<unsigned int> allDecimalsOf(const Description& facts) {
-    std::vector<unsigned int> decimals = {facts.quantity ? decimalsOf(*facts.quantity) : 0};
+std::vector<std::size_t> allDecimalsOf(const Description& facts) {
+    std::vector<std::size_t> decimals = {facts.quantity ? decimalsOf(facts.quantity->factor) : 0};
     for (const Description::QuantityWhen& other : facts.otherQuantities) {
-        decimals.push_back(decimalsOf(other.quantity));
+        decimals.push_back(decimalsOf(other.quantity.factor));
     }
     return decimals;
 }
 
 /// The widest range of its quantities.
 std::string numberSchema(const Description& facts, bool isSigned) {
-    const std::vector<unsigned int> decimals = allDecimalsOf(facts);
+    const std::vector<std::size_t> decimals = allDecimalsOf(facts);
     const auto [least, most] = std::minmax_element(decimals.begin(), decimals.end());
-    const std::int64_t smallest = isSigned ? std::numeric_limits<std::int32_t>::min() : 0;
-    const std::int64_t greatest =
-        isSigned ? std::numeric_limits<std::int32_t>::max() : std::int64_t{std::numeric_limits<std::uint32_t>::max()};
+    const StoredRange range = isSigned ? signedRange : unsignedRange;
     return std::string(R"("type": ")") + (*most == 0 ? "integer" : "number") + R"(", "minimum": )" +
-           withPoint(smallest, *least) + R"(, "maximum": )" + withPoint(greatest, *least);
+           natural(range.least, *least) + R"(, "maximum": )" + natural(range.greatest, *least);
 }
 
 std::string exactly(std::size_t length) {

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lv::analysis {
+
+/// Where one is among the calls of a sink: "monitor_info.color_mode[3].name", for messages.
+class EventPath {
+public:
+    /// An object begins.
+    void beginObject() { steps_.push_back({}); }
+
+    /// A key of the object; the text must stay as long as it is the key.
+    void key(std::string_view name) { steps_.back().key = name; }
+
+    /// An array begins.
+    void beginArray() { steps_.push_back({{}, true, 0}); }
+
+    /// A value comes: in an array the next entry.
+    void beginValue() {
+        if (!steps_.empty()) {
+            ++steps_.back().count;
+        }
+    }
+
+    /// The object or array that began last ends.
+    void end() { steps_.pop_back(); }
+
+    /// The number of objects and arrays that are open.
+    [[nodiscard]] std::size_t depth() const { return steps_.size(); }
+
+    /// Empty outside of everything.
+    [[nodiscard]] std::string toString() const;
+
+private:
+    struct Step {
+        std::string_view key{};
+        bool isArray = false;
+        std::size_t count = 0;
+    };
+
+    std::vector<Step> steps_{};
+};
+
+}  // namespace lv::analysis
