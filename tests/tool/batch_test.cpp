@@ -5,6 +5,7 @@
 #include <tools/lvdata/batch.h>
 #include <tools/lvdata/files.h>
 
+#include <chrono>
 #include <mutex>
 #include <new>
 #include <set>
@@ -156,6 +157,24 @@ TEST_P(BatchTest, WorksOnTheCallingThreadForOneJobOnly) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Jobs, BatchTest, testing::Values(1, 2, 8));
+
+TEST(Batch, UsesNoMoreThreadsThanProcessors) {
+    tool::Output output;
+    std::mutex mutex;
+    std::set<std::thread::id> threads;
+    const auto note = [&](const Input& /*input*/) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));  // time for each thread to get something
+        const std::lock_guard lock(mutex);
+        threads.insert(std::this_thread::get_id());
+        return 0;
+    };
+    const auto deliver = [](int&& /*result*/) {
+        return ExitStatus::done;
+    };
+    const std::vector<std::string> many(8 * tool::processorCount(), "a");
+    EXPECT_EQ(tool::forEachInput({{many, {}, false}, 100}, output, note, deliver), ExitStatus::done);
+    EXPECT_LE(threads.size(), tool::processorCount());
+}
 
 TEST(Batch, MovesResultsThatCannotBeCopied) {
     tool::Output output;
