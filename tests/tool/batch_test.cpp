@@ -111,7 +111,7 @@ TEST_P(BatchTest, NamesTheInputWhateverWentWrong) {
 
 TEST_P(BatchTest, PrintsMessagesInTheOrderOfInputs) {
     write("a", "one");
-    const auto printToBoth = [this](std::string&& /*text*/, tool::Output& /*output*/) {
+    const auto printToBoth = [](std::string&& /*text*/, tool::Output& /*output*/) {
         std::cerr << "delivered\n";
         return ExitStatus::done;
     };
