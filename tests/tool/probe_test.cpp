@@ -129,6 +129,10 @@ TEST_F(OnATerminal, ProgressDoesNotDisturbMessages) {
     EXPECT_THAT(recorded("--wait 60 -j1 in no.xml in >output"), HasSubstr("\r\x1b[Kno.xml: error: "));
 }
 
+TEST_F(OnATerminal, ProgressIsErasedWhenTheReaderIsGone) {
+    EXPECT_THAT(recorded("--wait 60 -j1 in in | true"), EndsWith("\r\x1b[K"));
+}
+
 TEST_F(OnATerminal, ShortRunsShowNoProgress) {
     EXPECT_EQ(recorded("in/a.xml"), "\x1b[36min/a.xml\x1b[0m 1\r\n");
 }
