@@ -2,6 +2,7 @@
 
 #include <lvdata/analysis/Projection.h>
 #include <lvdata/analysis/diff/StoredValue.h>
+#include <lvdata/analysis/printable.h>
 #include <lvdata/core/quantities.h>
 
 #include <algorithm>
@@ -42,7 +43,7 @@ private:
         for (const Node& child : childrenOf(element)) {
             const bool isShown = child.kind == Node::Kind::attribute && !isVersion(child);
             if (isShown && shape.attribute(child.name) != nullptr) {
-                text += ' ' + std::string(child.name) + '=' + std::string(child.text);
+                text += ' ' + std::string(child.name) + '=' + printable(child.text);
             }
         }
         return text;
@@ -54,9 +55,9 @@ private:
             return "";
         }
         const Shape& textShape = *textShapeAt({&shape, &element, element.parent});
-        const Position position = &textShape == &shape ? Position{&shape, &element, element.parent}
-                                                       : Position{&textShape, text, &element};
-        return ": " + (isNumeric(textShape) ? numbersAt(position, depth) : std::string(text->text));
+        const Position position =
+            &textShape == &shape ? Position{&shape, &element, element.parent} : Position{&textShape, text, &element};
+        return ": " + (isNumeric(textShape) ? numbersAt(position, depth) : printable(text->text));
     }
 
     std::string numbersAt(const Position& position, std::size_t depth) const {
@@ -68,7 +69,7 @@ private:
             return joined(array, 0, count) + suffix;
         }
         if (form_.gridWidth > 0 && isMap(*position.shape)) {
-            return suffix + grid(array, depth);
+            return unit + grid(array, depth);
         }
         if (count <= fewEntries || form_.full) {
             return joined(array, 0, count) + suffix;
@@ -84,9 +85,9 @@ private:
 
     std::string unitOf(const StoredArray& array, const Shape& shape) const {
         if (isMap(shape)) {
-            return form_.mapUnit;
+            return printable(form_.mapUnit);
         }
-        return *array.quantity == quantities::tristimulus ? form_.yUnit : shownUnit(*array.quantity);
+        return *array.quantity == quantities::tristimulus ? printable(form_.yUnit) : shownUnit(*array.quantity);
     }
 
     static std::string joined(const StoredArray& array, std::size_t begin, std::size_t end) {

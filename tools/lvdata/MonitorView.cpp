@@ -2,7 +2,7 @@
 
 #include "columns.h"
 #include "finding_text.h"
-#include "printable.h"
+#include <lvdata/analysis/printable.h>
 
 #include <lvdata/records/types.h>
 
@@ -15,12 +15,12 @@ namespace {
 using lv::analysis::ModeFigures;
 
 std::string orDash(const std::string& text) {
-    return text.empty() ? "-" : printable(text);
+    return text.empty() ? "-" : lv::analysis::printable(text);
 }
 
 std::string chromaticity(const ModeFigures& mode) {
     if (!mode.measuredChromaticity) {
-        return "-";
+        return "n/a";
     }
     const auto coordinate = [](double value) {
         return lv::analysis::Figure{value, ""}.text(4);
@@ -28,13 +28,13 @@ std::string chromaticity(const ModeFigures& mode) {
     return "x " + coordinate(mode.measuredChromaticity->x) + " y " + coordinate(mode.measuredChromaticity->y);
 }
 
-/// Numbers alone: a table has no room for reasons.
-std::string numberOrDash(const lv::analysis::Figure& figure, int decimals) {
-    return figure.value ? figure.text(decimals) : "-";
+/// A table has no room for reasons.
+std::string numberAlone(const lv::analysis::Figure& figure, int decimals) {
+    return figure.value ? figure.text(decimals) : "n/a";
 }
 
 std::string withUnit(const std::string& head, const std::string& unit) {
-    return unit.empty() ? head : head + ' ' + printable(unit);
+    return unit.empty() ? head : head + ' ' + lv::analysis::printable(unit);
 }
 
 std::string modeTable(const std::vector<ModeFigures>& modes, std::size_t most, const MonitorViewForm& form,
@@ -44,7 +44,7 @@ std::string modeTable(const std::vector<ModeFigures>& modes, std::size_t most, c
     for (std::size_t index = 0; index < most; ++index) {
         const ModeFigures& mode = modes[index];
         columns.add({orDash(mode.index), orDash(mode.name), orDash(mode.targetWhite), chromaticity(mode),
-                     numberOrDash(mode.deltaUV, 4), orDash(mode.targetBrightness), numberOrDash(mode.measuredY, 2),
+                     numberAlone(mode.deltaUV, 4), orDash(mode.targetBrightness), numberAlone(mode.measuredY, 2),
                      orDash(mode.targetGamma), orDash(mode.calibratedTime)});
     }
     const std::string more =
@@ -54,22 +54,25 @@ std::string modeTable(const std::vector<ModeFigures>& modes, std::size_t most, c
 
 std::string identity(const lv::MonitorInfo& monitor) {
     const lv::MonitorConfiguration& configuration = monitor.monitorConfiguration.value;
-    std::string text = configuration.name.hasValue ? printable(configuration.name.value) : "Monitor without a name";
-    text += configuration.model.hasValue ? ", " + printable(configuration.model.value) : "";
-    text += configuration.serial.hasValue ? ", serial " + printable(configuration.serial.value) : "";
+    std::string text =
+        configuration.name.hasValue ? lv::analysis::printable(configuration.name.value) : "Monitor without a name";
+    text += configuration.model.hasValue ? ", " + lv::analysis::printable(configuration.model.value) : "";
+    text += configuration.serial.hasValue ? ", serial " + lv::analysis::printable(configuration.serial.value) : "";
     return text + '\n';
 }
 
 void addLine(std::string& text, const std::string& name, const std::string& value) {
     constexpr std::size_t width = 14;
-    text += value.empty() ? "" : name + std::string(width - name.size(), ' ') + value + '\n';
+    text += value.empty() ? "" : name + std::string(width - characterCount(name), ' ') + value + '\n';
 }
 
 std::string assets(const lv::AssetInfo& info) {
     std::string text;
     for (const auto* asset : {&info.asset1, &info.asset2, &info.asset3, &info.asset4, &info.asset5, &info.asset6,
                               &info.asset7, &info.asset8}) {
-        text += asset->hasValue && !asset->value.empty() ? (text.empty() ? "" : ", ") + printable(asset->value) : "";
+        text += asset->hasValue && !asset->value.empty()
+                    ? (text.empty() ? "" : ", ") + lv::analysis::printable(asset->value)
+                    : "";
     }
     return text;
 }
@@ -108,8 +111,10 @@ std::string schedule(const lv::SelfCalibrationSchedule& schedule) {
 }
 
 std::string correlation(const lv::CorrelationInfo& info) {
-    std::string text = info.correlationDate.hasValue ? printable(info.correlationDate.value) : "";
-    text += info.referenceSensorSerial.hasValue ? ", sensor " + printable(info.referenceSensorSerial.value) : "";
+    std::string text = info.correlationDate.hasValue ? lv::analysis::printable(info.correlationDate.value) : "";
+    text += info.referenceSensorSerial.hasValue
+                ? ", sensor " + lv::analysis::printable(info.referenceSensorSerial.value)
+                : "";
     return text;
 }
 
@@ -121,8 +126,10 @@ std::string contents(const lv::MonitorInfo& monitor, const std::vector<ModeFigur
     std::string text = counted(monitor.calibrationModeResult.value.objects.size(), "calibration") + ", " +
                        counted(measurements, "measurement");
     const auto& map = monitor.candelaMap.value;
-    const std::size_t entries = std::max(map.uniformity.value.size(), map.brightness.value.size());
-    return text + (monitor.candelaMap.hasValue ? ", candela maps of " + counted(entries, "entry") : "");
+    const std::size_t entries = std::max(map.uniformity.values.size(), map.brightness.values.size());
+    return text + (monitor.candelaMap.hasValue
+                       ? ", candela maps of " + (entries == 1 ? "1 entry" : std::to_string(entries) + " entries")
+                       : "");
 }
 
 std::string notes(const std::string& yUnit) {
@@ -134,22 +141,23 @@ std::string notes(const std::string& yUnit) {
 
 std::string monitorView(const lv::MonitorInfo& monitor, const MonitorViewForm& form, const Palette& palette) {
     const lv::MonitorConfiguration& configuration = monitor.monitorConfiguration.value;
-    const auto modes = modeFigures(configuration.colorModeSettings.value, monitor.calibrationModeResult.value);
+    const auto modes =
+        lv::analysis::modeFigures(configuration.colorModeSettings.value, monitor.calibrationModeResult.value);
     std::string text = palette.paint(Style::heading, identity(monitor));
-    addLine(text, "UUID", monitor.uuid.hasValue ? printable(monitor.uuid.value) : "");
+    addLine(text, "UUID", monitor.uuid.hasValue ? lv::analysis::printable(monitor.uuid.value) : "");
     addLine(text, "Assets", assets(monitor.assetInfo.value));
     addLine(text, "Schedule", schedule(configuration.selfCalibrationSchedule.value));
     addLine(text, "Correlation", correlation(monitor.correlationInfo.value));
     addLine(text, "Holds", contents(monitor, modes));
     if (!modes.empty()) {
-        text += '\n' + modeTable(modes, std::min(modes.size(), form.mostModes), form, palette) + notes(form.yUnit);
+        text += '\n' + modeTable(modes, std::min(modes.size(), form.mostModes), form, palette) +
+                "n/a: lvdata show --mode N says why. " + notes(form.yUnit);
     }
     return text;
 }
 
 std::string modeView(const ModeFigures& mode, const std::string& yUnit, const Palette& palette) {
-    std::string text =
-        palette.paint(Style::heading, "Mode " + orDash(mode.index) + ", " + orDash(mode.name)) + '\n';
+    std::string text = palette.paint(Style::heading, "Mode " + orDash(mode.index) + ", " + orDash(mode.name)) + '\n';
     addLine(text, "Type", orDash(mode.type));
     addLine(text, "Calibrated", orDash(mode.calibratedTime));
     Columns columns({"", "Target", "Measured"});

@@ -8,7 +8,7 @@
 #include "files.h"
 #include "finding_text.h"
 #include "limit_options.h"
-#include "printable.h"
+#include <lvdata/analysis/printable.h>
 
 #include <lvdata/analysis/Outline.h>
 #include <lvdata/analysis/check/check.h>
@@ -64,10 +64,10 @@ std::string findingsOf(const Document& document) {
 }
 
 std::string modeOf(const lv::MonitorInfo& monitor, const Options& options) {
-    const auto modes = modeFigures(monitor.monitorConfiguration.value.colorModeSettings.value,
-                                   monitor.calibrationModeResult.value);
-    const auto mode = std::find_if(modes.begin(), modes.end(),
-                                   [&](const ModeFigures& each) { return each.index == options.mode; });
+    const auto modes = lv::analysis::modeFigures(monitor.monitorConfiguration.value.colorModeSettings.value,
+                                                 monitor.calibrationModeResult.value);
+    const auto mode =
+        std::find_if(modes.begin(), modes.end(), [&](const ModeFigures& each) { return each.index == options.mode; });
     if (mode == modes.end()) {
         throw Failure(inputName(options.file), "no colour mode has the index " + options.mode);
     }
@@ -93,7 +93,7 @@ ExitStatus show(const Options& options) {
     const Document document = readDocument(options.file, options.limits, catalogue);
     std::string text = viewOf(document, options) + findingsOf(document);
     text += options.outline.full ? '\n' + outlineOf(document, options.outline) : "";
-    writeResult(std::string(standardStream), printableLines(text));
+    writeResult(std::string(standardStream), text);
     return ExitStatus::done;
 }
 

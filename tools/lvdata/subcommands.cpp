@@ -4,6 +4,7 @@
 #include "diff.h"
 #include "explain.h"
 #include "format.h"
+#include "show.h"
 
 namespace tool {
 
@@ -12,6 +13,7 @@ std::vector<SubcommandAdder> everySubcommand() {
         addCheck,    //
         addDiff,     //
         addFormat,   //
+        addShow,     //
         addExplain,  //
     };
 }
