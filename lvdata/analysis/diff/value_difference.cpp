@@ -48,9 +48,9 @@ TableChange tableChange(const StoredArray& before, const StoredArray& after, con
     TableChange table{before.numbers.size(), after.numbers.size(), compared.differing, {}};
     if (compared.largest && compared.differing > 0) {
         const std::size_t index = compared.largest->index;
-        table.largest =
-            TableChange::Entry{index, shownNumber(before.numbers[index], *before.quantity),
-                               shownNumber(after.numbers[index], *after.quantity), compared.largest->change};
+        table.largest = TableChange::Entry{index, shownNumber(before.numbers[index], *before.quantity),
+                                           shownNumber(after.numbers[index], *after.quantity), compared.largest->change,
+                                           shownUnit(*after.quantity)};
     }
     return table;
 }
