@@ -1,5 +1,6 @@
 #include <lvdata/analysis/utf8.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -90,6 +91,20 @@ std::size_t findInvalidUTF8(std::string_view text) {
         position += asciiLength(text.substr(position));
     }
     return std::string_view::npos;
+}
+
+std::string inUTF8(std::string_view text) {
+    std::string valid;
+    while (!text.empty()) {
+        const std::size_t length = std::min(findInvalidUTF8(text), text.size());
+        valid += text.substr(0, length);
+        text.remove_prefix(length);
+        if (!text.empty()) {
+            valid += "\xEF\xBF\xBD";
+            text.remove_prefix(1);
+        }
+    }
+    return valid;
 }
 
 }  // namespace lv::analysis

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace lv::analysis {
@@ -16,5 +17,8 @@ namespace lv::analysis {
 [[nodiscard]] inline bool isUTF8(std::string_view text) {
     return findInvalidUTF8(text) == std::string_view::npos;
 }
+
+/// The text with U+FFFD in place of each byte that is not part of a UTF-8 character, for messages.
+[[nodiscard]] std::string inUTF8(std::string_view text);
 
 }  // namespace lv::analysis

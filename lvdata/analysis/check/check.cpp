@@ -64,6 +64,17 @@ void compare(const Document& document, Collector& collector) {
 
 }  // namespace
 
+CheckOptions lossOptions() {
+    CheckOptions options;
+    options.ignored.insert("003");
+    for (const Rule& rule : rules()) {
+        if (rule.id.front() == '4') {
+            options.ignored.emplace(rule.id);
+        }
+    }
+    return options;
+}
+
 Findings check(const std::string& text, const Catalogue& catalogue, const CheckOptions& options) {
     Collector collector(options);
     checkBytes(text, collector);
