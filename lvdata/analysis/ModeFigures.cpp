@@ -57,9 +57,10 @@ void takeParameters(ModeFigures& figures, const ParameterSetting& setting) {
         figures.targetBrightness = isPercent ? std::to_string(brightness.value) + " %" : brightness.type;
     }
     const auto& white = setting.whitePoint.value;
-    figures.targetWhite = white.type == types::whitePoint::temperature ? "Temperature " + std::to_string(white.temperature)
-                          : white.type == types::whitePoint::fixed     ? white.fixed
-                                                                       : white.type;
+    figures.targetWhite = white.type == types::whitePoint::temperature
+                              ? "Temperature " + std::to_string(white.temperature)
+                          : white.type == types::whitePoint::fixed ? white.fixed
+                                                                   : white.type;
     const auto& gamma = setting.gamma.value;
     figures.targetGamma = gamma.type == types::gamma::value   ? hundredths(gamma.value)
                           : gamma.type == types::gamma::fixed ? gamma.fixed
@@ -173,8 +174,7 @@ Figure deltaUVOf(const ModeFigures& figures) {
     }
     const auto target = colour::uniform(*figures.targetChromaticity);
     const auto measured = figures.measuredChromaticity ? colour::uniform(*figures.measuredChromaticity) : std::nullopt;
-    return target && measured ? Figure{colour::distance(*target, *measured), ""}
-                              : Figure{{}, "no real chromaticity"};
+    return target && measured ? Figure{colour::distance(*target, *measured), ""} : Figure{{}, "no real chromaticity"};
 }
 
 void compute(ModeFigures& figures) {

@@ -30,13 +30,13 @@ struct ModeFigures {
     std::string targetGamma{};       ///< "2.2", "table", "HLG" or the name of a standard.
     std::string targetGamut{};       ///< "BT.2100", "primaries", "native" or the name of a standard.
 
-    std::string calibratedTime{};                               ///< When it was calibrated, as the record has it.
-    std::optional<colour::Chromaticity> targetChromaticity{};   ///< Where the target white is given by x and y.
-    std::optional<colour::Tristimulus> measuredWhite{};         ///< X, Y, Z of the white that was reached.
-    std::optional<colour::Tristimulus> measuredBlack{};         ///< X, Y, Z of black.
-    std::optional<colour::Chromaticity> measuredChromaticity{}; ///< x and y of the measured white.
-    Figure measuredY{};                                         ///< Y of the measured white. Unit not recorded.
-    Figure contrast{};                                          ///< Y of white over Y of black.
+    std::string calibratedTime{};                                ///< When it was calibrated, as the record has it.
+    std::optional<colour::Chromaticity> targetChromaticity{};    ///< Where the target white is given by x and y.
+    std::optional<colour::Tristimulus> measuredWhite{};          ///< X, Y, Z of the white that was reached.
+    std::optional<colour::Tristimulus> measuredBlack{};          ///< X, Y, Z of black.
+    std::optional<colour::Chromaticity> measuredChromaticity{};  ///< x and y of the measured white.
+    Figure measuredY{};                                          ///< Y of the measured white. Unit not recorded.
+    Figure contrast{};                                           ///< Y of white over Y of black.
     Figure deltaUV{};  ///< Δu'v' of target and measured white, in the CIE 1976 UCS diagram.
 
     std::size_t measurements = 0;  ///< Rows of the mode's measurement series.

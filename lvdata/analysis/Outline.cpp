@@ -54,8 +54,8 @@ private:
             return "";
         }
         const Shape& textShape = *textShapeAt({&shape, &element, element.parent});
-        const Position position = &textShape == &shape ? Position{&shape, &element, element.parent}
-                                                       : Position{&textShape, text, &element};
+        const Position position =
+            &textShape == &shape ? Position{&shape, &element, element.parent} : Position{&textShape, text, &element};
         return ": " + (isNumeric(textShape) ? numbersAt(position, depth) : std::string(text->text));
     }
 

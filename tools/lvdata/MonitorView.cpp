@@ -148,8 +148,7 @@ std::string monitorView(const lv::MonitorInfo& monitor, const MonitorViewForm& f
 }
 
 std::string modeView(const ModeFigures& mode, const std::string& yUnit, const Palette& palette) {
-    std::string text =
-        palette.paint(Style::heading, "Mode " + orDash(mode.index) + ", " + orDash(mode.name)) + '\n';
+    std::string text = palette.paint(Style::heading, "Mode " + orDash(mode.index) + ", " + orDash(mode.name)) + '\n';
     addLine(text, "Type", orDash(mode.type));
     addLine(text, "Calibrated", orDash(mode.calibratedTime));
     Columns columns({"", "Target", "Measured"});

@@ -64,10 +64,10 @@ std::string findingsOf(const Document& document) {
 }
 
 std::string modeOf(const lv::MonitorInfo& monitor, const Options& options) {
-    const auto modes = modeFigures(monitor.monitorConfiguration.value.colorModeSettings.value,
-                                   monitor.calibrationModeResult.value);
-    const auto mode = std::find_if(modes.begin(), modes.end(),
-                                   [&](const ModeFigures& each) { return each.index == options.mode; });
+    const auto modes =
+        modeFigures(monitor.monitorConfiguration.value.colorModeSettings.value, monitor.calibrationModeResult.value);
+    const auto mode =
+        std::find_if(modes.begin(), modes.end(), [&](const ModeFigures& each) { return each.index == options.mode; });
     if (mode == modes.end()) {
         throw Failure(inputName(options.file), "no colour mode has the index " + options.mode);
     }
