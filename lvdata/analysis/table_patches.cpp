@@ -82,11 +82,11 @@ void addPatches(const Parts& parts, std::string_view source, const MeasurementDa
 }
 
 void addStandardPatches(const Parts& parts, const StandardModeResult& result, Sink& sink) {
-    if (const auto* const list = valueOf(result.measurementData)) {
-        addPatches(parts, "standard_mode_result", *list, sink);
+    if (result.hasMeasurementData) {
+        addPatches(parts, "standard_mode_result", result.measurementData, sink);
     }
-    if (const auto* const list = valueOf(result.measurementDataSecondary)) {
-        addPatches(parts, "standard_mode_result_secondary", *list, sink);
+    if (result.hasMeasurementDataSecondary) {
+        addPatches(parts, "standard_mode_result_secondary", result.measurementDataSecondary, sink);
     }
 }
 
@@ -104,8 +104,9 @@ void addPatchRows(const Parts& parts, Sink& sink) {
         for (const CalibrationModeResultObject& mode : parts.results->objects) {
             Parts ofMode = parts;
             ofMode.modeIndex = &mode.index;
-            mode.hasMeasurementData ? addPatches(ofMode, "calibration_mode_result", mode.measurementData, sink)
-                                    : void();
+            if (mode.hasMeasurementData) {
+                addPatches(ofMode, "calibration_mode_result", mode.measurementData, sink);
+            }
         }
     }
     if (parts.standardResult != nullptr) {

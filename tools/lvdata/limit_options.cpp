@@ -8,22 +8,43 @@
 namespace tool {
 namespace {
 
+using What = lv::Excess::What;
+
 /// 1 GiB, which no document of calibration data comes near; a parse of that much may need gigabytes many times over.
 constexpr std::size_t largest = 1'073'741'824;
 
-void addOption(CLI::App& command, const std::string& name, std::size_t& limit, const std::string& things) {
+std::string optionFor(What what) {
+    switch (what) {
+    case What::bytes:
+        return "--max-size";
+    case What::elements:
+        return "--max-elements";
+    case What::nodes:
+        return "--max-nodes";
+    case What::attributes:
+        return "--max-attributes";
+    default:
+        return "--max-broken-references";
+    }
+}
+
+void addOption(CLI::App& command, What what, std::size_t& limit, const std::string& things) {
     const std::string help = "Maximum number of " + things + " (default " + std::to_string(limit) + ")";
-    addCountOption(command, name, limit, {0, largest}, help);
+    addCountOption(command, optionFor(what), limit, {0, largest}, help);
 }
 
 }  // namespace
 
-void addLimitOptions(CLI::App& command, Limits& limits) {
-    addOption(command, "--max-size", limits.bytes, "bytes");
-    addOption(command, "--max-elements", limits.elements, "elements");
-    addOption(command, "--max-nodes", limits.nodes, "nodes: elements, attributes, texts, comments, other markup");
-    addOption(command, "--max-attributes", limits.attributes, "attributes per element");
-    addOption(command, "--max-broken-references", limits.brokenReferences, "'&#' without ';' in one text");
+void addLimitOptions(CLI::App& command, lv::Limits& limits) {
+    addOption(command, What::bytes, limits.bytes, "bytes");
+    addOption(command, What::elements, limits.elements, "elements");
+    addOption(command, What::nodes, limits.nodes, "nodes: elements, attributes, texts, comments, other markup");
+    addOption(command, What::attributes, limits.attributes, "attributes per element");
+    addOption(command, What::brokenReferences, limits.brokenReferences, "'&#' without ';' in one text");
+}
+
+std::string excessReason(const lv::Excess& excess) {
+    return excess.toString() + " (limit: " + optionFor(excess.what) + ')';
 }
 
 }  // namespace tool

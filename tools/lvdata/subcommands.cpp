@@ -1,12 +1,18 @@
 #include "subcommands.h"
 
+#include "check.h"
+#include "diff.h"
+#include "explain.h"
 #include "format.h"
 
 namespace tool {
 
 std::vector<SubcommandAdder> everySubcommand() {
     return {
-        addFormat,
+        addCheck,    //
+        addDiff,     //
+        addFormat,   //
+        addExplain,  //
     };
 }
 
