@@ -46,8 +46,7 @@ void givePQR(const PatchRow& row, Cell& cell) {
 
 const std::vector<ColumnOf<PatchRow>>& columns() {
     static const std::vector<ColumnOf<PatchRow>> all = withOrigin<PatchRow>({
-        {{"source", "",
-          "the record that has the measurement: calibration_mode_result, standard_mode_result, or a document"},
+        {{"source", "", "calibration_mode_result, standard_mode_result, standard_mode_result_secondary, or document"},
          [](const PatchRow& row, Cell& cell) {
              cell.text(row.source);
          }},
