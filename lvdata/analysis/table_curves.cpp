@@ -51,7 +51,7 @@ void addTable(CurveRow row, const std::vector<unsigned int>& entries, Sink& sink
 }
 
 void addMonitorTables(const Parts& parts, const MonitorParameter& parameter, Sink& sink) {
-    const Quantity& quantity = parameter.isHDRLUT.value == 1 ? quantities::hdrTableEntry : quantities::tableEntry;
+    const Quantity& quantity = parameter.tableQuantity();
     const auto add = [&](std::string_view channel, const property<std::vector<unsigned int>>& table) {
         if (table.hasValue) {
             addTable({parts, "monitor_table", "Lut", channel, std::nullopt, 0, quantity}, table.value, sink);

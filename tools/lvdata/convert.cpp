@@ -99,7 +99,7 @@ ExitStatus convert(const Options& options) {
     write(result.end());
     output.flush();
     if (isToFile && !result.isEmpty()) {
-        writeOutput(options.output, kept);
+        writeResult(options.output, kept);
     }
     return status;
 }
