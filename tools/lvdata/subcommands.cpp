@@ -1,6 +1,7 @@
 #include "subcommands.h"
 
 #include "check.h"
+#include "convert.h"
 #include "diff.h"
 #include "explain.h"
 #include "format.h"
@@ -11,6 +12,7 @@ namespace tool {
 std::vector<SubcommandAdder> everySubcommand() {
     return {
         addCheck,    //
+        addConvert,  //
         addDiff,     //
         addFormat,   //
         addShow,     //
