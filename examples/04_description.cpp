@@ -5,7 +5,9 @@
 #include <lvdata/lvdata.h>
 
 #include <iostream>
+#include <iterator>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -60,8 +62,9 @@ void print(const lv::Description& node, const std::string& indentation) {
 
 }  // namespace
 
-int main(int argumentCount, char** arguments) {
-    const std::string name = argumentCount > 1 ? arguments[1] : "ParameterSetting";
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv, std::next(argv, argc));
+    const std::string name = arguments.size() > 1 ? arguments[1] : "ParameterSetting";
     const lv::RecordClass* const found = lv::recordClass(name);
     if (found == nullptr) {
         std::cerr << "There is no record " << name << ". There are:\n";

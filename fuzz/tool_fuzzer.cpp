@@ -67,11 +67,12 @@ std::string read(const std::string& path) {
 /// Runs "lvdata format" with these arguments; the message when it refuses.
 std::optional<std::string> format(std::vector<std::string> arguments) {
     CLI::App application;
-    tool::addFormat(application);
+    const tool::Subcommand format = tool::addFormat(application);
     std::reverse(arguments.begin(), arguments.end());  // CLI11 takes them from the end
     arguments.emplace_back("format");
     try {
         application.parse(arguments);
+        format.run();
         return std::nullopt;
     } catch (const tool::Failure& failure) {
         return failure.what();

@@ -9,12 +9,15 @@
 #include <lvdata/core/ParsedDocument.h>
 #include <lvdata/core/PrimaryColours.h>
 #include <lvdata/core/Quantity.h>
+#include <lvdata/core/checked.h>
 #include <lvdata/core/colour.h>
 #include <lvdata/core/quantities.h>
 #include <lvdata/export.h>
 #include <lvdata/records/EveryRecord.h>
 #include <lvdata/records/RecordClass.h>
+#include <lvdata/records/types.h>
 #include <lvdata/version.h>
+#include <lvdata/xml/Limits.h>
 #include <lvdata/xml/XMLDocument.h>
 #include <lvdata/xml/XMLElement.h>
 #include <lvdata/xml/XMLNode.h>

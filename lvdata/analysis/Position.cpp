@@ -53,34 +53,10 @@ Position parentOf(const Position& position) {
     return {position.shape->parent(), parent, parent == nullptr ? nullptr : parent->parent};
 }
 
-Position subjectAt(const Question::Subject& subject, const Position& asked) {
-    Position position = asked;
-    for (std::size_t step = 0; step < subject.up; ++step) {
-        position = parentOf(position);
-    }
-    for (const Shape* const shape : subject.down) {
-        position = childAt(position, *shape);
-    }
-    return position;
-}
-
 /// The text of what is at the position, as it stands in the document; null when it is missing or has none.
 const Node* ownText(const Position& position) {
     const bool isElement = position.node != nullptr && position.node->kind == Node::Kind::element;
     return isElement ? textOf(*position.node) : position.node;
-}
-
-std::string inPlainForm(std::string_view text, Content content) {
-    switch (content) {
-    case Content::unsignedNumber:
-        return std::to_string(lexical_cast<unsigned int>(std::string(text)));
-    case Content::signedNumber:
-        return std::to_string(lexical_cast<int>(std::string(text)));
-    case Content::boolean:
-        return text == "true" || text == "TRUE" ? "true" : "false";
-    default:
-        return std::string(text);
-    }
 }
 
 Answer answerOf(bool isSo) {
@@ -142,9 +118,33 @@ Answer anyOf(const std::vector<Question>& alternatives, const Position& position
 
 }  // namespace
 
+std::string inPlainForm(std::string_view text, Content content) {
+    switch (content) {
+    case Content::unsignedNumber:
+        return std::to_string(lexical_cast<unsigned int>(std::string(text)));
+    case Content::signedNumber:
+        return std::to_string(lexical_cast<int>(std::string(text)));
+    case Content::boolean:
+        return text == "true" || text == "TRUE" ? "true" : "false";
+    default:
+        return std::string(text);
+    }
+}
+
 Position childAt(const Position& position, const Shape& child) {
     const Node* const element = position.node;
     return {&child, element == nullptr ? nullptr : find(*element, child.facts()), element};
+}
+
+Position subjectAt(const Question::Subject& subject, const Position& asked) {
+    Position position = asked;
+    for (std::size_t step = 0; step < subject.up; ++step) {
+        position = parentOf(position);
+    }
+    for (const Shape* const shape : subject.down) {
+        position = childAt(position, *shape);
+    }
+    return position;
 }
 
 std::string valueAt(const Position& position) {

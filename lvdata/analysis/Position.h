@@ -18,9 +18,16 @@ struct Position {
 /// The position of the child of that shape: of several elements the first, of a keyed element the last with a text.
 [[nodiscard]] Position childAt(const Position& position, const Shape& child);
 
+/// The position of a subject of a question that is asked at `asked`.
+[[nodiscard]] Position subjectAt(const Question::Subject& subject, const Position& asked);
+
 /// What a record holds of it after reading, as text: the text of a string, a number in plain decimal, "true" or
 /// "false", an array as it stands. The text of a fresh record where the document has none.
 [[nodiscard]] std::string valueAt(const Position& position);
+
+/// A text as a record writes back what it reads from it: a number in plain decimal, "true" or "false", strings and
+/// arrays as they stand.
+[[nodiscard]] std::string inPlainForm(std::string_view text, Description::Content content);
 
 /// An answer about a document. Some rules are said in words alone, so that nobody but the record can answer.
 enum class Answer { no, yes, unknown };

@@ -29,7 +29,8 @@ Shape::Shape(const Description& facts, const Shape* parent, std::size_t index)
     : facts_(facts),
       parent_(parent),
       index_(index),
-      key_(keyOf(facts)) {
+      key_(keyOf(facts)),
+      step_(facts.xpathStep()) {
     for (const Description& child : facts.children) {
         children_.push_back(std::unique_ptr<Shape>(new Shape(child, this, children_.size())));
     }
@@ -75,16 +76,16 @@ Question::Subject Shape::subjectOf(const std::string& xpath) const {
             ++subject.up;
             shape = shape->parent_;
         } else if (each != ".") {
-            shape = shape->step(each);
+            shape = shape->childOf(each);
             subject.down.push_back(shape);
         }
     }
     return subject;
 }
 
-const Shape* Shape::step(const std::string& xpathStep) const {
+const Shape* Shape::childOf(const std::string& xpathStep) const {
     for (const auto& child : children_) {
-        if (child->facts().xpathStep() == xpathStep) {
+        if (child->step_ == xpathStep) {
             return child.get();
         }
     }
@@ -127,7 +128,7 @@ bool Shape::takesText() const {
 }
 
 std::string Shape::path() const {
-    return (parent_ == nullptr ? "" : parent_->path() + '/') + facts_.xpathStep();
+    return (parent_ == nullptr ? "" : parent_->path() + '/') + step_;
 }
 
 }  // namespace lv::analysis

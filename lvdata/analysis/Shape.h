@@ -47,6 +47,9 @@ public:
     /// The key in JSON: the name in snake case; "value" for a text. Of a keyed element the name without its key.
     [[nodiscard]] const std::string& key() const { return key_; }
 
+    /// `Description::xpathStep`, made once.
+    [[nodiscard]] const std::string& step() const { return step_; }
+
     /// What it can hold, in the order of writing.
     [[nodiscard]] const std::vector<std::unique_ptr<Shape>>& children() const { return children_; }
 
@@ -83,12 +86,13 @@ private:
     [[nodiscard]] std::vector<Question> questionsOf(const std::vector<Condition>& conditions) const;
     [[nodiscard]] Question questionOf(const Condition& condition) const;
     [[nodiscard]] Question::Subject subjectOf(const std::string& xpath) const;
-    [[nodiscard]] const Shape* step(const std::string& xpathStep) const;
+    [[nodiscard]] const Shape* childOf(const std::string& xpathStep) const;
 
     const Description& facts_;
     const Shape* parent_;
     std::size_t index_;
     std::string key_;
+    std::string step_;
     std::vector<std::unique_ptr<Shape>> children_{};
     std::vector<Question> writtenWhen_{};
     std::vector<Question> readWhen_{};

@@ -10,7 +10,8 @@
 ///
 /// A getter returns the stored integer divided by the factor, as a double. It does not look at the member's flag.
 ///
-/// A setter stores the value times the factor plus 0.5, truncated toward zero. It never fails and checks no range:
+/// A setter stores the value times the factor plus 0.5, truncated toward zero. It never fails and checks no range;
+/// lvdata/core/checked.h has setters that do:
 ///
 /// - A negative value is stored as 0 in an unsigned number.
 /// - A signed number (XYZ, CIELAB and PQR of a measurement, the emulation matrix) takes negative values. Since one half

@@ -1,5 +1,6 @@
 #include <lvdata/core/detail/record.h>
 #include <lvdata/records/ColorModeSettings.h>
+#include <lvdata/records/types.h>
 
 namespace lv {
 namespace {
@@ -19,8 +20,10 @@ constexpr auto visitRow = [](auto& io, auto& row) {
     io.field("Index", row.index, quantities::identifier);
     io.field("Name", row.name);
     io.field("Availability", row.availability);
-    io.always().writeWhen(oneOf(type, "Standard", "SyncSignal")).record(row.parameterSetting);
-    visitTarget(io.writeWhen(oneOf(type, "Calibration")), row.targetSetting);
+    io.always()
+        .writeWhen(oneOf(type, types::colorMode::standard, types::colorMode::syncSignal))
+        .record(row.parameterSetting);
+    visitTarget(io.writeWhen(oneOf(type, types::colorMode::calibration)), row.targetSetting);
     io.always().record(row.profilePolicy);
     return io.exists();
 };

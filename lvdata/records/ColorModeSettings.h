@@ -17,8 +17,8 @@ namespace lv {
 /// So printing what was read drops the records that do not belong to the type.
 class ColorModeSettingsObject {
 public:
-    /// The kind of mode, attribute "Type". "Standard", "SyncSignal" and "Calibration" decide what is written; any other
-    /// text is kept and written back. Always written, whatever the flag.
+    /// The kind of mode, attribute "Type". "Standard", "SyncSignal" and "Calibration", see `types::colorMode`, decide
+    /// what is written; any other text is kept and written back. Always written, whatever the flag.
     property<std::string> type{};
 
     /// Which mode it is, element "Index". What the number means is not recorded. Written when set.

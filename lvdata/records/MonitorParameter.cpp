@@ -1,7 +1,9 @@
+#include <lvdata/core/detail/array_lengths.h>
 #include <lvdata/core/detail/fixed_point.h>
 #include <lvdata/core/detail/record.h>
 #include <lvdata/core/detail/six_colours.h>
 #include <lvdata/records/MonitorParameter.h>
+#include <lvdata/records/types.h>
 
 namespace lv {
 namespace {
@@ -10,19 +12,18 @@ using detail::choose;
 using detail::oneOf;
 using detail::when;
 
-constexpr std::size_t matrixLength = 9;
-
-auto tableQuantity(const MonitorParameter& self) {
-    return choose(quantities::tableEntry, when(oneOf(self.isHDRLUT.value, 1U), quantities::hdrTableEntry));
+auto quantityOfTables(const MonitorParameter& self) {
+    return choose(quantities::tableEntry,
+                  when(oneOf(self.isHDRLUT.value, types::tableScale::hdr), quantities::hdrTableEntry));
 }
 
 std::uint32_t tableFactor(const MonitorParameter& self) {
-    return tableQuantity(self).chosen().factor;
+    return self.tableQuantity().factor;
 }
 
 template <class Io, class Self, class Table>
 void visitTable(Io& io, const char* name, const Self& self, Table& table) {
-    io.array(name, table, {256, 1024}, tableQuantity(self));
+    io.array(name, table, detail::tableLengths, quantityOfTables(self));
 }
 
 template <class Io, class Group>
@@ -51,7 +52,7 @@ constexpr auto visit = [](auto& io, auto& self) {
     io.field("RedGain", self.redGain, quantities::gain);
     io.field("GreenGain", self.greenGain, quantities::gain);
     io.field("BlueGain", self.blueGain, quantities::gain);
-    io.array("EmulationMatrix", self.emulationMatrix, {matrixLength}, quantities::matrixEntry);
+    io.array("EmulationMatrix", self.emulationMatrix, detail::matrixLengths, quantities::matrixEntry);
     io.field("Limited109Setting", self.limited109Setting);
 };
 
@@ -69,6 +70,10 @@ XMLElement MonitorParameter::appendXMLElement(XMLNode& parent) const {
 
 Description MonitorParameter::describe() {
     return detail::describeRecord<MonitorParameter>(rootElementName, visit);
+}
+
+const Quantity& MonitorParameter::tableQuantity() const {
+    return quantityOfTables(*this).chosen();
 }
 
 std::vector<double> MonitorParameter::redLUT_x() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lvdata/core/DataObject.h>
+#include <lvdata/core/Quantity.h>
 #include <lvdata/export.h>
 
 #include <vector>
@@ -14,8 +15,8 @@ namespace lv {
 /// accessors convert, see lvdata/core/quantities.h. Getters do not look at the flag, setters set it.
 ///
 /// A look-up table counts with 256 or 1024 entries, the emulation matrix with 9. With any other number of entries they
-/// are not written, even though a setter accepts them and sets the flag. When such an array is read, its entries stay
-/// in memory and its flag is cleared. Version 4.0.
+/// are not written, even though a setter accepts them and sets the flag; `trySet` does not. When such an array is read,
+/// its entries stay in memory and its flag is cleared. Version 4.0.
 class LVDATA_EXPORT MonitorParameter : public DataObject {
 public:
     /// The name of the root element, compared exactly.
@@ -52,8 +53,8 @@ public:
     /// Contrast, element "Contrast", stored as it is; unit not recorded. Written when set.
     property<unsigned int> contrast;
 
-    /// Scale of the three look-up tables, element "isHDRLUT": HDR when the value is 1, whatever the flag, otherwise
-    /// normal. A number: the text "true" reads as 0. Written when set.
+    /// Scale of the three look-up tables, element "isHDRLUT": HDR when the value is 1 (`types::tableScale::hdr`),
+    /// whatever the flag, otherwise normal. A number: the text "true" reads as 0. Written when set.
     property<unsigned int> isHDRLUT;
 
     /// Look-up table of the red channel, element "RedLUT": each entry stored as `quantities::tableEntry`, times
@@ -114,6 +115,10 @@ public:
     /// getters return, not what is stored. Normal tables hold values up to 4294.967295, HDR tables up to 4.294967295;
     /// beyond that they wrap.
     /// @{
+
+    /// Returns what an entry of the tables now is: `quantities::hdrTableEntry` when `isHDRLUT` is 1, otherwise
+    /// `quantities::tableEntry`. For `trySet`, which checks values and lengths.
+    [[nodiscard]] const Quantity& tableQuantity() const;
 
     /// Returns the entries of `redLUT` as fractions, at the scale that `isHDRLUT` now chooses.
     [[nodiscard]] std::vector<double> redLUT_x() const;

@@ -1,6 +1,7 @@
 #include <lvdata/core/detail/fixed_point.h>
 #include <lvdata/core/detail/record.h>
 #include <lvdata/records/ParameterSetting.h>
+#include <lvdata/records/types.h>
 
 namespace lv {
 namespace {
@@ -14,10 +15,10 @@ using detail::when;
 constexpr auto visitBrightness = [](auto& io, auto& brightness) {
     io.attribute("Type", brightness.type);
     const std::string& type = brightness.type;
-    const auto quantity = choose(quantities::number, when(oneOf(type, "Candela"), quantities::candela),
-                                 when(oneOf(type, "Percent"), quantities::percent));
-    io.readWhen(noneOf(type, "SyncSignal"))
-        .writeWhen(oneOf(type, "Candela", "Percent"))
+    const auto quantity = choose(quantities::number, when(oneOf(type, types::brightness::candela), quantities::candela),
+                                 when(oneOf(type, types::brightness::percent), quantities::percent));
+    io.readWhen(noneOf(type, types::brightness::syncSignal))
+        .writeWhen(oneOf(type, types::brightness::candela, types::brightness::percent))
         .value("Value", brightness.value, quantity);
     return io.exists();
 };
@@ -25,19 +26,20 @@ constexpr auto visitBrightness = [](auto& io, auto& brightness) {
 constexpr auto visitWhitePoint = [](auto& io, auto& whitePoint) {
     io.attribute("Type", whitePoint.type);
     const std::string& type = whitePoint.type;
-    io.writeWhen(oneOf(type, "Temperature")).value("Temperature", whitePoint.temperature);
-    io.writeWhen(oneOf(type, "Fixed")).value("Fixed", whitePoint.fixed);
+    io.writeWhen(oneOf(type, types::whitePoint::temperature)).value("Temperature", whitePoint.temperature);
+    io.writeWhen(oneOf(type, types::whitePoint::fixed)).value("Fixed", whitePoint.fixed);
     return io.exists();
 };
 
 constexpr auto visitGamma = [](auto& io, auto& gamma) {
     io.attribute("Type", gamma.type);
     const std::string& type = gamma.type;
-    auto values = io.readWhen(noneOf(type, "SyncSignal"));
-    values.writeWhen(oneOf(type, "Value")).value("Value", gamma.value, quantities::gamma);
-    auto fixed = values.writeWhen(oneOf(type, "Fixed"));
+    auto values = io.readWhen(noneOf(type, types::gamma::syncSignal));
+    values.writeWhen(oneOf(type, types::gamma::value)).value("Value", gamma.value, quantities::gamma);
+    auto fixed = values.writeWhen(oneOf(type, types::gamma::fixed));
     fixed.value("Fixed", gamma.fixed);
-    fixed.writeWhen(oneOf(gamma.fixed, "HLG", "PQ")).value("PQHLGClipping", gamma.pqhlgClipping);
+    fixed.writeWhen(oneOf(gamma.fixed, types::fixedGamma::hlg, types::fixedGamma::pq))
+        .value("PQHLGClipping", gamma.pqhlgClipping);
     values.writeWhen(HLGSwitch()).value("HLGSystemGamma", gamma.hlgSystemGamma, quantities::hlgSystemGamma);
     return io.exists();
 };
@@ -45,7 +47,9 @@ constexpr auto visitGamma = [](auto& io, auto& gamma) {
 constexpr auto visitGamut = [](auto& io, auto& gamut) {
     io.attribute("Type", gamut.type);
     const std::string& type = gamut.type;
-    io.readWhen(noneOf(type, "SyncSignal")).writeWhen(oneOf(type, "Fixed")).value("Fixed", gamut.fixed);
+    io.readWhen(noneOf(type, types::gamut::syncSignal))
+        .writeWhen(oneOf(type, types::gamut::fixed))
+        .value("Fixed", gamut.fixed);
     io.value("Clipping", gamut.clipping);
     return io.exists();
 };

@@ -15,7 +15,8 @@ namespace lv {
 /// one exception: for "SyncSignal", brightness and gamma read none and the gamut does not read "Fixed". So printing
 /// what was read drops children that do not belong to the type.
 ///
-/// The accessors of the gamma convert as lvdata/core/quantities.h says. Version 2.0.
+/// Take the texts of types from lvdata/records/types.h, since a misspelt one loses its value when the record is
+/// printed. The accessors of the gamma convert as lvdata/core/quantities.h says. Version 2.0.
 class LVDATA_EXPORT ParameterSetting : public DataObject {
 public:
     /// The name of the root element, compared exactly.
@@ -23,7 +24,8 @@ public:
 
     /// How bright the display is to be.
     struct brightness_t {
-        /// How the brightness is given, attribute "Type": "Candela", "Percent" or "SyncSignal". Always written.
+        /// How the brightness is given, attribute "Type": "Candela", "Percent" or "SyncSignal", see
+        /// `types::brightness`. Always written.
         std::string type{};
 
         /// The brightness, element "Value", in the unit that the type names: stored as `quantities::candela` for
@@ -33,7 +35,8 @@ public:
 
     /// The white that the display is to have.
     struct white_point_t {
-        /// How the white point is given, attribute "Type": "Temperature" or "Fixed". Always written.
+        /// How the white point is given, attribute "Type": "Temperature" or "Fixed", see `types::whitePoint`.
+        /// Always written.
         std::string type{};
 
         /// Colour temperature, element "Temperature", stored as it is; unit not recorded. Written for the type
@@ -46,14 +49,15 @@ public:
 
     /// The tone curve that the display is to have.
     struct LVDATA_EXPORT gamma_t {
-        /// How the curve is given, attribute "Type": "Value", "Fixed" or "SyncSignal". Always written.
+        /// How the curve is given, attribute "Type": "Value", "Fixed" or "SyncSignal", see `types::gamma`. Always
+        /// written.
         std::string type{};
 
         /// The exponent, element "Value", stored as `quantities::gamma`, times 100. Written for the type "Value".
         unsigned int value = 0;
 
-        /// Name of a standard curve, element "Fixed", such as "PQ" or "HLG" (ITU-R BT.2100). Written for the type
-        /// "Fixed".
+        /// Name of a standard curve, element "Fixed", such as "PQ" or "HLG" (ITU-R BT.2100), see `types::fixedGamma`.
+        /// Written for the type "Fixed".
         std::string fixed{};
 
         /// Clipping of a PQ or HLG curve, element "PQHLGClipping". Which texts there are is not recorded. Written for
@@ -79,7 +83,7 @@ public:
 
     /// The gamut that the display is to have.
     struct gamut_t {
-        /// How the gamut is given, attribute "Type": "Fixed" or "SyncSignal". Always written.
+        /// How the gamut is given, attribute "Type": "Fixed" or "SyncSignal", see `types::gamut`. Always written.
         std::string type{};
 
         /// Name of a standard gamut, element "Fixed". Written for the type "Fixed".

@@ -1,6 +1,7 @@
 #include <lvdata/core/detail/colour_notation.h>
 #include <lvdata/core/detail/record.h>
 #include <lvdata/records/ProfileData.h>
+#include <lvdata/records/types.h>
 
 #include <array>
 #include <utility>
@@ -51,9 +52,10 @@ void visitLimited109(Io& io, Property& limited) {
 }
 
 constexpr auto visitCurveContent = [](auto& io, auto& curve) {
-    io.writeWhen(oneOf(curve.type, "Formula", "Lut", "LStar")).attribute("Type", curve.type);
-    io.when(oneOf(curve.type, "Formula")).text(curve.formula, quantities::curveParameter);
-    io.when(oneOf(curve.type, "Lut")).text(curve.lut, quantities::curveEntry);
+    io.writeWhen(oneOf(curve.type, types::profileCurve::formula, types::profileCurve::lut, types::profileCurve::lStar))
+        .attribute("Type", curve.type);
+    io.when(oneOf(curve.type, types::profileCurve::formula)).text(curve.formula, quantities::curveParameter);
+    io.when(oneOf(curve.type, types::profileCurve::lut)).text(curve.lut, quantities::curveEntry);
 };
 
 template <class Io, class Curve>

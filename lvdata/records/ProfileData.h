@@ -46,8 +46,9 @@ public:
 
     /// The tone curve that one channel is to have. Its type decides which member is the text of its element.
     struct LVDATA_EXPORT target_curve {
-        /// How the curve is given, attribute "Type": "Formula", "Lut" or "LStar" (the lightness curve of CIE 15).
-        /// Written when the curve is set and has one of these types; any other curve is written as an empty element.
+        /// How the curve is given, attribute "Type": "Formula", "Lut" or "LStar" (the lightness curve of CIE 15),
+        /// see `types::profileCurve`. Written when the curve is set and has one of these types; any other curve is
+        /// written as an empty element.
         std::string type{};
 
         /// The curve's one parameter, text of the curve's element, stored as `quantities::curveParameter`, times

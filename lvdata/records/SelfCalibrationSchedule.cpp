@@ -1,5 +1,6 @@
 #include <lvdata/core/detail/record.h>
 #include <lvdata/records/SelfCalibrationSchedule.h>
+#include <lvdata/records/types.h>
 
 #include <array>
 
@@ -8,39 +9,30 @@ namespace {
 
 using detail::isSet;
 using detail::oneOf;
+namespace schedule = types::schedule;
 
-enum Kind : unsigned int {
-    everySomeMonths = 0x01,
-    everySomeWeeks = 0x02,
-    everySomeHours = 0x03,
-    once = 0x11,
-    everySomeHours1F = 0x1F,
-    daily = 0x20,
-    weekly = 0x21,
-    monthly = 0x32,
-    quarterly = 0x33,
-    halfYearly = 0x34,
-    yearly = 0x35
-};
-
-constexpr std::array<unsigned int, 5> withWeekOfMonth = {everySomeMonths, monthly, quarterly, halfYearly, yearly};
-constexpr std::array<unsigned int, 7> withWeekday = {everySomeMonths, everySomeWeeks, weekly, monthly,
-                                                     quarterly,       halfYearly,     yearly};
-constexpr std::array<unsigned int, 9> withTimeOfDay = {everySomeMonths, everySomeWeeks, once,       daily, weekly,
-                                                       monthly,         quarterly,      halfYearly, yearly};
+constexpr std::array<unsigned int, 5> withWeekOfMonth = {schedule::everySomeMonths, schedule::monthly,
+                                                         schedule::quarterly, schedule::halfYearly, schedule::yearly};
+constexpr std::array<unsigned int, 7> withWeekday = {
+    schedule::everySomeMonths, schedule::everySomeWeeks, schedule::weekly, schedule::monthly,
+    schedule::quarterly,       schedule::halfYearly,     schedule::yearly};
+constexpr std::array<unsigned int, 9> withTimeOfDay = {
+    schedule::everySomeMonths, schedule::everySomeWeeks, schedule::once,       schedule::daily, schedule::weekly,
+    schedule::monthly,         schedule::quarterly,      schedule::halfYearly, schedule::yearly};
 
 // The lines stand in an order that holds for every kind at once.
 template <class Io, class Self>
 void visitFields(Io& io, Self& self) {
     const unsigned int& kind = self.type.value;
-    io.writeWhen(oneOf(kind, everySomeMonths)).field("IntervalMonth", self.intervalMonth);
-    io.writeWhen(oneOf(kind, everySomeWeeks)).field("IntervalWeek", self.intervalWeek);
-    io.writeWhen(oneOf(kind, everySomeHours, everySomeHours1F)).field("IntervalHour", self.intervalHour);
-    io.writeWhen(oneOf(kind, quarterly)).field("MonthOfQuarter", self.monthOfQuarter);
-    io.writeWhen(oneOf(kind, halfYearly)).field("MonthOfBiannual", self.monthOfBiannual);
-    io.writeWhen(oneOf(kind, once)).field("Year", self.year);
-    io.writeWhen(oneOf(kind, once, yearly)).field("Month", self.month);
-    io.writeWhen(oneOf(kind, once)).field("Day", self.day);
+    io.writeWhen(oneOf(kind, schedule::everySomeMonths)).field("IntervalMonth", self.intervalMonth);
+    io.writeWhen(oneOf(kind, schedule::everySomeWeeks)).field("IntervalWeek", self.intervalWeek);
+    io.writeWhen(oneOf(kind, schedule::everySomeHours, schedule::everySomeHours1F))
+        .field("IntervalHour", self.intervalHour);
+    io.writeWhen(oneOf(kind, schedule::quarterly)).field("MonthOfQuarter", self.monthOfQuarter);
+    io.writeWhen(oneOf(kind, schedule::halfYearly)).field("MonthOfBiannual", self.monthOfBiannual);
+    io.writeWhen(oneOf(kind, schedule::once)).field("Year", self.year);
+    io.writeWhen(oneOf(kind, schedule::once, schedule::yearly)).field("Month", self.month);
+    io.writeWhen(oneOf(kind, schedule::once)).field("Day", self.day);
     io.writeWhen(oneOf(kind, withWeekOfMonth)).field("ThWeek", self.thWeek);
     io.writeWhen(oneOf(kind, withWeekday)).field("Weekday", self.weekday);
     io.writeWhen(oneOf(kind, withTimeOfDay)).field("Hour", self.hour);

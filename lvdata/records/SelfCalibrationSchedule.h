@@ -28,7 +28,8 @@ namespace lv {
 /// | 0x35 yearly | month, week of the month, weekday, hour, minute |
 /// | any other | none |
 ///
-/// A kind is stored as a number; the names in the table follow from its fields. Version 1.0.
+/// A kind is stored as a number, for which `types::schedule` has constants; the names in the table follow from its
+/// fields. Version 1.0.
 class LVDATA_EXPORT SelfCalibrationSchedule : public DataObject {
 public:
     /// The name of the root element, compared exactly.

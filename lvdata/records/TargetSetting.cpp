@@ -1,6 +1,7 @@
 #include <lvdata/core/detail/record.h>
 #include <lvdata/core/detail/six_colours.h>
 #include <lvdata/records/TargetSetting.h>
+#include <lvdata/records/types.h>
 
 namespace lv {
 namespace {
@@ -14,13 +15,13 @@ using detail::rule;
 
 constexpr auto visitLevel = [](auto& io, auto& level) {
     const auto found = io.attribute("Type", level.type);
-    io.writeWhen(oneOf(level.type, "Value")).value("Value", level.value);
+    io.writeWhen(oneOf(level.type, types::targetLevel::value)).value("Value", level.value);
     return found;
 };
 
 constexpr auto visitStandard = [](auto& io, auto& named) {
     const auto found = io.attribute("Type", named.type);
-    io.writeWhen(oneOf(named.type, "Standard")).value("Standard", named.standard);
+    io.writeWhen(oneOf(named.type, types::targetStandard::standard)).value("Standard", named.standard);
     return found;
 };
 
@@ -32,17 +33,18 @@ void visitChromaticity(Io& io, Chromaticity& chromaticity) {
 
 constexpr auto visitWhitePoint = [](auto& io, auto& whitePoint) {
     const auto found = io.attribute("Type", whitePoint.type);
-    io.writeWhen(oneOf(whitePoint.type, "Temperature")).value("Temperature", whitePoint.temperature);
-    auto coordinate = io.writeWhen(oneOf(whitePoint.type, "Coordinate"));
+    io.writeWhen(oneOf(whitePoint.type, types::targetWhitePoint::temperature))
+        .value("Temperature", whitePoint.temperature);
+    auto coordinate = io.writeWhen(oneOf(whitePoint.type, types::targetWhitePoint::coordinate));
     visitChromaticity(coordinate, whitePoint);
     return found;
 };
 
 constexpr auto visitCurve = [](auto& io, auto& color) {
     io.attribute("Type", color.type);
-    io.writeWhen(oneOf(color.type, "Formula")).value("Formula", color.formula, quantities::gamma);
-    io.writeWhen(oneOf(color.type, "Lut")).value("Lut", color.lut, quantities::curveEntry16);
-    io.writeWhen(oneOf(color.type, "Lut24")).value("Lut24", color.lut24, quantities::curveEntry24);
+    io.writeWhen(oneOf(color.type, types::targetCurve::formula)).value("Formula", color.formula, quantities::gamma);
+    io.writeWhen(oneOf(color.type, types::targetCurve::lut)).value("Lut", color.lut, quantities::curveEntry16);
+    io.writeWhen(oneOf(color.type, types::targetCurve::lut24)).value("Lut24", color.lut24, quantities::curveEntry24);
 };
 
 template <class Io, class Color>
@@ -62,9 +64,11 @@ constexpr auto visitGamma = [](auto& io, auto& gamma) {
     any |= visitGammaColor(io, "Green", gamma.green).exists();
     any |= visitGammaColor(io, "Blue", gamma.blue).exists();
     const std::string& type = gamma.red.type;
-    io.writeWhen(oneOf(type, "PQ", "HLG")).value("PQHLGClipping", gamma.pqhlgClipping);
+    io.writeWhen(oneOf(type, types::targetCurve::pq, types::targetCurve::hlg))
+        .value("PQHLGClipping", gamma.pqhlgClipping);
     io.writeWhen(HLGSwitch()).value("HLGSystemGamma", gamma.hlgSystemGamma, quantities::hlgSystemGamma);
-    visitImportedLutFile(io.writeWhen(oneOf(type, "Lut", "Lut24")), gamma.importedLutFile);
+    visitImportedLutFile(io.writeWhen(oneOf(type, types::targetCurve::lut, types::targetCurve::lut24)),
+                         gamma.importedLutFile);
     return any;
 };
 

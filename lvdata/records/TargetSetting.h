@@ -18,8 +18,8 @@ namespace lv {
 ///
 /// Every member of the record is written only when it is set. Levels, white points, standards and curves have a type
 /// that decides which of their children are written. Types are compared exactly; any other text is kept and written
-/// back. Parsing reads all children, whatever the type, and a missing one leaves its member as it was. So printing what
-/// was read drops children that do not belong to the type.
+/// back; the constants of lvdata/records/types.h cannot be misspelt. Parsing reads all children, whatever the type, and
+/// a missing one leaves its member as it was. So printing what was read drops children that do not belong to the type.
 ///
 /// Fractions are stored as unsigned integers; the `_x` accessors convert, see lvdata/core/quantities.h. They change
 /// neither a flag nor a type: set these, too. Version 3.2.
@@ -30,7 +30,8 @@ public:
 
     /// A level, for the elements "Brightness" and "BlackLevel".
     struct level_t {
-        /// How the level is given, attribute "Type": "Value", or any other text. Written whenever the level is.
+        /// How the level is given, attribute "Type": "Value", see `types::targetLevel`, or any other text. Written
+        /// whenever the level is.
         std::string type{};
 
         /// The level, element "Value", stored as it is; unit not recorded. Written for the type "Value".
@@ -39,7 +40,8 @@ public:
 
     /// A standard by its name, for the elements "WhitePointV7", "GammaV7" and "GamutV7".
     struct standard_t {
-        /// Attribute "Type": "Standard", or any other text. Written whenever the element is.
+        /// Attribute "Type": "Standard", see `types::targetStandard`, or any other text. Written whenever the element
+        /// is.
         std::string type{};
 
         /// Name of the standard, element "Standard": any text. Written for the type "Standard".
@@ -48,8 +50,8 @@ public:
 
     /// A white point by its temperature or its chromaticity.
     struct LVDATA_EXPORT white_point_t {
-        /// How the white point is given, attribute "Type": "Temperature" or "Coordinate". Written whenever the white
-        /// point is.
+        /// How the white point is given, attribute "Type": "Temperature" or "Coordinate", see
+        /// `types::targetWhitePoint`. Written whenever the white point is.
         std::string type{};
 
         /// Colour temperature, element "Temperature", stored as it is; unit not recorded. Written for the type
@@ -77,7 +79,8 @@ public:
         /// The tone curve of one channel.
         struct LVDATA_EXPORT gamma_color {
             /// How the curve is given, attribute "Type": "Formula", "Lut" or "Lut24", each written with the child of
-            /// that name. "PQ", "HLG" (ITU-R BT.2100) and any other text have no child. Written whenever the curve is.
+            /// that name. "PQ", "HLG" (ITU-R BT.2100) and any other text have no child. See `types::targetCurve`.
+            /// Written whenever the curve is.
             std::string type{};
 
             /// The exponent, element "Formula", stored as `quantities::gamma`, times 100. Written for the type

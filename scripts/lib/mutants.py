@@ -25,10 +25,11 @@ OPERATORS = (" = ", "|| ", "&& ", " ||", " &&")  # around one of its letters
 LOGICAL = re.compile(r" (\|\||&&) ")
 LITERAL = re.compile(r'"[^"\n]*"')
 TEXT_FOLLOWS = re.compile(r"""(?:[!=]= |\bconstant\("_*", |\b(?:one|none)Of\([^;()]*)$""")  # else it is the name of an element or an attribute
+TYPE = re.compile(r"\btypes::(?!tableScale)\w+::\w+")  # a constant that is a text
 ROOT_NAME = re.compile(r"(?<=[ (])(?:Record::)?rootElementName\b")
 NUMBER = re.compile(r"(?<![\w.<\[])(?:0x[0-9A-F]+|\d+(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
 LENGTH = re.compile(r"(?<=\.size\(\) [=>]= )[A-Za-z][\w:.]*(?:\(\))?")
-ENTRIES = re.compile(r"(?:(?<=[=,] )\{\s*|\boneOf\(kind, )((?!with)[a-z]\w*(?:,\s+[a-z]\w*)*)\s*[})]")
+ENTRIES = re.compile(r"(?:(?<=[=,] )\{\s*|\boneOf\(kind, )((?!with)[a-z][\w:]*(?:,\s+[a-z][\w:]*)*)\s*[})]")
 CONSTANT = re.compile(r"constexpr (?!auto\b)")
 
 COMPARISON = re.compile(r" (<=?|>=?) (?=[\w(*&-])")
@@ -244,6 +245,8 @@ def texts(code, text):
         changed = original[:-1] + 'X"'
         kind = "text" if TEXT_FOLLOWS.search(code[: match.start()]) else "name"
         yield Mutant(kind, *match.span(), f"mutation::pick<const char*>(@, {changed}, ", ")", f"becomes {changed}")
+    for match in TYPE.finditer(code):
+        yield Mutant("text", *match.span(), 'mutation::pick<const char*>(@, "X", ', ")", "becomes another")
     for match in ROOT_NAME.finditer(code):
         before = 'mutation::pick<const char*>(@, "X", '
         yield Mutant("name", *match.span(), before, ")", "becomes another")
@@ -278,9 +281,9 @@ def lengths(code):
 
 
 def entries(code):
-    """The constants in lists such as {once, yearly} and oneOf(kind, once, yearly)."""
+    """The constants in lists such as {schedule::once} and oneOf(kind, schedule::once)."""
     for match in ENTRIES.finditer(code):
-        for entry in re.finditer(r"\w+", match.group(1)):
+        for entry in re.finditer(r"[\w:]+", match.group(1)):
             start, end = (match.start(1) + offset for offset in entry.span())
             before = f"mutation::pick<decltype(+{entry.group()})>(@, 0xFFFF, "
             yield Mutant("entry", start, end, before, ")", "left out")

@@ -2,21 +2,18 @@
 
 #include <lvdata/records/MonitorInfo.h>
 
+#include <tests/analysis/catalogue.h>
+
 #include <fstream>
 #include <sstream>
 
 #include <gtest/gtest.h>
 
-using lv::analysis::Catalogue;
 using lv::analysis::Document;
 using lv::analysis::Refusal;
+using lv::test::catalogue;
 
 namespace {
-
-const Catalogue& catalogue() {
-    static const Catalogue all;
-    return all;
-}
 
 std::string studio() {
     std::ostringstream text;

@@ -2,21 +2,18 @@
 #include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/Position.h>
 
+#include <tests/analysis/catalogue.h>
+
 #include <gtest/gtest.h>
 
 using lv::analysis::Answer;
-using lv::analysis::Catalogue;
 using lv::analysis::childAt;
 using lv::analysis::Document;
 using lv::analysis::Position;
 using lv::analysis::Shape;
+using lv::test::catalogue;
 
 namespace {
-
-const Catalogue& catalogue() {
-    static const Catalogue all;
-    return all;
-}
 
 const Shape& shapeOf(const char* record) {
     return *catalogue().find(record)->shape;

@@ -1,4 +1,5 @@
 #include <tests/support/DescribedNode.h>
+#include <tests/support/conditions_of.h>
 #include <tests/support/every_record.h>
 
 #include <lvdata/records/RecordClass.h>
@@ -11,23 +12,6 @@ namespace lv::test {
 namespace {
 
 using Kind = Condition::Kind;
-
-/// All conditions of a node with their alternatives.
-std::vector<Condition> conditionsOf(const Description& node) {
-    std::vector<Condition> conditions = node.writtenWhen;
-    conditions.insert(conditions.end(), node.readWhen.begin(), node.readWhen.end());
-    if (node.flag) {
-        conditions.push_back(*node.flag);
-    }
-    for (const Description::QuantityWhen& other : node.otherQuantities) {
-        conditions.push_back(other.condition);
-    }
-    for (std::size_t index = 0; index < conditions.size(); ++index) {
-        const std::vector<Condition> alternatives = conditions[index].alternatives;
-        conditions.insert(conditions.end(), alternatives.begin(), alternatives.end());
-    }
-    return conditions;
-}
 
 bool needsSubjects(const Condition& condition) {
     return condition.kind != Kind::anyOf && condition.kind != Kind::hlgSwitch;

@@ -46,7 +46,8 @@ inline std::string gettersOf(const MeasurementData& record) {
 
 inline std::string gettersOf(const MonitorParameter& record) {
     return linesOf(record.redLUT_x(), record.greenLUT_x(), record.blueLUT_x(), record.hlgSystemGamma_x(),
-                   record.redGain_x(), record.greenGain_x(), record.blueGain_x(), record.emulationMatrix_x());
+                   record.redGain_x(), record.greenGain_x(), record.blueGain_x(), record.emulationMatrix_x(),
+                   record.tableQuantity().factor);
 }
 
 inline std::string gettersOf(const ParameterSetting& record) {

@@ -2,7 +2,7 @@
 
 #include "Descriptor.h"
 #include "Failure.h"
-#include "Limits.h"
+#include "limit_options.h"
 #include "replace_file.h"
 
 #include <algorithm>
@@ -108,7 +108,7 @@ std::string readInput(const std::string& file, std::size_t limit) {
         throw Failure(inputName(file), error.code().message());
     }
     if (text.size() > limit) {
-        throw Failure(inputName(file), excessReason(limit, "bytes", "--max-size"));
+        throw Failure(inputName(file), excessReason({lv::Excess::What::bytes, limit, limit, 0}));
     }
     return text;
 }

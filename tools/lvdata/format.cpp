@@ -1,6 +1,7 @@
 #include "format.h"
 
 #include "Failure.h"
+#include "Output.h"
 #include "files.h"
 #include "limit_options.h"
 
@@ -20,7 +21,7 @@ struct FormatOptions {
     bool compact = false;
     bool noDeclaration = false;
     bool hlgSystemGamma = false;
-    Limits limits;
+    lv::Limits limits;
 };
 
 int lineOf(const std::string& text, std::size_t position) {
@@ -29,13 +30,13 @@ int lineOf(const std::string& text, std::size_t position) {
 }
 
 /// Refuses what the XML library would misread or choke on.
-void checkText(const std::string& text, const Limits& limits, const std::string& name) {
+void checkText(const std::string& text, const lv::Limits& limits, const std::string& name) {
     const std::size_t nul = text.find('\0');
     if (nul != std::string::npos) {  // where the XML library would stop reading
         throw Failure(name, "NUL character", lineOf(text, nul));
     }
-    if (const auto excess = findExcess(text, limits)) {
-        throw Failure(name, excess->reason, lineOf(text, excess->position));
+    if (const auto excess = lv::findExcess(text, limits)) {
+        throw Failure(name, excessReason(*excess), excess->line);
     }
 }
 
@@ -62,7 +63,7 @@ std::string knownRootElements() {
     return list;
 }
 
-std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const Limits& limits) {
+std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const lv::Limits& limits) {
     const std::string name = inputName(file);
     const std::string text = readInput(file, limits.bytes);
     checkText(text, limits, name);
@@ -79,14 +80,15 @@ std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const Limits
     return record;
 }
 
-void format(const FormatOptions& options) {
+ExitStatus format(const FormatOptions& options) {
     const auto record = readRecord(options.input, options.limits);
     record->writeHLGSystemGamma = options.hlgSystemGamma;
     std::string text = record->toXMLString(!options.noDeclaration, !options.compact);
     if (text.empty() || text.back() != '\n') {
         text += '\n';
     }
-    writeOutput(options.output, text);
+    writeResult(options.output, text);
+    return ExitStatus::done;
 }
 
 std::string complaintIfEmpty(const std::string& name) {
@@ -95,23 +97,24 @@ std::string complaintIfEmpty(const std::string& name) {
 
 }  // namespace
 
-void addFormat(CLI::App& application) {
-    CLI::App* const command =
-        application.add_subcommand("format", "Read a record from an XML document and print it anew");
+Subcommand addFormat(CLI::App& application) {
+    CLI::App* const command = application.add_subcommand("format", "Print a record in canonical form");
     const auto options = std::make_shared<FormatOptions>();
-    command->add_flag("--compact", options->compact, "No indentation, no line breaks between elements");
-    command->add_flag("--no-declaration", options->noDeclaration, "No XML declaration in front");
+    command->add_flag("--compact", options->compact, "Omit indentation and line breaks");
+    command->add_flag("--no-declaration", options->noDeclaration, "Omit the XML declaration");
     command->add_flag("--hlg-system-gamma", options->hlgSystemGamma,
-                      "Write the HLG system gamma of colour modes, which records leave out unless told to write it");
+                      "Write the HLG system gamma of colour modes (omitted by default)");
     command->add_option("-o,--output", options->output, "Write to FILE instead of standard output")
         ->type_name("FILE")
         ->check(complaintIfEmpty);
-    command->add_option("FILE", options->input, "An XML document with a record as root element; - for standard input")
+    command->add_option("FILE", options->input, "XML document with a record as root element; - for standard input")
         ->type_name("")
         ->required()
         ->check(complaintIfEmpty);
     addLimitOptions(*command, options->limits);
-    command->callback([options] { format(*options); });
+    return {command, [options] {
+                return format(*options);
+            }};
 }
 
 }  // namespace tool

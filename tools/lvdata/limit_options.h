@@ -1,6 +1,8 @@
 #pragma once
 
-#include "Limits.h"
+#include <lvdata/xml/Limits.h>
+
+#include <string>
 
 #include <CLI/CLI.hpp>
 
@@ -8,6 +10,10 @@ namespace tool {
 
 /// Adds an option "--max-..." for each limit of a subcommand that reads a document. The limits must outlive the
 /// command.
-void addLimitOptions(CLI::App& command, Limits& limits);
+void addLimitOptions(CLI::App& command, lv::Limits& limits);
+
+/// The reason why a document is refused, with the option that changes the limit:
+/// "more than 100 attributes per element (limit: --max-attributes)".
+[[nodiscard]] std::string excessReason(const lv::Excess& excess);
 
 }  // namespace tool

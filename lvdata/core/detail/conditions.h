@@ -26,7 +26,7 @@ struct GateCondition {};
 template <class Gate>
 using RequireCondition = std::enable_if_t<std::is_base_of_v<GateCondition, Gate>>;
 
-/// What a member is compared with: a literal, whose length is then known at compile time, or a number.
+/// What a member is compared with: a text that is known at compile time, and so is its length, or a number.
 template <class T>
 using Comparand = std::conditional_t<std::is_same_v<T, std::string>, std::string_view, T>;
 

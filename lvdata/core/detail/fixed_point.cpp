@@ -63,6 +63,7 @@ Magnitude product(const Magnitude& value, std::uint32_t factor) {
 
 constexpr int leastExponent = -63;                 // below it the product is less than one half by far
 constexpr int greatestExponent = 63 - doubleBits;  // above it the product is 2^63 or more
+constexpr int greatestChecked = 33 - doubleBits;   // above it the product is 2^33 or more
 
 /// The whole part of the magnitude plus or minus one half, rounded before it is truncated. Between these two exponents
 /// everything fits into 64 bits, but for 2^63 itself, which gives 0 as all that is larger.
@@ -90,6 +91,25 @@ std::uint32_t scaledBits(double value, std::uint32_t factor) {
     const bool isNegative = value < 0.0;
     const auto bits = static_cast<std::uint32_t>(wholePart(scaled, isNegative));
     return isNegative ? 0U - bits : bits;
+}
+
+std::optional<std::int64_t> nearestStep(double value, std::uint32_t factor) {
+    if (!std::isfinite(value) || factor == 0) {
+        return std::nullopt;
+    }
+    if (value == 0.0) {
+        return 0;
+    }
+    const Magnitude scaled = product(magnitudeOf(value), factor);
+    if (scaled.exponent > greatestChecked) {
+        return std::nullopt;
+    }
+    if (scaled.exponent < leastExponent) {
+        return 0;
+    }
+    const std::uint64_t half = std::uint64_t{1} << (-1 - scaled.exponent);  // at most 2^62, so the sum has 64 bits
+    const auto steps = static_cast<std::int64_t>((scaled.mantissa + half) >> -scaled.exponent);
+    return value < 0.0 ? -steps : steps;
 }
 
 }  // namespace lv::detail

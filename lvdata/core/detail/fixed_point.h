@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
+#include <optional>
 #include <vector>
 
 namespace lv::detail {
@@ -27,6 +29,20 @@ template <>
 template <>
 [[nodiscard]] inline int to_fixed<int>(double value, double factor) {
     return static_cast<int>(scaledBits(value, static_cast<std::uint32_t>(factor)));
+}
+
+/// The integer next to `value * factor`; of two that are equally near, the one further from zero. Nothing where the
+/// value is NaN or infinite or the factor is 0, and where the integer has a magnitude of 2^33 or more. The product is
+/// rounded to a double first, so that every processor gives the same.
+[[nodiscard]] std::optional<std::int64_t> nearestStep(double value, std::uint32_t factor);
+
+/// The same as the number that is stored; nothing when it does not fit. Defined for unsigned int and int.
+template <class Number>
+[[nodiscard]] std::optional<Number> checkedFixed(double value, std::uint32_t factor) {
+    const std::optional<std::int64_t> step = nearestStep(value, factor);
+    const bool fits =
+        step && *step >= std::numeric_limits<Number>::min() && *step <= std::numeric_limits<Number>::max();
+    return fits ? std::optional<Number>(static_cast<Number>(*step)) : std::nullopt;
 }
 
 /// The double that a fixed-point number stands for.

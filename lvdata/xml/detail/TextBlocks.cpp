@@ -40,7 +40,7 @@ void TextBlocks::appendLong(std::string_view text) {
 
 std::string TextBlocks::joined() const {
     std::string text;
-    text.reserve(sizeBeforeLast_ + usedOfLast());
+    text.reserve(sizeBeforeLast_ + usedOfLast() + 1);  // a last line feed can be added without copying the text
     for (const Block& block : blocks_) {
         text.append(block.characters.get(), &block == &blocks_.back() ? usedOfLast() : block.used);
     }

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -192,6 +193,61 @@ TEST(ToFixed, TheProductIsRoundedBeforeTheSum) {
     EXPECT_EQ(signedOf(-0.00085, 1e4), -8);
     EXPECT_EQ(signedOf(-1.65e-8, 1e9), -16);
     EXPECT_EQ(std::trunc(std::fma(-0.00085, 1e4, 0.5)), -7.0);
+}
+
+std::optional<unsigned int> checkedUnsigned(double value, std::uint32_t factor) {
+    return checkedFixed<unsigned int>(value, factor);
+}
+
+TEST(NearestStep, RoundsHalvesAwayFromZero) {
+    EXPECT_EQ(nearestStep(0.5, 1), 1);
+    EXPECT_EQ(nearestStep(-0.5, 1), -1);
+    EXPECT_EQ(nearestStep(2.5, 1), 3);
+    EXPECT_EQ(nearestStep(-2.5, 1), -3);
+    EXPECT_EQ(nearestStep(0x1.fffffffffffffp-2, 1), 0) << "the sum is not rounded";
+    EXPECT_EQ(nearestStep(-0.7, 1000000), -700000);
+    EXPECT_EQ(nearestStep(0.145, 100), 14) << "the product is less than 14.5";
+    EXPECT_EQ(nearestStep(0.0049999999999999992, 100), 0) << "the product is less than one half";
+}
+
+TEST(NearestStep, EndsWhereNoNumberIsStored) {
+    EXPECT_EQ(nearestStep(2 * two32 - 1, 1), 8589934591);
+    EXPECT_EQ(nearestStep(2 * two32, 1), std::nullopt);
+    EXPECT_EQ(nearestStep(-2 * two32, 1), std::nullopt);
+    EXPECT_EQ(nearestStep(1e300, 1000000), std::nullopt);
+    EXPECT_EQ(nearestStep(DoubleLimits::infinity(), 1), std::nullopt);
+    EXPECT_EQ(nearestStep(DoubleLimits::quiet_NaN(), 1), std::nullopt);
+    EXPECT_EQ(nearestStep(1.0, 0), std::nullopt);
+    EXPECT_EQ(nearestStep(-0.0, 1), 0);
+    EXPECT_EQ(nearestStep(DoubleLimits::denorm_min(), 4294967295U), 0);
+}
+
+/// The same number on every processor: what rounding the product as a double gives.
+TEST(NearestStep, IsTheSameOnEveryProcessor) {
+    std::uint64_t state = 1;
+    std::int64_t sum = 0;
+    for (int round = 0; round < 100000; ++round) {
+        for (const std::uint32_t factor : {100U, 255U, 10000U, 65535U, 1000000U, 16777215U}) {
+            const double value = sample(state, factor);
+            const std::optional<std::int64_t> step = nearestStep(value, factor);
+#if defined(__SSE2__)
+            const double product = value * factor;
+            ASSERT_EQ(step, std::fabs(product) < 2 * two32 ? std::optional(std::llround(product)) : std::nullopt);
+#endif
+            sum += step.value_or(1);
+        }
+    }
+    EXPECT_EQ(sum, -152688434);
+}
+
+TEST(CheckedFixed, IsNothingWhereTheNumberDoesNotFit) {
+    EXPECT_EQ(checkedUnsigned(4294967295.25, 1), 4294967295U);
+    EXPECT_EQ(checkedUnsigned(4294967295.5, 1), std::nullopt);
+    EXPECT_EQ(checkedUnsigned(-0.25, 1), 0U);
+    EXPECT_EQ(checkedUnsigned(-0.5, 1), std::nullopt);
+    EXPECT_EQ(checkedFixed<int>(-2147483648.25, 1), std::numeric_limits<int>::min());
+    EXPECT_EQ(checkedFixed<int>(-2147483648.5, 1), std::nullopt);
+    EXPECT_EQ(checkedFixed<int>(2147483647.5, 1), std::nullopt);
 }
 
 TEST(FromFixed, DividesByTheFactor) {

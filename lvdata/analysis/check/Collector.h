@@ -1,0 +1,35 @@
+#pragma once
+
+#include <lvdata/analysis/check/check.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lv::analysis {
+
+/// Collects the findings of one document.
+class Collector {
+public:
+    /// The options must outlive the collector.
+    explicit Collector(const CheckOptions& options) : options_(options) {}
+
+    /// Whether the rule of that id is looked for. Asked before work that is done for the rule alone.
+    [[nodiscard]] bool isWanted(std::string_view id) const { return options_.ignored.count(id) == 0; }
+
+    /// Whether another finding would be listed. If not, its path and message do not matter.
+    [[nodiscard]] bool isListing() const { return findings_.listed.size() < options_.mostListed; }
+
+    /// Adds a finding of that rule, with its severity or another one.
+    void add(std::string_view id, int line, std::string path, std::string message,
+             std::optional<Severity> severity = std::nullopt);
+
+    /// All findings, in the order of their lines.
+    [[nodiscard]] Findings take();
+
+private:
+    const CheckOptions& options_;
+    Findings findings_{};
+};
+
+}  // namespace lv::analysis

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace lv::analysis {
+
+/// How much a finding matters.
+enum class Severity {
+    info,     ///< Nothing is lost: only worth knowing.
+    warning,  ///< Something is lost or changed when the document is written back, or is hardly meant.
+    error,    ///< There is no record, or it holds another value than the document says.
+};
+
+/// "info", "warning" or "error".
+[[nodiscard]] std::string_view nameOf(Severity severity);
+
+/// What `check` looks for.
+struct Rule {
+    std::string_view id;           ///< Three digits, which never change: "301".
+    Severity severity;             ///< How much it matters.
+    std::string_view title;        ///< In a few words: "unknown element".
+    std::string_view explanation;  ///< What it means, what becomes of the document, and what to do.
+    std::string_view failing;      ///< A document with such a finding,
+    int line;                      ///< which is in this line.
+    std::string_view passing;      ///< The same without.
+};
+
+/// All rules, in the order of their ids.
+[[nodiscard]] const std::vector<Rule>& rules();
+
+/// The rule of that id; null when there is none.
+[[nodiscard]] const Rule* findRule(std::string_view id);
+
+}  // namespace lv::analysis

@@ -1,0 +1,97 @@
+#include <lvdata/analysis/check/UnknownNames.h>
+#include <lvdata/analysis/check/wording.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+namespace lv::analysis {
+namespace {
+
+using Place = Description::Place;
+
+/// How many characters must be changed, added or removed to make one of the other (Levenshtein).
+std::size_t distance(std::string_view left, std::string_view right) {
+    std::vector<std::size_t> row(right.size() + 1);
+    for (std::size_t column = 0; column <= right.size(); ++column) {
+        row[column] = column;
+    }
+    for (std::size_t line = 1; line <= left.size(); ++line) {
+        std::size_t diagonal = row[0];
+        row[0] = line;
+        for (std::size_t column = 1; column <= right.size(); ++column) {
+            const std::size_t replaced = diagonal + (left[line - 1] == right[column - 1] ? 0 : 1);
+            diagonal = row[column];
+            row[column] = std::min({replaced, row[column] + 1, row[column - 1] + 1});
+        }
+    }
+    return row[right.size()];
+}
+
+/// `; did you mean "Brightness"?`, or nothing when no name of that place is close.
+std::string guess(const Shape& parent, Place place, std::string_view name) {
+    constexpr std::size_t longestName = 64;
+    std::size_t least = 3;  // more typing errors make another word
+    const Shape* best = nullptr;
+    for (const auto& child : parent.children()) {
+        const bool isCandidate = child->facts().place == place && name.size() <= longestName;
+        const std::size_t errors = isCandidate ? distance(name, child->facts().name) : least;
+        if (errors < least && errors < child->facts().name.size()) {
+            least = errors;
+            best = child.get();
+        }
+    }
+    return best == nullptr ? "" : "; did you mean " + quoted(best->facts().name) + "?";
+}
+
+void addPlaces(const Shape& parent, std::unordered_map<std::string_view, const Shape*>& places) {
+    for (const auto& child : parent.children()) {
+        if (child->facts().place == Place::element) {
+            places.emplace(child->facts().name, child.get());
+        }
+    }
+    for (const auto& child : parent.children()) {
+        addPlaces(*child, places);
+    }
+}
+
+/// `<MeasuredXYZ>` with a key that no child has.
+std::string unknownKey(const Shape& known, const Node& element) {
+    const std::string& attribute = known.facts().keyAttribute;
+    const Node* const key = attributeOf(element, attribute);
+    return key == nullptr ? "has no attribute " + attribute : "has an unknown " + attribute + ", " + quoted(key->text);
+}
+
+}  // namespace
+
+void UnknownNames::reportElement(Reporter& reporter, const Shape& parent, const Node& element) {
+    const std::string name = quoted(element.name);
+    if (const Shape* const known = parent.firstElement(element.name)) {
+        reporter.add("301", element, "element " + name + ' ' + unknownKey(*known, element) + ", and is dropped");
+        return;
+    }
+    const std::string meant = guess(parent, Place::element, element.name);
+    const Shape* const place = meant.empty() ? placeOf(element.name) : nullptr;
+    if (place != nullptr) {
+        reporter.add("309", element,
+                     "element " + name + " is in the wrong place and is dropped; it belongs in " +
+                         place->parent()->path());
+    } else {
+        reporter.add("301", element, "unknown element " + name + " is dropped" + meant);
+    }
+}
+
+void UnknownNames::reportAttribute(Reporter& reporter, const Shape& parent, const Node& attribute) {
+    const std::string meant = guess(parent, Place::attribute, attribute.name);
+    reporter.add("302", attribute, "unknown attribute " + quoted(attribute.name) + " is dropped" + meant);
+}
+
+const Shape* UnknownNames::placeOf(std::string_view name) {
+    if (places_.empty()) {
+        addPlaces(root_, places_);
+    }
+    const auto found = places_.find(name);
+    return found == places_.end() ? nullptr : found->second;
+}
+
+}  // namespace lv::analysis

@@ -1,0 +1,88 @@
+#include <lvdata/analysis/check/check.h>
+
+#include <lvdata/analysis/check/Comparison.h>
+#include <lvdata/analysis/check/utf8.h>
+#include <lvdata/analysis/check/wording.h>
+
+#include <algorithm>
+#include <string>
+
+namespace lv::analysis {
+namespace {
+
+int lineAt(std::string_view text, std::size_t position) {
+    const std::string_view before = text.substr(0, position);
+    return 1 + static_cast<int>(std::count(before.begin(), before.end(), '\n'));
+}
+
+std::string_view ruleOf(Refusal::Kind kind) {
+    switch (kind) {
+    case Refusal::Kind::nulCharacter:
+        return "003";
+    case Refusal::Kind::notXML:
+        return "001";
+    case Refusal::Kind::unknownRoot:
+        break;
+    }
+    return "002";
+}
+
+std::string messageOf(const Refusal& refusal, const Catalogue& catalogue) {
+    if (refusal.kind != Refusal::Kind::unknownRoot) {
+        return refusal.reason;
+    }
+    return "unknown root element " + quoted(refusal.reason) + ", known are: " + knownRootElements(catalogue);
+}
+
+void checkBytes(std::string_view text, Collector& collector) {
+    const std::size_t position = findInvalidUTF8(text);
+    if (position != std::string_view::npos) {
+        collector.add("003", lineAt(text, position), "", "a byte that is not UTF-8");
+    }
+}
+
+std::string canonical(const DataObject& record) {
+    std::string text = record.toXMLString(true, true);
+    text += text.empty() || text.back() != '\n' ? "\n" : "";
+    return text;
+}
+
+void checkRoundtrip(std::string_view text, const DataObject& record, Collector& collector) {
+    const std::string expected = canonical(record);
+    const auto differ = std::mismatch(text.begin(), text.end(), expected.begin(), expected.end());
+    if (differ.first != text.end() || differ.second != expected.end()) {
+        const auto position = static_cast<std::size_t>(differ.first - text.begin());
+        collector.add("320", lineAt(text, position), "",
+                      "the text differs from what lvdata format prints, from here on");
+    }
+}
+
+void compare(const Document& document, Collector& collector) {
+    const Tree printed = document.printed();
+    Comparison(document, printed, collector).run();
+}
+
+}  // namespace
+
+Findings check(const std::string& text, const Catalogue& catalogue, const CheckOptions& options) {
+    Collector collector(options);
+    checkBytes(text, collector);
+    const Document document(text, catalogue);
+    if (const Refusal* const refusal = document.refusal()) {
+        collector.add(ruleOf(refusal->kind), refusal->line, "", messageOf(*refusal, catalogue));
+        return collector.take();
+    }
+    compare(document, collector);
+    if (options.roundtrip) {
+        checkRoundtrip(text, document.record(), collector);
+    }
+    return collector.take();
+}
+
+Findings checkDocument(const Document& document, const CheckOptions& options) {
+    Collector collector(options);
+    compare(document, collector);
+    return collector.take();
+}
+
+}  // namespace lv::analysis

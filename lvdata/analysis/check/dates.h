@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string_view>
+
+namespace lv::analysis {
+
+/// Whether a text begins with a day of the calendar, year first: "2024-03-17", "2024/3/17", "2024.03.17" or "20240317",
+/// alone or followed by a time of day: "T09:31", " 09:31:00", "T09:31:00.250+02:00", "T093100Z". The records do not say
+/// how dates are written, so this takes what is in use.
+[[nodiscard]] bool isDate(std::string_view text);
+
+}  // namespace lv::analysis

@@ -1,0 +1,150 @@
+#include <lvdata/analysis/check/loss_findings.h>
+#include <lvdata/analysis/check/value_findings.h>
+#include <lvdata/analysis/check/wording.h>
+
+#include <algorithm>
+#include <string>
+
+namespace lv::analysis {
+namespace {
+
+using Content = Description::Content;
+using Kind = Condition::Kind;
+
+bool isArray(Content content) {
+    return content == Content::unsignedArray || content == Content::signedArray;
+}
+
+/// The text of an element; the attribute or text itself; null when there is no character.
+const Node* textNodeOf(const Node& node) {
+    const Node* const text = node.kind == Node::Kind::element ? textOf(node) : &node;
+    return text == nullptr || text->text.empty() ? nullptr : text;
+}
+
+/// "the text", or the name of an element or attribute.
+std::string subject(const Node& node) {
+    return node.kind == Node::Kind::text ? "the text" : quoted(node.name);
+}
+
+std::string entries(std::size_t count) {
+    return std::to_string(count) + (count == 1 ? " entry" : " entries");
+}
+
+std::string joined(const std::vector<std::size_t>& lengths) {
+    std::string text;
+    for (const std::size_t length : lengths) {
+        text += (text.empty() ? "" : " or ") + std::to_string(length);
+    }
+    return text;
+}
+
+/// What the first subject of a condition is, to be added to what it should be: "; it is "Standart"".
+std::string actual(const Question& question, const Position& asked) {
+    const Condition& condition = *question.condition;
+    const bool isCompared = condition.kind == Kind::oneOf || condition.kind == Kind::noneOf;
+    return isCompared ? "; it is " + quoted(valueAt(subjectAt(question.subjects.front(), asked))) : "";
+}
+
+std::string needs(const Question& question, const Position& asked) {
+    return "that needs: " + question.condition->toString() + actual(question, asked);
+}
+
+/// The numbers of entries of which an array must have one; empty when any will do.
+std::vector<std::size_t> lengthsOf(const Shape& shape) {
+    const Description& facts = shape.facts();
+    for (const Condition& condition : facts.writtenWhen) {
+        if (condition.kind == Kind::haveEntries && condition.subjects.front() == ".") {
+            return {condition.entries};
+        }
+    }
+    return facts.lengths;
+}
+
+bool reportWrongLength(Reporter& reporter, const Position& position, const Node& text) {
+    const std::vector<std::size_t> lengths = lengthsOf(*position.shape);
+    const std::size_t count = entriesIn(text.text);
+    if (lengths.empty() || std::count(lengths.begin(), lengths.end(), count) != 0) {
+        return false;
+    }
+    reporter.add("201", *position.node,
+                 subject(*position.node) + " has " + entries(count) + " and needs " + joined(lengths) +
+                     ": all of it is dropped");
+    return true;
+}
+
+/// Reasons that are in the value itself.
+bool reportValue(Reporter& reporter, const Position& position) {
+    const Content content = position.shape->facts().content;
+    if (content == Content::none || content == Content::string) {
+        return false;
+    }
+    const Node* const text = textNodeOf(*position.node);
+    if (text == nullptr) {
+        reporter.add("107", *position.node,
+                     subject(*position.node) + " has no text, so it counts as missing and is dropped");
+        return true;
+    }
+    return isArray(content) && reportWrongLength(reporter, position, *text);
+}
+
+bool reportCondition(Reporter& reporter, const Position& position, const Circumstances& circumstances) {
+    const Shape& shape = *position.shape;
+    if (const Question* const denied = firstDenied(shape.readWhen(), position, circumstances)) {
+        reporter.add("306", *position.node,
+                     subject(*position.node) + " is not read and is dropped; " + needs(*denied, position));
+        return true;
+    }
+    const Question* denied = firstDenied(shape.writtenWhen(), position, circumstances);
+    if (denied != nullptr && denied->condition->kind == Kind::hlgSwitch) {
+        reporter.add("313", *position.node,
+                     subject(*position.node) + " is dropped, since writeHLGSystemGamma is not set", Severity::warning);
+        return true;
+    }
+    denied = denied == nullptr ? firstDenied(shape.flag(), position, circumstances) : denied;
+    if (denied != nullptr) {
+        reporter.add("305", *position.node,
+                     subject(*position.node) + " is not written back; " + needs(*denied, position));
+    }
+    return denied != nullptr;
+}
+
+/// Arrays of the row that have the wrong number of entries, each.
+bool reportWrongLengths(Reporter& reporter, const Position& row) {
+    bool isFaulty = false;
+    for (const auto& child : row.shape->children()) {
+        const Position position = childAt(row, *child);
+        const Node* const text = position.node == nullptr ? nullptr : textNodeOf(*position.node);
+        isFaulty =
+            (text != nullptr && isArray(child->facts().content) && reportWrongLength(reporter, position, *text)) ||
+            isFaulty;
+    }
+    return isFaulty;
+}
+
+}  // namespace
+
+void reportDropped(Reporter& reporter, const Position& position, const Circumstances& circumstances) {
+    if (reportValue(reporter, position) || reportCondition(reporter, position, circumstances)) {
+        return;
+    }
+    for (const Question& open : position.shape->writtenWhen()) {
+        if (answer(open, position, circumstances) == Answer::unknown) {
+            reporter.add("305", *position.node,
+                         subject(*position.node) + " is not written back; " + needs(open, position));
+            return;
+        }
+    }
+    reporter.add("305", *position.node, subject(*position.node) + " is not written back");
+}
+
+void reportDroppedRow(Reporter& reporter, const Position& row, const Circumstances& circumstances) {
+    if (firstDenied(row.shape->flag(), row, circumstances) != nullptr) {
+        reporter.addHere("304", row.node->line, "the row has no content and is dropped");
+    } else if (!reportWrongLengths(reporter, row)) {
+        const Question* const denied = firstDenied(row.shape->writtenWhen(), row, circumstances);
+        reporter.addHere("305", row.node->line,
+                         "the row is not written back" + (denied == nullptr ? "" : "; " + needs(*denied, row)));
+    }
+}
+
+}  // namespace lv::analysis

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <lvdata/analysis/Position.h>
+#include <lvdata/analysis/check/Reporter.h>
+
+namespace lv::analysis {
+
+/// Makes a finding of each value in the element, where the walk is, that is kept but hardly meant: the rules 401 to
+/// 499.
+void judgePlausibility(Reporter& reporter, const Position& element);
+
+}  // namespace lv::analysis

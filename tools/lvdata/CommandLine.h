@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ExitStatus.h"
+#include "Subcommand.h"
+
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+namespace tool {
+
+/// The name of the command, also where a message has no file to name.
+inline constexpr const char* program = "lvdata";
+
+/// The command line of `lvdata` with all its subcommands.
+class CommandLine {
+public:
+    CommandLine();
+
+    /// Parses the arguments and runs the subcommand that they name, or prints the help that they ask for. Throws
+    /// `Failure` when they are wrong, and what the subcommand throws.
+    ExitStatus run(int argumentCount, char** arguments);
+
+    [[nodiscard]] const CLI::App& parser() const { return application_; }
+
+private:
+    CLI::App application_;
+    std::vector<Subcommand> subcommands_;
+};
+
+}  // namespace tool

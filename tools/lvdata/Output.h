@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include <unistd.h>
+
+namespace tool {
+
+/// Thrown when the reader of standard output is gone, as in `lvdata ... | head -1`. The command then ends without a
+/// message.
+class ClosedPipe : public std::runtime_error {
+public:
+    ClosedPipe() : std::runtime_error("the reader of standard output is gone") {}
+};
+
+/// Standard output, written in large pieces. For one thread at a time.
+class Output {
+public:
+    /// The signal SIGPIPE must be ignored, so that a closed pipe is an error of writing.
+    explicit Output(int descriptor = STDOUT_FILENO) : descriptor_(descriptor) {}
+
+    /// Writes what is left and ignores failure: call `flush` before, to learn of it.
+    ~Output();
+
+    Output(const Output&) = delete;
+    Output& operator=(const Output&) = delete;
+    Output(Output&&) = delete;
+    Output& operator=(Output&&) = delete;
+
+    /// Text that is written when enough has come together. Throws as `flush` does.
+    void write(std::string_view text);
+
+    /// Writes everything now. Throws `ClosedPipe` or `Failure`; what could not be written is then dropped.
+    void flush();
+
+    [[nodiscard]] bool isTerminal() const { return ::isatty(descriptor_) == 1; }
+
+    /// From now on calls this before each time that text is written; an empty function ends that.
+    void callBeforeWriting(std::function<void()> function) { beforeWriting_ = std::move(function); }
+
+private:
+    int descriptor_;
+    std::string pending_;
+    std::function<void()> beforeWriting_;
+};
+
+/// Writes a text that is the whole result to the file, or to standard output if `file` is "-". Throws as
+/// `Output::flush` and `writeOutput` do.
+void writeResult(const std::string& file, std::string_view text);
+
+}  // namespace tool
