@@ -1,6 +1,9 @@
 #include <lvdata/analysis/utf8.h>
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace lv::analysis {
 namespace {
@@ -45,6 +48,20 @@ bool continues(std::string_view text, const Form& form) {
     return true;
 }
 
+/// How many bytes from here are ASCII, in steps of eight: most documents are nothing else.
+std::size_t asciiLength(std::string_view text) {
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    std::size_t length = 0;
+    for (; length + sizeof(std::uint64_t) <= text.size(); length += sizeof(std::uint64_t)) {
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, text.data() + length, sizeof bytes);  // NOLINT(*-pointer-arithmetic)
+        if ((bytes & highBits) != 0) {
+            break;
+        }
+    }
+    return length;
+}
+
 }  // namespace
 
 std::size_t characterLength(std::string_view text) {
@@ -63,15 +80,31 @@ std::size_t characterLength(std::string_view text) {
     return 0;
 }
 
-bool isUTF8(std::string_view text) {
-    while (!text.empty()) {
-        const std::size_t length = characterLength(text);
+std::size_t findInvalidUTF8(std::string_view text) {
+    std::size_t position = asciiLength(text);
+    while (position < text.size()) {
+        const std::size_t length = characterLength(text.substr(position));
         if (length == 0) {
-            return false;
+            return position;
         }
-        text.remove_prefix(length);
+        position += length;
+        position += asciiLength(text.substr(position));
     }
-    return true;
+    return std::string_view::npos;
+}
+
+std::string inUTF8(std::string_view text) {
+    std::string valid;
+    while (!text.empty()) {
+        const std::size_t length = std::min(findInvalidUTF8(text), text.size());
+        valid += text.substr(0, length);
+        text.remove_prefix(length);
+        if (!text.empty()) {
+            valid += "\xEF\xBF\xBD";
+            text.remove_prefix(1);
+        }
+    }
+    return valid;
 }
 
 }  // namespace lv::analysis

@@ -16,11 +16,4 @@ inline constexpr std::string_view standardStream = "-";
 /// than `limit` bytes of it: a single one beyond is read, so that a device or a pipe without end is no trap.
 [[nodiscard]] std::string readInput(const std::string& file, std::size_t limit);
 
-/// Writes the text to the file, or to standard output. Throws `Failure` when that is not possible.
-///
-/// A regular file is replaced in one step by a finished new one that has its permission bits, or it is left as it was;
-/// behind a symbolic link it is the file that is replaced, not the link. Anything else that bears the name, a device or
-/// a pipe, is written into.
-void writeOutput(const std::string& file, std::string_view text);
-
 }  // namespace tool

@@ -2,18 +2,28 @@
 
 #include "Failure.h"
 #include "Output.h"
+#include "documents.h"
 #include "files.h"
+#include "finding_text.h"
 #include "limit_options.h"
+#include "messages.h"
 
-#include <lvdata/core/ParsedDocument.h>
-#include <lvdata/records/RecordClass.h>
+#include <lvdata/analysis/check/check.h>
 
-#include <algorithm>
+#include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace tool {
 namespace {
+
+using lv::analysis::Catalogue;
+using lv::analysis::CheckOptions;
+using lv::analysis::Document;
+using lv::analysis::Finding;
+using lv::analysis::Findings;
+using lv::analysis::Severity;
 
 struct FormatOptions {
     std::string input;
@@ -21,78 +31,72 @@ struct FormatOptions {
     bool compact = false;
     bool noDeclaration = false;
     bool hlgSystemGamma = false;
+    bool noHLGSystemGamma = false;
+    bool lossy = false;
     lv::Limits limits;
 };
 
-int lineOf(const std::string& text, std::size_t position) {
-    const auto end = text.begin() + static_cast<std::string::difference_type>(position);
-    return 1 + static_cast<int>(std::count(text.begin(), end, '\n'));
+/// Without a choice of the user, a document that has elements "HLGSystemGamma" keeps them.
+void chooseHLGSystemGamma(lv::DataObject& record, const FormatOptions& options) {
+    record.writeHLGSystemGamma = options.hlgSystemGamma || (record.writeHLGSystemGamma && !options.noHLGSystemGamma);
 }
 
-/// Refuses what the XML library would misread or choke on.
-void checkText(const std::string& text, const lv::Limits& limits, const std::string& name) {
-    const std::size_t nul = text.find('\0');
-    if (nul != std::string::npos) {  // where the XML library would stop reading
-        throw Failure(name, "NUL character", lineOf(text, nul));
+/// What writing the record back drops or changes.
+Findings lossesOf(const Document& document) {
+    CheckOptions options = lv::analysis::lossOptions();
+    options.ignored.insert({"105", "310", "312"});  // nothing is lost
+    return checkDocument(document, options);
+}
+
+void printLosses(const std::string& name, const Findings& losses) {
+    constexpr std::size_t mostPrinted = 10;
+    std::size_t printed = 0;
+    for (const Finding& loss : losses.listed) {
+        if (loss.severity != Severity::info && printed++ < mostPrinted) {
+            printMessage(lineOf(name, loss));
+        }
     }
-    if (const auto excess = lv::findExcess(text, limits)) {
-        throw Failure(name, excessReason(*excess), excess->line);
+    const std::size_t count = losses.countFrom(Severity::warning);
+    if (count > mostPrinted) {
+        printMessage(name + ": warning: " + counted(count - mostPrinted, "more change") + ", see lvdata check");
     }
 }
 
-/// As much of a name as a message should hold: it can be as long as the document.
-std::string excerpt(const std::string& name) {
-    constexpr std::size_t longest = 100;
-    if (name.size() <= longest) {
-        return name;
-    }
-    std::size_t length = longest;  // or up to 3 less, so that it does not end amid a character of UTF-8
-    while (length > longest - 3 && (static_cast<unsigned char>(name[length]) & 0xC0U) == 0x80U) {
-        --length;
-    }
-    return name.substr(0, length) + "...";
-}
-
-/// "AssetInfo, BasicData, ..."
-std::string knownRootElements() {
-    std::string list;
-    for (const lv::RecordClass& known : lv::RecordClasses()) {
-        list += list.empty() ? "" : ", ";
-        list += known.name;
-    }
-    return list;
-}
-
-std::unique_ptr<lv::DataObject> readRecord(const std::string& file, const lv::Limits& limits) {
-    const std::string name = inputName(file);
-    const std::string text = readInput(file, limits.bytes);
-    checkText(text, limits, name);
-    lv::ParsedDocument document(text);
-    if (const lv::ParseResult& parsed = document.parseResult(); !parsed) {
-        throw Failure(name, parsed.reason, parsed.line);
-    }
-    const std::string root = document.rootElementName();
-    const lv::RecordClass* const found = lv::recordClass(root);
-    auto record = found == nullptr ? nullptr : found->make();
-    if (!record || !document.read(*record)) {
-        throw Failure(name, "unknown root element '" + excerpt(root) + "', known are: " + knownRootElements());
-    }
-    return record;
+bool isInPlace(const FormatOptions& options) {
+    std::error_code ignored;
+    return options.output != standardStream && options.input != standardStream &&
+           std::filesystem::equivalent(options.input, options.output, ignored);
 }
 
 ExitStatus format(const FormatOptions& options) {
-    const auto record = readRecord(options.input, options.limits);
-    record->writeHLGSystemGamma = options.hlgSystemGamma;
-    std::string text = record->toXMLString(!options.noDeclaration, !options.compact);
-    if (text.empty() || text.back() != '\n') {
-        text += '\n';
+    const Catalogue catalogue;
+    Document document = readDocument(options.input, options.limits, catalogue);
+    chooseHLGSystemGamma(document.record(), options);
+    const Findings losses = lossesOf(document);
+    const bool isLossy = losses.countFrom(Severity::warning) > 0;
+    printLosses(inputName(options.input), losses);
+    if (isLossy && !options.lossy && isInPlace(options)) {
+        throw Failure(options.output, "not overwritten, since the changes above would be lost (allow it: --lossy)");
     }
+    std::string text = document.record().toXMLString(!options.noDeclaration, !options.compact);
+    text += text.empty() || text.back() != '\n' ? "\n" : "";
     writeResult(options.output, text);
-    return ExitStatus::done;
+    return isLossy && !options.lossy ? ExitStatus::found : ExitStatus::done;
 }
 
 std::string complaintIfEmpty(const std::string& name) {
     return name.empty() ? "is empty" : "";
+}
+
+void addLayoutOptions(CLI::App& command, FormatOptions& options) {
+    command.add_flag("--compact", options.compact, "Omit indentation and line breaks");
+    command.add_flag("--no-declaration", options.noDeclaration, "Omit the XML declaration");
+    auto* const with = command.add_flag("--hlg-system-gamma", options.hlgSystemGamma,
+                                        "Write the HLG system gamma of all colour modes (default: if the document "
+                                        "has one)");
+    auto* const without =
+        command.add_flag("--no-hlg-system-gamma", options.noHLGSystemGamma, "Omit the HLG system gamma");
+    with->excludes(without);
 }
 
 }  // namespace
@@ -100,13 +104,12 @@ std::string complaintIfEmpty(const std::string& name) {
 Subcommand addFormat(CLI::App& application) {
     CLI::App* const command = application.add_subcommand("format", "Print a record in canonical form");
     const auto options = std::make_shared<FormatOptions>();
-    command->add_flag("--compact", options->compact, "Omit indentation and line breaks");
-    command->add_flag("--no-declaration", options->noDeclaration, "Omit the XML declaration");
-    command->add_flag("--hlg-system-gamma", options->hlgSystemGamma,
-                      "Write the HLG system gamma of colour modes (omitted by default)");
+    addLayoutOptions(*command, *options);
     command->add_option("-o,--output", options->output, "Write to FILE instead of standard output")
         ->type_name("FILE")
         ->check(complaintIfEmpty);
+    command->add_flag("--lossy", options->lossy,
+                      "Accept that something of the document is dropped or changed, also when FILE is overwritten");
     command->add_option("FILE", options->input, "XML document with a record as root element; - for standard input")
         ->type_name("")
         ->required()

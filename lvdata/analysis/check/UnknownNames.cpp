@@ -10,7 +10,16 @@ namespace {
 
 using Place = Description::Place;
 
-/// How many characters must be changed, added or removed to make one of the other (Levenshtein).
+char inLowerCase(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+bool isLike(char left, char right) {
+    return inLowerCase(left) == inLowerCase(right);
+}
+
+/// How many characters must be changed, added or removed to make one of the other (Levenshtein); upper and lower case
+/// are the same.
 std::size_t distance(std::string_view left, std::string_view right) {
     std::vector<std::size_t> row(right.size() + 1);
     for (std::size_t column = 0; column <= right.size(); ++column) {
@@ -20,7 +29,7 @@ std::size_t distance(std::string_view left, std::string_view right) {
         std::size_t diagonal = row[0];
         row[0] = line;
         for (std::size_t column = 1; column <= right.size(); ++column) {
-            const std::size_t replaced = diagonal + (left[line - 1] == right[column - 1] ? 0 : 1);
+            const std::size_t replaced = diagonal + (isLike(left[line - 1], right[column - 1]) ? 0 : 1);
             diagonal = row[column];
             row[column] = std::min({replaced, row[column] + 1, row[column - 1] + 1});
         }

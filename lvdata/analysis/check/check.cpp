@@ -1,8 +1,8 @@
 #include <lvdata/analysis/check/check.h>
 
 #include <lvdata/analysis/check/Comparison.h>
-#include <lvdata/analysis/check/utf8.h>
 #include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/utf8.h>
 
 #include <algorithm>
 #include <string>
@@ -63,6 +63,17 @@ void compare(const Document& document, Collector& collector) {
 }
 
 }  // namespace
+
+CheckOptions lossOptions() {
+    CheckOptions options;
+    options.ignored.insert("003");
+    for (const Rule& rule : rules()) {
+        if (rule.id.front() == '4') {
+            options.ignored.emplace(rule.id);
+        }
+    }
+    return options;
+}
 
 Findings check(const std::string& text, const Catalogue& catalogue, const CheckOptions& options) {
     Collector collector(options);

@@ -18,6 +18,10 @@ struct CheckOptions {
     std::size_t mostListed = 1000;                 ///< At most so many findings are listed; all are counted.
 };
 
+/// Options that leave out the rules about values which are kept as they are: what is left is lost, changed or added
+/// when the document is written back.
+[[nodiscard]] CheckOptions lossOptions();
+
 /// What would be lost, changed or added if the text was read as a record and written back, and what in it is hardly
 /// meant. Without a finding of a warning or an error the record holds all that the text says: the text is compared with
 /// the document that the record prints, and each difference is a finding. The order of elements and attributes, white

@@ -1,0 +1,95 @@
+#include "check.h"
+
+#include "CheckReport.h"
+#include "batch.h"
+#include "choice_option.h"
+#include "documents.h"
+#include "files.h"
+#include "limit_options.h"
+
+#include <lvdata/analysis/check/check.h>
+
+#include <memory>
+#include <optional>
+
+namespace tool {
+namespace {
+
+using lv::analysis::Catalogue;
+using lv::analysis::CheckOptions;
+using lv::analysis::Findings;
+using lv::analysis::Severity;
+
+struct Options {
+    BatchOptions batch;
+    lv::Limits limits;
+    CheckOptions check;
+    std::vector<std::string> ignored;
+    std::optional<Severity> failOn = Severity::warning;
+    CheckReport::Form form;
+};
+
+struct CheckedFile {
+    std::string file;
+    Findings findings;
+};
+
+bool isBad(const Findings& findings, const std::optional<Severity>& failOn) {
+    return failOn && findings.countFrom(*failOn) > 0;
+}
+
+ExitStatus check(const Options& options) {
+    const Catalogue catalogue;
+    Output output;
+    CheckReport report(output, options.form);
+    const auto work = [&](const Input& input) {
+        return CheckedFile{inputName(input.file),
+                           lv::analysis::check(readText(input.file, options.limits), catalogue, options.check)};
+    };
+    const auto deliver = [&](CheckedFile&& checked) {
+        report.add(checked.file, checked.findings);
+        return isBad(checked.findings, options.failOn) ? ExitStatus::found : ExitStatus::done;
+    };
+    const ExitStatus status = forEachInput(options.batch, output, work, deliver);
+    report.end();
+    output.flush();
+    return status;
+}
+
+std::string complaintIfUnknown(const std::string& id) {
+    return lv::analysis::findRule(id) == nullptr ? "'" + id + "' is not the id of a rule" : "";
+}
+
+void addOptions(CLI::App& command, Options& options) {
+    command.add_flag("--roundtrip", options.check.roundtrip,
+                     "Also report text that is not in canonical form, byte for byte");
+    addChoiceOption<std::optional<Severity>>(
+        command, "--fail-on", options.failOn,
+        {{"error", Severity::error}, {"warning", Severity::warning}, {"never", std::nullopt}},
+        "Least severity that makes the exit status 1 (default warning)");
+    addChoiceOption<bool>(command, "--format", options.form.isJSON, {{"text", false}, {"json", true}},
+                          "Form of the output (default text)");
+    command.add_flag("--info", options.form.withInfos, "Also list remarks about what is kept or added");
+    command.add_option("--ignore", options.ignored, "Ids of rules that are not looked for, separated by commas")
+        ->type_name("ID")
+        ->delimiter(',')
+        ->check(complaintIfUnknown);
+    addColorOption(command, options.form.color);
+}
+
+}  // namespace
+
+Subcommand addCheck(CLI::App& application) {
+    CLI::App* const command =
+        application.add_subcommand("check", "Report what documents lose when they are written back");
+    const auto options = std::make_shared<Options>();
+    addOptions(*command, *options);
+    addBatchOptions(*command, options->batch);
+    addLimitOptions(*command, options->limits);
+    return {command, [options] {
+                options->check.ignored.insert(options->ignored.begin(), options->ignored.end());
+                return check(*options);
+            }};
+}
+
+}  // namespace tool
