@@ -5,6 +5,7 @@
 #include "diff.h"
 #include "explain.h"
 #include "format.h"
+#include "schema.h"
 #include "show.h"
 
 namespace tool {
@@ -15,6 +16,7 @@ std::vector<SubcommandAdder> everySubcommand() {
         addConvert,  //
         addDiff,     //
         addFormat,   //
+        addSchema,   //
         addShow,     //
         addExplain,  //
     };
