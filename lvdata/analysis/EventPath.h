@@ -13,7 +13,7 @@ public:
     /// An object begins.
     void beginObject() { steps_.push_back({}); }
 
-    /// A key of the object; the text must stay as long as it is the key.
+    /// A key of the object.
     void key(std::string_view name) { steps_.back().key = name; }
 
     /// An array begins.
@@ -37,7 +37,7 @@ public:
 
 private:
     struct Step {
-        std::string_view key{};
+        std::string key{};
         bool isArray = false;
         std::size_t count = 0;
     };

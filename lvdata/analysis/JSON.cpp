@@ -44,13 +44,16 @@ std::string JSONError::toString() const {
 }
 
 JSONResult toJSON(const DataObject& record, const Catalogue& catalogue, JSONForm form) {
-    const Tree printed = Tree::ofPrinted(record.toXMLString(false, false));
+    std::string text = record.toXMLString(false, false);
+    const std::size_t length = text.size();
+    const Tree printed = Tree::ofPrinted(std::move(text));
     const Node* const root = printed.root();
     const Catalogue::Entry* const entry = root == nullptr ? nullptr : catalogue.find(root->name);
     if (entry == nullptr) {
         return failure("", "no record class has the root element of this record");
     }
     JSONResult result;
+    result.text.reserve(length);  // compact JSON is shorter
     JSONWriter writer(result.text, form);
     project(printed, *entry->shape, writer);
     if (!writer.isUTF8()) {

@@ -62,7 +62,13 @@ void JSONWriter::string(std::string_view text) {
 }
 
 void JSONWriter::number(std::string_view text, NumberKind /*kind*/) {
-    beforeValue();
+    if (!inNumbers_) {
+        beforeValue();
+    } else if (!isEmpty_) {
+        out_ += ',';
+        out_.append(isCompact_ ? 0 : 1, ' ');
+    }
+    isEmpty_ = false;
     append(text);
 }
 
@@ -84,12 +90,8 @@ void JSONWriter::beforeValue() {
 }
 
 void JSONWriter::separate() {
-    if (inNumbers_) {
-        append(isEmpty_ ? "" : isCompact_ ? "," : ", ");
-    } else {
-        append(isEmpty_ ? "" : ",");
-        startLine();
-    }
+    append(isEmpty_ ? "" : ",");
+    startLine();
     isEmpty_ = false;
 }
 

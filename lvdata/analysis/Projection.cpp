@@ -35,10 +35,12 @@ public:
 
     void all(std::string_view joined) {
         sink_.beginArray(Sink::Entries::numbers);
-        while (!joined.empty()) {
-            const std::size_t end = std::min(joined.find('|'), joined.size());
-            one(joined.substr(0, end));
-            joined.remove_prefix(std::min(end + 1, joined.size()));
+        std::size_t begin = 0;
+        for (std::size_t index = 0; index <= joined.size() && !joined.empty(); ++index) {
+            if (index == joined.size() || joined[index] == '|') {
+                one(joined.substr(begin, index - begin));
+                begin = index + 1;
+            }
         }
         sink_.endArray();
     }

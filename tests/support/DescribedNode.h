@@ -43,10 +43,12 @@ public:
 
     void removeFrom(tinyxml2::XMLDocument& document) const;
 
+    /// The element that it is, or is in; null when that is not in the document.
+    [[nodiscard]] tinyxml2::XMLElement* elementIn(tinyxml2::XMLDocument& document) const;
+
 private:
     [[nodiscard]] DescribedNode child(const Description& description) const;
     [[nodiscard]] DescribedNode step(const std::string& step) const;
-    [[nodiscard]] tinyxml2::XMLElement* elementIn(tinyxml2::XMLDocument& document) const;
 
     std::vector<const Description*> path_;
 };

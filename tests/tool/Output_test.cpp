@@ -16,13 +16,18 @@ namespace {
 /// A pipe, whose reader can be closed.
 class OutputToPipe : public testing::Test {
 protected:
-    OutputToPipe() {
-        static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    OutputToPipe() : before_(std::signal(SIGPIPE, SIG_IGN)) {
         std::array<int, 2> ends{};
         tool::checked(::pipe2(ends.data(), O_NONBLOCK));
         reader_.emplace(ends[0]);
         writer_.emplace(ends[1]);
     }
+
+    ~OutputToPipe() override { static_cast<void>(std::signal(SIGPIPE, before_)); }
+    OutputToPipe(const OutputToPipe&) = delete;
+    OutputToPipe& operator=(const OutputToPipe&) = delete;
+    OutputToPipe(OutputToPipe&&) = delete;
+    OutputToPipe& operator=(OutputToPipe&&) = delete;
 
     [[nodiscard]] int writer() const { return writer_->get(); }
     void closeReader() { reader_.reset(); }
@@ -35,6 +40,7 @@ protected:
     }
 
 private:
+    void (*before_)(int);
     std::optional<tool::Descriptor> reader_;
     std::optional<tool::Descriptor> writer_;
 };

@@ -38,13 +38,12 @@ bool redirect(int standard, const fs::path& path, int flags) {
     return opened >= 0 && ::dup2(opened, standard) >= 0 && ::close(opened) == 0;
 }
 
-void startTool(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), LVDATA_TOOL);
-    std::vector<char*> pointers;
+void start(std::string program, std::vector<std::string> arguments) {
+    std::vector<char*> pointers{program.data()};
     std::transform(arguments.begin(), arguments.end(), std::back_inserter(pointers),
                    [](std::string& argument) { return argument.data(); });
     pointers.push_back(nullptr);
-    ::execv(LVDATA_TOOL, pointers.data());
+    ::execvp(program.c_str(), pointers.data());
 }
 
 int waitFor(pid_t process) {
@@ -71,6 +70,15 @@ ToolTest::~ToolTest() {
 }
 
 Outcome ToolTest::run(const std::vector<std::string>& arguments, const Surroundings& around) const {
+    return runProgram(LVDATA_TOOL, arguments, around);
+}
+
+Outcome ToolTest::runBash(const std::string& script) const {
+    return runProgram("bash", {"-c", "set -o pipefail; PATH=" LVDATA_TOOL_FOLDER ":$PATH\n" + script}, {});
+}
+
+Outcome ToolTest::runProgram(const std::string& program, const std::vector<std::string>& arguments,
+                             const Surroundings& around) const {
     const fs::path input = streams_ / "input";
     const fs::path error = streams_ / "error";
     const fs::path output = streams_ / "output";
@@ -85,7 +93,7 @@ Outcome ToolTest::run(const std::vector<std::string>& arguments, const Surroundi
                            redirect(STDERR_FILENO, error, O_WRONLY | O_CREAT | O_TRUNC) && around.prepare();
         ::alarm(secondsToRun);
         if (ready) {
-            startTool(arguments);
+            start(program, arguments);
         }
         ::_exit(notStarted);
     }

@@ -44,6 +44,13 @@ protected:
     /// Runs the tool with the folder as its current one.
     Outcome run(const std::vector<std::string>& arguments, const Surroundings& around = {}) const;
 
+    /// The same with any program, which is searched for in PATH.
+    Outcome runProgram(const std::string& program, const std::vector<std::string>& arguments,
+                       const Surroundings& around = {}) const;
+
+    /// The same with a script for bash, which finds the tool by its name.
+    [[nodiscard]] Outcome runBash(const std::string& script) const;
+
     /// A file in the folder, its content, and the names of everything there, sorted.
     [[nodiscard]] std::filesystem::path path(const std::string& name) const { return folder_ / name; }
     void write(const std::string& name, const std::string& text) const;

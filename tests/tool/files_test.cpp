@@ -1,5 +1,9 @@
 #include "OutputTest.h"
 
+#include <array>
+#include <csignal>
+#include <functional>
+
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -136,6 +140,43 @@ TEST_F(Files, StandardOutputIsNotReplacedUnderItsOtherName) {
     EXPECT_EQ(read("log"), "before\n" + tidy);
     EXPECT_EQ(formatTo("log", {"", path("log")}), done());
     EXPECT_EQ(read("log"), "before\n" + tidy + tidy);
+}
+
+TEST_F(Files, AnOpenFileWithoutANameIsWrittenInto) {
+    const int file = ::open(path("log").c_str(), O_RDWR | O_CREAT, 0600);  // NOLINT(cppcoreguidelines-pro-type-vararg)
+    fs::remove(path("log"));
+    EXPECT_EQ(formatTo("/dev/fd/" + std::to_string(file)), done());
+    std::string received(2 * tidy.size(), ' ');
+    EXPECT_EQ(::pread(file, received.data(), received.size(), 0), static_cast<ssize_t>(tidy.size()));
+    EXPECT_EQ(received.substr(0, tidy.size()), tidy);
+    ::close(file);
+    EXPECT_TRUE(holdsBesides({}));
+}
+
+TEST_F(Files, StandardOutputWithoutANameIsWrittenInto) {
+    write("log", "");
+    const auto removeName = [this] {
+        return fs::remove(path("log"));
+    };
+    EXPECT_EQ(formatTo("/dev/stdout", {"", path("log"), removeName}), done());
+    EXPECT_TRUE(holdsBesides({}));
+}
+
+TEST_F(Files, APipeWithoutReaderEndsTheCommandQuietly) {
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(::pipe(pipe.data()), 0);
+    ::close(pipe[0]);
+    const auto asStandardOutput = [&pipe] {
+        return ::dup2(pipe[1], STDOUT_FILENO) >= 0;
+    };
+    const auto withSignalIgnored = [&asStandardOutput] {
+        return std::signal(SIGPIPE, SIG_IGN) != SIG_ERR && asStandardOutput();
+    };
+    for (const std::function<bool()>& prepare : {std::function<bool()>(asStandardOutput), {withSignalIgnored}}) {
+        EXPECT_EQ(formatTo("-", {"", "", prepare}), (Outcome{128 + SIGPIPE, "", ""}));
+        EXPECT_EQ(formatTo("/dev/fd/" + std::to_string(pipe[1]), {"", "", prepare}), (Outcome{128 + SIGPIPE, "", ""}));
+    }
+    ::close(pipe[1]);
 }
 
 TEST_F(Files, AFailingStandardOutputIsReported) {

@@ -2,22 +2,15 @@
 
 #include "Failure.h"
 #include "Output.h"
-#include "check.h"
-#include "explain.h"
-#include "format.h"
 
 #include <lvdata/version.h>
 
 #include <algorithm>
-#include <array>
 #include <sstream>
 #include <string>
 
 namespace tool {
 namespace {
-
-/// Every subcommand, in the order of the help.
-constexpr std::array subcommandAdders{addCheck, addFormat, addExplain};
 
 /// What `--help` and `--version` ask for arrives as an error of code 0.
 void printRequested(const CLI::App& application, const CLI::ParseError& request) {
@@ -35,12 +28,12 @@ std::string reasonOf(const CLI::App& application, const CLI::ParseError& error) 
 
 }  // namespace
 
-CommandLine::CommandLine()
+CommandLine::CommandLine(const std::vector<SubcommandAdder>& subcommands)
     : application_("Works on XML documents with the records of a monitor-calibration application.", program) {
     application_.set_version_flag("--version", std::string(program) + " " + lv::versionText, "Print the version");
     application_.set_help_flag("-h,--help", "Print this help");
     application_.require_subcommand(1);
-    for (const auto& add : subcommandAdders) {
+    for (const auto& add : subcommands) {
         subcommands_.push_back(add(application_));
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ExitStatus.h"
-#include "Subcommand.h"
+#include "subcommands.h"
 
 #include <vector>
 
@@ -12,10 +12,10 @@ namespace tool {
 /// The name of the command, also where a message has no file to name.
 inline constexpr const char* program = "lvdata";
 
-/// The command line of `lvdata` with all its subcommands.
+/// The command line of `lvdata`.
 class CommandLine {
 public:
-    CommandLine();
+    explicit CommandLine(const std::vector<SubcommandAdder>& subcommands);
 
     /// Parses the arguments and runs the subcommand that they name, or prints the help that they ask for. Throws
     /// `Failure` when they are wrong, and what the subcommand throws.

@@ -18,9 +18,8 @@ inline constexpr std::string_view standardStream = "-";
 
 /// Writes the text to the file, or to standard output. Throws `Failure` when that is not possible.
 ///
-/// A regular file is replaced in one step by a finished new one that has its permission bits, or it is left as it was;
-/// behind a symbolic link it is the file that is replaced, not the link. Anything else that bears the name, a device or
-/// a pipe, is written into.
+/// Where the reader of a pipe is gone, the process ends as the signal SIGPIPE has it, without a message.
+/// What becomes of an existing file is described in `lvdata/analysis/files.h`.
 void writeOutput(const std::string& file, std::string_view text);
 
 }  // namespace tool

@@ -3,6 +3,7 @@
 
 #include <lvdata/version.h>
 #include <tools/lvdata/CommandLine.h>
+#include <tools/lvdata/subcommands.h>
 
 #include <fstream>
 #include <iostream>
@@ -43,7 +44,7 @@ std::string pageOf(const tool::CommandModel& command, const std::string& kind) {
 int main(int argumentCount, char** arguments) {
     try {
         const std::vector<std::string> words(arguments, std::next(arguments, argumentCount));
-        const tool::CommandLine commandLine;
+        const tool::CommandLine commandLine(tool::everySubcommand());
         writeFile(words.at(2), pageOf(tool::modelOf(commandLine.parser()), words.at(1)));
         return 0;
     } catch (const std::exception& error) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cerrno>
+#include <string>
 #include <system_error>
+#include <utility>
 
 #include <unistd.h>
 
-namespace tool {
+namespace lv::analysis {
 
 /// The result of a system call; throws `std::system_error` with its reason when the call failed.
 template <class Result>
@@ -30,21 +32,20 @@ public:
 
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor(Descriptor&&) = delete;
-    Descriptor& operator=(Descriptor&&) = delete;
+    Descriptor(Descriptor&& other) noexcept : descriptor_(std::exchange(other.descriptor_, closed)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        std::swap(descriptor_, other.descriptor_);
+        return *this;
+    }
 
     [[nodiscard]] int get() const { return descriptor_; }
 
     /// Closes now; throws when the last bytes could not be stored.
-    void close() {
-        const int descriptor = descriptor_;
-        descriptor_ = closed;
-        checked(::close(descriptor));
-    }
+    void close() { checked(::close(std::exchange(descriptor_, closed))); }
 
 private:
     static constexpr int closed = -1;
     int descriptor_;
 };
 
-}  // namespace tool
+}  // namespace lv::analysis

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <lvdata/analysis/Position.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lv::analysis {
+
+/// The integers of a number or an array as a printed document has them, and what they stand for.
+struct StoredArray {
+    std::vector<std::int64_t> numbers{};  ///< The stored integers; one of a number.
+    const Quantity* quantity = nullptr;   ///< What they stand for. Never null where `isNumeric` holds.
+};
+
+/// How two arrays differ, place by place.
+struct ComparedArrays {
+    /// The largest change.
+    struct Largest {
+        std::size_t index = 0;  ///< Its place, counted from 0.
+        std::string change{};   ///< The second minus the first, as shown.
+        double size = 0;        ///< The same without its sign.
+    };
+
+    std::size_t differing = 0;         ///< How many differ, of those that both have.
+    std::optional<Largest> largest{};  ///< The first of the largest; no value when the quantities are not comparable.
+};
+
+/// The stored integers of an array's text.
+[[nodiscard]] std::vector<std::int64_t> storedNumbers(std::string_view text);
+
+/// The text of a thing that has one: empty when it could have one. Null for an element that only holds others.
+[[nodiscard]] const std::string_view* storedText(const Position& position);
+
+/// Whether it is a number or an array of numbers; whether an array.
+[[nodiscard]] bool isNumeric(const Shape& shape);
+[[nodiscard]] bool isArray(const Shape& shape);
+
+/// The integers at the position, where `isNumeric` holds.
+[[nodiscard]] StoredArray storedArray(const Position& position);
+
+/// Compares what stands at equal places, exactly, also where the factors differ.
+[[nodiscard]] ComparedArrays compareArrays(const StoredArray& before, const StoredArray& after);
+
+/// The value of a stored integer, exactly; the integer itself when the factor is not a power of ten.
+[[nodiscard]] std::string shownNumber(std::int64_t stored, const Quantity& quantity);
+
+/// The unit of such a value: "1/255" for stored integers with a factor, empty where it is not recorded.
+[[nodiscard]] std::string shownUnit(const Quantity& quantity);
+
+}  // namespace lv::analysis

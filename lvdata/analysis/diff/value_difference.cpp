@@ -1,0 +1,233 @@
+#include <lvdata/analysis/diff/value_difference.h>
+
+#include <lvdata/analysis/diff/StoredValue.h>
+#include <lvdata/core/quantities.h>
+
+namespace lv::analysis {
+namespace {
+
+using Content = Difference::Content;
+
+/// Whether a difference stays within the limits that apply to it. It does not when none applies.
+class Verdict {
+public:
+    /// A size that counts when there is a limit; no value: the size is not known, so the limit says nothing.
+    void consider(std::optional<double> limit, std::optional<double> size) {
+        if (limit && size) {
+            isExceeded_ = isExceeded_ || *size > *limit;
+            isLimited_ = true;
+        }
+    }
+
+    [[nodiscard]] bool isWithin() const { return isLimited_ && !isExceeded_; }
+
+private:
+    bool isLimited_ = false;
+    bool isExceeded_ = false;
+};
+
+bool isTable(const StoredArray& array) {
+    constexpr std::size_t shownEntries = 9;  // those of the emulation matrix
+    return array.numbers.size() > shownEntries;
+}
+
+std::string joined(const StoredArray& array) {
+    std::string text;
+    for (const std::int64_t number : array.numbers) {
+        text += (text.empty() ? "" : ", ") + shownNumber(number, *array.quantity);
+    }
+    return text;
+}
+
+/// The largest change at one place, in natural values; no value when they are not comparable.
+std::optional<double> largestSize(const ComparedArrays& compared) {
+    return compared.largest ? std::optional(compared.largest->size) : std::nullopt;
+}
+
+TableChange tableChange(const StoredArray& before, const StoredArray& after, const ComparedArrays& compared) {
+    TableChange table{before.numbers.size(), after.numbers.size(), compared.differing, {}};
+    if (compared.largest && compared.differing > 0) {
+        const std::size_t index = compared.largest->index;
+        table.largest =
+            TableChange::Entry{index, shownNumber(before.numbers[index], *before.quantity),
+                               shownNumber(after.numbers[index], *after.quantity), compared.largest->change};
+    }
+    return table;
+}
+
+bool isTristimulus(const StoredArray& array) {
+    return array.quantity != nullptr && *array.quantity == quantities::tristimulus && array.numbers.size() == 3;
+}
+
+std::optional<colour::Lab> labOf(const StoredArray& array, const std::optional<ReferenceWhite>& white) {
+    if (!white) {
+        return std::nullopt;
+    }
+    const auto at = [&](std::size_t index) {
+        return static_cast<double>(array.numbers[index]);
+    };
+    return colour::lab({at(0), at(1), at(2)}, white->value);
+}
+
+bool isItself(const Position& position, const std::optional<ReferenceWhite>& white) {
+    return white && (white->element == position.node || white->element == position.parent);
+}
+
+ColourChange ofTristimulus(const ValuePair& pair, const StoredArray& before, const StoredArray& after, Judge& judge) {
+    ColourChange change;
+    change.formula = ColourChange::Formula::deltaE2000;
+    const auto whiteBefore = judge.whitesBefore.of(pair.before);
+    const auto whiteAfter = judge.whitesAfter.of(pair.after);
+    if (!whiteBefore || !whiteAfter) {
+        change.reason = whiteBefore  ? "no white is stated after the change"
+                        : whiteAfter ? "no white is stated before the change"
+                                     : "no white is stated";
+        return change;
+    }
+    change.whiteBefore = whiteBefore->source;
+    change.whiteAfter = whiteAfter->source;
+    if (isItself(pair.before, whiteBefore) || isItself(pair.after, whiteAfter)) {
+        change.reason = "it is the reference white itself";
+        return change;
+    }
+    change.size = colour::deltaE2000(*labOf(before, whiteBefore), *labOf(after, whiteAfter));
+    return change;
+}
+
+/// The exact difference of two numbers that are alone.
+std::string changeOf(const ComparedArrays& compared) {
+    return compared.largest ? compared.largest->change : "";
+}
+
+bool hasSameQuantity(const StoredArray& before, const StoredArray& after) {
+    return *before.quantity == *after.quantity && before.numbers.size() == after.numbers.size();
+}
+
+JudgedDifference numbersDifference(const ValuePair& pair, Judge& judge) {
+    const StoredArray before = storedArray(pair.before);
+    const StoredArray after = storedArray(pair.after);
+    const ComparedArrays compared = compareArrays(before, after);
+    JudgedDifference result;
+    Difference& difference = result.difference;
+    Verdict verdict;
+    if (hasSameQuantity(before, after)) {
+        verdict.consider(judge.tolerances.of(before.quantity->name), largestSize(compared));
+    }
+    if (isArray(*pair.before.shape)) {
+        difference.table = tableChange(before, after, compared);
+    } else {
+        difference.change = changeOf(compared);
+    }
+    if (isTristimulus(before) && isTristimulus(after)) {
+        difference.colour = ofTristimulus(pair, before, after, judge);
+        verdict.consider(judge.tolerances.of(Tolerances::de00), difference.colour->size);
+    }
+    const bool isLarge = isTable(before) || isTable(after);
+    difference.content = isLarge ? Content::table : Content::other;
+    if (!isLarge) {
+        difference.before = Difference::Value{joined(before), shownUnit(*before.quantity)};
+        difference.after = Difference::Value{joined(after), shownUnit(*after.quantity)};
+    }
+    result.isWithinTolerance = verdict.isWithin();
+    return result;
+}
+
+JudgedDifference textsDifference(const ValuePair& pair) {
+    JudgedDifference result;
+    result.difference.content = contentAt(pair.before);
+    result.difference.before = shownValue(pair.before);
+    result.difference.after = shownValue(pair.after);
+    return result;
+}
+
+bool isSameQuantity(const ValuePair& pair) {
+    const Quantity* const before = quantityAt(pair.before);
+    const Quantity* const after = quantityAt(pair.after);
+    return before == nullptr || after == nullptr || *before == *after;
+}
+
+colour::Chromaticity chromaticity(const StoredArray& x, const StoredArray& y) {
+    const auto valueOf = [](const StoredArray& stored) {
+        return static_cast<double>(stored.numbers.front()) / stored.quantity->factor;
+    };
+    return {valueOf(x), valueOf(y)};
+}
+
+/// x and y of one document.
+struct Coordinates {
+    StoredArray x;
+    StoredArray y;
+};
+
+Difference::Value shownCoordinates(const Coordinates& coordinates) {
+    return {joined(coordinates.x) + ", " + joined(coordinates.y), shownUnit(*coordinates.x.quantity)};
+}
+
+ColourChange ofChromaticity(const Coordinates& before, const Coordinates& after) {
+    ColourChange change;
+    const auto left = colour::uniform(chromaticity(before.x, before.y));
+    const auto right = colour::uniform(chromaticity(after.x, after.y));
+    if (left && right) {
+        change.size = colour::distance(*left, *right);
+    } else {
+        change.reason = "x and y are not those of a colour";
+    }
+    return change;
+}
+
+}  // namespace
+
+Content contentAt(const Position& position) {
+    if (storedText(position) == nullptr) {
+        return Content::group;
+    }
+    if (!isNumeric(*position.shape)) {
+        return position.shape->facts().content == Description::Content::string ? Content::string : Content::other;
+    }
+    return isTable(storedArray(position)) ? Content::table : Content::other;
+}
+
+std::optional<Difference::Value> shownValue(const Position& position) {
+    switch (contentAt(position)) {
+    case Content::group:
+    case Content::table:
+        return std::nullopt;
+    default:
+        break;
+    }
+    if (!isNumeric(*position.shape)) {
+        return Difference::Value{std::string(*storedText(position)), ""};
+    }
+    const StoredArray array = storedArray(position);
+    return Difference::Value{joined(array), shownUnit(*array.quantity)};
+}
+
+std::optional<JudgedDifference> valueDifference(const ValuePair& pair, Judge& judge) {
+    if (*storedText(pair.before) == *storedText(pair.after) && isSameQuantity(pair)) {
+        return std::nullopt;
+    }
+    return isNumeric(*pair.before.shape) ? numbersDifference(pair, judge) : textsDifference(pair);
+}
+
+std::optional<JudgedDifference> chromaticityDifference(const ValuePair& x, const ValuePair& y, const Judge& judge) {
+    const Coordinates before = {storedArray(x.before), storedArray(y.before)};
+    const Coordinates after = {storedArray(x.after), storedArray(y.after)};
+    const ComparedArrays inX = compareArrays(before.x, after.x);
+    const ComparedArrays inY = compareArrays(before.y, after.y);
+    if (inX.differing + inY.differing == 0) {
+        return std::nullopt;
+    }
+    JudgedDifference result;
+    result.difference.content = Content::other;
+    result.difference.before = shownCoordinates(before);
+    result.difference.after = shownCoordinates(after);
+    result.difference.colour = ofChromaticity(before, after);
+    Verdict verdict;
+    verdict.consider(judge.tolerances.of(quantities::chromaticity.name), largestSize(inX));
+    verdict.consider(judge.tolerances.of(quantities::chromaticity.name), largestSize(inY));
+    verdict.consider(judge.tolerances.of(Tolerances::duv), result.difference.colour->size);
+    result.isWithinTolerance = verdict.isWithin();
+    return result;
+}
+
+}  // namespace lv::analysis

@@ -1,0 +1,133 @@
+#include <lvdata/analysis/decimal.h>
+#include <lvdata/analysis/natural_values.h>
+#include <lvdata/analysis/utf8.h>
+
+#include <algorithm>
+#include <numeric>
+
+namespace lv::analysis {
+namespace {
+
+using Content = Description::Content;
+
+StoredRange rangeOf(const Shape& shape) {
+    const Content content = shape.facts().content;
+    const bool isSigned = content == Content::signedNumber || content == Content::signedArray;
+    return isSigned ? signedRange : unsignedRange;
+}
+
+std::size_t decimalsOf(const Quantity* quantity) {
+    return quantity == nullptr ? 0 : analysis::decimalsOf(quantity->factor);
+}
+
+std::string naturalOf(std::int64_t stored, const Quantity* quantity) {
+    DecimalBuffer buffer{};
+    return std::string(naturalText(std::to_string(stored), decimalsOf(quantity), buffer));
+}
+
+/// The numbers of entries that the conditions ask of what they belong to.
+void addEntries(std::vector<std::size_t>& lengths, const Condition& condition) {
+    const auto& subjects = condition.subjects;
+    const bool isAboutItself = std::count(subjects.begin(), subjects.end(), ".") != 0;
+    if (condition.kind == Condition::Kind::haveEntries && isAboutItself) {
+        lengths.push_back(condition.entries);
+    }
+}
+
+std::vector<std::size_t> lengthsOf(const Description& facts) {
+    std::vector<std::size_t> lengths = facts.lengths;
+    for (const Condition& condition : facts.writtenWhen) {
+        addEntries(lengths, condition);
+    }
+    if (facts.flag) {
+        addEntries(lengths, *facts.flag);
+    }
+    return lengths;
+}
+
+/// Characters that XML 1.0 has no place for, and the carriage return, which reading changes.
+std::string nameOfBad(std::string_view character) {
+    constexpr char space = ' ';
+    const char first = character.front();
+    if (first == '\0') {
+        return "a NUL character";
+    }
+    if (first == '\r') {
+        return "a carriage return";
+    }
+    if (first > 0 && first < space && first != '\t' && first != '\n') {
+        return "a control character";
+    }
+    return character == "\uFFFE" || character == "\uFFFF" ? "U+FFFE or U+FFFF" : "";
+}
+
+/// Of each beginning of one word, how many characters must be changed, added or removed to get the other.
+std::size_t distance(const std::string& left, const std::string& right) {
+    std::vector<std::size_t> row(right.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t line = 1; line <= left.size(); ++line) {
+        std::size_t diagonal = row[0];
+        row[0] = line;
+        for (std::size_t column = 1; column <= right.size(); ++column) {
+            const std::size_t changed = diagonal + (left[line - 1] == right[column - 1] ? 0 : 1);
+            diagonal = row[column];
+            row[column] = std::min({changed, row[column] + 1, row[column - 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+}  // namespace
+
+std::optional<std::string> storedText(std::string_view natural, const Shape& shape, const Quantity* quantity) {
+    const auto stored = storedNumber(natural, decimalsOf(quantity), rangeOf(shape));
+    return stored ? std::optional<std::string>(std::to_string(*stored)) : std::nullopt;
+}
+
+std::string rangeText(const Shape& shape, const Quantity* quantity) {
+    const StoredRange range = rangeOf(shape);
+    return "a number from " + naturalOf(range.least, quantity) + " to " + naturalOf(range.greatest, quantity);
+}
+
+std::string expectedEntries(const Shape& shape, std::size_t entries) {
+    const std::vector<std::size_t> lengths = lengthsOf(shape.facts());
+    if (std::count(lengths.begin(), lengths.end(), entries) != 0) {
+        return "";
+    }
+    std::string text;
+    for (const std::size_t length : lengths) {
+        text += (text.empty() ? "" : " or ") + std::to_string(length);
+    }
+    return text;
+}
+
+std::string whatXMLCannotCarry(std::string_view text, Description::Place place) {
+    const bool isBlank = text.find_first_not_of(" \t\n") == std::string_view::npos;
+    if (!text.empty() && isBlank && place != Description::Place::attribute) {
+        return "nothing but white space";
+    }
+    std::string bad;
+    while (!text.empty() && bad.empty()) {
+        const std::size_t length = std::max<std::size_t>(characterLength(text), 1);
+        bad = nameOfBad(text.substr(0, length));
+        text.remove_prefix(length);
+    }
+    return bad;
+}
+
+const std::string* closest(const std::string& word, const std::vector<std::string>& words) {
+    constexpr std::size_t longest = 100;  // names are shorter, and the time goes with the product of both lengths
+    if (word.size() > longest) {
+        return nullptr;
+    }
+    const std::string* found = nullptr;
+    std::size_t least = 1 + std::max<std::size_t>(word.size() / 4, 1);
+    for (const std::string& each : words) {
+        const std::size_t away = distance(word, each);
+        found = away < least ? &each : found;
+        least = std::min(least, away);
+    }
+    return found;
+}
+
+}  // namespace lv::analysis
