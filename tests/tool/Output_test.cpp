@@ -1,6 +1,6 @@
 #include "ToolTest.h"
 
-#include <tools/lvdata/Descriptor.h>
+#include <lvdata/analysis/files/Descriptor.h>
 #include <tools/lvdata/Failure.h>
 #include <tools/lvdata/Output.h>
 
@@ -18,7 +18,7 @@ class OutputToPipe : public testing::Test {
 protected:
     OutputToPipe() : before_(std::signal(SIGPIPE, SIG_IGN)) {
         std::array<int, 2> ends{};
-        tool::checked(::pipe2(ends.data(), O_NONBLOCK));
+        lv::analysis::checked(::pipe2(ends.data(), O_NONBLOCK));
         reader_.emplace(ends[0]);
         writer_.emplace(ends[1]);
     }
@@ -41,8 +41,8 @@ protected:
 
 private:
     void (*before_)(int);
-    std::optional<tool::Descriptor> reader_;
-    std::optional<tool::Descriptor> writer_;
+    std::optional<lv::analysis::Descriptor> reader_;
+    std::optional<lv::analysis::Descriptor> writer_;
 };
 
 TEST_F(OutputToPipe, KeepsTextUntilItIsFlushed) {
@@ -92,7 +92,7 @@ TEST_F(OutputToPipe, TellsThatTheReaderIsGone) {
 }
 
 TEST(Output, ReportsOtherFailures) {
-    const tool::Descriptor full(::open("/dev/full", O_WRONLY));  // NOLINT(cppcoreguidelines-pro-type-vararg)
+    const lv::analysis::Descriptor full(::open("/dev/full", O_WRONLY));  // NOLINT(cppcoreguidelines-pro-type-vararg)
     tool::Output output(full.get());
     output.write("one");
     try {

@@ -1,6 +1,6 @@
 #include "ToolTest.h"
 
-#include <tools/lvdata/Descriptor.h>
+#include <lvdata/analysis/files/Descriptor.h>
 #include <tools/lvdata/Failure.h>
 #include <tools/lvdata/batch.h>
 #include <tools/lvdata/files.h>
@@ -43,7 +43,8 @@ protected:
         Batch batch{};
         testing::internal::CaptureStderr();
         {
-            const tool::Descriptor file(::open(path("output").c_str(), O_CREAT | O_WRONLY | O_TRUNC, 0600));  // NOLINT
+            const lv::analysis::Descriptor file(
+                ::open(path("output").c_str(), O_CREAT | O_WRONLY | O_TRUNC, 0600));  // NOLINT
             tool::Output output(file.get());
             batch.status = tool::runBatch(inputs, static_cast<std::size_t>(GetParam()), output,
                                           [&](const Input& input) -> tool::Delivery {

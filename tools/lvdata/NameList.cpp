@@ -63,7 +63,8 @@ bool NameList::readMore() {
     std::array<char, 4096> block{};
     try {
         const int descriptor = opened_ ? opened_->get() : STDIN_FILENO;
-        const auto got = static_cast<std::size_t>(checked(::read(descriptor, block.data(), block.size())));
+        const auto got =
+            static_cast<std::size_t>(lv::analysis::checked(::read(descriptor, block.data(), block.size())));
         text_.append(block.data(), got);
         atEnd_ = got == 0;
     } catch (const std::system_error& error) {

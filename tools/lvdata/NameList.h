@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Descriptor.h"
+#include <lvdata/analysis/files/Descriptor.h>
 
 #include <optional>
 #include <string>
@@ -28,7 +28,7 @@ private:
 
     std::string file_;
     char separator_;
-    std::optional<Descriptor> opened_;  // not for standard input
+    std::optional<lv::analysis::Descriptor> opened_;  // not for standard input
     std::string text_;
     bool atEnd_ = false;
 };

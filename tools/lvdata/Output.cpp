@@ -2,7 +2,8 @@
 
 #include "Failure.h"
 #include "files.h"
-#include "replace_file.h"
+
+#include <lvdata/analysis/files.h>
 
 #include <cstddef>
 #include <system_error>
@@ -12,6 +13,15 @@ namespace tool {
 namespace {
 
 constexpr std::size_t pieceSize = 65536;
+
+void throwUnless(const lv::analysis::SaveResult& result, const std::string& name) {
+    if (result.error == std::errc::broken_pipe) {
+        throw ClosedPipe();
+    }
+    if (!result) {
+        throw Failure(name, result.reason);
+    }
+}
 
 }  // namespace
 
@@ -37,19 +47,12 @@ void Output::flush() {
         beforeWriting_();
     }
     const std::string text = std::exchange(pending_, {});
-    try {
-        writeAll(descriptor_, text);
-    } catch (const std::system_error& error) {
-        if (error.code() == std::errc::broken_pipe) {
-            throw ClosedPipe();
-        }
-        throw Failure("<stdout>", error.code().message());
-    }
+    throwUnless(lv::analysis::writeDescriptor(descriptor_, text), "<stdout>");
 }
 
 void writeResult(const std::string& file, std::string_view text) {
     if (file != standardStream) {
-        writeOutput(file, text);
+        throwUnless(lv::analysis::writeFile(file, text), file);
         return;
     }
     Output output;

@@ -5,21 +5,9 @@
 
 #include <lvdata/analysis/files.h>
 
-#include <csignal>
-
 #include <unistd.h>
 
 namespace tool {
-namespace {
-
-/// Ends the command as the signal does by itself, without a message; also where whoever started it ignores the signal.
-void endByClosedPipe() {
-    static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
-    static_cast<void>(std::raise(SIGPIPE));
-}
-
-}  // namespace
-
 std::string inputName(const std::string& file) {
     return file == standardStream ? "<stdin>" : file;
 }
@@ -34,18 +22,6 @@ std::string readInput(const std::string& file, std::size_t limit) {
         throw Failure(inputName(file), excessReason({lv::Excess::What::bytes, limit, limit, 0}));
     }
     return std::move(content.text);
-}
-
-void writeOutput(const std::string& file, std::string_view text) {
-    const bool toStandardOutput = file == standardStream;
-    const auto result =
-        toStandardOutput ? lv::analysis::writeDescriptor(STDOUT_FILENO, text) : lv::analysis::writeFile(file, text);
-    if (result.error == std::errc::broken_pipe) {
-        endByClosedPipe();
-    }
-    if (!result) {
-        throw Failure(toStandardOutput ? "<stdout>" : file, result.reason);
-    }
 }
 
 }  // namespace tool

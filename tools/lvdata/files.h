@@ -16,10 +16,4 @@ inline constexpr std::string_view standardStream = "-";
 /// than `limit` bytes of it: a single one beyond is read, so that a device or a pipe without end is no trap.
 [[nodiscard]] std::string readInput(const std::string& file, std::size_t limit);
 
-/// Writes the text to the file, or to standard output. Throws `Failure` when that is not possible.
-///
-/// Where the reader of a pipe is gone, the process ends as the signal SIGPIPE has it, without a message.
-/// What becomes of an existing file is described in `lvdata/analysis/files.h`.
-void writeOutput(const std::string& file, std::string_view text);
-
 }  // namespace tool

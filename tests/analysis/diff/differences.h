@@ -32,7 +32,8 @@ inline std::string shown(const analysis::TableChange& table) {
                        ", " + std::to_string(table.differing) + " differ";
     if (table.largest) {
         text += ", most at " + std::to_string(table.largest->index) + ": " + table.largest->before + " -> " +
-                table.largest->after + " by " + table.largest->change + (table.largest->unit.empty() ? "" : ' ' + table.largest->unit);
+                table.largest->after + " by " + table.largest->change +
+                (table.largest->unit.empty() ? "" : ' ' + table.largest->unit);
     }
     return text;
 }
