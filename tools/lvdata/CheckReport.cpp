@@ -1,6 +1,7 @@
 #include "CheckReport.h"
 
 #include "finding_text.h"
+#include "printable.h"
 
 #include <lvdata/analysis/utf8.h>
 
@@ -37,14 +38,15 @@ void CheckReport::add(const std::string& name, const Findings& findings) {
 }
 
 void CheckReport::addText(const std::string& name, const Findings& findings) {
+    std::size_t omitted = findings.countFrom(form_.withInfos ? Severity::info : Severity::warning);
     for (const Finding& finding : findings.listed) {
         if (form_.withInfos || finding.severity != Severity::info) {
             output_.write(lineOf(name, finding, palette_));
+            --omitted;
         }
     }
-    const std::size_t omitted = findings.count() - findings.listed.size();
     if (omitted > 0) {
-        output_.write(name + ": " + std::to_string(omitted) + " more findings\n");
+        output_.write(palette_.paint(Style::name, printable(name)) + ": " + counted(omitted, "more finding") + '\n');
     }
 }
 

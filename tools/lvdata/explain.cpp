@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "Failure.h"
 #include "Output.h"
+#include "printable.h"
 
 #include <lvdata/analysis/check/Rule.h>
 
@@ -27,11 +28,12 @@ std::string wrapped(std::string_view text) {
     return lines + std::string(text) + '\n';
 }
 
+/// A sample, of which one holds a byte that no terminal can show.
 std::string indented(std::string_view text) {
     std::string lines;
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
-        lines += "    " + std::string(text.substr(0, end)) + '\n';
+        lines += "    " + printable(text.substr(0, end)) + '\n';
         text.remove_prefix(end + 1);
     }
     return lines;

@@ -62,10 +62,12 @@ void printLosses(const std::string& name, const Findings& losses) {
     }
 }
 
+/// Whether the output is the file that the input was read from, under any of its names.
 bool isInPlace(const FormatOptions& options) {
     std::error_code ignored;
-    return options.output != standardStream && options.input != standardStream &&
-           std::filesystem::equivalent(options.input, options.output, ignored);
+    const std::string input = options.input == standardStream ? "/dev/stdin" : options.input;
+    return options.output != standardStream && std::filesystem::is_regular_file(options.output, ignored) &&
+           std::filesystem::equivalent(input, options.output, ignored);
 }
 
 ExitStatus format(const FormatOptions& options) {

@@ -6,7 +6,7 @@
 namespace lv::analysis {
 namespace {
 
-std::size_t& countOf(Findings& findings, Severity severity) {
+std::size_t& countIn(Findings& findings, Severity severity) {
     switch (severity) {
     case Severity::error:
         return findings.errors;
@@ -20,6 +20,18 @@ std::size_t& countOf(Findings& findings, Severity severity) {
 
 }  // namespace
 
+std::size_t Findings::countOf(Severity severity) const {
+    switch (severity) {
+    case Severity::error:
+        return errors;
+    case Severity::warning:
+        return warnings;
+    case Severity::info:
+        break;
+    }
+    return infos;
+}
+
 std::size_t Findings::countFrom(Severity severity) const {
     switch (severity) {
     case Severity::error:
@@ -32,6 +44,10 @@ std::size_t Findings::countFrom(Severity severity) const {
     return count();
 }
 
+bool Collector::isListing(std::string_view id, std::optional<Severity> severity) const {
+    return isWanted(id) && findings_.countOf(severity.value_or(findRule(id)->severity)) < options_.mostListed;
+}
+
 void Collector::add(std::string_view id, int line, std::string path, std::string message,
                     std::optional<Severity> severity) {
     if (!isWanted(id)) {
@@ -39,10 +55,10 @@ void Collector::add(std::string_view id, int line, std::string path, std::string
     }
     const Rule* const rule = findRule(id);
     const Severity counted = severity.value_or(rule->severity);
-    ++countOf(findings_, counted);
-    if (isListing()) {
+    if (isListing(id, counted)) {
         findings_.listed.push_back({rule, counted, line, std::move(path), std::move(message)});
     }
+    ++countIn(findings_, counted);
 }
 
 Findings Collector::take() {

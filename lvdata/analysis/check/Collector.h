@@ -17,8 +17,9 @@ public:
     /// Whether the rule of that id is looked for. Asked before work that is done for the rule alone.
     [[nodiscard]] bool isWanted(std::string_view id) const { return options_.ignored.count(id) == 0; }
 
-    /// Whether another finding would be listed. If not, its path and message do not matter.
-    [[nodiscard]] bool isListing() const { return findings_.listed.size() < options_.mostListed; }
+    /// Whether another finding of that rule would be listed, with its severity or another one. If not, its path and
+    /// message do not matter.
+    [[nodiscard]] bool isListing(std::string_view id, std::optional<Severity> severity = std::nullopt) const;
 
     /// Adds a finding of that rule, with its severity or another one.
     void add(std::string_view id, int line, std::string path, std::string message,

@@ -19,13 +19,16 @@ struct Finding {
 
 /// The findings of one document, in the order of their lines.
 struct Findings {
-    std::vector<Finding> listed{};  ///< At most as many as asked for,
+    std::vector<Finding> listed{};  ///< Of each severity at most as many as asked for,
     std::size_t errors = 0;         ///< but all are counted: errors,
     std::size_t warnings = 0;       ///< warnings,
     std::size_t infos = 0;          ///< and remarks.
 
     /// How many there are in all.
     [[nodiscard]] std::size_t count() const { return errors + warnings + infos; }
+
+    /// How many there are of that severity.
+    [[nodiscard]] std::size_t countOf(Severity severity) const;
 
     /// How many there are of that severity, or of a worse one.
     [[nodiscard]] std::size_t countFrom(Severity severity) const;

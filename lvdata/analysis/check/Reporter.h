@@ -3,6 +3,7 @@
 #include <lvdata/analysis/Tree.h>
 #include <lvdata/analysis/check/Collector.h>
 #include <lvdata/analysis/check/PathStack.h>
+#include <lvdata/analysis/check/wording.h>
 
 #include <optional>
 #include <string>
@@ -22,24 +23,28 @@ public:
     /// Whether the rule of that id is looked for.
     [[nodiscard]] bool isWanted(std::string_view id) const { return collector_.isWanted(id); }
 
+    /// Whether another finding of that rule would be listed. Asked before work that is done for its message alone.
+    [[nodiscard]] bool isListing(std::string_view id) const { return collector_.isListing(id); }
+
     /// A finding about the element where the walk is, or about its text or its markup.
     void addHere(std::string_view id, int line, const std::string& message) {
-        collector_.add(id, line, collector_.isListing() ? path_.text() : "", message);
+        collector_.add(id, line, collector_.isListing(id) ? path_.text() : "", message);
     }
 
     /// A finding about an attribute of that element, or about an element or text in it.
     void add(std::string_view id, const Node& node, const std::string& message,
              std::optional<Severity> severity = std::nullopt) {
-        collector_.add(id, node.line, collector_.isListing() ? path_.text() + stepTo(node) : "", message, severity);
+        const bool isListed = collector_.isListing(id, severity);
+        collector_.add(id, node.line, isListed ? path_.text() + stepTo(node) : "", message, severity);
     }
 
 private:
     static std::string stepTo(const Node& node) {
         switch (node.kind) {
         case Node::Kind::element:
-            return '/' + std::string(node.name);
+            return '/' + excerpt(node.name);
         case Node::Kind::attribute:
-            return "/@" + std::string(node.name);
+            return "/@" + excerpt(node.name);
         default:
             return "";
         }

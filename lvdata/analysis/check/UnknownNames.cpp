@@ -37,13 +37,19 @@ std::size_t distance(std::string_view left, std::string_view right) {
     return row[right.size()];
 }
 
+constexpr std::size_t tooManyErrors = 3;  // which make another word
+
+/// Whether the lengths alone rule out that one is the other with a few typing errors.
+bool haveLikeLengths(std::string_view left, std::string_view right) {
+    return std::max(left.size(), right.size()) - std::min(left.size(), right.size()) < tooManyErrors;
+}
+
 /// `; did you mean "Brightness"?`, or nothing when no name of that place is close.
 std::string guess(const Shape& parent, Place place, std::string_view name) {
-    constexpr std::size_t longestName = 64;
-    std::size_t least = 3;  // more typing errors make another word
+    std::size_t least = tooManyErrors;
     const Shape* best = nullptr;
     for (const auto& child : parent.children()) {
-        const bool isCandidate = child->facts().place == place && name.size() <= longestName;
+        const bool isCandidate = child->facts().place == place && haveLikeLengths(name, child->facts().name);
         const std::size_t errors = isCandidate ? distance(name, child->facts().name) : least;
         if (errors < least && errors < child->facts().name.size()) {
             least = errors;
@@ -79,9 +85,10 @@ void UnknownNames::reportElement(Reporter& reporter, const Shape& parent, const 
         reporter.add("301", element, "element " + name + ' ' + unknownKey(*known, element) + ", and is dropped");
         return;
     }
-    const std::string meant = guess(parent, Place::element, element.name);
-    const Shape* const place = meant.empty() ? placeOf(element.name) : nullptr;
-    if (place != nullptr) {
+    const Shape* const place = placeOf(element.name);
+    const bool isGuessUsed = place != nullptr || reporter.isListing("301");
+    const std::string meant = isGuessUsed ? guess(parent, Place::element, element.name) : "";
+    if (meant.empty() && place != nullptr) {
         reporter.add("309", element,
                      "element " + name + " is in the wrong place and is dropped; it belongs in " +
                          place->parent()->path());
@@ -91,7 +98,8 @@ void UnknownNames::reportElement(Reporter& reporter, const Shape& parent, const 
 }
 
 void UnknownNames::reportAttribute(Reporter& reporter, const Shape& parent, const Node& attribute) {
-    const std::string meant = guess(parent, Place::attribute, attribute.name);
+    const bool isListed = reporter.isListing("302");
+    const std::string meant = isListed ? guess(parent, Place::attribute, attribute.name) : "";
     reporter.add("302", attribute, "unknown attribute " + quoted(attribute.name) + " is dropped" + meant);
 }
 

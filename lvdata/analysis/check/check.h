@@ -15,7 +15,7 @@ namespace lv::analysis {
 struct CheckOptions {
     std::set<std::string, std::less<>> ignored{};  ///< Ids of rules that are not looked for.
     bool roundtrip = false;                        ///< Also whether the text is what the record prints, byte for byte.
-    std::size_t mostListed = 1000;                 ///< At most so many findings are listed; all are counted.
+    std::size_t mostListed = 1000;                 ///< At most so many of each severity are listed; all are counted.
 };
 
 /// Options that leave out the rules about values which are kept as they are: what is left is lost, changed or added

@@ -40,7 +40,12 @@ public:
         return taken;
     }
 
-    void skipDigits() { rest_.remove_prefix(std::min(rest_.find_first_not_of(digits), rest_.size())); }
+    /// Takes digits, as many as there are. Whether there was one.
+    bool takeDigits() {
+        const std::size_t length = std::min(rest_.find_first_not_of(digits), rest_.size());
+        rest_.remove_prefix(length);
+        return length > 0;
+    }
 
 private:
     std::string_view rest_;
@@ -72,20 +77,21 @@ bool takeZone(Pieces& pieces) {
         return true;
     }
     const int hours = pieces.number(2, 2);
-    pieces.oneOf(":");
-    return isBetween(hours, 14) && (pieces.isAtEnd() || isBetween(pieces.number(2, 2), 59));
+    const bool mustHaveMinutes = pieces.oneOf(":") != '\0';
+    const bool isDone = pieces.isAtEnd() && !mustHaveMinutes;
+    return isBetween(hours, 14) && (isDone || isBetween(pieces.number(2, 2), 59));
 }
 
 bool takeTime(Pieces& pieces) {
     const int hours = pieces.number(1, 2);
     pieces.oneOf(":");
     const int minutes = pieces.number(2, 2);
-    pieces.oneOf(":");
+    const bool mustHaveSeconds = pieces.oneOf(":") != '\0';
     const int seconds = pieces.number(2, 2);
-    if (pieces.oneOf(".,") != '\0') {
-        pieces.skipDigits();
-    }
-    return isBetween(hours, 24) && isBetween(minutes, 59) && seconds <= 60 && takeZone(pieces);
+    const bool isWhole = pieces.oneOf(".,") == '\0' || pieces.takeDigits();
+    const bool isEndOfDay = hours == 24 && minutes == 0 && seconds <= 0;
+    return (isBetween(hours, 23) || isEndOfDay) && isBetween(minutes, 59) && seconds <= 60 &&
+           (seconds >= 0 || !mustHaveSeconds) && isWhole && takeZone(pieces);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <lvdata/analysis/check/dates.h>
+#include <lvdata/analysis/check/numbers.h>
 #include <lvdata/analysis/check/plausibility.h>
 #include <lvdata/analysis/check/wording.h>
 #include <lvdata/core/quantities.h>
@@ -83,10 +84,15 @@ bool holdsTable(const Position& element) {
 void judgeTable(Reporter& reporter, const Position& element) {
     const Node* const text = holdsTable(element) ? textOf(*element.node) : nullptr;
     std::int64_t previous = 0;
-    const char* rest = text == nullptr ? "" : text->text.data();  // ends in a NUL, as all texts of the XML library
-    for (std::size_t entry = 1; *rest != '\0'; ++entry) {
-        char* end = nullptr;
-        const std::int64_t number = std::strtoll(rest, &end, 10);
+    std::string_view rest = text == nullptr ? std::string_view() : text->text;
+    for (std::size_t entry = 1; !rest.empty(); ++entry) {
+        const std::string_view piece = rest.substr(0, rest.find('|'));
+        rest.remove_prefix(std::min(piece.size() + 1, rest.size()));
+        const NumberText kind = judgeNumber(piece, false);
+        if (kind != NumberText::canonical && kind != NumberText::otherSpelling) {
+            return;  // which other findings are about
+        }
+        const std::int64_t number = std::strtoll(piece.data(), nullptr, 10);  // ends at "|" or at the NUL of the text
         if (number < previous) {
             reporter.addHere("402", text->line,
                              "entry " + std::to_string(entry) + " is " + std::to_string(number) +
@@ -94,7 +100,6 @@ void judgeTable(Reporter& reporter, const Position& element) {
             return;
         }
         previous = number;
-        rest = *end == '|' ? end + 1 : "";
     }
 }
 

@@ -5,7 +5,10 @@
 
 namespace lv::analysis {
 
-/// The text in quotation marks, cut after some characters: texts can be as long as the document.
+/// The text, cut after some characters: texts can be as long as the document.
+[[nodiscard]] std::string excerpt(std::string_view text);
+
+/// The same in quotation marks.
 [[nodiscard]] std::string quoted(std::string_view text);
 
 }  // namespace lv::analysis
