@@ -1,5 +1,7 @@
 #!/usr/bin/env python3
-"""report.py RESULTS.json [CHART.svg]: the ratios of a benchmark run as Markdown tables, and as a bar chart."""
+"""report.py RESULTS.json [CHART.svg]: the ratios of a benchmark run as Markdown tables, and as a bar chart.
+
+report.py --analysis RESULTS.json: the ratios of the benchmarks of the analysis, and their rates."""
 
 import json
 import sys
@@ -76,6 +78,38 @@ def tables(times):
     yield from table("More of one thing", ["ratio"], further_rows(times))
 
 
+ANALYSIS_DOCUMENTS = ["one mode", *DOCUMENTS]
+ANALYSIS_OPERATIONS = ["check", "JSON line", "diff", "from JSON"]
+ROWS = ("rows x25000", "rows x100000")
+
+
+def analysis_rows(times):
+    for operation in ANALYSIS_OPERATIONS:
+        yield operation, [ratio(times, f"{operation}/{name}", f"read/{name}") for name in ANALYSIS_DOCUMENTS]
+
+
+def growth_of_analysis(times):
+    for operation in ["read", *ANALYSIS_OPERATIONS]:
+        yield operation, [ratio(times, f"{operation}/{ROWS[1]}", f"{operation}/{ROWS[0]}")]
+
+
+def rate_rows(results):
+    """The greatest rate of each, in megabytes a second."""
+    rates = {}
+    for run in results["benchmarks"]:
+        if run["run_type"] == "iteration":
+            name = run["run_name"]
+            rates[name] = max(run["bytes_per_second"] / 1e6, rates.get(name, 0))
+    for operation in ["read", *ANALYSIS_OPERATIONS]:
+        yield operation, [rates.get(f"{operation}/{name}") for name in ANALYSIS_DOCUMENTS]
+
+
+def analysis_tables(results, times):
+    yield from table("Ratio to reading", ANALYSIS_DOCUMENTS, analysis_rows(times))
+    yield from table("MB/s", ANALYSIS_DOCUMENTS, rate_rows(results))
+    yield from table("Cost of 100,000 rows to 25,000", ["ratio"], growth_of_analysis(times))
+
+
 def bar(left, top, length, label, colour):
     return (
         f'<rect x="{left}" y="{top}" width="{length:.1f}" height="14" fill="{colour}"/>'
@@ -103,9 +137,17 @@ def chart(times):
     )
 
 
+def read_results(path):
+    with open(path, encoding="utf-8") as file:
+        return json.load(file)
+
+
 def main():
-    with open(sys.argv[1], encoding="utf-8") as file:
-        times = least_times(json.load(file))
+    if sys.argv[1] == "--analysis":
+        results = read_results(sys.argv[2])
+        print("\n".join(analysis_tables(results, least_times(results))))
+        return
+    times = least_times(read_results(sys.argv[1]))
     print("\n".join(tables(times)))
     if len(sys.argv) > 2:
         with open(sys.argv[2], "w", encoding="utf-8") as file:

@@ -1,28 +1,17 @@
 // Reads a document, changes one value and writes it again: 02_edit_file INPUT OUTPUT
 //
-// The new document holds what the record knows. Comments and elements of other applications are not kept.
+// The new document holds what the record knows. Comments and elements of other applications are not kept; `lvdata
+// check` lists what a document would lose.
 
+#include <lvdata/analysis/files.h>
 #include <lvdata/lvdata.h>
 
-#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <string>
 #include <vector>
 
 namespace {
-
-bool load(const std::string& path, std::string& text) {
-    std::ifstream file(path, std::ios::binary);
-    text.assign(std::istreambuf_iterator<char>(file), {});
-    return file.is_open() && !file.bad();
-}
-
-bool save(const std::string& path, const std::string& text) {
-    std::ofstream file(path, std::ios::binary);
-    file << text;
-    return static_cast<bool>(file.flush());
-}
 
 int fail(const std::string& message) {
     std::cerr << message << '\n';
@@ -36,13 +25,9 @@ int main(int argc, char** argv) {
     if (arguments.size() != 3) {
         return fail("usage: 02_edit_file INPUT OUTPUT");
     }
-    std::string text;
-    if (!load(arguments[1], text)) {
-        return fail("cannot read the input");
-    }
     lv::MonitorParameter parameter;
-    if (const lv::ParseResult result = parameter.parseXML(text); !result) {
-        return fail("refused, line " + std::to_string(result.line) + ": " + result.reason);
+    if (const auto loaded = lv::analysis::load(arguments[1], parameter); !loaded) {
+        return fail(arguments[1] + ", line " + std::to_string(loaded.line) + ": " + loaded.reason);
     }
 
     const double before = parameter.redGain_x();
@@ -51,5 +36,7 @@ int main(int argc, char** argv) {
     }
     std::cout << "red gain: " << before << " -> " << parameter.redGain_x() << '\n';
 
-    return save(arguments[2], parameter.toXMLString(true, true)) ? 0 : fail("cannot write the output");
+    // The file is replaced in one step, or left as it was.
+    const auto saved = lv::analysis::save(arguments[2], parameter);
+    return saved ? 0 : fail(arguments[2] + ": " + saved.reason);
 }

@@ -2,14 +2,12 @@
 //
 // The root element decides which record a document is.
 
-#include <lvdata/lvdata.h>
+#include <lvdata/analysis/files.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <iterator>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -28,21 +26,13 @@ std::vector<fs::path> documentsIn(const fs::path& folder) {
     return paths;
 }
 
-std::string summaryOf(const std::string& text) {
-    lv::ParsedDocument document(text);
-    if (const lv::ParseResult& parsed = document.parseResult(); !parsed) {
-        return "line " + std::to_string(parsed.line) + ": " + parsed.reason;
+std::string summaryOf(const fs::path& path) {
+    const lv::analysis::LoadedRecord loaded = lv::analysis::load(path);
+    if (!loaded) {
+        return "line " + std::to_string(loaded.result.line) + ": " + loaded.result.reason;
     }
-    const lv::RecordClass* const found = lv::recordClass(document.rootElementName());
-    if (found == nullptr) {
-        return "not a record: " + document.rootElementName();
-    }
-    const std::unique_ptr<lv::DataObject> record = found->make();
-    if (const lv::ParseResult result = document.read(*record); !result) {
-        return result.reason;
-    }
-    return found->name + (" " + std::to_string(record->version.value)) + '.' +
-           std::to_string(record->minorVersion.value);
+    const lv::DataObject& record = *loaded.record;
+    return "version " + std::to_string(record.version.value) + '.' + std::to_string(record.minorVersion.value);
 }
 
 }  // namespace
@@ -54,8 +44,6 @@ int main(int argc, char** argv) {
         return 2;
     }
     for (const fs::path& path : documentsIn(arguments[1])) {
-        std::ifstream file(path, std::ios::binary);
-        const std::string text(std::istreambuf_iterator<char>(file), {});
-        std::cout << path.filename().string() << ": " << summaryOf(text) << '\n';
+        std::cout << path.filename().string() << ": " << summaryOf(path) << '\n';
     }
 }

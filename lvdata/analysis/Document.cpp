@@ -1,4 +1,5 @@
 #include <lvdata/analysis/Document.h>
+#include <lvdata/analysis/wording.h>
 
 #include <algorithm>
 #include <utility>
@@ -23,11 +24,6 @@ bool holdsGoverned(const Node& element, const Shape& shape) {
         previous = found == nullptr ? previous : found;
     }
     return false;
-}
-
-bool hasHLGSystemGamma(const std::string& text, const Tree& tree, const Shape& shape) {
-    const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents need no closer look
-    return isNamed && holdsGoverned(*tree.root(), shape);
 }
 
 }  // namespace
@@ -61,7 +57,8 @@ void Document::readRecord(const std::string& text, const Catalogue& catalogue) {
         return;
     }
     source_.emplace(parsed_->view());
-    record_->writeHLGSystemGamma = hasHLGSystemGamma(text, *source_, *entry_->shape);
+    const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents need no closer look
+    record_->writeHLGSystemGamma = isNamed && hasHLGSystemGamma(*source_, *entry_->shape);
 }
 
 void Document::refuse(Refusal::Kind kind, int line, std::string reason) {
@@ -78,13 +75,17 @@ bool isGovernedByHLGSwitch(const Shape& shape) {
                        [](const Condition& condition) { return condition.kind == Condition::Kind::hlgSwitch; });
 }
 
-std::string knownRootElements(const Catalogue& catalogue) {
-    std::string list;
-    for (const Catalogue::Entry& entry : catalogue.entries()) {
-        list += list.empty() ? "" : ", ";
-        list += entry.recordClass->name;
+bool hasHLGSystemGamma(const Tree& document, const Shape& root) {
+    return holdsGoverned(*document.root(), root);
+}
+
+std::string unknownRootElement(std::string_view name) {
+    std::string known;
+    for (const RecordClass& each : RecordClasses()) {
+        known += known.empty() ? "" : ", ";
+        known += each.name;
     }
-    return list;
+    return "unknown root element " + inQuotes(name) + ", known are: " + known;
 }
 
 }  // namespace lv::analysis

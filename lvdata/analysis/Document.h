@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace lv::analysis {
 
@@ -65,7 +66,10 @@ private:
 /// Whether the switch `writeHLGSystemGamma` decides that elements of this shape are written.
 [[nodiscard]] bool isGovernedByHLGSwitch(const Shape& shape);
 
-/// "AssetInfo, BasicData, ...": the root elements that are known, for messages.
-[[nodiscard]] std::string knownRootElements(const Catalogue& catalogue);
+/// Whether a document has an element "HLGSystemGamma" that the switch governs.
+[[nodiscard]] bool hasHLGSystemGamma(const Tree& document, const Shape& root);
+
+/// `unknown root element "Asset", known are: AssetInfo, BasicData, ...`
+[[nodiscard]] std::string unknownRootElement(std::string_view name);
 
 }  // namespace lv::analysis

@@ -81,10 +81,12 @@ struct LoadedRecord {
 };
 
 /// Loads a record of the class that the document's root element names. A file, or a document in it, that is beyond the
-/// limits is refused before it is parsed; so is a document with a NUL, where parsing would end.
+/// limits is refused before it is parsed; so is a document with a NUL, where parsing would end. When the document has
+/// an element "HLGSystemGamma" that is written on request only, `writeHLGSystemGamma` of the record is set, so that
+/// saving keeps it.
 [[nodiscard]] LoadedRecord load(const std::filesystem::path& path, const Limits& limits = {});
 
-/// Loads into a record that you have. When that is not possible, the record is unchanged.
+/// Loads into a record that you have, in the same way. When that is not possible, the record is unchanged.
 [[nodiscard]] LoadResult load(const std::filesystem::path& path, DataObject& record, const Limits& limits = {});
 
 /// As `load`, from a text.

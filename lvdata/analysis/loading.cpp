@@ -1,5 +1,6 @@
+#include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/files.h>
-
+#include <lvdata/analysis/wording.h>
 #include <lvdata/core/ParsedDocument.h>
 #include <lvdata/records/RecordClass.h>
 
@@ -28,29 +29,6 @@ LoadResult checkedText(const std::string& text, const Limits& limits) {
     return {};
 }
 
-/// As much of a name as a message should hold: it can be as long as the document.
-std::string excerpt(const std::string& name) {
-    constexpr std::size_t longest = 100;
-    if (name.size() <= longest) {
-        return name;
-    }
-    std::size_t length = longest;  // or up to 3 less, so that it does not end amid a character of UTF-8
-    while (length > longest - 3 && (static_cast<unsigned char>(name[length]) & 0xC0U) == 0x80U) {
-        --length;
-    }
-    return name.substr(0, length) + "...";
-}
-
-/// "AssetInfo, BasicData, ..."
-std::string knownRootElements() {
-    std::string list;
-    for (const RecordClass& known : RecordClasses()) {
-        list += list.empty() ? "" : ", ";
-        list += known.name;
-    }
-    return list;
-}
-
 LoadResult resultOf(const ParseResult& parsed) {
     switch (parsed.outcome) {
     case ParseResult::Outcome::done:
@@ -60,16 +38,26 @@ LoadResult resultOf(const ParseResult& parsed) {
     case ParseResult::Outcome::nothingThere:
         return {Outcome::nothingThere, parsed.reason, parsed.line, {}, {}};
     default:
-        return {Outcome::rootElementRefused, "unexpected root element '" + excerpt(parsed.reason) + "'", 0, {}, {}};
+        return {Outcome::rootElementRefused, "unexpected root element " + inQuotes(parsed.reason), 0, {}, {}};
     }
 }
 
-LoadResult unknown(const std::string& root) {
-    return {Outcome::rootElementRefused,
-            "unknown root element '" + excerpt(root) + "', known are: " + knownRootElements(),
-            0,
-            {},
-            {}};
+/// Saving the record is to keep what the document has.
+void keepHLGSystemGamma(const std::string& text, ParsedDocument& document, DataObject& record) {
+    const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents need no closer look
+    const RecordClass* const found = isNamed ? recordClass(document.rootElementName()) : nullptr;
+    if (found != nullptr) {
+        const Description facts = found->describe();
+        record.writeHLGSystemGamma = hasHLGSystemGamma(Tree(document.view()), Shape(facts));
+    }
+}
+
+LoadResult readInto(DataObject& record, const std::string& text, ParsedDocument& document) {
+    LoadResult result = resultOf(document.read(record));
+    if (result) {
+        keepHLGSystemGamma(text, document, record);
+    }
+    return result;
 }
 
 LoadedRecord loaded(const std::string& text) {
@@ -79,11 +67,12 @@ LoadedRecord loaded(const std::string& text) {
     }
     const std::string root = document.rootElementName();
     const RecordClass* const found = recordClass(root);
-    auto record = found == nullptr ? nullptr : found->make();
-    if (!record || !document.read(*record)) {
-        return {nullptr, unknown(root)};
+    if (found == nullptr) {
+        return {nullptr, {Outcome::rootElementRefused, unknownRootElement(root), 0, {}, {}}};
     }
-    return {std::move(record), {}};
+    LoadedRecord loaded{found->make(), {}};
+    loaded.result = readInto(*loaded.record, text, document);
+    return loaded;
 }
 
 /// One byte more than the limit is read to see whether there is more.
@@ -115,7 +104,11 @@ LoadedRecord loadText(const std::string& text, const Limits& limits) {
 
 LoadResult loadText(const std::string& text, DataObject& record, const Limits& limits) {
     LoadResult result = checkedText(text, limits);
-    return result ? resultOf(record.parseXML(text)) : result;
+    if (!result) {
+        return result;
+    }
+    ParsedDocument document(text);
+    return readInto(record, text, document);
 }
 
 }  // namespace lv::analysis

@@ -2,6 +2,7 @@
 
 #include <lvdata/records/AssetInfo.h>
 #include <lvdata/records/CorrelationInfo.h>
+#include <lvdata/records/ParameterSetting.h>
 #include <tests/analysis/files/Folder.h>
 
 #include <gtest/gtest.h>
@@ -114,13 +115,23 @@ TEST(Load, ReportsThatNothingIsThere) {
 TEST(Load, ReportsAnotherRootElement) {
     const LoadResult unknown = loadText("<Asset/>").result;
     EXPECT_EQ(unknown.outcome, Outcome::rootElementRefused);
-    EXPECT_EQ(unknown.reason.rfind("unknown root element 'Asset', known are: AssetInfo, BasicData, ", 0), 0U);
+    EXPECT_EQ(unknown.reason.rfind(R"(unknown root element "Asset", known are: AssetInfo, BasicData, )", 0), 0U);
     AssetInfo record;
     const LoadResult other = loadText("\n<CorrelationInfo/>", record);
     EXPECT_EQ(other.outcome, Outcome::rootElementRefused);
-    EXPECT_EQ(other.reason, "unexpected root element 'CorrelationInfo'");
+    EXPECT_EQ(other.reason, R"(unexpected root element "CorrelationInfo")");
     EXPECT_EQ(loadText("<" + std::string(200, 'x') + "/>", record).reason,
-              "unexpected root element '" + std::string(100, 'x') + "...'");
+              "unexpected root element \"" + std::string(60, 'x') + "...\"");
+}
+
+TEST(Load, KeepsTheHLGSystemGammaOfADocumentThatHasIt) {
+    const std::string with = "<ParameterSetting><Gamma><HLGSystemGamma>120</HLGSystemGamma></Gamma></ParameterSetting>";
+    EXPECT_TRUE(loadText(with).record->writeHLGSystemGamma);
+    EXPECT_FALSE(loadText("<ParameterSetting><Gamma/></ParameterSetting>").record->writeHLGSystemGamma);
+    EXPECT_FALSE(loadText("<AssetInfo><HLGSystemGamma/></AssetInfo>").record->writeHLGSystemGamma);
+    lv::ParameterSetting record;
+    EXPECT_TRUE(loadText(with, record));
+    EXPECT_NE(record.toXMLString(false, false).find("<HLGSystemGamma>120<"), std::string::npos);
 }
 
 }  // namespace

@@ -120,8 +120,7 @@ TEST_F(Check, IgnoresRules) {
     EXPECT_EQ(check({"--ignore", "104,301", "warning.xml", "error.xml"}), printed("2 documents, no findings\n"));
     EXPECT_EQ(check({"warning.xml", "--ignore=104", "--ignore=301"}), printed("1 document, no findings\n"));
     EXPECT_EQ(check({"--ignore", "104", "warning.xml"}).exitCode, 1);
-    EXPECT_EQ(check({"--ignore", "999", "good.xml"}),
-              failed("lvdata: error: --ignore: '999' is not the id of a rule"));
+    EXPECT_EQ(check({"--ignore", "999", "good.xml"}), failed("lvdata: error: --ignore: '999' is not the id of a rule"));
 }
 
 TEST_F(Check, ComparesWithTheCanonicalFormWhenAsked) {
@@ -138,7 +137,8 @@ TEST_F(Check, TakesFoldersAndStandardInput) {
     fs::create_directory(path("folder"));
     fs::rename(path("warning.xml"), path("folder/b.xml"));
     fs::rename(path("good.xml"), path("folder/a.xml"));
-    EXPECT_THAT(check({"folder"}).output, AllOf(StartsWith("folder/b.xml: warning: "), HasSubstr("\n2 documents, 1 of")));
+    EXPECT_THAT(check({"folder"}).output,
+                AllOf(StartsWith("folder/b.xml: warning: "), HasSubstr("\n2 documents, 1 of")));
     EXPECT_THAT(run({"check", "-"}, {warning}).output, StartsWith("<stdin>: warning: line 2: "));
     EXPECT_EQ(check({}).exitCode, 2);
 }

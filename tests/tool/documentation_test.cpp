@@ -16,9 +16,13 @@ namespace fs = std::filesystem;
 using testing::ElementsAre;
 using Lines = std::vector<std::string>;
 
-std::string pageOfTheTool() {
-    std::ifstream file(LVDATA_TOOL_PAGE, std::ios::binary);
+std::string contentOf(const char* page) {
+    std::ifstream file(page, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string pageOfTheTool() {
+    return contentOf(LVDATA_TOOL_PAGE);
 }
 
 /// Commands that were played leave their streams and exit codes beside the folder of the test.
@@ -58,7 +62,7 @@ TEST_P(Documentation, ShowsWhatHappens) {
         const TypedCommand& command = transcript[index];
         const Outcome real = outcome(index);
         EXPECT_TRUE(showsStreams(command.shown, linesOf(real.output), linesOf(real.error)))
-            << LVDATA_TOOL_PAGE << ':' << command.line << ": $ " << command.text << '\n'
+            << "line " << command.line << ": $ " << command.text << '\n'
             << testing::PrintToString(real);
         if (isToolAlone(command.text)) {
             EXPECT_EQ(real.exitCode == 2, !real.error.empty()) << command.text;
@@ -66,8 +70,12 @@ TEST_P(Documentation, ShowsWhatHappens) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Page, Documentation, testing::ValuesIn(transcriptsIn(pageOfTheTool())),
-                         [](const auto& test) { return "Line" + std::to_string(test.param.front().line); });
+std::string nameOf(const testing::TestParamInfo<Transcript>& test) {
+    return "Line" + std::to_string(test.param.front().line);
+}
+
+INSTANTIATE_TEST_SUITE_P(Page, Documentation, testing::ValuesIn(transcriptsIn(pageOfTheTool())), nameOf);
+INSTANTIATE_TEST_SUITE_P(Readme, Documentation, testing::ValuesIn(transcriptsIn(contentOf(LVDATA_README))), nameOf);
 
 TEST_F(Replay, HasATranscriptForEachSubcommand) {
     std::string commands;

@@ -73,6 +73,7 @@ void addOptions(CLI::App& command, Options& options) {
     command.add_option("--ignore", options.ignored, "Ids of rules that are not looked for, separated by commas")
         ->type_name("ID")
         ->delimiter(',')
+        ->allow_extra_args(false)
         ->check(complaintIfUnknown);
     addColorOption(command, options.form.color);
 }

@@ -4,8 +4,6 @@
 #include "files.h"
 #include "limit_options.h"
 
-#include <lvdata/analysis/check/wording.h>
-
 namespace tool {
 namespace {
 
@@ -13,12 +11,10 @@ using lv::analysis::Catalogue;
 using lv::analysis::Document;
 using lv::analysis::Refusal;
 
-Failure failureOf(const std::string& name, const Refusal& refusal, const Catalogue& catalogue) {
-    if (refusal.kind != Refusal::Kind::unknownRoot) {
-        return {name, refusal.reason, refusal.line};
-    }
-    return {name, "unknown root element " + lv::analysis::quoted(refusal.reason) +
-                      ", known are: " + knownRootElements(catalogue)};
+Failure failureOf(const std::string& name, const Refusal& refusal) {
+    const bool isUnknown = refusal.kind == Refusal::Kind::unknownRoot;
+    return {name, isUnknown ? lv::analysis::unknownRootElement(refusal.reason) : refusal.reason,
+            isUnknown ? 0 : refusal.line};
 }
 
 void refuseExcess(const std::string& text, const std::string& name, const lv::Limits& limits) {
@@ -40,7 +36,7 @@ Document documentOf(const std::string& text, const std::string& name, const lv::
     refuseExcess(text, name, limits);
     Document document(text, catalogue);
     if (const Refusal* const refusal = document.refusal()) {
-        throw failureOf(name, *refusal, catalogue);
+        throw failureOf(name, *refusal);
     }
     return document;
 }

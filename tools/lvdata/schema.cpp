@@ -29,8 +29,7 @@ ExitStatus printSchema(const SchemaOptions& options) {
     const lv::analysis::Catalogue catalogue;
     const lv::analysis::Catalogue::Entry* const entry = catalogue.find(options.root);
     if (entry == nullptr) {
-        throw Failure(program, "unknown root element '" + options.root +
-                                   "', known are: " + lv::analysis::knownRootElements(catalogue));
+        throw Failure(program, lv::analysis::unknownRootElement(options.root));
     }
     writeResult(options.output,
                 options.isXSD ? lv::analysis::xsd(*entry->shape) : lv::analysis::jsonSchema(*entry->shape));

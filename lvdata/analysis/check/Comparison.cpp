@@ -2,7 +2,7 @@
 #include <lvdata/analysis/check/loss_findings.h>
 #include <lvdata/analysis/check/plausibility.h>
 #include <lvdata/analysis/check/value_findings.h>
-#include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/wording.h>
 
 #include <string>
 #include <vector>
@@ -104,9 +104,9 @@ void Comparison::run() {
 
 void Comparison::reportOutsideRoot(const Node& node) {
     if (isElement(node)) {
-        reporter_.add("303", node, "a second root element " + quoted(node.name) + " is dropped");
+        reporter_.add("303", node, "a second root element " + inQuotes(node.name) + " is dropped");
     } else if (node.kind == Kind::text && !node.text.empty()) {
-        reporter_.add("308", node, "text outside the root element, " + quoted(node.text) + ", is dropped");
+        reporter_.add("308", node, "text outside the root element, " + inQuotes(node.text) + ", is dropped");
     } else if (node.kind != Kind::text && !isXMLDeclaration(node)) {
         reportMarkup(node);
     }
@@ -114,7 +114,7 @@ void Comparison::reportOutsideRoot(const Node& node) {
 
 void Comparison::reportMarkup(const Node& node) {
     const char* const what = node.kind == Kind::comment ? "a comment is dropped: " : "markup is dropped: ";
-    reporter_.add("307", node, what + quoted(node.text));
+    reporter_.add("307", node, what + inQuotes(node.text));
 }
 
 void Comparison::compareElements(const Pair& pair) {
@@ -163,9 +163,9 @@ void Comparison::compareTexts(const Pair& pair) {
         if (node.kind == Kind::comment || node.kind == Kind::other) {
             reportMarkup(node);
         } else if (isText && textShape == nullptr) {
-            reporter_.add("308", node, "text where only elements belong, " + quoted(node.text) + ", is dropped");
+            reporter_.add("308", node, "text where only elements belong, " + inQuotes(node.text) + ", is dropped");
         } else if (isText && &node != own) {
-            reporter_.add("307", node, "further text, " + quoted(node.text) + ", is dropped");
+            reporter_.add("307", node, "further text, " + inQuotes(node.text) + ", is dropped");
         }
     }
 }
@@ -181,8 +181,8 @@ void Comparison::compareOwnTexts(const Pair& pair, const Shape* textShape, const
     if (own == nullptr) {
         if (!printed->text.empty()) {
             reporter_.addHere("107", pair.source.line,
-                              quoted(pair.source.name) + " has no text, so it counts as missing; " +
-                                  quoted(printed->text) + " is written");
+                              inQuotes(pair.source.name) + " has no text, so it counts as missing; " +
+                                  inQuotes(printed->text) + " is written");
         }
     } else if (printed == nullptr && !isOfElement) {
         reportDropped(reporter_, position, circumstances_);
@@ -226,7 +226,7 @@ void Comparison::compareChildren(const Pair& pair) {
         if (shape->facts().repetition == Repetition::rows) {
             compareRow({shape, &child, &pair.source}, ++match.rows, match.printed);
         } else if (&child != match.chosen) {
-            reporter_.add("303", child, "element " + quoted(child.name) + " is repeated: this one is dropped");
+            reporter_.add("303", child, "element " + inQuotes(child.name) + " is repeated: this one is dropped");
         } else {
             compareChild({shape, &child, &pair.source}, match.printed);
         }
@@ -242,7 +242,7 @@ void Comparison::compareChild(const Position& position, const Node* printed) {
     if (isGovernedByHLGSwitch(*position.shape) && !wasSwitchReported_) {
         wasSwitchReported_ = true;
         reporter_.add("313", *position.node,
-                      quoted(position.node->name) + " is kept only by programs that set writeHLGSystemGamma");
+                      inQuotes(position.node->name) + " is kept only by programs that set writeHLGSystemGamma");
     }
     const PathStack::Step step(reporter_.path(), position.shape->step());
     compareElements({*position.shape, *position.node, *printed});
@@ -274,9 +274,9 @@ void Comparison::reportRest(const Pair& pair, const std::vector<Match>& matches)
 
 void Comparison::reportAdded(const Node& printed, const Node& parent) {
     const Node* const text = printed.kind == Kind::element ? textOf(printed) : &printed;
-    const std::string value = text == nullptr ? "" : " as " + quoted(text->text);
+    const std::string value = text == nullptr ? "" : " as " + inQuotes(text->text);
     const char* const what = printed.kind == Kind::element ? "element " : "attribute ";
-    reporter_.addHere("310", parent.line, what + quoted(printed.name) + " is missing and is added" + value);
+    reporter_.addHere("310", parent.line, what + inQuotes(printed.name) + " is missing and is added" + value);
 }
 
 }  // namespace lv::analysis

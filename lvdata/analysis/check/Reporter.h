@@ -3,7 +3,7 @@
 #include <lvdata/analysis/Tree.h>
 #include <lvdata/analysis/check/Collector.h>
 #include <lvdata/analysis/check/PathStack.h>
-#include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/wording.h>
 
 #include <optional>
 #include <string>

@@ -1,5 +1,5 @@
 #include <lvdata/analysis/check/UnknownNames.h>
-#include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/wording.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -56,7 +56,7 @@ std::string guess(const Shape& parent, Place place, std::string_view name) {
             best = child.get();
         }
     }
-    return best == nullptr ? "" : "; did you mean " + quoted(best->facts().name) + "?";
+    return best == nullptr ? "" : "; did you mean " + inQuotes(best->facts().name) + "?";
 }
 
 void addPlaces(const Shape& parent, std::unordered_map<std::string_view, const Shape*>& places) {
@@ -74,13 +74,14 @@ void addPlaces(const Shape& parent, std::unordered_map<std::string_view, const S
 std::string unknownKey(const Shape& known, const Node& element) {
     const std::string& attribute = known.facts().keyAttribute;
     const Node* const key = attributeOf(element, attribute);
-    return key == nullptr ? "has no attribute " + attribute : "has an unknown " + attribute + ", " + quoted(key->text);
+    return key == nullptr ? "has no attribute " + attribute
+                          : "has an unknown " + attribute + ", " + inQuotes(key->text);
 }
 
 }  // namespace
 
 void UnknownNames::reportElement(Reporter& reporter, const Shape& parent, const Node& element) {
-    const std::string name = quoted(element.name);
+    const std::string name = inQuotes(element.name);
     if (const Shape* const known = parent.firstElement(element.name)) {
         reporter.add("301", element, "element " + name + ' ' + unknownKey(*known, element) + ", and is dropped");
         return;
@@ -100,7 +101,7 @@ void UnknownNames::reportElement(Reporter& reporter, const Shape& parent, const 
 void UnknownNames::reportAttribute(Reporter& reporter, const Shape& parent, const Node& attribute) {
     const bool isListed = reporter.isListing("302");
     const std::string meant = isListed ? guess(parent, Place::attribute, attribute.name) : "";
-    reporter.add("302", attribute, "unknown attribute " + quoted(attribute.name) + " is dropped" + meant);
+    reporter.add("302", attribute, "unknown attribute " + inQuotes(attribute.name) + " is dropped" + meant);
 }
 
 const Shape* UnknownNames::placeOf(std::string_view name) {

@@ -1,7 +1,6 @@
 #include <lvdata/analysis/check/check.h>
 
 #include <lvdata/analysis/check/Comparison.h>
-#include <lvdata/analysis/check/wording.h>
 #include <lvdata/analysis/utf8.h>
 
 #include <algorithm>
@@ -27,11 +26,8 @@ std::string_view ruleOf(Refusal::Kind kind) {
     return "002";
 }
 
-std::string messageOf(const Refusal& refusal, const Catalogue& catalogue) {
-    if (refusal.kind != Refusal::Kind::unknownRoot) {
-        return refusal.reason;
-    }
-    return "unknown root element " + quoted(refusal.reason) + ", known are: " + knownRootElements(catalogue);
+std::string messageOf(const Refusal& refusal) {
+    return refusal.kind == Refusal::Kind::unknownRoot ? unknownRootElement(refusal.reason) : refusal.reason;
 }
 
 void checkBytes(std::string_view text, Collector& collector) {
@@ -80,7 +76,7 @@ Findings check(const std::string& text, const Catalogue& catalogue, const CheckO
     checkBytes(text, collector);
     const Document document(text, catalogue);
     if (const Refusal* const refusal = document.refusal()) {
-        collector.add(ruleOf(refusal->kind), refusal->line, "", messageOf(*refusal, catalogue));
+        collector.add(ruleOf(refusal->kind), refusal->line, "", messageOf(*refusal));
         return collector.take();
     }
     compare(document, collector);

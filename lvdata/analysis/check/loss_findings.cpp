@@ -1,6 +1,6 @@
 #include <lvdata/analysis/check/loss_findings.h>
 #include <lvdata/analysis/check/value_findings.h>
-#include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/wording.h>
 
 #include <algorithm>
 #include <string>
@@ -23,7 +23,7 @@ const Node* textNodeOf(const Node& node) {
 
 /// "the text", or the name of an element or attribute.
 std::string subject(const Node& node) {
-    return node.kind == Node::Kind::text ? "the text" : quoted(node.name);
+    return node.kind == Node::Kind::text ? "the text" : inQuotes(node.name);
 }
 
 std::string entries(std::size_t count) {
@@ -42,7 +42,7 @@ std::string joined(const std::vector<std::size_t>& lengths) {
 std::string actual(const Question& question, const Position& asked) {
     const Condition& condition = *question.condition;
     const bool isCompared = condition.kind == Kind::oneOf || condition.kind == Kind::noneOf;
-    return isCompared ? "; it is " + quoted(valueAt(subjectAt(question.subjects.front(), asked))) : "";
+    return isCompared ? "; it is " + inQuotes(valueAt(subjectAt(question.subjects.front(), asked))) : "";
 }
 
 std::string needs(const Question& question, const Position& asked) {

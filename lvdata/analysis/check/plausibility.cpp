@@ -1,7 +1,7 @@
 #include <lvdata/analysis/check/dates.h>
 #include <lvdata/analysis/check/numbers.h>
 #include <lvdata/analysis/check/plausibility.h>
-#include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/wording.h>
 #include <lvdata/core/quantities.h>
 
 #include <algorithm>
@@ -148,7 +148,7 @@ bool holdsDate(const Description& facts) {
 void judgeDate(Reporter& reporter, const Position& element) {
     const Node* const text = holdsDate(element.shape->facts()) ? textOf(*element.node) : nullptr;
     if (text != nullptr && !text->text.empty() && !isDate(text->text)) {
-        reporter.addHere("405", text->line, quoted(text->text) + " is not a date with the year first");
+        reporter.addHere("405", text->line, inQuotes(text->text) + " is not a date with the year first");
     }
 }
 

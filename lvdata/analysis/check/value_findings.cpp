@@ -1,6 +1,6 @@
 #include <lvdata/analysis/check/numbers.h>
 #include <lvdata/analysis/check/value_findings.h>
-#include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/wording.h>
 
 #include <algorithm>
 #include <array>
@@ -43,7 +43,7 @@ std::string limitsOf(Content content) {
 
 /// What is wrong with the text of a number, and how it is read.
 std::string messageOf(NumberText text, std::string_view source, std::string_view readAs, Content content) {
-    const std::string shown = quoted(source);
+    const std::string shown = inQuotes(source);
     const std::string reads = "reads as " + std::string(readAs);
     switch (text) {
     case NumberText::noNumber:
@@ -67,7 +67,7 @@ void compareNumbers(Reporter& reporter, const Position& position, const Node& so
     const Content content = position.shape->facts().content;
     const NumberText text = judgeNumber(source.text, isSigned(content));
     if (text == NumberText::canonical || text == NumberText::empty) {
-        reporter.add("109", source, quoted(source.text) + " is written back as " + quoted(printed));
+        reporter.add("109", source, inQuotes(source.text) + " is written back as " + inQuotes(printed));
     } else {
         reporter.add(ruleOf(text), source, messageOf(text, source.text, printed, content));
     }
@@ -78,7 +78,7 @@ void compareBooleans(Reporter& reporter, const Node& source, std::string_view pr
         reporter.add("105", source, R"("TRUE" is written back as "true")");
     } else {
         reporter.add("106", source,
-                     quoted(source.text) + R"( is neither "true" nor "false", reads as )" + std::string(printed));
+                     inQuotes(source.text) + R"( is neither "true" nor "false", reads as )" + std::string(printed));
     }
 }
 
@@ -99,9 +99,9 @@ std::string asParsed(std::string_view printed, Node::Kind kind) {
 
 void compareStrings(Reporter& reporter, const Position& position, const Node& source, std::string_view printed) {
     if (position.shape->facts().constant) {
-        reporter.add("311", source, quoted(source.text) + " is written back as the constant " + quoted(printed));
+        reporter.add("311", source, inQuotes(source.text) + " is written back as the constant " + inQuotes(printed));
     } else {
-        reporter.add("109", source, quoted(source.text) + " is written back as " + quoted(printed));
+        reporter.add("109", source, inQuotes(source.text) + " is written back as " + inQuotes(printed));
     }
 }
 
@@ -159,7 +159,7 @@ namespace {
 
 void compareArrays(Reporter& reporter, const Position& position, const Node& source, std::string_view printed) {
     if (!judgeArray(reporter, position, source)) {
-        reporter.add("109", source, quoted(source.text) + " is written back as " + quoted(printed));
+        reporter.add("109", source, inQuotes(source.text) + " is written back as " + inQuotes(printed));
     }
 }
 
@@ -175,8 +175,9 @@ void compareValues(Reporter& reporter, const Position& position, const Node& sou
     }
     const Content content = position.shape->facts().content;
     if (source.text.empty() && content != Content::string) {
-        const std::string name = source.kind == Node::Kind::attribute ? "attribute " + quoted(source.name) : "the text";
-        reporter.add("107", source, name + " is empty, so it counts as missing; " + quoted(printed) + " is written");
+        const std::string name =
+            source.kind == Node::Kind::attribute ? "attribute " + inQuotes(source.name) : "the text";
+        reporter.add("107", source, name + " is empty, so it counts as missing; " + inQuotes(printed) + " is written");
         return;
     }
     switch (content) {

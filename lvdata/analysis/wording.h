@@ -9,6 +9,6 @@ namespace lv::analysis {
 [[nodiscard]] std::string excerpt(std::string_view text);
 
 /// The same in quotation marks.
-[[nodiscard]] std::string quoted(std::string_view text);
+[[nodiscard]] std::string inQuotes(std::string_view text);
 
 }  // namespace lv::analysis

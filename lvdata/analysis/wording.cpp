@@ -1,4 +1,4 @@
-#include <lvdata/analysis/check/wording.h>
+#include <lvdata/analysis/wording.h>
 
 #include <cstddef>
 
@@ -20,7 +20,7 @@ std::string excerpt(std::string_view text) {
     return std::string(text.substr(0, length)) + (length < text.size() ? "..." : "");
 }
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     return '"' + excerpt(text) + '"';
 }
 

@@ -1,0 +1,126 @@
+#include <benchmarks/documents.h>
+
+#include <lvdata/analysis/JSON.h>
+#include <lvdata/analysis/check/check.h>
+#include <lvdata/analysis/diff.h>
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+// Each benchmark is named operation/document. "read" is the reference of all ratios: a text becomes a record, as each
+// of the others begins.
+
+namespace benchmarks {
+namespace {
+
+using lv::analysis::Catalogue;
+
+const Catalogue& catalogue() {
+    static const Catalogue all;
+    return all;
+}
+
+std::unique_ptr<lv::DataObject> readRecord(const std::string& text) {
+    lv::ParsedDocument document(text);
+    auto record = lv::recordClass(document.rootElementName())->make();
+    static_cast<void>(document.read(*record));
+    return record;
+}
+
+void read(const std::string& text) {
+    benchmark::DoNotOptimize(readRecord(text));
+}
+
+void check(const std::string& text) {
+    benchmark::DoNotOptimize(lv::analysis::check(text, catalogue()));
+}
+
+/// As `lvdata convert --to jsonl` does with each document.
+void toJSONLine(const std::string& text) {
+    const lv::analysis::Document document(text, catalogue());
+    benchmark::DoNotOptimize(toJSON(document.record(), catalogue(), {true}));
+}
+
+void diffWithItself(const std::string& text) {
+    const auto record = readRecord(text);
+    benchmark::DoNotOptimize(diff(*record, *record, catalogue()));
+}
+
+using Operation = void (*)(const std::string&);
+
+const std::vector<std::pair<std::string, Operation>>& operations() {
+    static const std::vector<std::pair<std::string, Operation>> all = {
+        {"read", read}, {"check", check}, {"JSON line", toJSONLine}, {"diff", diffWithItself}};
+    return all;
+}
+
+void run(benchmark::State& state, Operation operation, const std::string& text) {
+    for ([[maybe_unused]] auto iteration : state) {
+        operation(text);
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+}
+
+void fromJSONLine(benchmark::State& state, const std::string& text) {
+    const std::string json = toJSON(*readRecord(text), catalogue(), {true}).text;
+    for ([[maybe_unused]] auto iteration : state) {
+        benchmark::DoNotOptimize(lv::analysis::fromJSON(json, catalogue()));
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(json.size()));
+}
+
+/// A monitor with one calibrated mode, as applications write it.
+std::string oneMode() {
+    lv::MonitorInfo monitor = typicalDocument().monitor;
+    monitor.calibrationModeResult.value.objects.resize(1);
+    monitor.monitorConfiguration.value.colorModeSettings.value.objects.resize(1);
+    return monitor.toXMLString(true, true);
+}
+
+void registerAll(const std::string& name, const std::string& text) {
+    for (const auto& [operation, function] : operations()) {
+        benchmark::RegisterBenchmark((operation + '/' + name).c_str(), run, function, text);
+    }
+    benchmark::RegisterBenchmark(("from JSON/" + name).c_str(), fromJSONLine, text);
+}
+
+/// What is measured must be right: nothing to be found, and JSON that comes back.
+bool isSound(const std::string& name, const std::string& text) {
+    const auto record = readRecord(text);
+    const auto json = toJSON(*record, catalogue(), {true});
+    const auto back = lv::analysis::fromJSON(json.text, catalogue());
+    const bool isKept = back && back.record->toXMLString(false, false) == record->toXMLString(false, false);
+    const bool isFree = check(text, catalogue()).countFrom(lv::analysis::Severity::warning) == 0;
+    if (!isKept || !isFree) {
+        std::cerr << name << " has findings, or does not come back from JSON\n";
+    }
+    return isKept && isFree;
+}
+
+}  // namespace
+}  // namespace benchmarks
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    std::vector<std::pair<std::string, std::string>> texts = {{"one mode", benchmarks::oneMode()}};
+    for (const benchmarks::Document& document : benchmarks::allDocuments()) {
+        texts.emplace_back(document.name, document.text());
+    }
+    for (const unsigned int rows : {25000U, 100000U}) {
+        texts.emplace_back("rows x" + std::to_string(rows), benchmarks::rowsText(rows));
+    }
+    for (const auto& [name, text] : texts) {
+        if (!benchmarks::isSound(name, text)) {
+            return EXIT_FAILURE;
+        }
+        benchmarks::registerAll(name, text);
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return EXIT_SUCCESS;
+}
