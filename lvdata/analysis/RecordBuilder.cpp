@@ -230,32 +230,6 @@ void RecordBuilder::unknownKey(std::string_view name, const std::vector<std::str
     fail(meant == nullptr ? "unknown key" : "unknown key, did you mean \"" + *meant + "\"?");
 }
 
-void RecordBuilder::beginArray(Entries /*entries*/) {
-    if (!begins(Expected::array, "an array")) {
-        return;
-    }
-    const Shape& member = *open_.back().member;
-    if (member.facts().repetition == Repetition::rows) {
-        push(Level::rows, &member, nullptr);
-    } else {
-        beginNumbers(true);
-        push(Level::numbers, nullptr, nullptr);
-    }
-    path_.beginArray();
-}
-
-void RecordBuilder::endArray() {
-    if (hasFailed()) {
-        return;
-    }
-    const bool isOfNumbers = open_.back().level == Level::numbers;
-    open_.pop_back();
-    path_.end();
-    if (isOfNumbers) {
-        endNumbers();
-    }
-}
-
 void RecordBuilder::string(std::string_view text) {
     if (!begins(Expected::string, "text")) {
         return;

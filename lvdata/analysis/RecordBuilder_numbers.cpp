@@ -59,6 +59,32 @@ Node& RecordBuilder::addText(const Shape& member, std::string text) {
     return node;
 }
 
+void RecordBuilder::beginArray(Entries /*entries*/) {
+    if (!begins(Expected::array, "an array")) {
+        return;
+    }
+    const Shape& member = *open_.back().member;
+    if (member.facts().repetition == Description::Repetition::rows) {
+        push(Level::rows, &member, nullptr);
+    } else {
+        beginNumbers(true);
+        push(Level::numbers, nullptr, nullptr);
+    }
+    path_.beginArray();
+}
+
+void RecordBuilder::endArray() {
+    if (hasFailed()) {
+        return;
+    }
+    const bool isOfNumbers = open_.back().level == Level::numbers;
+    open_.pop_back();
+    path_.end();
+    if (isOfNumbers) {
+        endNumbers();
+    }
+}
+
 void RecordBuilder::beginNumbers(bool isArray) {
     const Shape& member = *open_.back().member;
     numbers_ = Numbers();
