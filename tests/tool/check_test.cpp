@@ -17,15 +17,15 @@ using testing::StartsWith;
 
 /// As the tool prints it: nothing to be found, remarks included.
 const std::string good = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"no\"?>\n"
-                         "<BasicData Version=\"1\" MinorVersion=\"1\">\n"
+                         "<BasicData Version=\"3\" MinorVersion=\"0\">\n"
                          "    <UsageHours>1204</UsageHours>\n"
                          "</BasicData>\n";
 
-const std::string remark = "<BasicData Version=\"1\" MinorVersion=\"1\"><UsageHours>0042</UsageHours></BasicData>";
+const std::string remark = "<BasicData Version=\"3\" MinorVersion=\"0\"><UsageHours>0042</UsageHours></BasicData>";
 
-const std::string warning = "<BasicData Version=\"1\" MinorVersion=\"1\">\n<UsageHour>5</UsageHour></BasicData>";
+const std::string warning = "<BasicData Version=\"3\" MinorVersion=\"0\">\n<UsageHour>5</UsageHour></BasicData>";
 
-const std::string error = "<BasicData Version=\"1\" MinorVersion=\"1\">\n<UsageHours>140,5</UsageHours></BasicData>";
+const std::string error = "<BasicData Version=\"3\" MinorVersion=\"0\">\n<UsageHours>140,5</UsageHours></BasicData>";
 
 const std::string warningLine = "warning.xml: warning: line 2: unknown element \"UsageHour\" is dropped; did you mean "
                                 "\"UsageHours\"? [301] /BasicData/UsageHour\n";
@@ -120,8 +120,7 @@ TEST_F(Check, IgnoresRules) {
     EXPECT_EQ(check({"--ignore", "104,301", "warning.xml", "error.xml"}), printed("2 documents, no findings\n"));
     EXPECT_EQ(check({"warning.xml", "--ignore=104", "--ignore=301"}), printed("1 document, no findings\n"));
     EXPECT_EQ(check({"--ignore", "104", "warning.xml"}).exitCode, 1);
-    EXPECT_EQ(check({"--ignore", "999", "good.xml"}),
-              failed("lvdata: error: --ignore: '999' is not the id of a rule"));
+    EXPECT_EQ(check({"--ignore", "999", "good.xml"}), failed("lvdata: error: --ignore: '999' is not the id of a rule"));
 }
 
 TEST_F(Check, ComparesWithTheCanonicalFormWhenAsked) {
@@ -138,13 +137,14 @@ TEST_F(Check, TakesFoldersAndStandardInput) {
     fs::create_directory(path("folder"));
     fs::rename(path("warning.xml"), path("folder/b.xml"));
     fs::rename(path("good.xml"), path("folder/a.xml"));
-    EXPECT_THAT(check({"folder"}).output, AllOf(StartsWith("folder/b.xml: warning: "), HasSubstr("\n2 documents, 1 of")));
+    EXPECT_THAT(check({"folder"}).output,
+                AllOf(StartsWith("folder/b.xml: warning: "), HasSubstr("\n2 documents, 1 of")));
     EXPECT_THAT(run({"check", "-"}, {warning}).output, StartsWith("<stdin>: warning: line 2: "));
     EXPECT_EQ(check({}).exitCode, 2);
 }
 
 TEST_F(Check, SaysHowManyFindingsItDoesNotList) {
-    std::string document = "<BasicData Version=\"1\" MinorVersion=\"1\">";
+    std::string document = "<BasicData Version=\"3\" MinorVersion=\"0\">";
     for (int number = 0; number < 1'001; ++number) {
         document += "<a b=''/><UsageHours> 5</UsageHours>";
     }
