@@ -45,12 +45,11 @@ TEST(Plausibility, OfFaultyTablesIsLeftToOtherRules) {
 
 TEST(Plausibility, OfChromaticities) {
     const auto white = [](int x, int y) {
-        return findingsIn("<ParameterSetting>\n<WhitePoint Type='Coordinate'><x>" + std::to_string(x) + "</x><y>" +
-                          std::to_string(y) + "</y></WhitePoint></ParameterSetting>");
+        return findingsIn("<TargetSetting>\n<WhitePoint Type='Coordinate'><x>" + std::to_string(x) + "</x><y>" +
+                          std::to_string(y) + "</y></WhitePoint></TargetSetting>");
     };
     EXPECT_THAT(white(4000, 6000), IsEmpty());
-    EXPECT_THAT(white(4000, 6001),
-                ElementsAre("401 line 2 /ParameterSetting/WhitePoint: the sum of x and y is above 1"));
+    EXPECT_THAT(white(4000, 6001), ElementsAre("401 line 2 /TargetSetting/WhitePoint: the sum of x and y is above 1"));
 }
 
 TEST(Plausibility, OfWhites) {

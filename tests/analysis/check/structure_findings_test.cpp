@@ -73,7 +73,7 @@ TEST(StructureFindings, OfConditionsNameThem) {
     EXPECT_THAT(findingsIn("<ParameterSetting><WhitePoint Type='Temprature'>\n<Temperature>6500</Temperature>"
                            "</WhitePoint></ParameterSetting>"),
                 ElementsAre("305 line 2 /ParameterSetting/WhitePoint/Temperature: \"Temperature\" is not written back; "
-                            "that needs: Type = \"Temperature\"; it is \"Temprature\""));
+                            "that needs: ../@Type is \"Temperature\"; it is \"Temprature\""));
     EXPECT_THAT(
         findingsIn("<ParameterSetting><Gamma Type='SyncSignal'>\n<Value>220</Value></Gamma></ParameterSetting>"),
         ElementsAre(StartsWith("306 line 2 /ParameterSetting/Gamma/Value: \"Value\" is not read and is dropped; "
@@ -81,15 +81,15 @@ TEST(StructureFindings, OfConditionsNameThem) {
 }
 
 TEST(StructureFindings, OfCommentsAndTexts) {
-    EXPECT_THAT(findingsIn("<!--1-->\n<AssetInfo>\n<!--2-->\n<Asset1>a<!--3-->b</Asset1>\n<Asset2><?x?>c</Asset2>d"
-                           "</AssetInfo>\n<!--4-->"),
-                ElementsAre("307 line 1 : a comment is dropped: \"1\"",
-                            "307 line 3 /AssetInfo: a comment is dropped: \"2\"",
-                            "307 line 4 /AssetInfo/Asset1: a comment is dropped: \"3\"",
-                            "307 line 4 /AssetInfo/Asset1: further text, \"b\", is dropped",
-                            "308 line 5 /AssetInfo: text where only elements belong, \"d\", is dropped",
-                            "307 line 5 /AssetInfo/Asset2: markup is dropped: \"x\"",
-                            "307 line 6 : a comment is dropped: \"4\""));
+    EXPECT_THAT(
+        findingsIn("<!--1--><!DOCTYPE x>\n<AssetInfo>\n<!--2-->\n<Asset1>a<!--3-->b</Asset1>\n<Asset2>c</Asset2>d"
+                   "</AssetInfo>\n<!--4-->"),
+        ElementsAre("307 line 1 : a comment is dropped: \"1\"", "307 line 1 : markup is dropped: \"DOCTYPE x\"",
+                    "307 line 3 /AssetInfo: a comment is dropped: \"2\"",
+                    "307 line 4 /AssetInfo/Asset1: a comment is dropped: \"3\"",
+                    "307 line 4 /AssetInfo/Asset1: further text, \"b\", is dropped",
+                    "308 line 5 /AssetInfo: text where only elements belong, \"d\", is dropped",
+                    "307 line 6 : a comment is dropped: \"4\""));
 }
 
 TEST(StructureFindings, OfWhatIsAdded) {
