@@ -1,9 +1,9 @@
 #include <fuzz/support/harness.h>
 #include <fuzz/support/lossy_text.h>
 
+#include <lvdata/analysis/printable.h>
 #include <tools/lvdata/Failure.h>
 #include <tools/lvdata/format.h>
-#include <tools/lvdata/printable.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -108,7 +108,7 @@ private:
         const std::string start = input_ + ": error: ";
         checkEqual(message.substr(0, start.size()), start, "the message names the file");
         fuzz::check(message.size() > start.size(), "the message gives a reason");
-        fuzz::check(tool::printable(message).find('\n') == std::string::npos, "the message is one line");
+        fuzz::check(lv::analysis::printable(message).find('\n') == std::string::npos, "the message is one line");
         checkEqual(read(output_), untouched, "the output stays as it was");
     }
 

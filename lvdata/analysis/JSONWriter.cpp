@@ -110,6 +110,9 @@ void JSONWriter::end(char bracket) {
     out_ += bracket;
     isEmpty_ = false;
     inNumbers_ = false;
+    if (depth_ == 0 && isLine_) {
+        out_ += '\n';
+    }
 }
 
 void JSONWriter::startLine() {

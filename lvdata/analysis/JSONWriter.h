@@ -12,6 +12,7 @@ namespace lv::analysis {
 struct JSONForm {
     bool compact =
         false;  ///< All on one line without spaces. Otherwise two spaces a level, numbers of arrays on one line.
+    bool isLine = false;  ///< A line break after it, for texts of one object a line.
 };
 
 /// Appends JSON text to a string: one value, or several, each with its own writer. Text that is not UTF-8 makes
@@ -19,7 +20,10 @@ struct JSONForm {
 class JSONWriter final : public Sink {
 public:
     /// \param out  where the text goes; it must outlive the writer
-    explicit JSONWriter(std::string& out, JSONForm form = {}) : out_(out), isCompact_(form.compact) {}
+    explicit JSONWriter(std::string& out, JSONForm form = {})
+        : out_(out),
+          isCompact_(form.compact),
+          isLine_(form.isLine) {}
 
     void beginObject() override;
     void key(std::string_view name) override;
@@ -46,6 +50,7 @@ private:
 
     std::string& out_;
     bool isCompact_;
+    bool isLine_;
     bool isUTF8_ = true;
     bool isAfterKey_ = false;
     bool isEmpty_ = true;     // the object or array that is open has nothing yet

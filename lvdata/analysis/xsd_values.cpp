@@ -13,12 +13,12 @@ using Content = Description::Content;
 const std::string shared;
 
 /// The numbers from 0 to 4294967295 without leading zeros.
-const std::string unsignedPattern =
+constexpr const char* unsignedPattern =
     "(0|[1-9][0-9]{0,8}|[1-3][0-9]{9}|4[01][0-9]{8}|42[0-8][0-9]{7}|429[0-3][0-9]{6}|4294[0-8][0-9]{5}|"
     "42949[0-5][0-9]{4}|429496[0-6][0-9]{3}|4294967[01][0-9]{2}|42949672[0-8][0-9]|429496729[0-5])";
 
 /// The numbers from -2147483648 to 2147483647 without leading zeros.
-const std::string signedPattern =
+constexpr const char* signedPattern =
     "(0|-?([1-9][0-9]{0,8}|1[0-9]{9}|20[0-9]{8}|21[0-3][0-9]{7}|214[0-6][0-9]{6}|2147[0-3][0-9]{5}|"
     "21474[0-7][0-9]{4}|214748[0-2][0-9]{3}|2147483[0-5][0-9]{2}|21474836[0-3][0-9]|214748364[0-7])|-2147483648)";
 
@@ -32,7 +32,7 @@ std::string restriction(const std::string& base, const std::string& facets) {
 
 std::string arrayType(Content content, TypeList& types) {
     const bool isSigned = content == Content::signedArray;
-    const std::string& number = isSigned ? signedPattern : unsignedPattern;
+    const std::string number = isSigned ? signedPattern : unsignedPattern;
     return types.add(shared, isSigned ? "signedArray" : "unsignedArray",
                      restriction("xs:string", facet("pattern", '(' + number + "(\\|" + number + ")*)?")));
 }

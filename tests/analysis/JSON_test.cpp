@@ -1,4 +1,5 @@
 #include <tests/analysis/any_record.h>
+#include <tests/support/golden.h>
 
 #include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/JSON.h>
@@ -111,6 +112,17 @@ TEST(JSON, LeavesFactorsThatAreNoPowersOfTen) {
     EXPECT_NE(json.find(R"("red":{"type":"Lut","lut":[0,65535]},"green":{"type":"Lut24","lut24":[16777215]})"),
               std::string::npos)
         << json;
+}
+
+TEST(JSON, IsWhatItsPageShows) {
+    const std::string page = contentOf(LVDATA_DOCS_DIR "/json.md");
+    const auto block = [&](const std::string& language) {
+        const std::string fence = "```" + language + '\n';
+        const std::size_t begin = page.find(fence) + fence.size();
+        return page.substr(begin, page.find("\n```", begin) - begin);
+    };
+    EXPECT_EQ(prettyOf(block("xml")), block("json"));
+    EXPECT_EQ(fromJSON(block("json"), catalogue()).record->toXMLString(false, true), block("xml") + '\n');
 }
 
 TEST(JSON, EscapesWhatJSONDoesNotTake) {

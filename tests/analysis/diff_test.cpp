@@ -176,6 +176,8 @@ TEST(Diff, ComparesTablesOfDifferentScalesByTheirValues) {
     EXPECT_THAT(differencesOf(table("0", "500000", "1000"), table("1", "500000001", "1000000")),
                 testing::Contains("changed MonitorParameter/RedLUT: entries 256 -> 256, 1 differ, "
                                   "most at 0: 0.5 -> 0.500000001 by 0.000000001"));
+    EXPECT_THAT(differencesOf(table("1", "500000001", "1000000"), table("0", "500000", "1000")),
+                testing::Contains(testing::HasSubstr("1 differ, most at 0: 0.500000001 -> 0.5 by -0.000000001")));
     EXPECT_THAT(differencesOf(table("0", "1", "1"), table("1", "1", "1")),
                 testing::Contains(testing::HasSubstr("256 differ, most at 0: 0.000001 -> 0.000000001")));
 }

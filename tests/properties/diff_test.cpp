@@ -22,6 +22,9 @@ protected:
         return !diffPrinted(first, second, entry).differences.empty();
     }
 
+    /// The document of a record that was read from the one that this record prints: what reading drops is gone.
+    static std::string settled(const AnyRecord& record) { return compactTextOf(*parsed(compactTextOf(record))); }
+
     /// A copy with one place changed.
     static std::unique_ptr<AnyRecord> withAChange(const AnyRecord& record) {
         std::unique_ptr<AnyRecord> copy = record.copy();
@@ -42,11 +45,11 @@ TEST_P(DiffOfAnyRecord, IsEmptyExactlyWhenTheDocumentsAreTheSame) {
     });
 }
 
-TEST_P(DiffOfAnyRecord, IsEmptyExactlyWhenTheRecordsOfTheDocumentsAreEqual) {
+TEST_P(DiffOfAnyRecord, IsEmptyExactlyWhenRecordsThatHoldOnlyWhatTheyPrintAreEqual) {
     expectHolds([] {
         const SharedRecord record = anyRecord(Texts::xml);
-        const std::string before = compactTextOf(*record);
-        const std::string after = compactTextOf(*withAChange(*record));
+        const std::string before = settled(*record);
+        const std::string after = settled(*withAChange(*record));
         RC_ASSERT(differ(before, after) == !parsed(before)->isEqualTo(*parsed(after)));
     });
 }

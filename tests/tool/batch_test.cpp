@@ -5,6 +5,7 @@
 #include <tools/lvdata/batch.h>
 #include <tools/lvdata/files.h>
 
+#include <chrono>
 #include <mutex>
 #include <new>
 #include <set>
@@ -111,7 +112,7 @@ TEST_P(BatchTest, NamesTheInputWhateverWentWrong) {
 
 TEST_P(BatchTest, PrintsMessagesInTheOrderOfInputs) {
     write("a", "one");
-    const auto printToBoth = [this](std::string&& /*text*/, tool::Output& /*output*/) {
+    const auto printToBoth = [](std::string&& /*text*/, tool::Output& /*output*/) {
         std::cerr << "delivered\n";
         return ExitStatus::done;
     };
@@ -157,6 +158,24 @@ TEST_P(BatchTest, WorksOnTheCallingThreadForOneJobOnly) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Jobs, BatchTest, testing::Values(1, 2, 8));
+
+TEST(Batch, UsesNoMoreThreadsThanProcessors) {
+    tool::Output output;
+    std::mutex mutex;
+    std::set<std::thread::id> threads;
+    const auto note = [&](const Input& /*input*/) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));  // time for each thread to get something
+        const std::lock_guard lock(mutex);
+        threads.insert(std::this_thread::get_id());
+        return 0;
+    };
+    const auto deliver = [](int&& /*result*/) {
+        return ExitStatus::done;
+    };
+    const std::vector<std::string> many(8 * tool::processorCount(), "a");
+    EXPECT_EQ(tool::forEachInput({{many, {}, false}, 100}, output, note, deliver), ExitStatus::done);
+    EXPECT_LE(threads.size(), tool::processorCount());
+}
 
 TEST(Batch, MovesResultsThatCannotBeCopied) {
     tool::Output output;

@@ -75,6 +75,7 @@ TEST_F(Completion, OfBashKnowsValues) {
     EXPECT_THAT(bashOffers("lvdata format --output = so"), ElementsAre("some name.xml"));
     EXPECT_THAT(bashOffers("lvdata format --output ="), ElementsAre("some name.xml"));
     EXPECT_THAT(bashOffers("lvdata format --max-size ''"), ElementsAre(""));  // a number
+    EXPECT_THAT(bashOffers("lvdata format --max-size = so"), ElementsAre(""));
     EXPECT_THAT(bashOffers("lvdata for"), ElementsAre("format"));
 }
 

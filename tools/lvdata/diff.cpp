@@ -8,7 +8,7 @@
 #include "documents.h"
 #include "files.h"
 #include "limit_options.h"
-#include "printable.h"
+#include <lvdata/analysis/printable.h>
 
 #include <lvdata/analysis/JSONWriter.h>
 #include <lvdata/analysis/diff.h>
@@ -91,8 +91,8 @@ std::string unlistedText(const Diff& diff) {
 void writeText(Output& output, const Diff& diff, ColorChoice color) {
     const Palette palette(color);
     for (const Difference& difference : diff.differences) {
-        output.write(palette.paint(Style::name, printable(difference.path)) + ": ");
-        output.write(palette.paint(styleOf(difference.kind), printable(inWords(difference))) + '\n');
+        output.write(palette.paint(Style::name, lv::analysis::printable(difference.path)) + ": ");
+        output.write(palette.paint(styleOf(difference.kind), lv::analysis::printable(inWords(difference))) + '\n');
     }
     const std::string unlisted = unlistedText(diff);
     if (!unlisted.empty()) {

@@ -21,22 +21,32 @@ Failure failureOf(const std::string& name, const Refusal& refusal, const Catalog
                       ", known are: " + knownRootElements(catalogue)};
 }
 
+void refuseExcess(const std::string& text, const std::string& name, const lv::Limits& limits) {
+    if (const auto excess = lv::findExcess(text, limits)) {
+        throw Failure(name, excessReason(*excess), excess->line);
+    }
+}
+
 }  // namespace
 
 std::string readText(const std::string& file, const lv::Limits& limits) {
     std::string text = readInput(file, limits.bytes);
-    if (const auto excess = lv::findExcess(text, limits)) {
-        throw Failure(inputName(file), excessReason(*excess), excess->line);
-    }
+    refuseExcess(text, inputName(file), limits);
     return text;
 }
 
-Document readDocument(const std::string& file, const lv::Limits& limits, const Catalogue& catalogue) {
-    Document document(readText(file, limits), catalogue);
+Document documentOf(const std::string& text, const std::string& name, const lv::Limits& limits,
+                    const Catalogue& catalogue) {
+    refuseExcess(text, name, limits);
+    Document document(text, catalogue);
     if (const Refusal* const refusal = document.refusal()) {
-        throw failureOf(inputName(file), *refusal, catalogue);
+        throw failureOf(name, *refusal, catalogue);
     }
     return document;
+}
+
+Document readDocument(const std::string& file, const lv::Limits& limits, const Catalogue& catalogue) {
+    return documentOf(readInput(file, limits.bytes), inputName(file), limits, catalogue);
 }
 
 }  // namespace tool

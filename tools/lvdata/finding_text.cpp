@@ -1,6 +1,6 @@
 #include "finding_text.h"
 
-#include "printable.h"
+#include <lvdata/analysis/printable.h>
 
 namespace tool {
 namespace {
@@ -36,10 +36,11 @@ std::string lineOf(const std::string& name, const Finding& finding) {
 }
 
 std::string lineOf(const std::string& name, const Finding& finding, const Palette& palette) {
-    const std::string path = finding.path.empty() ? "" : ' ' + palette.paint(Style::faint, printable(finding.path));
-    return palette.paint(Style::name, printable(name)) + ": " +
+    const std::string path =
+        finding.path.empty() ? "" : ' ' + palette.paint(Style::faint, lv::analysis::printable(finding.path));
+    return palette.paint(Style::name, lv::analysis::printable(name)) + ": " +
            palette.paint(styleOf(finding.severity), nameOf(finding.severity)) + ": " + placeOf(finding) +
-           printable(finding.message) + idOf(finding) + path + '\n';
+           lv::analysis::printable(finding.message) + idOf(finding) + path + '\n';
 }
 
 std::string counted(std::size_t count, const std::string& thing) {

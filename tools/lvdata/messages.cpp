@@ -1,13 +1,13 @@
 #include "messages.h"
 
-#include "printable.h"
+#include <lvdata/analysis/printable.h>
 
 #include <iostream>
 
 namespace tool {
 
 void printMessage(std::string_view message) {
-    std::cerr << printable(message) + '\n' << std::flush;
+    std::cerr << lv::analysis::printable(message) + '\n' << std::flush;
 }
 
 }  // namespace tool

@@ -3,6 +3,8 @@
 #include <lvdata/analysis/diff/StoredValue.h>
 #include <lvdata/core/quantities.h>
 
+#include <utility>
+
 namespace lv::analysis {
 namespace {
 
@@ -48,9 +50,9 @@ TableChange tableChange(const StoredArray& before, const StoredArray& after, con
     TableChange table{before.numbers.size(), after.numbers.size(), compared.differing, {}};
     if (compared.largest && compared.differing > 0) {
         const std::size_t index = compared.largest->index;
-        table.largest =
-            TableChange::Entry{index, shownNumber(before.numbers[index], *before.quantity),
-                               shownNumber(after.numbers[index], *after.quantity), compared.largest->change};
+        table.largest = TableChange::Entry{index, shownNumber(before.numbers[index], *before.quantity),
+                                           shownNumber(after.numbers[index], *after.quantity), compared.largest->change,
+                                           shownUnit(*after.quantity)};
     }
     return table;
 }
@@ -103,33 +105,50 @@ bool hasSameQuantity(const StoredArray& before, const StoredArray& after) {
     return *before.quantity == *after.quantity && before.numbers.size() == after.numbers.size();
 }
 
-JudgedDifference numbersDifference(const ValuePair& pair, Judge& judge) {
-    const StoredArray before = storedArray(pair.before);
-    const StoredArray after = storedArray(pair.after);
-    const ComparedArrays compared = compareArrays(before, after);
-    JudgedDifference result;
-    Difference& difference = result.difference;
-    Verdict verdict;
-    if (hasSameQuantity(before, after)) {
-        verdict.consider(judge.tolerances.of(before.quantity->name), largestSize(compared));
-    }
-    if (isArray(*pair.before.shape)) {
-        difference.table = tableChange(before, after, compared);
-    } else {
-        difference.change = changeOf(compared);
-    }
-    if (isTristimulus(before) && isTristimulus(after)) {
-        difference.colour = ofTristimulus(pair, before, after, judge);
-        verdict.consider(judge.tolerances.of(Tolerances::de00), difference.colour->size);
-    }
-    const bool isLarge = isTable(before) || isTable(after);
+/// The numbers of both sides.
+struct NumberPair {
+    StoredArray before;
+    StoredArray after;
+    ComparedArrays compared;
+};
+
+/// The values, or what has become of them in a table.
+Difference shownNumbers(const NumberPair& numbers, bool isArray) {
+    Difference difference;
+    const bool isLarge = isTable(numbers.before) || isTable(numbers.after);
     difference.content = isLarge ? Content::table : Content::other;
     if (!isLarge) {
-        difference.before = Difference::Value{joined(before), shownUnit(*before.quantity)};
-        difference.after = Difference::Value{joined(after), shownUnit(*after.quantity)};
+        difference.before = Difference::Value{joined(numbers.before), shownUnit(*numbers.before.quantity)};
+        difference.after = Difference::Value{joined(numbers.after), shownUnit(*numbers.after.quantity)};
     }
-    result.isWithinTolerance = verdict.isWithin();
-    return result;
+    if (isArray) {
+        difference.table = tableChange(numbers.before, numbers.after, numbers.compared);
+    } else {
+        difference.change = changeOf(numbers.compared);
+    }
+    return difference;
+}
+
+Verdict verdictOf(const NumberPair& numbers, const Difference& difference, const Tolerances& tolerances) {
+    Verdict verdict;
+    if (hasSameQuantity(numbers.before, numbers.after)) {
+        verdict.consider(tolerances.of(numbers.before.quantity->name), largestSize(numbers.compared));
+    }
+    if (difference.colour) {
+        verdict.consider(tolerances.of(Tolerances::de00), difference.colour->size);
+    }
+    return verdict;
+}
+
+JudgedDifference numbersDifference(const ValuePair& pair, Judge& judge) {
+    NumberPair numbers = {storedArray(pair.before), storedArray(pair.after), {}};
+    numbers.compared = compareArrays(numbers.before, numbers.after);
+    Difference difference = shownNumbers(numbers, isArray(*pair.before.shape));
+    if (isTristimulus(numbers.before) && isTristimulus(numbers.after)) {
+        difference.colour = ofTristimulus(pair, numbers.before, numbers.after, judge);
+    }
+    const bool isWithin = verdictOf(numbers, difference, judge.tolerances).isWithin();
+    return {std::move(difference), isWithin};
 }
 
 JudgedDifference textsDifference(const ValuePair& pair) {

@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-namespace tool {
+namespace lv::analysis {
 
-/// The text fit for one line of a terminal: control characters, line separators and bytes that are no UTF-8 become
+/// The text fit for one line of a terminal: control characters, line separators and bytes that are not UTF-8 become
 /// "\x" and two hexadecimal digits a byte; everything else stays.
 [[nodiscard]] std::string printable(std::string_view text);
 
-}  // namespace tool
+}  // namespace lv::analysis

@@ -1,9 +1,9 @@
-#include "printable.h"
+#include <lvdata/analysis/printable.h>
 
 #include <array>
 #include <cstddef>
 
-namespace tool {
+namespace lv::analysis {
 namespace {
 
 struct Character {
@@ -74,4 +74,4 @@ std::string printable(std::string_view text) {
     return result;
 }
 
-}  // namespace tool
+}  // namespace lv::analysis

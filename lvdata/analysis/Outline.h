@@ -1,0 +1,22 @@
+#pragma once
+
+#include <lvdata/analysis/Shape.h>
+#include <lvdata/analysis/Tree.h>
+
+#include <string>
+
+namespace lv::analysis {
+
+/// How much of a document is shown, and what its user knows of units that the records do not say.
+struct OutlineForm {
+    bool full = false;          ///< All entries of long arrays; otherwise their number, the first and the last.
+    std::string yUnit{};        ///< The unit of CIE X, Y and Z, such as "cd/m²"; empty: not known.
+    std::string mapUnit{};      ///< The unit of the entries of candela maps; empty: not known.
+    std::size_t gridWidth = 0;  ///< The entries in a row of a candela map; 0: not known.
+};
+
+/// A document that a record printed, as text for people: a line for each element, indented, with natural values and
+/// their units. Attributes follow the name of their element.
+[[nodiscard]] std::string outline(const Node& element, const Shape& shape, const OutlineForm& form);
+
+}  // namespace lv::analysis

@@ -1,0 +1,109 @@
+#include "Converter.h"
+
+#include "Failure.h"
+#include "documents.h"
+#include "files.h"
+
+#include <lvdata/analysis/CSVWriter.h>
+#include <lvdata/analysis/Document.h>
+#include <lvdata/analysis/JSON.h>
+#include <lvdata/analysis/JSONWriter.h>
+#include <lvdata/analysis/Projection.h>
+
+namespace tool {
+namespace {
+
+using lv::DataObject;
+using lv::analysis::FromJSON;
+using lv::analysis::JSONForm;
+using lv::analysis::JSONResult;
+
+constexpr JSONForm lineForm = {true, true};
+
+/// Documents in XML begin with another character.
+bool isJSON(const std::string& text) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    const std::size_t begin = text.compare(0, byteOrderMark.size(), byteOrderMark) == 0 ? byteOrderMark.size() : 0;
+    const std::size_t first = text.find_first_not_of(" \t\r\n", begin);
+    return first != std::string::npos && text[first] == '{';
+}
+
+Failure failureOf(const std::string& name, const lv::analysis::JSONError& error) {
+    return {name, (error.path.empty() ? "" : error.path + ": ") + error.reason, error.line};
+}
+
+}  // namespace
+
+std::string Converter::convert(const std::string& file) const {
+    const std::string name = inputName(file);
+    const std::string text = readInput(file, limits_.bytes);
+    if (!isJSON(text)) {
+        return convert(documentOf(text, name, limits_, catalogue_).record(), name);
+    }
+    const FromJSON read = lv::analysis::fromJSON(text, catalogue_);
+    if (!read) {
+        throw failureOf(name, *read.error);
+    }
+    return convert(*read.record, name);
+}
+
+std::string Converter::convert(const DataObject& record, const std::string& name) const {
+    if (conversion_.table) {
+        return rowsOf(record, name);
+    }
+    switch (conversion_.target) {
+    case Target::json:
+        return jsonOf(record, name);
+    case Target::xml:
+        return xmlOf(record);
+    case Target::jsonl:
+    case Target::csv:
+        break;
+    }
+    return lineOf(record, name);
+}
+
+std::string Converter::rowsOf(const DataObject& record, const std::string& name) const {
+    std::string rows;
+    if (conversion_.target == Target::csv) {
+        lv::analysis::CSVWriter writer(rows);
+        addRows(*conversion_.table, record, name, writer);
+        return rows;
+    }
+    lv::analysis::JSONWriter writer(rows, lineForm);
+    addRows(*conversion_.table, record, name, writer);
+    if (!writer.isUTF8()) {
+        throw Failure(name, "JSON cannot carry bytes that are not UTF-8");
+    }
+    return rows;
+}
+
+/// The object of the document with the name of the file before its only key.
+std::string Converter::lineOf(const DataObject& record, const std::string& name) const {
+    std::string line;
+    lv::analysis::JSONWriter writer(line, {true});
+    writer.string(name);
+    if (!writer.isUTF8()) {
+        throw Failure(name, "JSON cannot carry a file name that is not UTF-8");
+    }
+    return "{\"file\":" + line + ',' + jsonOf(record, name).substr(1) + '\n';
+}
+
+std::string Converter::jsonOf(const DataObject& record, const std::string& name) const {
+    const bool isCompact = conversion_.isCompact || conversion_.target == Target::jsonl;
+    JSONResult json = lv::analysis::toJSON(record, catalogue_, {isCompact});
+    if (!json) {
+        throw failureOf(name, *json.error);
+    }
+    return std::move(json.text);
+}
+
+std::string Converter::xmlOf(const DataObject& record) const {
+    std::string text = record.toXMLString(true, !conversion_.isCompact);
+    if (text.empty() || text.back() != '\n') {
+        text += '\n';
+    }
+    return text;
+}
+
+}  // namespace tool

@@ -1,0 +1,134 @@
+#include "show.h"
+
+#include "Failure.h"
+#include "MonitorView.h"
+#include "Output.h"
+#include "count_option.h"
+#include "documents.h"
+#include "files.h"
+#include "finding_text.h"
+#include "limit_options.h"
+#include <lvdata/analysis/printable.h>
+
+#include <lvdata/analysis/Outline.h>
+#include <lvdata/analysis/check/check.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+
+namespace tool {
+namespace {
+
+using lv::analysis::Catalogue;
+using lv::analysis::Document;
+using lv::analysis::ModeFigures;
+using lv::analysis::Severity;
+
+struct Options {
+    std::string file;
+    std::string mode;
+    bool all = false;
+    lv::analysis::OutlineForm outline;
+    lv::Limits limits;
+    ColorChoice color = ColorChoice::automatic;
+};
+
+/// The monitor that the document is of, with what it has of one.
+lv::MonitorInfo monitorOf(const lv::DataObject& record) {
+    lv::MonitorInfo monitor;
+    if (const auto* const whole = dynamic_cast<const lv::MonitorInfo*>(&record)) {
+        monitor = *whole;
+    } else if (const auto* const configuration = dynamic_cast<const lv::MonitorConfiguration*>(&record)) {
+        monitor.monitorConfiguration.set(*configuration);
+    } else if (const auto* const settings = dynamic_cast<const lv::ColorModeSettings*>(&record)) {
+        monitor.monitorConfiguration.value.colorModeSettings.set(*settings);
+    } else if (const auto* const results = dynamic_cast<const lv::CalibrationModeResult*>(&record)) {
+        monitor.calibrationModeResult.set(*results);
+    }
+    return monitor;
+}
+
+std::string outlineOf(const Document& document, const lv::analysis::OutlineForm& form) {
+    const lv::analysis::Tree printed = document.printed();
+    return lv::analysis::outline(*printed.root(), *document.entry().shape, form);
+}
+
+std::string findingsOf(const Document& document) {
+    const lv::analysis::Findings findings = checkDocument(document);
+    if (findings.countFrom(Severity::warning) == 0) {
+        return "Findings      none\n";
+    }
+    return "Findings      " + counted(findings.errors, "error") + ", " + counted(findings.warnings, "warning") +
+           " (lvdata check)\n";
+}
+
+std::string modeOf(const lv::MonitorInfo& monitor, const Options& options) {
+    const auto modes = lv::analysis::modeFigures(monitor.monitorConfiguration.value.colorModeSettings.value,
+                                                 monitor.calibrationModeResult.value);
+    const auto mode =
+        std::find_if(modes.begin(), modes.end(), [&](const ModeFigures& each) { return each.index == options.mode; });
+    if (mode == modes.end()) {
+        throw Failure(inputName(options.file), "no colour mode has the index " + options.mode);
+    }
+    return modeView(*mode, options.outline.yUnit, Palette(options.color));
+}
+
+std::string viewOf(const Document& document, const Options& options) {
+    const lv::MonitorInfo monitor = monitorOf(document.record());
+    if (!options.mode.empty()) {
+        return modeOf(monitor, options);
+    }
+    if (monitor == lv::MonitorInfo()) {
+        return outlineOf(document, options.outline);
+    }
+    MonitorViewForm form;
+    form.mostModes = options.all ? SIZE_MAX : form.mostModes;
+    form.yUnit = options.outline.yUnit;
+    return monitorView(monitor, form, Palette(options.color));
+}
+
+ExitStatus show(const Options& options) {
+    const Catalogue catalogue;
+    const Document document = readDocument(options.file, options.limits, catalogue);
+    std::string text = viewOf(document, options) + findingsOf(document);
+    text += options.outline.full ? '\n' + outlineOf(document, options.outline) : "";
+    writeResult(std::string(standardStream), text);
+    return ExitStatus::done;
+}
+
+std::string complaintIfNoIndex(const std::string& text) {
+    const bool isIndex = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+    return isIndex ? "" : "'" + text + "' is not an index";
+}
+
+void addOptions(CLI::App& command, Options& options) {
+    command.add_option("--mode", options.mode, "Show the colour mode of this index")
+        ->type_name("N")
+        ->check(complaintIfNoIndex);
+    command.add_flag("--all", options.all, "Show all colour modes, not only the first 12");
+    command.add_flag("--full", options.outline.full, "Also show every element, with all entries of tables");
+    command.add_option("--y-unit", options.outline.yUnit, "Unit of Y, which the records do not say, such as cd/m²")
+        ->type_name("UNIT");
+    command.add_option("--map-unit", options.outline.mapUnit, "Unit of the entries of candela maps")->type_name("UNIT");
+    addCountOption(command, "--grid", options.outline.gridWidth, {0, 10000},
+                   "Entries in a row of a candela map (default: not known)");
+    addColorOption(command, options.color);
+}
+
+}  // namespace
+
+Subcommand addShow(CLI::App& application) {
+    CLI::App* const command = application.add_subcommand("show", "Show a document on one screen");
+    const auto options = std::make_shared<Options>();
+    addOptions(*command, *options);
+    command->add_option("FILE", options->file, "XML document with a record as root element; - for standard input")
+        ->type_name("")
+        ->required();
+    addLimitOptions(*command, options->limits);
+    return {command, [options] {
+                return show(*options);
+            }};
+}
+
+}  // namespace tool
