@@ -1,5 +1,5 @@
 #include <lvdata/analysis/check/Rule.h>
-#include <tools/lvdata/printable.h>
+#include <lvdata/analysis/printable.h>
 
 #include <fstream>
 #include <iterator>
@@ -34,7 +34,7 @@ std::string sample(std::string_view text) {
     std::string block = "```xml\n";
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
-        block += tool::printable(text.substr(0, end)) + '\n';
+        block += lv::analysis::printable(text.substr(0, end)) + '\n';
         text.remove_prefix(end + 1);
     }
     return block + "```\n";

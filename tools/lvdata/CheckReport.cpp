@@ -1,8 +1,8 @@
 #include "CheckReport.h"
 
 #include "finding_text.h"
-#include "printable.h"
 
+#include <lvdata/analysis/printable.h>
 #include <lvdata/analysis/utf8.h>
 
 namespace tool {
@@ -46,7 +46,8 @@ void CheckReport::addText(const std::string& name, const Findings& findings) {
         }
     }
     if (omitted > 0) {
-        output_.write(palette_.paint(Style::name, printable(name)) + ": " + counted(omitted, "more finding") + '\n');
+        output_.write(palette_.paint(Style::name, lv::analysis::printable(name)) + ": " +
+                      counted(omitted, "more finding") + '\n');
     }
 }
 

@@ -3,9 +3,9 @@
 #include "CommandLine.h"
 #include "Failure.h"
 #include "Output.h"
-#include "printable.h"
 
 #include <lvdata/analysis/check/Rule.h>
+#include <lvdata/analysis/printable.h>
 
 #include <memory>
 #include <string>
@@ -33,7 +33,7 @@ std::string indented(std::string_view text) {
     std::string lines;
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
-        lines += "    " + printable(text.substr(0, end)) + '\n';
+        lines += "    " + lv::analysis::printable(text.substr(0, end)) + '\n';
         text.remove_prefix(end + 1);
     }
     return lines;
