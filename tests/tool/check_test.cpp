@@ -17,15 +17,15 @@ using testing::StartsWith;
 
 /// As the tool prints it: nothing to be found, remarks included.
 const std::string good = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"no\"?>\n"
-                         "<BasicData Version=\"1\" MinorVersion=\"1\">\n"
+                         "<BasicData Version=\"3\" MinorVersion=\"0\">\n"
                          "    <UsageHours>1204</UsageHours>\n"
                          "</BasicData>\n";
 
-const std::string remark = "<BasicData Version=\"1\" MinorVersion=\"1\"><UsageHours>0042</UsageHours></BasicData>";
+const std::string remark = "<BasicData Version=\"3\" MinorVersion=\"0\"><UsageHours>0042</UsageHours></BasicData>";
 
-const std::string warning = "<BasicData Version=\"1\" MinorVersion=\"1\">\n<UsageHour>5</UsageHour></BasicData>";
+const std::string warning = "<BasicData Version=\"3\" MinorVersion=\"0\">\n<UsageHour>5</UsageHour></BasicData>";
 
-const std::string error = "<BasicData Version=\"1\" MinorVersion=\"1\">\n<UsageHours>140,5</UsageHours></BasicData>";
+const std::string error = "<BasicData Version=\"3\" MinorVersion=\"0\">\n<UsageHours>140,5</UsageHours></BasicData>";
 
 const std::string warningLine = "warning.xml: warning: line 2: unknown element \"UsageHour\" is dropped; did you mean "
                                 "\"UsageHours\"? [301] /BasicData/UsageHour\n";
@@ -144,7 +144,7 @@ TEST_F(Check, TakesFoldersAndStandardInput) {
 }
 
 TEST_F(Check, SaysHowManyFindingsItDoesNotList) {
-    std::string document = "<BasicData Version=\"1\" MinorVersion=\"1\">";
+    std::string document = "<BasicData Version=\"3\" MinorVersion=\"0\">";
     for (int number = 0; number < 1'001; ++number) {
         document += "<a b=''/><UsageHours> 5</UsageHours>";
     }

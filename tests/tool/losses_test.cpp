@@ -46,7 +46,7 @@ protected:
         EXPECT_EQ(format({"in.xml", "-o", output}),
                   (Outcome{2, "",
                            message + output +
-                               ": error: not overwritten, since the changes above would be lost (allow it: "
+                               ": error: not overwritten, since it would lose what is listed above (allow it: "
                                "--lossy)\n"}));
         EXPECT_EQ(read("in.xml"), lossy);
     }

@@ -1,8 +1,8 @@
 #include "CheckReport.h"
 
 #include "finding_text.h"
-#include <lvdata/analysis/printable.h>
 
+#include <lvdata/analysis/printable.h>
 #include <lvdata/analysis/utf8.h>
 
 namespace tool {

@@ -72,6 +72,7 @@ void addOptions(CLI::App& command, Options& options) {
     command.add_flag("--info", options.form.withInfos, "Also list remarks about what is kept or added");
     command.add_option("--ignore", options.ignored, "Ids of rules that are not looked for, separated by commas")
         ->type_name("ID")
+        ->allow_extra_args(false)
         ->delimiter(',')
         ->allow_extra_args(false)
         ->check(complaintIfUnknown);

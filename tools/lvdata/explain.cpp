@@ -3,9 +3,9 @@
 #include "CommandLine.h"
 #include "Failure.h"
 #include "Output.h"
-#include <lvdata/analysis/printable.h>
 
 #include <lvdata/analysis/check/Rule.h>
+#include <lvdata/analysis/printable.h>
 
 #include <memory>
 #include <string>

@@ -78,7 +78,7 @@ ExitStatus format(const FormatOptions& options) {
     const bool isLossy = losses.countFrom(Severity::warning) > 0;
     printLosses(inputName(options.input), losses);
     if (isLossy && !options.lossy && isInPlace(options)) {
-        throw Failure(options.output, "not overwritten, since the changes above would be lost (allow it: --lossy)");
+        throw Failure(options.output, "not overwritten, since it would lose what is listed above (allow it: --lossy)");
     }
     std::string text = document.record().toXMLString(!options.noDeclaration, !options.compact);
     text += text.empty() || text.back() != '\n' ? "\n" : "";

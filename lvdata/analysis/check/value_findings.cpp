@@ -132,11 +132,11 @@ PieceFaults faultsOf(std::string_view text, bool isSignedArray) {
 
 std::string messageOf(NumberText text, const PieceFaults::Fault& fault, Content content) {
     const std::string others = fault.count > 1 ? " (and " + std::to_string(fault.count - 1) + " more)" : "";
-    const std::string place = "entry " + std::to_string(fault.firstEntry) + others + ": ";
+    const std::string place = "entry " + std::to_string(fault.firstEntry) + others;
     if (text == NumberText::empty) {
-        return place + R"(nothing stands between two "|": it is dropped)";
+        return place + " is empty: it is dropped, and later entries move up";
     }
-    return place + messageOf(text, fault.firstText, readNumber(fault.firstText, content), content);
+    return place + ": " + messageOf(text, fault.firstText, readNumber(fault.firstText, content), content);
 }
 
 }  // namespace
