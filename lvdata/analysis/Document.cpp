@@ -7,11 +7,6 @@
 namespace lv::analysis {
 namespace {
 
-int lineOf(const std::string& text, std::size_t position) {
-    const auto end = text.begin() + static_cast<std::string::difference_type>(position);
-    return 1 + static_cast<int>(std::count(text.begin(), end, '\n'));
-}
-
 /// Whether the element holds one that the switch governs, at any depth that descriptions have.
 bool holdsGoverned(const Node& element, const Shape& shape) {
     const Shape* previous = nullptr;
@@ -31,7 +26,7 @@ bool holdsGoverned(const Node& element, const Shape& shape) {
 Document::Document(const std::string& text, const Catalogue& catalogue) {
     const std::size_t nul = text.find('\0');
     if (nul != std::string::npos) {
-        refuse(Refusal::Kind::nulCharacter, lineOf(text, nul), "NUL character");
+        refuse(Refusal::Kind::nulCharacter, lineAt(text, nul), "NUL character");
         return;
     }
     parsed_ = std::make_unique<ParsedDocument>(text);

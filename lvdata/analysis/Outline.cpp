@@ -1,6 +1,7 @@
 #include <lvdata/analysis/Outline.h>
 
 #include <lvdata/analysis/Projection.h>
+#include <lvdata/analysis/content.h>
 #include <lvdata/analysis/diff/StoredValue.h>
 #include <lvdata/analysis/printable.h>
 #include <lvdata/core/quantities.h>
@@ -57,7 +58,7 @@ private:
         const Shape& textShape = *textShapeAt({&shape, &element, element.parent});
         const Position position =
             &textShape == &shape ? Position{&shape, &element, element.parent} : Position{&textShape, text, &element};
-        return ": " + (isNumeric(textShape) ? numbersAt(position, depth) : printable(text->text));
+        return ": " + (isNumeric(textShape.facts().content) ? numbersAt(position, depth) : printable(text->text));
     }
 
     std::string numbersAt(const Position& position, std::size_t depth) const {
@@ -65,7 +66,7 @@ private:
         const std::string unit = unitOf(array, *position.shape);
         const std::string suffix = unit.empty() ? "" : ' ' + unit;
         const std::size_t count = array.numbers.size();
-        if (!isArray(*position.shape)) {
+        if (!isArray(position.shape->facts().content)) {
             return joined(array, 0, count) + suffix;
         }
         if (form_.gridWidth > 0 && isMap(*position.shape)) {
@@ -80,7 +81,7 @@ private:
 
     static bool isMap(const Shape& shape) {
         const Shape* const root = shape.parent() == nullptr ? nullptr : shape.parent()->parent();
-        return isArray(shape) && root != nullptr && root->facts().name == "CandelaMap";
+        return isArray(shape.facts().content) && root != nullptr && root->facts().name == "CandelaMap";
     }
 
     std::string unitOf(const StoredArray& array, const Shape& shape) const {

@@ -1,4 +1,5 @@
 #include <lvdata/analysis/Projection.h>
+#include <lvdata/analysis/content.h>
 #include <lvdata/analysis/decimal.h>
 #include <lvdata/analysis/snake_case.h>
 
@@ -10,10 +11,6 @@ namespace {
 using Content = Description::Content;
 using Place = Description::Place;
 using Repetition = Description::Repetition;
-
-bool isArray(Content content) {
-    return content == Content::unsignedArray || content == Content::signedArray;
-}
 
 bool isKeyOf(const Shape& child, const Shape& element) {
     const std::string& keyAttribute = element.facts().keyAttribute;

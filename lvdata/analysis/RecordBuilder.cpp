@@ -3,6 +3,7 @@
 #include <lvdata/analysis/RecordBuilder.h>
 #include <lvdata/analysis/natural_values.h>
 #include <lvdata/analysis/snake_case.h>
+#include <lvdata/analysis/spelling.h>
 #include <lvdata/analysis/utf8.h>
 
 #include <lvdata/xml/XMLDocument.h>

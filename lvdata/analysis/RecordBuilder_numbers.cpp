@@ -2,6 +2,7 @@
 #include <lvdata/analysis/Position.h>
 #include <lvdata/analysis/Projection.h>
 #include <lvdata/analysis/RecordBuilder.h>
+#include <lvdata/analysis/content.h>
 #include <lvdata/analysis/natural_values.h>
 
 #include <algorithm>
@@ -10,13 +11,7 @@
 namespace lv::analysis {
 namespace {
 
-using Content = Description::Content;
 using Place = Description::Place;
-
-bool isArray(const Shape& shape) {
-    const Content content = shape.facts().content;
-    return content == Content::unsignedArray || content == Content::signedArray;
-}
 
 }  // namespace
 
@@ -144,8 +139,8 @@ void RecordBuilder::resolve(const Pending& pending) {
     if (firstDenied(shape.readWhen(), position, {}) != nullptr) {
         return;
     }
-    if (isArray(shape) != pending.numbers.isArray) {
-        fail(isArray(shape) ? "an array expected, not a number" : "a number expected, not an array",
+    if (isArray(shape.facts().content) != pending.numbers.isArray) {
+        fail(isArray(shape.facts().content) ? "an array expected, not a number" : "a number expected, not an array",
              pending.numbers.line, pending.path);
     } else {
         convert(pending, shape, quantityAt(position));

@@ -12,16 +12,11 @@ namespace {
 
 using Outcome = LoadResult::Outcome;
 
-int lineOf(const std::string& text, std::size_t position) {
-    const auto end = text.begin() + static_cast<std::string::difference_type>(position);
-    return 1 + static_cast<int>(std::count(text.begin(), end, '\n'));
-}
-
 /// Refuses what the XML library would misread or choke on.
 LoadResult checkedText(const std::string& text, const Limits& limits) {
     const std::size_t nul = text.find('\0');
     if (nul != std::string::npos && text.size() <= limits.bytes) {  // where the XML library would stop reading
-        return {Outcome::notXML, "NUL character", lineOf(text, nul), {}, {}};
+        return {Outcome::notXML, "NUL character", lineAt(text, nul), {}, {}};
     }
     if (const auto excess = findExcess(text, limits)) {
         return {Outcome::beyondLimit, excess->toString(), excess->line, {}, excess};

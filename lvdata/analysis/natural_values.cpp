@@ -3,7 +3,6 @@
 #include <lvdata/analysis/utf8.h>
 
 #include <algorithm>
-#include <numeric>
 
 namespace lv::analysis {
 namespace {
@@ -61,22 +60,6 @@ std::string nameOfBad(std::string_view character) {
     return character == "\uFFFE" || character == "\uFFFF" ? "U+FFFE or U+FFFF" : "";
 }
 
-/// Of each beginning of one word, how many characters must be changed, added or removed to get the other.
-std::size_t distance(const std::string& left, const std::string& right) {
-    std::vector<std::size_t> row(right.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t line = 1; line <= left.size(); ++line) {
-        std::size_t diagonal = row[0];
-        row[0] = line;
-        for (std::size_t column = 1; column <= right.size(); ++column) {
-            const std::size_t changed = diagonal + (left[line - 1] == right[column - 1] ? 0 : 1);
-            diagonal = row[column];
-            row[column] = std::min({changed, row[column] + 1, row[column - 1] + 1});
-        }
-    }
-    return row.back();
-}
-
 }  // namespace
 
 std::optional<std::string> storedText(std::string_view natural, const Shape& shape, const Quantity* quantity) {
@@ -113,21 +96,6 @@ std::string whatXMLCannotCarry(std::string_view text, Description::Place place) 
         text.remove_prefix(length);
     }
     return bad;
-}
-
-const std::string* closest(const std::string& word, const std::vector<std::string>& words) {
-    constexpr std::size_t longest = 100;  // names are shorter, and the time goes with the product of both lengths
-    if (word.size() > longest) {
-        return nullptr;
-    }
-    const std::string* found = nullptr;
-    std::size_t least = 1 + std::max<std::size_t>(word.size() / 4, 1);
-    for (const std::string& each : words) {
-        const std::size_t away = distance(word, each);
-        found = away < least ? &each : found;
-        least = std::min(least, away);
-    }
-    return found;
 }
 
 }  // namespace lv::analysis

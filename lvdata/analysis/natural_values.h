@@ -25,7 +25,4 @@ namespace lv::analysis {
 /// carries a text of nothing but white space, an element does not. The text must be UTF-8.
 [[nodiscard]] std::string whatXMLCannotCarry(std::string_view text, Description::Place place);
 
-/// Of several words the one that was probably meant; null when none is close.
-[[nodiscard]] const std::string* closest(const std::string& word, const std::vector<std::string>& words);
-
 }  // namespace lv::analysis

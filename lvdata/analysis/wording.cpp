@@ -1,5 +1,6 @@
 #include <lvdata/analysis/wording.h>
 
+#include <algorithm>
 #include <cstddef>
 
 namespace lv::analysis {
@@ -22,6 +23,11 @@ std::string excerpt(std::string_view text) {
 
 std::string inQuotes(std::string_view text) {
     return '"' + excerpt(text) + '"';
+}
+
+int lineAt(std::string_view text, std::size_t position) {
+    const std::string_view before = text.substr(0, position);
+    return 1 + static_cast<int>(std::count(before.begin(), before.end(), '\n'));
 }
 
 }  // namespace lv::analysis

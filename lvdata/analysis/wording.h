@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,5 +11,8 @@ namespace lv::analysis {
 
 /// The same in quotation marks.
 [[nodiscard]] std::string inQuotes(std::string_view text);
+
+/// The line of that position in a text, counted from 1.
+[[nodiscard]] int lineAt(std::string_view text, std::size_t position);
 
 }  // namespace lv::analysis

@@ -1,3 +1,4 @@
+#include <lvdata/analysis/Projection.h>
 #include <lvdata/analysis/check/Comparison.h>
 #include <lvdata/analysis/check/loss_findings.h>
 #include <lvdata/analysis/check/plausibility.h>
@@ -42,23 +43,6 @@ const Node* takeRow(const Node*& printed) {
         printed = isLast ? nullptr : row->next;
     }
     return row;
-}
-
-/// The shape of the text of an element: its own, or that of the text which its conditions let it have.
-const Shape* textShapeOf(const Shape& shape, const Node& element) {
-    if (shape.facts().content != Content::none) {
-        return &shape;
-    }
-    const Shape* first = nullptr;
-    for (const auto& child : shape.children()) {
-        if (child->facts().place == Description::Place::text) {
-            first = first == nullptr ? child.get() : first;
-            if (firstDenied(child->readWhen(), {child.get(), textOf(element), &element}, {}) == nullptr) {
-                return child.get();
-            }
-        }
-    }
-    return first;
 }
 
 bool isXMLDeclaration(const Node& node) {
@@ -155,7 +139,7 @@ void Comparison::compareAttribute(const Position& position, const Node* printed)
 }
 
 void Comparison::compareTexts(const Pair& pair) {
-    const Shape* const textShape = textShapeOf(pair.shape, pair.source);
+    const Shape* const textShape = textShapeAt({&pair.shape, &pair.source, pair.source.parent});
     const Node* const own = textShape == nullptr ? nullptr : textOf(pair.source);
     compareOwnTexts(pair, textShape, own);
     for (const Node& node : childrenOf(pair.source)) {

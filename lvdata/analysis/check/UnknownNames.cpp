@@ -1,8 +1,7 @@
 #include <lvdata/analysis/check/UnknownNames.h>
+#include <lvdata/analysis/spelling.h>
 #include <lvdata/analysis/wording.h>
 
-#include <algorithm>
-#include <cstddef>
 #include <vector>
 
 namespace lv::analysis {
@@ -10,53 +9,16 @@ namespace {
 
 using Place = Description::Place;
 
-char inLowerCase(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
-
-bool isLike(char left, char right) {
-    return inLowerCase(left) == inLowerCase(right);
-}
-
-/// How many characters must be changed, added or removed to make one of the other (Levenshtein); upper and lower case
-/// are the same.
-std::size_t distance(std::string_view left, std::string_view right) {
-    std::vector<std::size_t> row(right.size() + 1);
-    for (std::size_t column = 0; column <= right.size(); ++column) {
-        row[column] = column;
-    }
-    for (std::size_t line = 1; line <= left.size(); ++line) {
-        std::size_t diagonal = row[0];
-        row[0] = line;
-        for (std::size_t column = 1; column <= right.size(); ++column) {
-            const std::size_t replaced = diagonal + (isLike(left[line - 1], right[column - 1]) ? 0 : 1);
-            diagonal = row[column];
-            row[column] = std::min({replaced, row[column] + 1, row[column - 1] + 1});
-        }
-    }
-    return row[right.size()];
-}
-
-constexpr std::size_t tooManyErrors = 3;  // which make another word
-
-/// Whether the lengths alone rule out that one is the other with a few typing errors.
-bool haveLikeLengths(std::string_view left, std::string_view right) {
-    return std::max(left.size(), right.size()) - std::min(left.size(), right.size()) < tooManyErrors;
-}
-
 /// `; did you mean "Brightness"?`, or nothing when no name of that place is close.
 std::string guess(const Shape& parent, Place place, std::string_view name) {
-    std::size_t least = tooManyErrors;
-    const Shape* best = nullptr;
+    std::vector<std::string> names;
     for (const auto& child : parent.children()) {
-        const bool isCandidate = child->facts().place == place && haveLikeLengths(name, child->facts().name);
-        const std::size_t errors = isCandidate ? distance(name, child->facts().name) : least;
-        if (errors < least && errors < child->facts().name.size()) {
-            least = errors;
-            best = child.get();
+        if (child->facts().place == place) {
+            names.push_back(child->facts().name);
         }
     }
-    return best == nullptr ? "" : "; did you mean " + inQuotes(best->facts().name) + "?";
+    const std::string* const meant = closest(name, names);
+    return meant == nullptr ? "" : "; did you mean " + inQuotes(*meant) + "?";
 }
 
 void addPlaces(const Shape& parent, std::unordered_map<std::string_view, const Shape*>& places) {

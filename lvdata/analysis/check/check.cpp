@@ -2,17 +2,13 @@
 
 #include <lvdata/analysis/check/Comparison.h>
 #include <lvdata/analysis/utf8.h>
+#include <lvdata/analysis/wording.h>
 
 #include <algorithm>
 #include <string>
 
 namespace lv::analysis {
 namespace {
-
-int lineAt(std::string_view text, std::size_t position) {
-    const std::string_view before = text.substr(0, position);
-    return 1 + static_cast<int>(std::count(before.begin(), before.end(), '\n'));
-}
 
 std::string_view ruleOf(Refusal::Kind kind) {
     switch (kind) {

@@ -1,8 +1,9 @@
 #include <lvdata/analysis/check/loss_findings.h>
 #include <lvdata/analysis/check/value_findings.h>
+#include <lvdata/analysis/content.h>
+#include <lvdata/analysis/natural_values.h>
 #include <lvdata/analysis/wording.h>
 
-#include <algorithm>
 #include <string>
 
 namespace lv::analysis {
@@ -10,10 +11,6 @@ namespace {
 
 using Content = Description::Content;
 using Kind = Condition::Kind;
-
-bool isArray(Content content) {
-    return content == Content::unsignedArray || content == Content::signedArray;
-}
 
 /// The text of an element; the attribute or text itself; null when there is no character.
 const Node* textNodeOf(const Node& node) {
@@ -30,14 +27,6 @@ std::string entries(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " entry" : " entries");
 }
 
-std::string joined(const std::vector<std::size_t>& lengths) {
-    std::string text;
-    for (const std::size_t length : lengths) {
-        text += (text.empty() ? "" : " or ") + std::to_string(length);
-    }
-    return text;
-}
-
 /// What the first subject of a condition is, to be added to what it should be: "; it is "Standart"".
 std::string actual(const Question& question, const Position& asked) {
     const Condition& condition = *question.condition;
@@ -49,25 +38,14 @@ std::string needs(const Question& question, const Position& asked) {
     return "that needs: " + question.condition->toString() + actual(question, asked);
 }
 
-/// The numbers of entries of which an array must have one; empty when any will do.
-std::vector<std::size_t> lengthsOf(const Shape& shape) {
-    const Description& facts = shape.facts();
-    for (const Condition& condition : facts.writtenWhen) {
-        if (condition.kind == Kind::haveEntries && condition.subjects.front() == ".") {
-            return {condition.entries};
-        }
-    }
-    return facts.lengths;
-}
-
 bool reportWrongLength(Reporter& reporter, const Position& position, const Node& text) {
-    const std::vector<std::size_t> lengths = lengthsOf(*position.shape);
     const std::size_t count = entriesIn(text.text);
-    if (lengths.empty() || std::count(lengths.begin(), lengths.end(), count) != 0) {
+    const std::string expected = expectedEntries(*position.shape, count);
+    if (expected.empty()) {
         return false;
     }
     reporter.add("201", *position.node,
-                 subject(*position.node) + " has " + entries(count) + " and needs " + joined(lengths) +
+                 subject(*position.node) + " has " + entries(count) + " and needs " + expected +
                      ": all of it is dropped");
     return true;
 }

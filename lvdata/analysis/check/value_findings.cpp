@@ -1,5 +1,6 @@
 #include <lvdata/analysis/check/numbers.h>
 #include <lvdata/analysis/check/value_findings.h>
+#include <lvdata/analysis/content.h>
 #include <lvdata/analysis/wording.h>
 
 #include <algorithm>
@@ -11,10 +12,6 @@ namespace lv::analysis {
 namespace {
 
 using Content = Description::Content;
-
-bool isSigned(Content content) {
-    return content == Content::signedNumber || content == Content::signedArray;
-}
 
 /// The rule that a text of a number breaks; empty for none.
 std::string_view ruleOf(NumberText text) {

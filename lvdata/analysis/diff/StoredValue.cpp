@@ -69,16 +69,6 @@ const std::string_view* storedText(const Position& position) {
     return holder == nullptr ? &empty : &holder->text;
 }
 
-bool isNumeric(const Shape& shape) {
-    const Content content = shape.facts().content;
-    return content == Content::unsignedNumber || content == Content::signedNumber || isArray(shape);
-}
-
-bool isArray(const Shape& shape) {
-    const Content content = shape.facts().content;
-    return content == Content::unsignedArray || content == Content::signedArray;
-}
-
 StoredArray storedArray(const Position& position) {
     return {storedNumbers(*storedText(position)), quantityAt(position)};
 }

@@ -36,10 +36,6 @@ struct ComparedArrays {
 /// The text of a thing that has one: empty when it could have one. Null for an element that only holds others.
 [[nodiscard]] const std::string_view* storedText(const Position& position);
 
-/// Whether it is a number or an array of numbers; whether an array.
-[[nodiscard]] bool isNumeric(const Shape& shape);
-[[nodiscard]] bool isArray(const Shape& shape);
-
 /// The integers at the position, where `isNumeric` holds.
 [[nodiscard]] StoredArray storedArray(const Position& position);
 

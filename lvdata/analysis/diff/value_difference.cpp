@@ -1,3 +1,4 @@
+#include <lvdata/analysis/content.h>
 #include <lvdata/analysis/diff/value_difference.h>
 
 #include <lvdata/analysis/diff/StoredValue.h>
@@ -143,7 +144,7 @@ Verdict verdictOf(const NumberPair& numbers, const Difference& difference, const
 JudgedDifference numbersDifference(const ValuePair& pair, Judge& judge) {
     NumberPair numbers = {storedArray(pair.before), storedArray(pair.after), {}};
     numbers.compared = compareArrays(numbers.before, numbers.after);
-    Difference difference = shownNumbers(numbers, isArray(*pair.before.shape));
+    Difference difference = shownNumbers(numbers, isArray(pair.before.shape->facts().content));
     if (isTristimulus(numbers.before) && isTristimulus(numbers.after)) {
         difference.colour = ofTristimulus(pair, numbers.before, numbers.after, judge);
     }
@@ -200,7 +201,7 @@ Content contentAt(const Position& position) {
     if (storedText(position) == nullptr) {
         return Content::group;
     }
-    if (!isNumeric(*position.shape)) {
+    if (!isNumeric(position.shape->facts().content)) {
         return position.shape->facts().content == Description::Content::string ? Content::string : Content::other;
     }
     return isTable(storedArray(position)) ? Content::table : Content::other;
@@ -214,7 +215,7 @@ std::optional<Difference::Value> shownValue(const Position& position) {
     default:
         break;
     }
-    if (!isNumeric(*position.shape)) {
+    if (!isNumeric(position.shape->facts().content)) {
         return Difference::Value{std::string(*storedText(position)), ""};
     }
     const StoredArray array = storedArray(position);
@@ -225,7 +226,7 @@ std::optional<JudgedDifference> valueDifference(const ValuePair& pair, Judge& ju
     if (*storedText(pair.before) == *storedText(pair.after) && isSameQuantity(pair)) {
         return std::nullopt;
     }
-    return isNumeric(*pair.before.shape) ? numbersDifference(pair, judge) : textsDifference(pair);
+    return isNumeric(pair.before.shape->facts().content) ? numbersDifference(pair, judge) : textsDifference(pair);
 }
 
 std::optional<JudgedDifference> chromaticityDifference(const ValuePair& x, const ValuePair& y, const Judge& judge) {
