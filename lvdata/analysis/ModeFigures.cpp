@@ -4,8 +4,9 @@
 #include <lvdata/records/types.h>
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 #include <cstdio>
+#include <deque>
 #include <unordered_map>
 
 namespace lv::analysis {
@@ -91,7 +92,7 @@ std::string curveOf(const TargetSetting::gamma_t::gamma_color& curve) {
         return hundredths(curve.formula);
     }
     const bool isTable = curve.type == types::targetCurve::lut || curve.type == types::targetCurve::lut24;
-    return isTable ? "table" : curve.type;
+    return isTable ? "table" : curve.type.empty() ? "-" : curve.type;
 }
 
 /// One text when the channels agree, or three: "2.2, 2.2, 2.4".
@@ -99,7 +100,8 @@ std::string gammaOf(const TargetSetting::gamma_t& gamma) {
     const std::string red = curveOf(gamma.red);
     const std::string green = curveOf(gamma.green);
     const std::string blue = curveOf(gamma.blue);
-    return red == green && green == blue ? red : red + ", " + green + ", " + blue;
+    const bool isOne = red == green && green == blue;
+    return !isOne ? red + ", " + green + ", " + blue : red == "-" ? "" : red;
 }
 
 /// The name of a standard, which newer targets have beside the older form.
@@ -108,16 +110,23 @@ std::string standardOr(const property<TargetSetting::standard_t>& standard, cons
     return isNamed && !standard.value.standard.empty() ? standard.value.standard : other;
 }
 
+std::string gamutOf(const property<TargetSetting::gamut_t>& gamut) {
+    return !gamut.hasValue ? "" : gamut.value.isNative() ? "native" : "primaries";
+}
+
 void takeTarget(ModeFigures& figures, const TargetSetting& target) {
-    if (target.brightness.hasValue) {
-        figures.targetBrightness = levelOf(target.brightness.value);
-    }
+    figures.targetBrightness = target.brightness.hasValue ? levelOf(target.brightness.value) : "";
+    figures.targetBlack = target.blackLevel.hasValue ? levelOf(target.blackLevel.value) : "";
     if (target.whitePoint.hasValue) {
         takeWhitePoint(figures, target.whitePoint.value);
     }
+    figures.targetWhiteStandard = standardOr(target.whitePointV7, "");
     figures.targetGamma = standardOr(target.gammaV7, target.gamma.hasValue ? gammaOf(target.gamma.value) : "");
-    const bool hasPrimaries = target.gamut.hasValue && !target.gamut.value.isNative();
-    figures.targetGamut = standardOr(target.gamutV7, hasPrimaries ? "primaries" : "native");
+    figures.targetGamut = standardOr(target.gamutV7, gamutOf(target.gamut));
+}
+
+Figure missing(const std::string& reason) {
+    return {{}, reason};
 }
 
 std::string numberOf(const property<unsigned int>& index) {
@@ -129,6 +138,7 @@ ModeFigures figuresOf(const Setting& setting) {
     figures.index = numberOf(setting.index);
     figures.name = setting.name.hasValue ? setting.name.value : "";
     figures.type = setting.type.value;
+    figures.measuredY = figures.blackY = figures.contrast = figures.deltaUV = missing("no calibration result");
     if (figures.type == types::colorMode::calibration) {
         takeTarget(figures, setting.targetSetting.value);
     } else if (figures.type == types::colorMode::standard || figures.type == types::colorMode::syncSignal) {
@@ -137,51 +147,86 @@ ModeFigures figuresOf(const Setting& setting) {
     return figures;
 }
 
-void takeResult(ModeFigures& figures, const Result& result) {
-    figures.calibratedTime = result.calibratedTime.hasValue ? result.calibratedTime.value : "";
-    figures.measurements = result.hasMeasurementData ? result.measurementData.objects.size() : 0;
-    const auto& primaries = result.profileData.measuredXYZ;
-    const bool hasPrimaries = result.hasProfileData && primaries.hasValue;
-    const auto& white = result.basicData.justCalibratedWhite;
-    figures.measuredWhite =
-        result.hasBasicData && white.hasValue ? tristimulusOf(white.value) : std::optional<colour::Tristimulus>();
-    if (hasPrimaries) {
-        figures.measuredBlack = tristimulusOf(primaries.value.black);
-        figures.measuredWhite = figures.measuredWhite ? figures.measuredWhite : tristimulusOf(primaries.value.white);
+Figure blackYOf(const Result& result) {
+    if (!result.hasProfileData || !result.profileData.measuredXYZ.hasValue) {
+        return missing("no complete set of MeasuredXYZ");
     }
-    if (figures.measuredWhite) {
-        figures.measuredChromaticity = chromaticityOf(*figures.measuredWhite);
+    const auto& valid = result.hasValidMeasuredBlackValue;
+    if (valid.hasValue && !valid.value) {
+        return missing("the black measurement is marked as not valid");
     }
+    const auto black = tristimulusOf(result.profileData.measuredXYZ.value.black);
+    return black ? Figure{(*black)[1], ""} : missing("no black was measured");
 }
 
-Figure contrastOf(const ModeFigures& figures) {
-    if (!figures.measuredWhite) {
-        return {{}, "no white was measured"};
+/// Of white and black of one set: other whites may have another unit.
+Figure contrastOf(const Result& result, const Figure& blackY) {
+    if (!blackY.value) {
+        return blackY;
     }
-    if (!figures.measuredBlack) {
-        return {{}, "no black was measured"};
+    const auto white = tristimulusOf(result.profileData.measuredXYZ.value.white);
+    if (!white) {
+        return missing("no white was measured");
     }
-    const double black = (*figures.measuredBlack)[1];
-    return black > 0 ? Figure{(*figures.measuredWhite)[1] / black, ""} : Figure{{}, "black has Y 0"};
+    const double whiteY = (*white)[1];
+    if (whiteY > 0 && *blackY.value > 0) {
+        return {whiteY / *blackY.value, ""};
+    }
+    return missing(whiteY > 0 ? "black has Y 0" : "white has Y 0");
 }
 
 Figure deltaUVOf(const ModeFigures& figures) {
-    if (!figures.measuredWhite) {
-        return {{}, "no white was measured"};
-    }
     if (!figures.targetChromaticity) {
-        return {{}, "the target has no x and y"};
+        return missing("the target has no x and y");
+    }
+    if (!figures.measuredChromaticity) {
+        return missing("X, Y and Z of the white are 0");
     }
     const auto target = colour::uniform(*figures.targetChromaticity);
-    const auto measured = figures.measuredChromaticity ? colour::uniform(*figures.measuredChromaticity) : std::nullopt;
-    return target && measured ? Figure{colour::distance(*target, *measured), ""} : Figure{{}, "no real chromaticity"};
+    const auto measured = colour::uniform(*figures.measuredChromaticity);
+    return target && measured ? Figure{colour::distance(*target, *measured), ""}
+                              : missing("x and y are not of a real colour");
 }
 
-void compute(ModeFigures& figures) {
-    figures.measuredY =
-        figures.measuredWhite ? Figure{(*figures.measuredWhite)[1], ""} : Figure{{}, "no white was measured"};
-    figures.contrast = contrastOf(figures);
-    figures.deltaUV = deltaUVOf(figures);
+/// The white that the calibration reached, or else that of the profile data.
+std::optional<colour::Tristimulus> measuredWhiteOf(const Result& result) {
+    const auto& reached = result.basicData.justCalibratedWhite;
+    if (result.hasBasicData && reached.hasValue && reached.value.size() == 3) {
+        return tristimulusOf(reached.value);
+    }
+    const auto& measured = result.profileData.measuredXYZ;
+    const bool hasMeasured = result.hasProfileData && measured.hasValue;
+    return hasMeasured ? tristimulusOf(measured.value.white) : std::nullopt;
+}
+
+void takeResult(ModeFigures& figures, const Result& result) {
+    figures.calibratedTime = result.calibratedTime.hasValue ? result.calibratedTime.value : "";
+    figures.measurements = result.hasMeasurementData ? result.measurementData.objects.size() : 0;
+    figures.blackY = blackYOf(result);
+    figures.contrast = contrastOf(result, figures.blackY);
+    figures.measuredWhite = measuredWhiteOf(result);
+    if (figures.measuredWhite) {
+        figures.measuredChromaticity = chromaticityOf(*figures.measuredWhite);
+        figures.measuredY = {(*figures.measuredWhite)[1], ""};
+        figures.deltaUV = deltaUVOf(figures);
+    } else {
+        figures.measuredY = figures.deltaUV = missing("no white was measured");
+    }
+}
+
+/// The modes that have no result yet, by their index.
+using Waiting = std::unordered_map<std::string, std::deque<std::size_t>>;
+
+/// The first mode of the result's index that is waiting for one, or else a new mode.
+ModeFigures& modeFor(const Result& result, std::vector<ModeFigures>& modes, Waiting& waiting) {
+    const std::string index = numberOf(result.index);
+    const auto found = waiting.find(index);
+    if (index.empty() || found == waiting.end() || found->second.empty()) {
+        return modes.emplace_back(ModeFigures{index, result.name.hasValue ? result.name.value : "", result.type.value});
+    }
+    ModeFigures& mode = modes[found->second.front()];
+    found->second.pop_front();
+    return mode;
 }
 
 }  // namespace
@@ -192,21 +237,14 @@ std::string Figure::text(int decimals) const {
 
 std::vector<ModeFigures> modeFigures(const ColorModeSettings& settings, const CalibrationModeResult& results) {
     std::vector<ModeFigures> modes;
-    std::unordered_map<std::string, std::size_t> byIndex;
+    Waiting waiting;
     for (const Setting& setting : settings.objects) {
         modes.push_back(figuresOf(setting));
-        byIndex.emplace(modes.back().index, modes.size() - 1);
+        waiting[modes.back().index].push_back(modes.size() - 1);
     }
     for (const Result& result : results.objects) {
-        const auto found = byIndex.find(numberOf(result.index));
-        if (found == byIndex.end() || found->first.empty()) {
-            modes.push_back({numberOf(result.index), result.name.value, result.type.value});
-            takeResult(modes.back(), result);
-        } else {
-            takeResult(modes[found->second], result);
-        }
+        takeResult(modeFor(result, modes, waiting), result);
     }
-    std::for_each(modes.begin(), modes.end(), &compute);
     return modes;
 }
 

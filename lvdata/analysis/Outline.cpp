@@ -7,34 +7,55 @@
 #include <lvdata/core/quantities.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <vector>
 
 namespace lv::analysis {
 namespace {
 
-/// Shown whole, also when not everything is asked for.
+/// Arrays that are shown whole, also when not everything is asked for: a matrix of 3 by 3 is one.
 constexpr std::size_t fewEntries = 9;
+
+/// The entries and rows that are shown of longer ones.
+constexpr std::size_t firstEntries = 3;
+constexpr std::size_t fewRows = 3;
 
 class Outline {
 public:
-    explicit Outline(const OutlineForm& form) : form_(form) {}
+    explicit Outline(const OutlineForm& form) : form_(form), mostRows_(form.full ? SIZE_MAX : fewRows) {}
 
     void add(const Node& element, const Shape& shape, std::size_t depth) {
-        text_ += std::string(2 * depth, ' ') + std::string(element.name) + attributesOf(element, shape) +
-                 valueOf(element, shape, depth) + '\n';
+        addLine(depth, std::string(element.name) + attributesOf(element, shape) + valueOf(element, shape, depth));
         const Shape* previous = nullptr;
+        std::size_t rows = 0;
         for (const Node& child : childrenOf(element)) {
             const bool isElement = child.kind == Node::Kind::element;
             const Shape* const found = isElement ? shape.firstElement(child.name, previous) : nullptr;
             if (found != nullptr) {
                 previous = found;
-                add(child, *found, depth + 1);
+                rows += isRow(*found) ? 1 : 0;
+                addChild(child, *found, depth + 1, rows);
             }
+        }
+        if (rows > mostRows_) {
+            addLine(depth + 1, "and " + std::to_string(rows - mostRows_) + " more (--full)");
         }
     }
 
     [[nodiscard]] std::string text() && { return std::move(text_); }
 
 private:
+    void addLine(std::size_t depth, const std::string& line) { text_ += std::string(2 * depth, ' ') + line + '\n'; }
+
+    /// \param rows  how many rows there are up to this child
+    void addChild(const Node& child, const Shape& shape, std::size_t depth, std::size_t rows) {
+        if (!isRow(shape) || rows <= mostRows_) {
+            add(child, shape, depth);
+        }
+    }
+
+    static bool isRow(const Shape& shape) { return shape.facts().repetition == Description::Repetition::rows; }
+
     static bool isVersion(const Node& attribute) {
         return attribute.name == "Version" || attribute.name == "MinorVersion";
     }
@@ -64,19 +85,19 @@ private:
     std::string numbersAt(const Position& position, std::size_t depth) const {
         const StoredArray array = storedArray(position);
         const std::string unit = unitOf(array, *position.shape);
-        const std::string suffix = unit.empty() ? "" : ' ' + unit;
         const std::size_t count = array.numbers.size();
-        if (!isArray(position.shape->facts().content)) {
-            return joined(array, 0, count) + suffix;
-        }
         if (form_.gridWidth > 0 && isMap(*position.shape)) {
-            return unit + grid(array, depth);
+            return entries(count) + (unit.empty() ? "" : ',' + unit) + grid(array, depth);
         }
         if (count <= fewEntries || form_.full) {
-            return joined(array, 0, count) + suffix;
+            return joined(array, 0, count) + unit;
         }
-        return std::to_string(count) + " entries, " + joined(array, 0, 1) + " to " + joined(array, count - 1, count) +
-               suffix;
+        return joined(array, 0, firstEntries) + ", ..., " + joined(array, count - 1, count) + unit + " (" +
+               entries(count) + ')';
+    }
+
+    static std::string entries(std::size_t count) {
+        return std::to_string(count) + (count == 1 ? " entry" : " entries");
     }
 
     static bool isMap(const Shape& shape) {
@@ -84,11 +105,14 @@ private:
         return isArray(shape.facts().content) && root != nullptr && root->facts().name == "CandelaMap";
     }
 
+    /// The unit as it follows the numbers: " cd/m²", " in 1/255", or nothing.
     std::string unitOf(const StoredArray& array, const Shape& shape) const {
-        if (isMap(shape)) {
-            return printable(form_.mapUnit);
-        }
-        return *array.quantity == quantities::tristimulus ? printable(form_.yUnit) : shownUnit(*array.quantity);
+        const bool isXYZ = *array.quantity == quantities::tristimulus;
+        const std::string unit = isMap(shape) ? printable(form_.mapUnit)
+                                 : isXYZ      ? printable(form_.yUnit)
+                                              : shownUnit(*array.quantity);
+        const bool isFraction = unit.compare(0, 2, "1/") == 0;
+        return unit.empty() ? "" : (isFraction ? " in " : " ") + unit;
     }
 
     static std::string joined(const StoredArray& array, std::size_t begin, std::size_t end) {
@@ -99,16 +123,25 @@ private:
         return text;
     }
 
+    /// A line for each row of the grid; the numbers stand below each other.
     std::string grid(const StoredArray& array, std::size_t depth) const {
+        std::vector<std::string> cells(array.numbers.size());
+        std::size_t width = 0;
+        for (std::size_t index = 0; index < cells.size(); ++index) {
+            cells[index] = joined(array, index, index + 1);
+            width = std::max(width, cells[index].size());
+        }
         std::string text;
-        for (std::size_t begin = 0; begin < array.numbers.size(); begin += form_.gridWidth) {
-            const std::size_t end = std::min(begin + form_.gridWidth, array.numbers.size());
-            text += '\n' + std::string(2 * (depth + 1), ' ') + joined(array, begin, end);
+        for (std::size_t index = 0; index < cells.size(); ++index) {
+            const bool isFirst = index % form_.gridWidth == 0;
+            text += isFirst ? '\n' + std::string(2 * (depth + 1), ' ') : " ";
+            text += std::string(width - cells[index].size(), ' ') + cells[index];
         }
         return text;
     }
 
     const OutlineForm& form_;
+    std::size_t mostRows_;
     std::string text_{};
 };
 

@@ -9,9 +9,9 @@ namespace lv::analysis {
 
 /// How much of a document is shown, and what its user knows of units that the records do not say.
 struct OutlineForm {
-    bool full = false;          ///< All entries of long arrays; otherwise their number, the first and the last.
-    std::string yUnit{};        ///< The unit of CIE X, Y and Z, such as "cd/m²"; empty: not known.
-    std::string mapUnit{};      ///< The unit of the entries of candela maps; empty: not known.
+    bool full = false;      ///< All rows and all entries of long arrays; otherwise the first ones, and their number.
+    std::string yUnit{};    ///< The unit of CIE X, Y and Z, such as "cd/m²"; empty: not known.
+    std::string mapUnit{};  ///< The unit of the entries of candela maps; empty: not known.
     std::size_t gridWidth = 0;  ///< The entries in a row of a candela map; 0: not known.
 };
 

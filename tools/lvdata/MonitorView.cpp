@@ -7,134 +7,201 @@
 #include <lvdata/records/types.h>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace tool {
 namespace {
 
+using lv::analysis::Figure;
 using lv::analysis::ModeFigures;
+using lv::analysis::printable;
 
-std::string orDash(const std::string& text) {
-    return text.empty() ? "-" : lv::analysis::printable(text);
+constexpr std::size_t labelWidth = 14;
+
+void addLine(std::string& text, const std::string& name, const std::string& value) {
+    text += value.empty() ? "" : name + std::string(labelWidth - characterCount(name), ' ') + value + '\n';
 }
 
-std::string chromaticity(const ModeFigures& mode) {
-    if (!mode.measuredChromaticity) {
-        return "n/a";
-    }
-    const auto coordinate = [](double value) {
-        return lv::analysis::Figure{value, ""}.text(4);
-    };
-    return "x " + coordinate(mode.measuredChromaticity->x) + " y " + coordinate(mode.measuredChromaticity->y);
+void addItem(std::string& list, const std::string& item) {
+    list += item.empty() ? "" : (list.empty() ? "" : ", ") + item;
+}
+
+std::string orDash(const std::string& text) {
+    return text.empty() ? "-" : printable(text);
+}
+
+/// A cell of the table of modes.
+std::string cell(const std::string& text, std::size_t mostCharacters = 16) {
+    return shortened(orDash(text), mostCharacters);
+}
+
+std::string coordinates(const lv::analysis::colour::Chromaticity& white) {
+    return "x " + Figure{white.x, ""}.text(4) + " y " + Figure{white.y, ""}.text(4);
+}
+
+/// Without the names of the coordinates, for which a table has no room.
+std::string coordinatesAlone(const lv::analysis::colour::Chromaticity& white) {
+    return Figure{white.x, ""}.text(4) + ' ' + Figure{white.y, ""}.text(4);
 }
 
 /// A table has no room for reasons.
-std::string numberAlone(const lv::analysis::Figure& figure, int decimals) {
+std::string numberAlone(const Figure& figure, int decimals) {
     return figure.value ? figure.text(decimals) : "n/a";
 }
 
-std::string withUnit(const std::string& head, const std::string& unit) {
-    return unit.empty() ? head : head + ' ' + lv::analysis::printable(unit);
+std::string withUnit(const std::string& text, const std::string& unit) {
+    return unit.empty() ? text : text + ' ' + printable(unit);
 }
 
-std::string modeTable(const std::vector<ModeFigures>& modes, std::size_t most, const MonitorViewForm& form,
-                      const Palette& palette) {
-    Columns columns({"Mode", "Name", "Target white", "Measured white", "Δu'v'", "Brightness",
-                     withUnit("Measured Y", form.yUnit), "Gamma", "Calibrated"});
+/// The day of a time such as "2024-05-02T09:31:00"; other texts as they are.
+std::string dayOf(const std::string& time) {
+    constexpr std::size_t dayLength = 10;
+    return time.size() > dayLength && time[dayLength] == 'T' ? time.substr(0, dayLength) : time;
+}
+
+std::vector<std::string> rowOf(const ModeFigures& mode) {
+    const std::string target = mode.targetChromaticity ? coordinatesAlone(*mode.targetChromaticity) : mode.targetWhite;
+    return {cell(mode.index),
+            cell(mode.name, 20),
+            cell(target.empty() ? mode.targetWhiteStandard : target),
+            mode.measuredChromaticity ? coordinatesAlone(*mode.measuredChromaticity) : "n/a",
+            numberAlone(mode.deltaUV, 4),
+            cell(mode.targetBrightness),
+            numberAlone(mode.measuredY, 2),
+            cell(mode.targetGamma),
+            cell(dayOf(mode.calibratedTime))};
+}
+
+std::string noteOnUnit(const std::string& yUnit) {
+    return yUnit.empty() ? "Y: CIE 1931 tristimulus value; the records do not say its unit (--y-unit).\n" : "";
+}
+
+std::string noteOnDifference() {
+    return "Δu'v': target white against measured white, CIE 1976 UCS diagram, CIE 1931 2° observer.\n";
+}
+
+std::string notes(const std::vector<ModeFigures>& modes, const std::string& yUnit) {
+    const auto any = [&](auto isSo) {
+        return std::any_of(modes.begin(), modes.end(), isSo);
+    };
+    const bool hasWhite = any([](const ModeFigures& mode) { return mode.measuredWhite.has_value(); });
+    const bool hasDifference = any([](const ModeFigures& mode) { return mode.deltaUV.value.has_value(); });
+    const bool hasMissing = any([](const ModeFigures& mode) { return !mode.deltaUV.value; });
+    return (hasWhite ? "Measured: CIE 1931 x and y of white.\n" + noteOnUnit(yUnit) : "") +
+           (hasDifference ? noteOnDifference() : "") + (hasMissing ? "n/a: not available; --mode N says why.\n" : "");
+}
+
+std::string modeTable(const std::vector<ModeFigures>& modes, const MonitorViewForm& form, const Palette& palette) {
+    Columns columns({"Mode", "Name", "Target white", "Measured", "Δu'v'", "Brightness", withUnit("Y", form.yUnit),
+                     "Gamma", "Calibrated"},
+                    {4, 6});
+    const std::size_t most = std::min(modes.size(), form.mostModes);
     for (std::size_t index = 0; index < most; ++index) {
-        const ModeFigures& mode = modes[index];
-        columns.add({orDash(mode.index), orDash(mode.name), orDash(mode.targetWhite), chromaticity(mode),
-                     numberAlone(mode.deltaUV, 4), orDash(mode.targetBrightness), numberAlone(mode.measuredY, 2),
-                     orDash(mode.targetGamma), orDash(mode.calibratedTime)});
+        columns.add(rowOf(modes[index]));
     }
     const std::string more =
         most < modes.size() ? "and " + counted(modes.size() - most, "more mode") + " (--all)\n" : "";
     return columns.text(palette) + more;
 }
 
-std::string identity(const lv::MonitorInfo& monitor) {
-    const lv::MonitorConfiguration& configuration = monitor.monitorConfiguration.value;
-    std::string text =
-        configuration.name.hasValue ? lv::analysis::printable(configuration.name.value) : "Monitor without a name";
-    text += configuration.model.hasValue ? ", " + lv::analysis::printable(configuration.model.value) : "";
-    text += configuration.serial.hasValue ? ", serial " + lv::analysis::printable(configuration.serial.value) : "";
-    return text + '\n';
-}
-
-void addLine(std::string& text, const std::string& name, const std::string& value) {
-    constexpr std::size_t width = 14;
-    text += value.empty() ? "" : name + std::string(width - characterCount(name), ' ') + value + '\n';
+std::string identity(const lv::MonitorConfiguration& configuration, const std::string& otherwise) {
+    std::string text = configuration.name.hasValue ? printable(configuration.name.value) : "";
+    addItem(text, configuration.model.hasValue ? printable(configuration.model.value) : "");
+    const bool hasSerial = configuration.serial.hasValue && !configuration.serial.value.empty();
+    addItem(text, hasSerial ? "serial " + printable(configuration.serial.value) : "");
+    return text.empty() ? otherwise : text;
 }
 
 std::string assets(const lv::AssetInfo& info) {
     std::string text;
     for (const auto* asset : {&info.asset1, &info.asset2, &info.asset3, &info.asset4, &info.asset5, &info.asset6,
                               &info.asset7, &info.asset8}) {
-        text += asset->hasValue && !asset->value.empty()
-                    ? (text.empty() ? "" : ", ") + lv::analysis::printable(asset->value)
-                    : "";
+        addItem(text, asset->hasValue ? printable(asset->value) : "");
     }
     return text;
 }
 
-std::string kindOf(unsigned int type) {
-    namespace schedule = lv::types::schedule;
-    switch (type) {
-    case schedule::once:
-        return "once";
-    case schedule::daily:
-        return "daily";
-    case schedule::weekly:
-        return "weekly";
-    case schedule::monthly:
-        return "monthly";
-    case schedule::quarterly:
-        return "quarterly";
-    case schedule::halfYearly:
-        return "half-yearly";
-    case schedule::yearly:
-        return "yearly";
-    case schedule::everySomeMonths:
-        return "every some months";
-    case schedule::everySomeWeeks:
-        return "every some weeks";
-    case schedule::everySomeHours:
-    case schedule::everySomeHours1F:
-        return "every some hours";
-    default:
-        return "kind " + std::to_string(type);
-    }
+std::string interval(const lv::property<unsigned int>& length, const std::string& unit) {
+    return length.hasValue ? "every " + counted(length.value, unit) : "every some " + unit + 's';
 }
 
 std::string schedule(const lv::SelfCalibrationSchedule& schedule) {
-    return schedule.type.hasValue ? kindOf(schedule.type.value) : "";
+    namespace kinds = lv::types::schedule;
+    switch (schedule.type.value) {
+    case kinds::once:
+        return "once";
+    case kinds::daily:
+        return "daily";
+    case kinds::weekly:
+        return "weekly";
+    case kinds::monthly:
+        return "monthly";
+    case kinds::quarterly:
+        return "quarterly";
+    case kinds::halfYearly:
+        return "half-yearly";
+    case kinds::yearly:
+        return "yearly";
+    case kinds::everySomeMonths:
+        return interval(schedule.intervalMonth, "month");
+    case kinds::everySomeWeeks:
+        return interval(schedule.intervalWeek, "week");
+    case kinds::everySomeHours:
+    case kinds::everySomeHours1F:
+        return interval(schedule.intervalHour, "hour");
+    default:
+        return "unknown kind " + std::to_string(schedule.type.value);
+    }
 }
 
 std::string correlation(const lv::CorrelationInfo& info) {
-    std::string text = info.correlationDate.hasValue ? lv::analysis::printable(info.correlationDate.value) : "";
-    text += info.referenceSensorSerial.hasValue
-                ? ", sensor " + lv::analysis::printable(info.referenceSensorSerial.value)
-                : "";
+    std::string text = info.correlationDate.hasValue ? printable(info.correlationDate.value) : "";
+    const bool hasSerial = info.referenceSensorSerial.hasValue && !info.referenceSensorSerial.value.empty();
+    addItem(text, hasSerial ? "sensor " + printable(info.referenceSensorSerial.value) : "");
     return text;
 }
 
-std::string contents(const lv::MonitorInfo& monitor, const std::vector<ModeFigures>& modes) {
-    std::size_t measurements = monitor.standardModeResult.value.measurementData.objects.size();
+std::size_t measurementsOf(const lv::MonitorInfo& monitor, const std::vector<ModeFigures>& modes) {
+    const lv::StandardModeResult& standard = monitor.standardModeResult.value;
+    std::size_t count = standard.measurementData.objects.size() + standard.measurementDataSecondary.objects.size();
     for (const ModeFigures& mode : modes) {
-        measurements += mode.measurements;
+        count += mode.measurements;
     }
-    std::string text = counted(monitor.calibrationModeResult.value.objects.size(), "calibration") + ", " +
-                       counted(measurements, "measurement");
-    const auto& map = monitor.candelaMap.value;
-    const std::size_t entries = std::max(map.uniformity.values.size(), map.brightness.values.size());
-    return text + (monitor.candelaMap.hasValue
-                       ? ", candela maps of " + (entries == 1 ? "1 entry" : std::to_string(entries) + " entries")
-                       : "");
+    return count;
 }
 
-std::string notes(const std::string& yUnit) {
-    const std::string unit = yUnit.empty() ? " The records do not say the unit of Y (--y-unit)." : "";
-    return "Δu'v': CIE 1976 UCS diagram, CIE 1931 2° observer, target white against measured white." + unit + '\n';
+std::string mapOf(const std::string& name, const lv::CandelaMapEntry& map) {
+    const std::size_t count = map.values.size();
+    return count == 0 ? "" : name + " map of " + (count == 1 ? "1 entry" : std::to_string(count) + " entries");
+}
+
+std::string contents(const lv::MonitorInfo& monitor, const std::vector<ModeFigures>& modes) {
+    const std::size_t calibrations = monitor.calibrationModeResult.value.objects.size();
+    const std::size_t measurements = measurementsOf(monitor, modes);
+    std::string text = calibrations == 0 ? "" : counted(calibrations, "calibration");
+    addItem(text, measurements == 0 ? "" : counted(measurements, "measurement"));
+    addItem(text, mapOf("uniformity", monitor.candelaMap.value.uniformity));
+    addItem(text, mapOf("brightness", monitor.candelaMap.value.brightness));
+    return text;
+}
+
+/// The coordinates with the name of the standard: "x 0.3127 y 0.3290 (D65)".
+std::string targetWhite(const ModeFigures& mode) {
+    const std::string& standard = mode.targetWhiteStandard;
+    if (mode.targetWhite.empty() || standard.empty()) {
+        return orDash(mode.targetWhite + standard);
+    }
+    return printable(mode.targetWhite) + " (" + printable(standard) + ')';
+}
+
+std::string measuredWhite(const ModeFigures& mode) {
+    if (!mode.measuredWhite) {
+        return mode.measuredY.text(4);
+    }
+    return mode.measuredChromaticity ? coordinates(*mode.measuredChromaticity) : "n/a (X, Y and Z are 0)";
+}
+
+std::string measuredY(const Figure& Y, const std::string& yUnit) {
+    return Y.value ? withUnit("Y " + Y.text(4), yUnit) : Y.text(4);
 }
 
 }  // namespace
@@ -143,33 +210,32 @@ std::string monitorView(const lv::MonitorInfo& monitor, const MonitorViewForm& f
     const lv::MonitorConfiguration& configuration = monitor.monitorConfiguration.value;
     const auto modes =
         lv::analysis::modeFigures(configuration.colorModeSettings.value, monitor.calibrationModeResult.value);
-    std::string text = palette.paint(Style::heading, identity(monitor));
-    addLine(text, "UUID", monitor.uuid.hasValue ? lv::analysis::printable(monitor.uuid.value) : "");
+    const auto& type = configuration.selfCalibrationSchedule.value.type;
+    std::string text = palette.paint(Style::heading, identity(configuration, form.title)) + '\n';
+    addLine(text, "UUID", monitor.uuid.hasValue ? printable(monitor.uuid.value) : "");
     addLine(text, "Assets", assets(monitor.assetInfo.value));
-    addLine(text, "Schedule", schedule(configuration.selfCalibrationSchedule.value));
+    addLine(text, "Schedule", type.hasValue ? schedule(configuration.selfCalibrationSchedule.value) : "");
     addLine(text, "Correlation", correlation(monitor.correlationInfo.value));
     addLine(text, "Holds", contents(monitor, modes));
-    if (!modes.empty()) {
-        text += '\n' + modeTable(modes, std::min(modes.size(), form.mostModes), form, palette) +
-                "n/a: lvdata show --mode N says why. " + notes(form.yUnit);
-    }
-    return text;
+    return modes.empty() ? text : text + '\n' + modeTable(modes, form, palette) + '\n' + notes(modes, form.yUnit);
 }
 
 std::string modeView(const ModeFigures& mode, const std::string& yUnit, const Palette& palette) {
     std::string text = palette.paint(Style::heading, "Mode " + orDash(mode.index) + ", " + orDash(mode.name)) + '\n';
     addLine(text, "Type", orDash(mode.type));
     addLine(text, "Calibrated", orDash(mode.calibratedTime));
-    Columns columns({"", "Target", "Measured"});
-    columns.add({"White", orDash(mode.targetWhite), chromaticity(mode)});
-    columns.add({withUnit("Brightness, Y", yUnit), orDash(mode.targetBrightness), mode.measuredY.text(4)});
-    columns.add({"Gamma", orDash(mode.targetGamma), "-"});
-    columns.add({"Gamut", orDash(mode.targetGamut), "-"});
+    Columns columns({std::string(labelWidth - 2, ' '), "Target", "Measured"});
+    columns.add({"White", targetWhite(mode), measuredWhite(mode)});
+    columns.add({"Brightness", orDash(mode.targetBrightness), measuredY(mode.measuredY, yUnit)});
+    columns.add({"Black level", orDash(mode.targetBlack), measuredY(mode.blackY, yUnit)});
+    columns.add({"Gamma", orDash(mode.targetGamma), ""});
+    columns.add({"Gamut", orDash(mode.targetGamut), ""});
     text += columns.text(palette);
     addLine(text, "Δu'v'", mode.deltaUV.text(4));
-    addLine(text, "Contrast", mode.contrast.text(0));
+    addLine(text, "Contrast", mode.contrast.value ? mode.contrast.text(0) + ":1" : mode.contrast.text(0));
     addLine(text, "Measurements", std::to_string(mode.measurements));
-    return text + notes(yUnit);
+    return text + '\n' + (mode.deltaUV.value ? noteOnDifference() : "") +
+           (mode.measuredY.value ? noteOnUnit(yUnit) : "");
 }
 
 }  // namespace tool

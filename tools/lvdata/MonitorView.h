@@ -11,10 +11,11 @@
 
 namespace tool {
 
-/// What of a monitor is shown, and the unit of Y if its user knows it.
+/// How a monitor is shown.
 struct MonitorViewForm {
-    std::size_t mostModes = 12;
-    std::string yUnit{};
+    std::string title{};         // the heading of a monitor without a name, model and serial number
+    std::size_t mostModes = 12;  // rows of the table
+    std::string yUnit{};         // the unit of Y; empty: not known
 };
 
 /// A monitor on one screen: what it is, its colour modes with target against measured, and what its record holds.

@@ -3,8 +3,16 @@
 #include <algorithm>
 
 namespace tool {
+namespace {
 
-Columns::Columns(std::vector<std::string> heads) {
+bool isInsideCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+}  // namespace
+
+Columns::Columns(std::vector<std::string> heads, std::vector<std::size_t> rightAligned)
+    : rightAligned_(std::move(rightAligned)) {
     rows_.push_back(std::move(heads));
 }
 
@@ -12,18 +20,25 @@ void Columns::add(std::vector<std::string> row) {
     rows_.push_back(std::move(row));
 }
 
-std::string Columns::text(const Palette& palette) const {
+std::vector<std::size_t> Columns::widths() const {
     std::vector<std::size_t> widths(rows_.front().size());
     for (const auto& row : rows_) {
         for (std::size_t column = 0; column < row.size(); ++column) {
             widths[column] = std::max(widths[column], characterCount(row[column]));
         }
     }
+    return widths;
+}
+
+std::string Columns::text(const Palette& palette) const {
+    const std::vector<std::size_t> widths = this->widths();
     std::string text;
     for (const auto& row : rows_) {
         std::string line;
         for (std::size_t column = 0; column < row.size(); ++column) {
-            line += row[column] + std::string(widths[column] - characterCount(row[column]) + 2, ' ');
+            const std::string padding(widths[column] - characterCount(row[column]), ' ');
+            const bool isRight = std::count(rightAligned_.begin(), rightAligned_.end(), column) > 0;
+            line += (isRight ? padding + row[column] : row[column] + padding) + "  ";
         }
         line.erase(line.find_last_not_of(' ') + 1);
         text += (&row == &rows_.front() ? palette.paint(Style::heading, line) : line) + '\n';
@@ -32,9 +47,18 @@ std::string Columns::text(const Palette& palette) const {
 }
 
 std::size_t characterCount(const std::string& text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;  // not inside a character
-    }));
+    return text.size() - static_cast<std::size_t>(std::count_if(text.begin(), text.end(), &isInsideCharacter));
+}
+
+std::string shortened(const std::string& text, std::size_t mostCharacters) {
+    if (characterCount(text) <= mostCharacters) {
+        return text;
+    }
+    std::size_t end = 0;
+    for (std::size_t characters = 0; characters < mostCharacters; ++end) {
+        characters += isInsideCharacter(text[end]) ? 0 : 1;  // the loop ends after the first byte of the last
+    }
+    return text.substr(0, end - 1) + "…";
 }
 
 }  // namespace tool

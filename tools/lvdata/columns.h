@@ -11,8 +11,9 @@ namespace tool {
 /// A table of texts in UTF-8, aligned in columns for a terminal.
 class Columns {
 public:
-    /// The heads of the columns.
-    explicit Columns(std::vector<std::string> heads);
+    /// \param heads          the heads of the columns
+    /// \param rightAligned   the indices of columns of numbers, which are aligned on the right
+    explicit Columns(std::vector<std::string> heads, std::vector<std::size_t> rightAligned = {});
 
     /// A row, of as many cells as there are heads.
     void add(std::vector<std::string> row);
@@ -21,10 +22,16 @@ public:
     [[nodiscard]] std::string text(const Palette& palette) const;
 
 private:
+    [[nodiscard]] std::vector<std::size_t> widths() const;
+
     std::vector<std::vector<std::string>> rows_;  // the heads first
+    std::vector<std::size_t> rightAligned_;
 };
 
 /// The number of characters of a text in UTF-8. All count as one column of a terminal, also the few that take two.
 [[nodiscard]] std::size_t characterCount(const std::string& text);
+
+/// The text, or so much of its beginning that it has that many characters with "…" at its end.
+[[nodiscard]] std::string shortened(const std::string& text, std::size_t mostCharacters);
 
 }  // namespace tool

@@ -8,13 +8,12 @@
 #include "files.h"
 #include "finding_text.h"
 #include "limit_options.h"
-#include <lvdata/analysis/printable.h>
 
 #include <lvdata/analysis/Outline.h>
 #include <lvdata/analysis/check/check.h>
 
-#include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace tool {
@@ -34,8 +33,8 @@ struct Options {
     ColorChoice color = ColorChoice::automatic;
 };
 
-/// The monitor that the document is of, with what it has of one.
-lv::MonitorInfo monitorOf(const lv::DataObject& record) {
+/// The monitor that the document is of, with what it has of one; no value when the document is of something else.
+std::optional<lv::MonitorInfo> monitorOf(const lv::DataObject& record) {
     lv::MonitorInfo monitor;
     if (const auto* const whole = dynamic_cast<const lv::MonitorInfo*>(&record)) {
         monitor = *whole;
@@ -45,6 +44,8 @@ lv::MonitorInfo monitorOf(const lv::DataObject& record) {
         monitor.monitorConfiguration.value.colorModeSettings.set(*settings);
     } else if (const auto* const results = dynamic_cast<const lv::CalibrationModeResult*>(&record)) {
         monitor.calibrationModeResult.set(*results);
+    } else {
+        return std::nullopt;
     }
     return monitor;
 }
@@ -63,37 +64,56 @@ std::string findingsOf(const Document& document) {
            " (lvdata check)\n";
 }
 
-std::string modeOf(const lv::MonitorInfo& monitor, const Options& options) {
-    const auto modes = lv::analysis::modeFigures(monitor.monitorConfiguration.value.colorModeSettings.value,
-                                                 monitor.calibrationModeResult.value);
-    const auto mode =
-        std::find_if(modes.begin(), modes.end(), [&](const ModeFigures& each) { return each.index == options.mode; });
-    if (mode == modes.end()) {
-        throw Failure(inputName(options.file), "no colour mode has the index " + options.mode);
+/// "there are 0, 1, 2", so that the user can choose.
+std::string indicesOf(const std::vector<ModeFigures>& modes) {
+    constexpr std::size_t most = 20;
+    std::string text;
+    std::size_t count = 0;
+    for (const ModeFigures& mode : modes) {
+        count += mode.index.empty() ? 0 : 1;
+        const std::string index = count <= most ? mode.index : count == most + 1 ? "..." : "";
+        text += index.empty() ? "" : (text.empty() ? "there are " : ", ") + index;
     }
-    return modeView(*mode, options.outline.yUnit, Palette(options.color));
+    return text.empty() ? "there are none" : text;
 }
 
-std::string viewOf(const Document& document, const Options& options) {
-    const lv::MonitorInfo monitor = monitorOf(document.record());
-    if (!options.mode.empty()) {
-        return modeOf(monitor, options);
+/// All modes of that index.
+std::string modesOf(const lv::MonitorInfo& monitor, const Options& options) {
+    const auto modes = lv::analysis::modeFigures(monitor.monitorConfiguration.value.colorModeSettings.value,
+                                                 monitor.calibrationModeResult.value);
+    std::string text;
+    for (const ModeFigures& mode : modes) {
+        if (mode.index == options.mode) {
+            text += (text.empty() ? "" : "\n") + modeView(mode, options.outline.yUnit, Palette(options.color));
+        }
     }
-    if (monitor == lv::MonitorInfo()) {
-        return outlineOf(document, options.outline);
+    if (text.empty()) {
+        throw Failure(inputName(options.file),
+                      "no colour mode has the index " + options.mode + "; " + indicesOf(modes));
     }
+    return text;
+}
+
+std::string viewOf(const lv::MonitorInfo& monitor, const Document& document, const Options& options) {
     MonitorViewForm form;
+    form.title = document.entry().shape->facts().name;
     form.mostModes = options.all ? SIZE_MAX : form.mostModes;
     form.yUnit = options.outline.yUnit;
-    return monitorView(monitor, form, Palette(options.color));
+    const std::string text =
+        options.mode.empty() ? monitorView(monitor, form, Palette(options.color)) : modesOf(monitor, options);
+    return text + findingsOf(document) + (options.outline.full ? '\n' + outlineOf(document, options.outline) : "");
 }
 
 ExitStatus show(const Options& options) {
     const Catalogue catalogue;
     const Document document = readDocument(options.file, options.limits, catalogue);
-    std::string text = viewOf(document, options) + findingsOf(document);
-    text += options.outline.full ? '\n' + outlineOf(document, options.outline) : "";
-    writeResult(std::string(standardStream), text);
+    const auto monitor = monitorOf(document.record());
+    if (!monitor && !options.mode.empty()) {
+        throw Failure(inputName(options.file),
+                      "a document of " + document.entry().shape->facts().name + " has no colour modes");
+    }
+    writeResult(std::string(standardStream), monitor ? viewOf(*monitor, document, options)
+                                                     : outlineOf(document, options.outline) + findingsOf(document));
     return ExitStatus::done;
 }
 
@@ -107,7 +127,7 @@ void addOptions(CLI::App& command, Options& options) {
         ->type_name("N")
         ->check(complaintIfNoIndex);
     command.add_flag("--all", options.all, "Show all colour modes, not only the first 12");
-    command.add_flag("--full", options.outline.full, "Also show every element, with all entries of tables");
+    command.add_flag("--full", options.outline.full, "Show every element, with all rows and all entries of tables");
     command.add_option("--y-unit", options.outline.yUnit, "Unit of Y, which the records do not say, such as cd/m²")
         ->type_name("UNIT");
     command.add_option("--map-unit", options.outline.mapUnit, "Unit of the entries of candela maps")->type_name("UNIT");
