@@ -38,9 +38,24 @@ std::string joined(const std::vector<std::size_t>& lengths) {
     return text;
 }
 
+/// The first subject with another number of entries: "; ../Red has 2 entries".
+std::string actualEntries(const Question& question, const Position& asked) {
+    const Condition& condition = *question.condition;
+    for (std::size_t index = 0; index < condition.subjects.size(); ++index) {
+        const std::size_t count = entriesIn(valueAt(subjectAt(question.subjects.at(index), asked)));
+        if (count != condition.entries) {
+            return "; " + condition.subjects[index] + " has " + entries(count);
+        }
+    }
+    return "";
+}
+
 /// What the first subject of a condition is, to be added to what it should be: "; it is "Standart"".
 std::string actual(const Question& question, const Position& asked) {
     const Condition& condition = *question.condition;
+    if (condition.kind == Kind::haveEntries) {
+        return actualEntries(question, asked);
+    }
     const bool isCompared = condition.kind == Kind::oneOf || condition.kind == Kind::noneOf;
     return isCompared ? "; it is " + quoted(valueAt(subjectAt(question.subjects.front(), asked))) : "";
 }
@@ -49,15 +64,21 @@ std::string needs(const Question& question, const Position& asked) {
     return "that needs: " + question.condition->toString() + actual(question, asked);
 }
 
+/// The question of how many entries the array itself must have, alone or with others; null when there is none.
+const Question* lengthQuestion(const std::vector<Question>& questions) {
+    const auto found = std::find_if(questions.begin(), questions.end(), [](const Question& question) {
+        const auto& subjects = question.condition->subjects;
+        const bool isAboutLength = question.condition->kind == Kind::haveEntries;
+        return isAboutLength && std::find(subjects.begin(), subjects.end(), ".") != subjects.end();
+    });
+    return found == questions.end() ? nullptr : &*found;
+}
+
 /// The numbers of entries of which an array must have one; empty when any will do.
 std::vector<std::size_t> lengthsOf(const Shape& shape) {
-    const Description& facts = shape.facts();
-    for (const Condition& condition : facts.writtenWhen) {
-        if (condition.kind == Kind::haveEntries && condition.subjects.front() == ".") {
-            return {condition.entries};
-        }
-    }
-    return facts.lengths;
+    const Question* const ofWriting = lengthQuestion(shape.writtenWhen());
+    const Question* const question = ofWriting == nullptr ? lengthQuestion(shape.flag()) : ofWriting;
+    return question == nullptr ? shape.facts().lengths : std::vector{question->condition->entries};
 }
 
 bool reportWrongLength(Reporter& reporter, const Position& position, const Node& text) {
