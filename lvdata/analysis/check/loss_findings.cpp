@@ -27,9 +27,24 @@ std::string entries(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " entry" : " entries");
 }
 
+/// The first subject with another number of entries: "; ../Red has 2 entries".
+std::string actualEntries(const Question& question, const Position& asked) {
+    const Condition& condition = *question.condition;
+    for (std::size_t index = 0; index < condition.subjects.size(); ++index) {
+        const std::size_t count = entriesIn(valueAt(subjectAt(question.subjects.at(index), asked)));
+        if (count != condition.entries) {
+            return "; " + condition.subjects[index] + " has " + entries(count);
+        }
+    }
+    return "";
+}
+
 /// What the first subject of a condition is, to be added to what it should be: "; it is "Standart"".
 std::string actual(const Question& question, const Position& asked) {
     const Condition& condition = *question.condition;
+    if (condition.kind == Kind::haveEntries) {
+        return actualEntries(question, asked);
+    }
     const bool isCompared = condition.kind == Kind::oneOf || condition.kind == Kind::noneOf;
     return isCompared ? "; it is " + inQuotes(valueAt(subjectAt(question.subjects.front(), asked))) : "";
 }

@@ -51,12 +51,33 @@ TEST(StructureFindings, OfRepeatedElements) {
 }
 
 TEST(StructureFindings, OfKeyedElements) {
-    const auto findings = [](const std::string& elements) {
-        return findingsIn("<CalibrationModeResult><ColorModeResult><ProfileData>\n" + elements +
-                          "</ProfileData></ColorModeResult></CalibrationModeResult>");
+    const auto measured = [](const std::string& key) {
+        return "\n<MeasuredXYZ" + key + ">1|2|3</MeasuredXYZ>";
     };
-    for (const std::string& finding : findings("<EmulationLut><MeasuredXYZ>1|2|3</MeasuredXYZ></EmulationLut>")) {
-        EXPECT_THAT(finding, StartsWith("30"));
+    EXPECT_THAT(
+        findingsIn("<ProfileData>" + measured(" Color='Red'") + measured(" Color='Red'") + measured(" Color='Rod'") +
+                       measured("") + "</ProfileData>",
+                   CheckOptions{{"305", "310"}}),
+        ElementsAre("303 line 2 /ProfileData/MeasuredXYZ: element \"MeasuredXYZ\" is repeated: this one is dropped",
+                    "301 line 4 /ProfileData/MeasuredXYZ: element \"MeasuredXYZ\" has an unknown Color, \"Rod\", "
+                    "and is dropped",
+                    "301 line 5 /ProfileData/MeasuredXYZ: element \"MeasuredXYZ\" has no attribute Color, and is "
+                    "dropped"));
+}
+
+TEST(StructureFindings, OfArraysThatCountOnlyTogether) {
+    std::string document = "<ProfileData>";
+    for (const std::string color : {"Red", "Green", "Blue", "White", "Black"}) {
+        document += "\n<MeasuredXYZ Color='" + color + "'>1|2" + (color == "Blue" ? "" : "|3") + "</MeasuredXYZ>";
+    }
+    const std::vector<std::string> findings = findingsIn(document + "</ProfileData>");
+    ASSERT_EQ(findings.size(), 5U);
+    EXPECT_EQ(findings[2],
+              "201 line 4 /ProfileData/MeasuredXYZ[@Color='Blue']: the text has 2 entries and needs 3: all of "
+              "it is dropped");
+    for (const std::size_t other : {0U, 1U, 3U, 4U}) {
+        EXPECT_THAT(findings[other], StartsWith("305 line " + std::to_string(other + 2) + ' '));
+        EXPECT_THAT(findings[other], testing::EndsWith("; ../../MeasuredXYZ[@Color='Blue']/text() has 2 entries"));
     }
 }
 
