@@ -102,7 +102,7 @@ private:
 
     static bool isMap(const Shape& shape) {
         const Shape* const root = shape.parent() == nullptr ? nullptr : shape.parent()->parent();
-        return isArray(shape.facts().content) && root != nullptr && root->facts().name == "CandelaMap";
+        return root != nullptr && root->facts().name == "CandelaMap";
     }
 
     /// The unit as it follows the numbers: " cd/m²", " in 1/255", or nothing.

@@ -97,6 +97,14 @@ TEST(ModeFigures, HaveNoContrastThatCannotBeComputed) {
     EXPECT_EQ(figuresOf(resultOf(1)).contrast.text(2), "n/a (no complete set of MeasuredXYZ)");
 }
 
+TEST(ModeFigures, TakeNoSetThatIsNotComplete) {
+    CalibrationModeResultObject result = resultOf(1);
+    setMeasured(result, whiteD65, {1, 1000000, 1});
+    result.profileData.measuredXYZ.hasValue = false;
+    EXPECT_EQ(figuresOf(result).contrast.text(0), "n/a (no complete set of MeasuredXYZ)");
+    EXPECT_EQ(figuresOf(result).measuredY.text(0), "n/a (no white was measured)");
+}
+
 TEST(ModeFigures, TakeNoBlackThatIsMarkedAsNotValid) {
     CalibrationModeResultObject result = resultOf(1);
     setMeasured(result, whiteD65, {1, 1000000, 1});
