@@ -1,8 +1,8 @@
 #include <benchmarks/documents.h>
 
-#include <lvdata/analysis/JSON.h>
 #include <lvdata/analysis/check/check.h>
-#include <lvdata/analysis/diff.h>
+#include <lvdata/analysis/diff/diff.h>
+#include <lvdata/analysis/json/JSON.h>
 
 #include <benchmark/benchmark.h>
 

@@ -3,7 +3,7 @@
 // The new document holds what the record knows. Comments and elements of other applications are not kept; `lvdata
 // check` lists what a document would lose.
 
-#include <lvdata/analysis/files.h>
+#include <lvdata/analysis/files/files.h>
 #include <lvdata/lvdata.h>
 
 #include <iostream>

@@ -2,7 +2,7 @@
 //
 // The root element decides which record a document is.
 
-#include <lvdata/analysis/files.h>
+#include <lvdata/analysis/files/files.h>
 
 #include <algorithm>
 #include <filesystem>

@@ -1,6 +1,6 @@
 #include <fuzz/support/harness.h>
 
-#include <lvdata/analysis/JSON.h>
+#include <lvdata/analysis/json/JSON.h>
 
 #include <string>
 

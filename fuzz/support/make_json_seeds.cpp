@@ -1,5 +1,5 @@
 #include <lvdata/analysis/Document.h>
-#include <lvdata/analysis/JSON.h>
+#include <lvdata/analysis/json/JSON.h>
 
 #include <filesystem>
 #include <fstream>

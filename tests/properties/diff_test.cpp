@@ -1,7 +1,7 @@
 #include <tests/properties/AnyRecordTest.h>
 #include <tests/support/Changed.h>
 
-#include <lvdata/analysis/diff.h>
+#include <lvdata/analysis/diff/diff.h>
 
 // Differences of any two records agree with their equality and with their documents.
 

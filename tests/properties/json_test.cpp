@@ -1,7 +1,7 @@
 #include <tests/properties/AnyRecordTest.h>
 
 #include <lvdata/analysis/Document.h>
-#include <lvdata/analysis/JSON.h>
+#include <lvdata/analysis/json/JSON.h>
 
 // The way of any record's document to JSON and back.
 

@@ -1,8 +1,8 @@
-#include <tests/analysis/XMLSchema.h>
+#include <tests/analysis/schemas/XMLSchema.h>
 #include <tests/properties/AnyRecordTest.h>
 
 #include <lvdata/analysis/Catalogue.h>
-#include <lvdata/analysis/xsd.h>
+#include <lvdata/analysis/schemas/xsd.h>
 
 // The XML Schema of a record accepts what it prints.
 

@@ -1,6 +1,6 @@
-#include <tests/analysis/schema_documents.h>
+#include <tests/analysis/schemas/schema_documents.h>
 
-#include <lvdata/analysis/JSON.h>
+#include <lvdata/analysis/json/JSON.h>
 #include <lvdata/core/ParsedDocument.h>
 
 #include <iostream>

@@ -3,8 +3,8 @@
 #include "Output.h"
 #include "Palette.h"
 
-#include <lvdata/analysis/JSONWriter.h>
 #include <lvdata/analysis/check/Finding.h>
+#include <lvdata/analysis/json/JSONWriter.h>
 
 #include <cstddef>
 #include <string>

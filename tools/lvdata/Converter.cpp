@@ -4,11 +4,11 @@
 #include "documents.h"
 #include "files.h"
 
-#include <lvdata/analysis/CSVWriter.h>
 #include <lvdata/analysis/Document.h>
-#include <lvdata/analysis/JSON.h>
-#include <lvdata/analysis/JSONWriter.h>
 #include <lvdata/analysis/Projection.h>
+#include <lvdata/analysis/json/JSON.h>
+#include <lvdata/analysis/json/JSONWriter.h>
+#include <lvdata/analysis/tables/CSVWriter.h>
 
 namespace tool {
 namespace {

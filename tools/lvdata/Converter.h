@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lvdata/analysis/Catalogue.h>
-#include <lvdata/analysis/tables.h>
+#include <lvdata/analysis/tables/tables.h>
 #include <lvdata/core/DataObject.h>
 #include <lvdata/xml/Limits.h>
 

@@ -2,7 +2,7 @@
 
 #include "Palette.h"
 
-#include <lvdata/analysis/ModeFigures.h>
+#include <lvdata/analysis/figures/ModeFigures.h>
 #include <lvdata/records/MonitorInfo.h>
 
 #include <cstddef>

@@ -3,7 +3,7 @@
 #include "Failure.h"
 #include "files.h"
 
-#include <lvdata/analysis/files.h>
+#include <lvdata/analysis/files/files.h>
 
 #include <cstddef>
 #include <system_error>

@@ -48,7 +48,7 @@ private:
 };
 
 /// Writes a text that is the whole result to the file, or to standard output if `file` is "-". Throws as
-/// `Output::flush` does. What becomes of an existing file is described in `lvdata/analysis/files.h`.
+/// `Output::flush` does. What becomes of an existing file is described in `lvdata/analysis/files/files.h`.
 void writeResult(const std::string& file, std::string_view text);
 
 }  // namespace tool

@@ -10,9 +10,9 @@
 #include "limit_options.h"
 #include <lvdata/analysis/printable.h>
 
-#include <lvdata/analysis/JSONWriter.h>
-#include <lvdata/analysis/diff.h>
+#include <lvdata/analysis/diff/diff.h>
 #include <lvdata/analysis/diff/output.h>
+#include <lvdata/analysis/json/JSONWriter.h>
 
 #include <memory>
 #include <string>

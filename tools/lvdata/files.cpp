@@ -3,7 +3,7 @@
 #include "Failure.h"
 #include "limit_options.h"
 
-#include <lvdata/analysis/files.h>
+#include <lvdata/analysis/files/files.h>
 
 #include <unistd.h>
 

@@ -6,8 +6,8 @@
 #include "files.h"
 
 #include <lvdata/analysis/Document.h>
-#include <lvdata/analysis/json_schema.h>
-#include <lvdata/analysis/xsd.h>
+#include <lvdata/analysis/schemas/json_schema.h>
+#include <lvdata/analysis/schemas/xsd.h>
 
 #include <memory>
 #include <string>

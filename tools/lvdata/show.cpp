@@ -9,8 +9,8 @@
 #include "finding_text.h"
 #include "limit_options.h"
 
-#include <lvdata/analysis/Outline.h>
 #include <lvdata/analysis/check/check.h>
+#include <lvdata/analysis/figures/Outline.h>
 
 #include <memory>
 #include <optional>

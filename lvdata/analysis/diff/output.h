@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lvdata/analysis/Sink.h>
-#include <lvdata/analysis/diff.h>
+#include <lvdata/analysis/diff/diff.h>
 
 #include <string>
 

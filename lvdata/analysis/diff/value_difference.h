@@ -1,9 +1,9 @@
 #pragma once
 
 #include <lvdata/analysis/Position.h>
-#include <lvdata/analysis/diff.h>
 #include <lvdata/analysis/diff/ReferenceWhites.h>
 #include <lvdata/analysis/diff/Tolerances.h>
+#include <lvdata/analysis/diff/diff.h>
 
 #include <optional>
 

@@ -1,5 +1,5 @@
-#include <lvdata/analysis/JSONWriter.h>
 #include <lvdata/analysis/diff/output.h>
+#include <lvdata/analysis/json/JSONWriter.h>
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <lvdata/analysis/Catalogue.h>
+#include <lvdata/analysis/json/JSONWriter.h>
+#include <lvdata/core/DataObject.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lv::analysis {
+
+/// Why there is no JSON text of a record, or no record of a JSON text.
+struct JSONError {
+    int line = 0;          ///< Where in the JSON text that was noticed, counted from 1; 0 when no line applies.
+    std::string path{};    ///< "monitor_info.asset_info.asset1"; empty when no place applies.
+    std::string reason{};  ///< In a few words; may hold a key, which can be as long as the text.
+
+    /// "line 3: monitor_info.uuid: text expected, not a number".
+    [[nodiscard]] std::string toString() const;
+};
+
+/// The JSON text of a record, or why there is none.
+struct JSONResult {
+    std::string text{};                ///< Without a line break at the end; empty when there is none.
+    std::optional<JSONError> error{};  ///< Why there is none.
+
+    /// Whether there is a text.
+    [[nodiscard]] explicit operator bool() const { return !error; }
+};
+
+/// The record of a JSON text, or why there is none.
+struct FromJSON {
+    std::unique_ptr<DataObject> record{};     ///< Null when there is none.
+    const Catalogue::Entry* entry = nullptr;  ///< Its class; null when there is none.
+    std::optional<JSONError> error{};         ///< Why there is none.
+
+    /// Whether there is a record.
+    [[nodiscard]] explicit operator bool() const { return record != nullptr; }
+};
+
+/// The record as JSON text: what `DataObject::toXMLString` prints, with natural values. docs/json.md tells what becomes
+/// of what. Fails when the record holds bytes that are not UTF-8, and when its root element is not in the catalogue.
+[[nodiscard]] JSONResult toJSON(const DataObject& record, const Catalogue& catalogue, JSONForm form = {});
+
+/// A fresh record with what the JSON text says. `writeHLGSystemGamma` is set when the text has a key that the switch
+/// governs. Fails at the first thing that is wrong: nothing is ignored or changed in silence, save keys that the record
+/// ignores because of the values of others, as it does in XML. The catalogue must outlive the result.
+[[nodiscard]] FromJSON fromJSON(std::string_view text, const Catalogue& catalogue);
+
+}  // namespace lv::analysis

@@ -1,0 +1,130 @@
+#pragma once
+
+#include <lvdata/analysis/Catalogue.h>
+#include <lvdata/analysis/Sink.h>
+#include <lvdata/analysis/json/EventPath.h>
+#include <lvdata/analysis/json/JSON.h>
+#include <lvdata/analysis/json/NodeArena.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lv::analysis {
+
+/// The way back from natural values to a record: a sink that takes what `project` gives, in any order of the keys and
+/// from any source. It checks all that the description says of keys, types, lengths and ranges, and stops at the first
+/// thing that is wrong.
+class RecordBuilder final : public Sink {
+public:
+    /// The catalogue must outlive the builder and its result.
+    explicit RecordBuilder(const Catalogue& catalogue) : catalogue_(catalogue) {}
+
+    /// Where in the source the next call comes from, for messages: counted from 1; 0 when it has no lines.
+    void setLine(int line) { line_ = line; }
+
+    /// Whether something was wrong. Then all further calls do nothing.
+    [[nodiscard]] bool hasFailed() const { return error_.has_value(); }
+
+    /// Refuses the source for a reason that the builder does not know.
+    void fail(std::string reason);
+
+    /// The record, once all values were given; otherwise what was wrong.
+    [[nodiscard]] FromJSON result() const;
+
+    void beginObject() override;
+    void key(std::string_view name) override;
+    void endObject() override;
+
+    /// What the entries are decides the description, not the caller.
+    void beginArray(Entries entries) override;
+    void endArray() override;
+    void string(std::string_view text) override;
+    void number(std::string_view text, NumberKind kind) override;
+    void boolean(bool value) override;
+    void null() override;
+
+private:
+    /// What the keys of an open object, or the entries of an open array, are.
+    enum class Level {
+        document,  ///< The only key is that of a root element.
+        element,   ///< The keys of what an element can have.
+        keyed,     ///< The keys of keyed elements.
+        rows,      ///< Entries that are elements.
+        numbers,   ///< Entries that are numbers.
+    };
+
+    /// What a value must be.
+    enum class Expected { object, array, string, boolean, number, numberOrArray };
+
+    /// An object or array that is open.
+    struct Open {
+        Level level = Level::document;
+        const Shape* shape = nullptr;         // of the element that has the keys; of the rows; null for a document
+        Node* node = nullptr;                 // that element; null when there is none
+        const Shape* member = nullptr;        // whose key came last
+        std::vector<bool> seen{};             // by the index of the member
+        std::vector<IndexedNode> children{};  // of the element
+    };
+
+    /// A text of numbers that is being read.
+    struct Numbers {
+        const Shape* shape = nullptr;  // of the text
+        bool isArray = false;          // how it came
+        bool isPending = false;        // to be converted at the end of the document
+        int line = 0;                  // where it begins
+        std::size_t count = 0;         // of the numbers
+        std::string text{};            // the numbers, joined
+        std::vector<int> lines{};      // of each number that is to be converted later
+    };
+
+    /// Numbers whose quantity, or whose shape, depends on what else the document says: converted at its end.
+    struct Pending {
+        Numbers numbers;
+        const Shape* member;  // the element that is a plain value, or its text
+        Node* text;           // gets the converted numbers
+        std::string path;
+    };
+
+    void fail(std::string reason, int line, std::string path);
+    [[nodiscard]] bool begins(Expected value, const std::string& found);
+    [[nodiscard]] Expected expected() const;
+    [[nodiscard]] static Expected expectedOfText(const Shape& member);
+    [[nodiscard]] static bool hasAlternatives(const Shape& text);
+    void push(Level level, const Shape* shape, Node* node);
+    void beginElement();
+    void endDocument();
+
+    void keyOfDocument(std::string_view name);
+    void keyOfMember(std::string_view name);
+    [[nodiscard]] static std::vector<std::string> keysOf(const Open& open);
+    void unknownKey(std::string_view name, const std::vector<std::string>& known);
+
+    [[nodiscard]] Open& owner();
+    void addChild(const Shape& member, Node& node);
+    Node& addText(const Shape& member, std::string text);
+
+    void beginNumbers(bool isArray);
+    void addNumber(std::string_view text);
+    void endNumbers();
+    [[nodiscard]] bool hasRightLength(const Numbers& numbers, const Shape& shape, const std::string& path);
+    void resolve(const Pending& pending);
+    void convert(const Pending& pending, const Shape& shape, const Quantity* quantity);
+
+    const Catalogue& catalogue_;
+    const Catalogue::Entry* entry_ = nullptr;
+    NodeArena arena_{};
+    Node* root_ = nullptr;
+    bool isComplete_ = false;
+    std::vector<Open> open_{};
+    Numbers numbers_{};
+    std::vector<Pending> pending_{};
+    EventPath path_{};
+    int line_ = 0;
+    bool hlgSwitch_ = false;
+    std::optional<JSONError> error_{};
+};
+
+}  // namespace lv::analysis

@@ -1,0 +1,146 @@
+#include <lvdata/analysis/json/JSON.h>
+#include <lvdata/analysis/json/RecordBuilder.h>
+
+#include <cstddef>
+#include <iterator>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+namespace lv::analysis {
+namespace {
+
+using nlohmann::json;
+
+/// The line of the character that was read last. The parser reads one character beyond a number; where that is the end
+/// of the line, the number is still before it.
+class Lines {
+public:
+    void pass(char character) {
+        lines_ += last_ == '\n' ? 1 : 0;
+        last_ = character;
+    }
+
+    [[nodiscard]] int current() const { return lines_; }
+
+private:
+    int lines_ = 1;
+    char last_ = '\0';
+};
+
+/// Goes along a text and counts its lines. Copies share the count.
+class CountingIterator {
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = const char&;
+
+    CountingIterator(const char* position, Lines& lines) : position_(position), lines_(&lines) {}
+
+    reference operator*() const { return *position_; }
+
+    CountingIterator& operator++() {
+        lines_->pass(*position_);
+        ++position_;
+        return *this;
+    }
+
+    CountingIterator operator++(int) {
+        const CountingIterator before = *this;
+        ++*this;
+        return before;
+    }
+
+    friend bool operator==(const CountingIterator& left, const CountingIterator& right) {
+        return left.position_ == right.position_;
+    }
+    friend bool operator!=(const CountingIterator& left, const CountingIterator& right) { return !(left == right); }
+
+private:
+    const char* position_;
+    Lines* lines_;
+};
+
+/// "unexpected '}'; expected string literal" of a longer message that quotes the text.
+std::string plainReason(const std::string& message) {
+    const std::string separator = " - ";
+    const std::size_t begin = message.find(separator);
+    const std::string reason = begin == std::string::npos ? message : message.substr(begin + separator.size());
+    return reason.substr(0, reason.find("; last read: "));
+}
+
+/// Hands what the parser finds to the builder; stops when that refuses it.
+class Handler final : public nlohmann::json_sax<json> {
+public:
+    Handler(RecordBuilder& builder, const Lines& lines) : builder_(builder), lines_(lines) {}
+
+    bool null() override {
+        return to([](RecordBuilder& builder) { builder.null(); });
+    }
+    bool boolean(bool value) override {
+        return to([value](RecordBuilder& builder) { builder.boolean(value); });
+    }
+    bool number_integer(json::number_integer_t value) override { return number(std::to_string(value)); }
+    bool number_unsigned(json::number_unsigned_t value) override { return number(std::to_string(value)); }
+    bool number_float(json::number_float_t /*value*/, const std::string& text) override { return number(text); }
+    bool string(std::string& text) override {
+        return to([&](RecordBuilder& builder) { builder.string(text); });
+    }
+    bool binary(json::binary_t& /*value*/) override { return false; }  // not in texts
+    bool start_object(std::size_t /*size*/) override {
+        return to([](RecordBuilder& builder) { builder.beginObject(); });
+    }
+    bool key(std::string& name) override {
+        return to([&](RecordBuilder& builder) { builder.key(name); });
+    }
+    bool end_object() override {
+        return to([](RecordBuilder& builder) { builder.endObject(); });
+    }
+    bool start_array(std::size_t /*size*/) override {
+        return to([](RecordBuilder& builder) { builder.beginArray(Sink::Entries::objects); });
+    }
+    bool end_array() override {
+        return to([](RecordBuilder& builder) { builder.endArray(); });
+    }
+
+    /// A number beyond a double is one for the builder, which knows what it may be.
+    bool parse_error(std::size_t /*position*/, const std::string& text, const json::exception& error) override {
+        constexpr int numberOverflow = 406;
+        if (error.id == numberOverflow) {
+            number(text);
+        }
+        builder_.setLine(lines_.current());
+        builder_.fail("not JSON: " + plainReason(error.what()));
+        return false;
+    }
+
+private:
+    bool number(const std::string& text) {
+        return to([&](RecordBuilder& builder) { builder.number(text, Sink::NumberKind::fraction); });
+    }
+
+    template <class Call>
+    bool to(Call call) {
+        builder_.setLine(lines_.current());
+        call(builder_);
+        return !builder_.hasFailed();
+    }
+
+    RecordBuilder& builder_;
+    const Lines& lines_;
+};
+
+}  // namespace
+
+FromJSON fromJSON(std::string_view text, const Catalogue& catalogue) {
+    RecordBuilder builder(catalogue);
+    Lines lines;
+    Handler handler(builder, lines);
+    const char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));
+    static_cast<void>(json::sax_parse(CountingIterator(text.data(), lines), CountingIterator(end, lines), &handler));
+    return builder.result();
+}
+
+}  // namespace lv::analysis

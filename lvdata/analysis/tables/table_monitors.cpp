@@ -1,0 +1,97 @@
+#include <lvdata/analysis/tables/table_rows.h>
+#include <lvdata/core/quantities.h>
+
+#include <algorithm>
+
+namespace lv::analysis {
+namespace {
+
+struct MonitorRow {
+    const Parts& parts;
+};
+
+using Text = property<std::string>;
+
+/// A text of the configuration, when the document has one.
+template <Text MonitorConfiguration::*Member>
+void giveConfiguration(const MonitorRow& row, Cell& cell) {
+    if (row.parts.configuration != nullptr) {
+        cell.text(row.parts.configuration->*Member);
+    }
+}
+
+template <Text AssetInfo::*Member>
+void giveAsset(const MonitorRow& row, Cell& cell) {
+    if (row.parts.assets != nullptr) {
+        cell.text(row.parts.assets->*Member);
+    }
+}
+
+bool isCalibrated(const CalibrationModeResultObject& mode) {
+    return mode.calibratedTime.hasValue && !mode.calibratedTime.value.empty();
+}
+
+void giveCalibratedModes(const MonitorRow& row, Cell& cell) {
+    if (row.parts.results != nullptr) {
+        const auto& modes = row.parts.results->objects;
+        cell.count(static_cast<std::size_t>(std::count_if(modes.begin(), modes.end(), &isCalibrated)));
+    }
+}
+
+void giveLastCalibration(const MonitorRow& row, Cell& cell) {
+    std::string last;
+    if (row.parts.results != nullptr) {
+        for (const CalibrationModeResultObject& mode : row.parts.results->objects) {
+            last = isCalibrated(mode) ? std::max(last, mode.calibratedTime.value) : last;
+        }
+    }
+    if (!last.empty()) {
+        cell.text(last);
+    }
+}
+
+const std::vector<ColumnOf<MonitorRow>>& columns() {
+    static const std::vector<ColumnOf<MonitorRow>> all = withOrigin<MonitorRow>({
+        {{"name", "", "name of the monitor"}, &giveConfiguration<&MonitorConfiguration::name>},
+        {{"model", "", "model of the monitor"}, &giveConfiguration<&MonitorConfiguration::model>},
+        {{"schedule_type", "", "kind of the schedule of self-calibration, as a number"},
+         [](const MonitorRow& row, Cell& cell) {
+             if (row.parts.schedule != nullptr) {
+                 cell.index(row.parts.schedule->type);
+             }
+         }},
+        {{"asset1", "", "first text of the inventory; what it is for is not recorded"}, &giveAsset<&AssetInfo::asset1>},
+        {{"asset2", "", "second text of the inventory"}, &giveAsset<&AssetInfo::asset2>},
+        {{"asset3", "", "third text of the inventory"}, &giveAsset<&AssetInfo::asset3>},
+        {{"asset4", "", "fourth text of the inventory"}, &giveAsset<&AssetInfo::asset4>},
+        {{"asset5", "", "fifth text of the inventory"}, &giveAsset<&AssetInfo::asset5>},
+        {{"asset6", "", "sixth text of the inventory"}, &giveAsset<&AssetInfo::asset6>},
+        {{"asset7", "", "seventh text of the inventory"}, &giveAsset<&AssetInfo::asset7>},
+        {{"asset8", "", "eighth text of the inventory"}, &giveAsset<&AssetInfo::asset8>},
+        {{"modes", "", "number of colour modes that are set up"},
+         [](const MonitorRow& row, Cell& cell) {
+             if (row.parts.settings != nullptr) {
+                 cell.count(row.parts.settings->objects.size());
+             }
+         }},
+        {{"calibrated_modes", "", "number of results with a time of calibration"}, &giveCalibratedModes},
+        {{"last_calibration", "",
+          "the greatest of these times as text, which is the latest when all are like 2024-05-02T09:31:00"},
+         &giveLastCalibration},
+    });
+    return all;
+}
+
+}  // namespace
+
+std::vector<Column> monitorColumns() {
+    return columnsOf(columns());
+}
+
+void addMonitorRows(const Parts& parts, Sink& sink) {
+    if (parts.monitor != nullptr || parts.configuration != nullptr || parts.assets != nullptr) {
+        addRow(columns(), {parts}, sink);
+    }
+}
+
+}  // namespace lv::analysis
