@@ -96,6 +96,14 @@ TEST_F(ShowContent, HasOnlyNotesOnWhatItShows) {
                 AllOf(HasSubstr("n/a: "), Not(HasSubstr("Δu'v':")), Not(HasSubstr("--y-unit"))));
 }
 
+TEST_F(ShowContent, HasTheStandardOfATargetWithoutAnOlderForm) {
+    const std::string document =
+        modes("<ColorMode Type='Calibration'><Index>1</Index><Target><TargetSetting><WhitePointV7 Type='Standard'>"
+              "<Standard>D65</Standard></WhitePointV7></TargetSetting></Target></ColorMode>");
+    EXPECT_THAT(shown(document), HasSubstr("\n1     -     D65           n/a  "));
+    EXPECT_THAT(shown(document, {"--mode", "1"}), HasSubstr("\nWhite         D65     n/a "));
+}
+
 TEST_F(ShowContent, SaysThatAWhiteOfZerosHasNoChromaticity) {
     const std::string white =
         "<CalibrationModeResult><ColorMode Type='Calibration'><Index>1</Index><BasicData><JustCalibratedWhite>0|0|0"
