@@ -125,6 +125,15 @@ TEST_F(ShowContent, ShowsNamesOnOneLine) {
     EXPECT_THAT(shown(document, {"--mode", "1"}), StartsWith("Mode 1, " + harmless + "\n"));
 }
 
+TEST_F(ShowContent, ShowsTextsOnOneLine) {
+    const std::string text =
+        shown("<MonitorInfo><UUID>a&#10;b</UUID><AssetInfo><Asset1>c&#10;d</Asset1></AssetInfo><CorrelationInfo>"
+              "<ReferenceSensorSerial>e&#10;f</ReferenceSensorSerial><CorrelationDate>g&#10;h</CorrelationDate>"
+              "</CorrelationInfo></MonitorInfo>");
+    EXPECT_THAT(text, AllOf(HasSubstr("UUID          a\\x0Ab\n"), HasSubstr("Assets        c\\x0Ad\n"),
+                            HasSubstr("Correlation   g\\x0Ah, sensor e\\x0Af\n")));
+}
+
 TEST_F(ShowContent, CutsLongNamesInTheTableAlone) {
     const std::string name = lv::test::repeated("ä", 100'000);
     const std::string document = modes(mode("1", name) + mode("2", lv::test::repeated("ä", 20)));
