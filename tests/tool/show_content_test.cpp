@@ -96,6 +96,14 @@ TEST_F(ShowContent, HasOnlyNotesOnWhatItShows) {
                 AllOf(HasSubstr("n/a: "), Not(HasSubstr("Δu'v':")), Not(HasSubstr("--y-unit"))));
 }
 
+TEST_F(ShowContent, HasTheStandardOfATargetWithoutAnOlderForm) {
+    const std::string document =
+        modes("<ColorMode Type='Calibration'><Index>1</Index><Target><TargetSetting><WhitePointV7 Type='Standard'>"
+              "<Standard>D65</Standard></WhitePointV7></TargetSetting></Target></ColorMode>");
+    EXPECT_THAT(shown(document), HasSubstr("\n1     -     D65           n/a  "));
+    EXPECT_THAT(shown(document, {"--mode", "1"}), HasSubstr("\nWhite         D65     n/a "));
+}
+
 TEST_F(ShowContent, SaysThatAWhiteOfZerosHasNoChromaticity) {
     const std::string white =
         "<CalibrationModeResult><ColorMode Type='Calibration'><Index>1</Index><BasicData><JustCalibratedWhite>0|0|0"
@@ -115,6 +123,15 @@ TEST_F(ShowContent, ShowsNamesOnOneLine) {
     EXPECT_EQ(linesIn(text).at(0), harmless + ", " + harmless + ", serial " + harmless);
     EXPECT_THAT(text, HasSubstr("\n1     a\\x0Ab\\x1B[2J\\xFF\\x…  D65  "));
     EXPECT_THAT(shown(document, {"--mode", "1"}), StartsWith("Mode 1, " + harmless + "\n"));
+}
+
+TEST_F(ShowContent, ShowsTextsOnOneLine) {
+    const std::string text =
+        shown("<MonitorInfo><UUID>a&#10;b</UUID><AssetInfo><Asset1>c&#10;d</Asset1></AssetInfo><CorrelationInfo>"
+              "<ReferenceSensorSerial>e&#10;f</ReferenceSensorSerial><CorrelationDate>g&#10;h</CorrelationDate>"
+              "</CorrelationInfo></MonitorInfo>");
+    EXPECT_THAT(text, AllOf(HasSubstr("UUID          a\\x0Ab\n"), HasSubstr("Assets        c\\x0Ad\n"),
+                            HasSubstr("Correlation   g\\x0Ah, sensor e\\x0Af\n")));
 }
 
 TEST_F(ShowContent, CutsLongNamesInTheTableAlone) {

@@ -85,8 +85,7 @@ TEST_F(Show, SaysWhyAFigureOfAModeIsMissing) {
                       "Gamut         sRGB\n"
                       "Δu'v'         n/a (no calibration result)\n"
                       "Contrast      n/a (no calibration result)\n"
-                      "Measurements  0\n"
-                      "\n" +
+                      "Measurements  0\n" +
                       noFindings));
 }
 

@@ -234,8 +234,9 @@ std::string modeView(const ModeFigures& mode, const std::string& yUnit, const Pa
     addLine(text, "Δu'v'", mode.deltaUV.text(4));
     addLine(text, "Contrast", mode.contrast.value ? mode.contrast.text(0) + ":1" : mode.contrast.text(0));
     addLine(text, "Measurements", std::to_string(mode.measurements));
-    return text + '\n' + (mode.deltaUV.value ? noteOnDifference() : "") +
-           (mode.measuredY.value ? noteOnUnit(yUnit) : "");
+    const std::string notes =
+        (mode.deltaUV.value ? noteOnDifference() : "") + (mode.measuredY.value ? noteOnUnit(yUnit) : "");
+    return text + (notes.empty() ? "" : '\n' + notes);
 }
 
 }  // namespace tool
