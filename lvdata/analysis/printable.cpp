@@ -1,4 +1,5 @@
 #include <lvdata/analysis/printable.h>
+#include <lvdata/analysis/utf8.h>
 
 #include <array>
 #include <cstddef>
@@ -13,40 +14,31 @@ struct Character {
 
 constexpr Character notUtf8{0, 1};  // taken for a NUL, which is not printable either
 
-constexpr unsigned char byteAt(std::string_view text, std::size_t index) {
-    return static_cast<unsigned char>(text[index]);
-}
-
-constexpr std::size_t sequenceLength(unsigned char lead) {
-    return lead < 0x80 ? 1 : lead < 0xC0 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF8 ? 4 : 0;
-}
-
-constexpr bool isScalarValue(char32_t code, std::size_t length) {
-    constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
-    return code >= smallest.at(length) && code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF);
-}
-
 Character firstCharacter(std::string_view text) {
-    const unsigned char lead = byteAt(text, 0);
-    const std::size_t length = sequenceLength(lead);
-    if (length == 0 || length > text.size()) {
+    const std::size_t length = characterLength(text);
+    if (length == 0) {
         return notUtf8;
     }
-    char32_t code = length == 1 ? lead : lead & (0x7FU >> length);
+    const auto bitsOf = [&](std::size_t index, unsigned int mask) {
+        return static_cast<unsigned char>(text[index]) & mask;
+    };
+    char32_t code = bitsOf(0, length == 1 ? 0x7FU : 0x7FU >> length);
     for (std::size_t index = 1; index < length; ++index) {
-        const unsigned char next = byteAt(text, index);
-        if ((next & 0xC0U) != 0x80U) {
-            return notUtf8;
-        }
-        code = (code << 6U) | (next & 0x3FU);
+        code = (code << 6U) | bitsOf(index, 0x3FU);
     }
-    return isScalarValue(code, length) ? Character{code, length} : notUtf8;
+    return {code, length};
+}
+
+/// Characters that reorder the text around them.
+constexpr bool isBidirectional(char32_t code) {
+    return code == 0x61C || code == 0x200E || code == 0x200F || (code >= 0x202A && code <= 0x202E) ||
+           (code >= 0x2066 && code <= 0x2069);
 }
 
 constexpr bool isPrintable(char32_t code) {
     const bool control = code < 0x20 || (code >= 0x7F && code < 0xA0);
     const bool separator = code == 0x2028 || code == 0x2029;
-    return !control && !separator;
+    return !control && !separator && !isBidirectional(code);
 }
 
 std::string escaped(std::string_view bytes) {

@@ -31,6 +31,11 @@ TEST_F(Printable, EscapesTheControlCharactersAndLineSeparatorsOfUnicode) {
     EXPECT_EQ(shown("\u2027\u202F"), "\u2027\u202F");
 }
 
+TEST_F(Printable, EscapesCharactersThatReorderText) {
+    EXPECT_EQ(shown("a\u202Eb\u2066c\u2069"), "a\\xE2\\x80\\xAEb\\xE2\\x81\\xA6c\\xE2\\x81\\xA9");
+    EXPECT_EQ(shown("\u200F\u061C"), "\\xE2\\x80\\x8F\\xD8\\x9C");
+}
+
 TEST_F(Printable, EscapesBytesThatAreNoUtf8) {
     EXPECT_EQ(shown("a\x85z"), "a\\x85z");                         // no lead byte
     EXPECT_EQ(shown("\xC3z"), "\\xC3z");                           // no second byte
