@@ -7,6 +7,11 @@
 namespace lv::analysis {
 namespace {
 
+bool looksLikeJSON(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && (text[first] == '{' || text[first] == '[');
+}
+
 /// Whether the element holds one that the switch governs, at any depth that descriptions have.
 bool holdsGoverned(const Node& element, const Shape& shape) {
     const Shape* previous = nullptr;
@@ -29,12 +34,24 @@ Document::Document(const std::string& text, const Catalogue& catalogue) {
         refuse(Refusal::Kind::nulCharacter, lineAt(text, nul), "NUL character");
         return;
     }
+    verdict_ = judgeXML(text);
     parsed_ = std::make_unique<ParsedDocument>(text);
     if (const ParseResult& result = parsed_->parseResult(); !result) {
-        refuse(Refusal::Kind::notXML, result.line, result.reason);
+        refuseAsXML(text, result);
         return;
     }
     readRecord(text, catalogue);
+}
+
+/// The strict parser has the better words. It finds no fault in what is only too deep.
+void Document::refuseAsXML(const std::string& text, const ParseResult& result) {
+    if (looksLikeJSON(text)) {
+        refuse(Refusal::Kind::notXML, 0, "this is JSON, not XML (lvdata convert reads it)");
+    } else if (result.outcome == ParseResult::Outcome::notXML && verdict_.fault) {
+        refuse(Refusal::Kind::notXML, verdict_.fault->line, verdict_.fault->reason);
+    } else {
+        refuse(Refusal::Kind::notXML, result.line, result.reason);
+    }
 }
 
 void Document::readRecord(const std::string& text, const Catalogue& catalogue) {

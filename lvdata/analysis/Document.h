@@ -2,6 +2,7 @@
 
 #include <lvdata/analysis/Catalogue.h>
 #include <lvdata/analysis/Tree.h>
+#include <lvdata/analysis/well_formed.h>
 #include <lvdata/core/DataObject.h>
 #include <lvdata/core/ParsedDocument.h>
 
@@ -39,6 +40,10 @@ public:
     /// Why there is no record; null when there is one, and only then may the other functions be called.
     [[nodiscard]] const Refusal* refusal() const { return refusal_ ? &*refusal_ : nullptr; }
 
+    /// What a strict parser says of the text. A document that is not well-formed can have a record all the same, which
+    /// may then hold less than the text.
+    [[nodiscard]] const XMLVerdict& verdict() const { return verdict_; }
+
     /// The class of the record and what its documents can contain.
     [[nodiscard]] const Catalogue::Entry& entry() const { return *entry_; }
 
@@ -54,8 +59,10 @@ public:
 
 private:
     void refuse(Refusal::Kind kind, int line, std::string reason);
+    void refuseAsXML(const std::string& text, const ParseResult& result);
     void readRecord(const std::string& text, const Catalogue& catalogue);
 
+    XMLVerdict verdict_{};
     std::optional<Refusal> refusal_{};
     std::unique_ptr<ParsedDocument> parsed_{};
     const Catalogue::Entry* entry_ = nullptr;

@@ -141,12 +141,13 @@ TEST_F(Format, ReportsAFolder) {
 
 TEST_F(Format, ReportsTextThatIsNoXmlWithItsLine) {
     EXPECT_EQ(format("<AssetInfo>\n\n<Asset1></Asset2>\n</AssetInfo>"),
-              failed("in.xml: error: line 3: mismatched element"));
-    EXPECT_EQ(format("\r\n\r\n<AssetInfo><Asset1></AssetInfo>"), failed("in.xml: error: line 3: mismatched element"));
-    EXPECT_EQ(format("<AssetInfo><Asset1>x"), failed("in.xml: error: line 1: parsing text"));
-    EXPECT_EQ(format("Room 4"), failed("in.xml: error: line 1: parsing text"));
-    EXPECT_EQ(format("<AssetInfo/>\n\nRoom 4"), failed("in.xml: error: line 3: parsing text"));
-    EXPECT_EQ(format("<AssetInfo>\n<Asset1 a='1' a='2'/>"), failed("in.xml: error: line 2: parsing attribute"));
+              failed("in.xml: error: line 3: the end tag does not match the start tag"));
+    EXPECT_EQ(format("\r\n\r\n<AssetInfo><Asset1></AssetInfo>"),
+              failed("in.xml: error: line 3: the end tag does not match the start tag"));
+    EXPECT_EQ(format("<AssetInfo><Asset1>x"), failed("in.xml: error: line 1: the document ends inside an element"));
+    EXPECT_EQ(format("Room 4"), failed("in.xml: error: line 1: a character that XML does not allow here"));
+    EXPECT_EQ(format("<AssetInfo/>\n\nRoom 4"), failed("in.xml: error: line 3: something follows the root element"));
+    EXPECT_EQ(format("<AssetInfo>\n<Asset1 a='1' a='2'/>"), failed("in.xml: error: line 2: duplicate attribute"));
 }
 
 TEST_F(Format, ReportsTextWithoutAnything) {
@@ -171,7 +172,7 @@ TEST_F(Format, ReportsANulCharacterWhereverItStands) {
 
 TEST_F(Format, NamesStandardInputInMessages) {
     EXPECT_EQ(run({"format", "-"}, {""}), failed("<stdin>: error: empty document"));
-    EXPECT_EQ(run({"format", "-"}, {"\n<a>"}), failed("<stdin>: error: line 2: mismatched element"));
+    EXPECT_EQ(run({"format", "-"}, {"\n<a>"}), failed("<stdin>: error: line 2: the document ends inside an element"));
     EXPECT_EQ(run({"format", "-"}, {"<!-- -->"}), failed("<stdin>: error: no root element"));
     EXPECT_THAT(run({"format", "-"}, {"<a/>"}).error,
                 testing::StartsWith("<stdin>: error: unknown root element \"a\""));

@@ -42,10 +42,13 @@ void chooseHLGSystemGamma(lv::DataObject& record, const FormatOptions& options) 
 }
 
 /// What writing the record back drops or changes.
-Findings lossesOf(const Document& document) {
-    CheckOptions options = lv::analysis::lossOptions();
-    options.ignored.insert({"105", "310", "312"});  // nothing is lost
-    return checkDocument(document, options);
+Findings lossesOf(const Document& document, const FormatOptions& options) {
+    CheckOptions check = lv::analysis::lossOptions();
+    check.ignored.insert({"105", "310", "312"});  // nothing is lost
+    if (options.noHLGSystemGamma) {
+        check.ignored.insert("313");  // as asked for
+    }
+    return checkDocument(document, check);
 }
 
 void printLosses(const std::string& name, const Findings& losses) {
@@ -74,7 +77,7 @@ ExitStatus format(const FormatOptions& options) {
     const Catalogue catalogue;
     Document document = readDocument(options.input, options.limits, catalogue);
     chooseHLGSystemGamma(document.record(), options);
-    const Findings losses = lossesOf(document);
+    const Findings losses = lossesOf(document, options);
     const bool isLossy = losses.countFrom(Severity::warning) > 0;
     printLosses(inputName(options.input), losses);
     if (isLossy && !options.lossy && isInPlace(options)) {

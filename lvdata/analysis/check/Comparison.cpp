@@ -60,6 +60,11 @@ void reportVersion(Reporter& reporter, const Shape& record, const Node& attribut
     }
 }
 
+/// Whether it is not read although it is there.
+bool isIgnored(const Position& position) {
+    return firstDenied(position.shape->readWhen(), position, {}) != nullptr;
+}
+
 bool isVersion(const Shape& attribute) {
     const bool isOfRecord = !attribute.parent()->facts().record.empty() || attribute.parent()->parent() == nullptr;
     return isOfRecord && (attribute.facts().name == "Version" || attribute.facts().name == "MinorVersion");
@@ -169,6 +174,8 @@ void Comparison::compareOwnTexts(const Pair& pair, const Shape* textShape, const
                                   inQuotes(printed->text) + " is written");
         }
     } else if (printed == nullptr && !isOfElement) {
+        reportDropped(reporter_, position, circumstances_);
+    } else if (isIgnored(position) && (printed == nullptr || printed->text != own->text)) {
         reportDropped(reporter_, position, circumstances_);
     } else {
         compareValues(reporter_, position, *own, printed == nullptr ? std::string_view() : printed->text);

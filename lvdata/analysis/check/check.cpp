@@ -5,6 +5,7 @@
 #include <lvdata/analysis/wording.h>
 
 #include <algorithm>
+#include <cctype>
 #include <string>
 
 namespace lv::analysis {
@@ -49,7 +50,26 @@ void checkRoundtrip(std::string_view text, const DataObject& record, Collector& 
     }
 }
 
+bool isUTF8Name(std::string encoding) {
+    std::transform(encoding.begin(), encoding.end(), encoding.begin(),
+                   [](unsigned char character) { return static_cast<char>(std::toupper(character)); });
+    return encoding.empty() || encoding == "UTF-8" || encoding == "UTF8" || encoding == "US-ASCII";
+}
+
+/// What the library's parser does not mind, but a strict one does.
+void checkXML(const XMLVerdict& verdict, Collector& collector) {
+    if (!isUTF8Name(verdict.declaredEncoding)) {
+        collector.add("003", 1, "",
+                      "declares the encoding " + inQuotes(verdict.declaredEncoding) + ", but is read as UTF-8");
+    }
+    if (verdict.fault) {
+        collector.add("004", verdict.fault->line, "",
+                      "not well-formed XML: " + verdict.fault->reason + "; the record may hold less than the document");
+    }
+}
+
 void compare(const Document& document, Collector& collector) {
+    checkXML(document.verdict(), collector);
     const Tree printed = document.printed();
     Comparison(document, printed, collector).run();
 }

@@ -1,7 +1,9 @@
+#include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/check/loss_findings.h>
 #include <lvdata/analysis/check/value_findings.h>
 #include <lvdata/analysis/content.h>
 #include <lvdata/analysis/natural_values.h>
+#include <lvdata/analysis/spelling.h>
 #include <lvdata/analysis/wording.h>
 
 #include <string>
@@ -27,30 +29,53 @@ std::string entries(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " entry" : " entries");
 }
 
-/// The first subject with another number of entries: "; ../Red has 2 entries".
+/// The first subject with another number of entries: ", but ../Red has 2 entries".
 std::string actualEntries(const Question& question, const Position& asked) {
     const Condition& condition = *question.condition;
     for (std::size_t index = 0; index < condition.subjects.size(); ++index) {
         const std::size_t count = entriesIn(valueAt(subjectAt(question.subjects.at(index), asked)));
         if (count != condition.entries) {
-            return "; " + condition.subjects[index] + " has " + entries(count);
+            return ", but " + condition.subjects[index] + " has " + entries(count);
         }
     }
     return "";
 }
 
-/// What the first subject of a condition is, to be added to what it should be: "; it is "Standart"".
-std::string actual(const Question& question, const Position& asked) {
-    const Condition& condition = *question.condition;
-    if (condition.kind == Kind::haveEntries) {
-        return actualEntries(question, asked);
-    }
-    const bool isCompared = condition.kind == Kind::oneOf || condition.kind == Kind::noneOf;
-    return isCompared ? "; it is " + inQuotes(valueAt(subjectAt(question.subjects.front(), asked))) : "";
+/// What the first subject is, to be added to what it should be: `, but that is "Lutt"; did you mean "Lut"?`.
+std::string actualText(const Condition& condition, const Question& question, const Position& asked) {
+    const std::string text = valueAt(subjectAt(question.subjects.front(), asked));
+    const std::string* const meant = condition.kind == Kind::oneOf ? closest(text, condition.texts) : nullptr;
+    return ", but that is " + inQuotes(text) + (meant == nullptr ? "" : "; did you mean " + inQuotes(*meant) + "?");
 }
 
-std::string needs(const Question& question, const Position& asked) {
-    return "that needs: " + question.condition->toString() + actual(question, asked);
+/// A condition in words, and what the document has instead.
+std::string inWords(const Condition& condition, const Question& question, const Position& asked) {
+    const bool isCompared = condition.kind == Kind::oneOf || condition.kind == Kind::noneOf;
+    const bool isAboutLength = condition.kind == Kind::haveEntries;
+    return condition.toString() + (isCompared      ? actualText(condition, question, asked)
+                                   : isAboutLength ? actualEntries(question, asked)
+                                                   : "");
+}
+
+std::string notWritten(const Question& question, const Position& asked) {
+    return subject(*asked.node) + " is dropped: it is only written when " +
+           inWords(*question.condition, question, asked);
+}
+
+/// The condition for reading a text. Where an element can have one of several texts, it names what any of them needs.
+Condition conditionOfReading(const Question& denied, const Shape& shape) {
+    Condition condition = *denied.condition;
+    if (shape.facts().place != Description::Place::text || condition.kind != Kind::oneOf) {
+        return condition;
+    }
+    condition.texts.clear();
+    for (const auto& sibling : shape.parent()->children()) {
+        if (sibling->facts().place == Description::Place::text && !sibling->facts().readWhen.empty()) {
+            const auto& texts = sibling->facts().readWhen.front().texts;
+            condition.texts.insert(condition.texts.end(), texts.begin(), texts.end());
+        }
+    }
+    return condition;
 }
 
 bool reportWrongLength(Reporter& reporter, const Position& position, const Node& text) {
@@ -82,21 +107,21 @@ bool reportValue(Reporter& reporter, const Position& position) {
 
 bool reportCondition(Reporter& reporter, const Position& position, const Circumstances& circumstances) {
     const Shape& shape = *position.shape;
+    if (isGovernedByHLGSwitch(shape) && !circumstances.hlgSwitch) {
+        reporter.add("313", *position.node,
+                     subject(*position.node) + " is dropped, since it is written on request only", Severity::warning);
+        return true;
+    }
     if (const Question* const denied = firstDenied(shape.readWhen(), position, circumstances)) {
         reporter.add("306", *position.node,
-                     subject(*position.node) + " is not read and is dropped; " + needs(*denied, position));
+                     subject(*position.node) + " is dropped: it is only read when " +
+                         inWords(conditionOfReading(*denied, shape), *denied, position));
         return true;
     }
     const Question* denied = firstDenied(shape.writtenWhen(), position, circumstances);
-    if (denied != nullptr && denied->condition->kind == Kind::hlgSwitch) {
-        reporter.add("313", *position.node,
-                     subject(*position.node) + " is dropped, since writeHLGSystemGamma is not set", Severity::warning);
-        return true;
-    }
     denied = denied == nullptr ? firstDenied(shape.flag(), position, circumstances) : denied;
     if (denied != nullptr) {
-        reporter.add("305", *position.node,
-                     subject(*position.node) + " is not written back; " + needs(*denied, position));
+        reporter.add("305", *position.node, notWritten(*denied, position));
     }
     return denied != nullptr;
 }
@@ -122,12 +147,11 @@ void reportDropped(Reporter& reporter, const Position& position, const Circumsta
     }
     for (const Question& open : position.shape->writtenWhen()) {
         if (answer(open, position, circumstances) == Answer::unknown) {
-            reporter.add("305", *position.node,
-                         subject(*position.node) + " is not written back; " + needs(open, position));
+            reporter.add("305", *position.node, notWritten(open, position));
             return;
         }
     }
-    reporter.add("305", *position.node, subject(*position.node) + " is not written back");
+    reporter.add("305", *position.node, subject(*position.node) + " is dropped");
 }
 
 void reportDroppedRow(Reporter& reporter, const Position& row, const Circumstances& circumstances) {
@@ -135,8 +159,10 @@ void reportDroppedRow(Reporter& reporter, const Position& row, const Circumstanc
         reporter.addHere("304", row.node->line, "the row has no content and is dropped");
     } else if (!reportWrongLengths(reporter, row)) {
         const Question* const denied = firstDenied(row.shape->writtenWhen(), row, circumstances);
-        reporter.addHere("305", row.node->line,
-                         "the row is not written back" + (denied == nullptr ? "" : "; " + needs(*denied, row)));
+        reporter.addHere(
+            "305", row.node->line,
+            "the row is dropped" +
+                (denied == nullptr ? "" : ": it is only written when " + inWords(*denied->condition, *denied, row)));
     }
 }
 

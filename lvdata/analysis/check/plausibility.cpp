@@ -48,8 +48,9 @@ struct Point {
 std::optional<Point> chromaticityOf(const Position& element) {
     const auto x = find(element, {"x"});
     const auto y = find(element, {"y"});
-    if (!x || !y || !isQuantity(*x->shape, quantities::chromaticity)) {
-        return std::nullopt;
+    const bool isChromaticity = x && y && isQuantity(*x->shape, quantities::chromaticity);
+    if (!isChromaticity || firstDenied(x->shape->writtenWhen(), *x, {}) != nullptr) {
+        return std::nullopt;  // or a value that is not kept
     }
     const Point point{numberAt(*x), numberAt(*y)};
     return point.x == 0 && point.y == 0 ? std::nullopt : std::optional(point);
@@ -136,6 +137,39 @@ void judgeMaps(Reporter& reporter, const Position& element) {
     }
 }
 
+/// The number of entries of the table or curve that an element is or holds.
+std::size_t tableLength(const Position& element) {
+    const Node* const text = holdsTable(element) ? textOf(*element.node) : nullptr;
+    if (text != nullptr) {
+        return entriesIn(text->text);
+    }
+    for (const auto& child : element.shape->children()) {
+        const Position position = childAt(element, *child);
+        if (position.node != nullptr && isRising(*child) && textOf(*position.node) != nullptr) {
+            return entriesIn(textOf(*position.node)->text);
+        }
+    }
+    return 0;
+}
+
+/// The tables of red, green and blue, whose names differ in the colour alone.
+void judgeChannels(Reporter& reporter, const Position& element, const Shape& red) {
+    const std::string rest = red.facts().name.substr(3);
+    const auto lengthOf = [&](const std::string& name) {
+        const auto position = find(element, {name});
+        return position ? tableLength(*position) : 0;
+    };
+    const std::size_t first = lengthOf(red.facts().name);
+    for (const std::string& name : {"Green" + rest, "Blue" + rest}) {
+        const std::size_t other = lengthOf(name);
+        if (first != 0 && other != 0 && first != other) {
+            reporter.addHere("407", find(element, {name})->node->line,
+                             name + " has " + std::to_string(other) + " entries, and " + red.facts().name + ' ' +
+                                 std::to_string(first));
+        }
+    }
+}
+
 bool endsIn(std::string_view text, std::string_view end) {
     return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
@@ -200,6 +234,8 @@ void judgePlausibility(Reporter& reporter, const Position& element) {
     for (const auto& child : shape.children()) {
         if (child->facts().repetition == Description::Repetition::rows) {
             judgeIndexes(reporter, element, *child);
+        } else if (child->facts().name.compare(0, 3, "Red") == 0) {
+            judgeChannels(reporter, element, *child);
         }
     }
     if (shape.facts().name == "CandelaMap") {

@@ -38,6 +38,13 @@ const std::vector<Rule>& rules() {
          "it as UTF-8.",
          "<AssetInfo>\n    <Asset1>Z\xFCrich</Asset1>\n</AssetInfo>\n", 2,
          "<AssetInfo>\n    <Asset1>Z\xC3\xBCrich</Asset1>\n</AssetInfo>\n"},
+        {"004", error, "not well-formed, but read",
+         "The document breaks the rules of XML, so other programs refuse it, and the record may hold less than the "
+         "text "
+         "says: a reference to character 0 ends a text, and an end tag too many ends the document. Only the first such "
+         "fault is reported.",
+         "<AssetInfo>\n    <Asset1>Room 4&#0; and 5</Asset1>\n</AssetInfo>\n", 2,
+         "<AssetInfo>\n    <Asset1>Room 4 and 5</Asset1>\n</AssetInfo>\n"},
         {"101", error, "not a number",
          "The text does not begin with a decimal number, so it reads as 0. Hexadecimal is not understood.",
          "<BasicData>\n    <UsageHours>many</UsageHours>\n</BasicData>\n", 2,
@@ -219,6 +226,13 @@ const std::vector<Rule>& rules() {
          "        </Red>\n        <Green>\n            <x>3000</x>\n            <y>6000</y>\n        </Green>\n"
          "        <Blue>\n            <x>1500</x>\n            <y>600</y>\n        </Blue>\n    </Gamut>\n"
          "</TargetSetting>\n"},
+        {"407", warning, "channels of different lengths",
+         "The tables of red, green and blue have different numbers of entries. Perhaps one lost an entry.",
+         "<ProfileData>\n    <RedTargetCurve Type=\"Lut\">0|500000|1000000</RedTargetCurve>\n"
+         "    <GreenTargetCurve Type=\"Lut\">0|1000000</GreenTargetCurve>\n</ProfileData>\n",
+         3,
+         "<ProfileData>\n    <RedTargetCurve Type=\"Lut\">0|500000|1000000</RedTargetCurve>\n"
+         "    <GreenTargetCurve Type=\"Lut\">0|500000|1000000</GreenTargetCurve>\n</ProfileData>\n"},
     };
     return all;
 }

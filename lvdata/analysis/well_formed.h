@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace lv::analysis {
+
+/// What a strict parser of XML 1.0 says of a text.
+struct XMLVerdict {
+    /// Where the text breaks the rules of XML.
+    struct Fault {
+        int line = 0;          ///< Counted from 1.
+        std::string reason{};  ///< "the end tag does not match the start tag".
+    };
+
+    std::optional<Fault> fault{};    ///< The first fault; nothing when the text is well-formed.
+    std::string declaredEncoding{};  ///< The encoding that the XML declaration names; empty when it names none.
+};
+
+/// Judges the text as UTF-8, whatever encoding it declares. The library's own parser takes more than XML allows, and
+/// may then read less than the text holds. Entities that the document itself declares are not expanded.
+[[nodiscard]] XMLVerdict judgeXML(const std::string& text);
+
+}  // namespace lv::analysis
