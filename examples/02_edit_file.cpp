@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
     }
     lv::MonitorParameter parameter;
     if (const auto loaded = lv::analysis::load(arguments[1], parameter); !loaded) {
-        return fail(arguments[1] + ", line " + std::to_string(loaded.line) + ": " + loaded.reason);
+        return fail(arguments[1] + ": " + loaded.message());
     }
 
     const double before = parameter.redGain_x();

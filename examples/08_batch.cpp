@@ -29,10 +29,11 @@ std::vector<fs::path> documentsIn(const fs::path& folder) {
 std::string summaryOf(const fs::path& path) {
     const lv::analysis::LoadedRecord loaded = lv::analysis::load(path);
     if (!loaded) {
-        return "line " + std::to_string(loaded.result.line) + ": " + loaded.result.reason;
+        return loaded.result.message();
     }
     const lv::DataObject& record = *loaded.record;
-    return "version " + std::to_string(record.version.value) + '.' + std::to_string(record.minorVersion.value);
+    return std::string(loaded.recordClass->name) + ' ' + std::to_string(record.version.value) + '.' +
+           std::to_string(record.minorVersion.value);
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ protected:
 };
 
 TEST_F(ManualPage, IsWellFormed) {
-    EXPECT_EQ(runBash(std::string("mandoc -Tlint -Wwarning ") + page), done());
+    EXPECT_EQ(runBash(std::string("mandoc -Tlint -Wstyle ") + page), done());
 }
 
 TEST_F(ManualPage, HasTheVersionAndTheUsualSections) {

@@ -77,7 +77,7 @@ TEST(SharedOptions, SeparateByNulOnlyWhatIsInAList) {
 TEST(SharedOptions, RefuseOtherValues) {
     EXPECT_EQ(SharedOptions().parse({"a.xml", "-j", "0"}), "--jobs: '0' is not a number between 1 and 1024");
     EXPECT_EQ(SharedOptions().parse({"a.xml", "-j", "1025"}), "--jobs: '1025' is not a number between 1 and 1024");
-    EXPECT_EQ(SharedOptions().parse({"a.xml", "--color", "Auto"}), "--color: 'Auto' is not one of always|auto|never");
+    EXPECT_EQ(SharedOptions().parse({"a.xml", "--color", "Auto"}), "--color: 'Auto' is not one of auto|always|never");
 }
 
 }  // namespace

@@ -3,8 +3,6 @@
 #include "choice_option.h"
 #include "environment.h"
 
-#include <map>
-
 #include <unistd.h>
 
 namespace tool {
@@ -38,7 +36,7 @@ constexpr std::string_view renditionOf(Style style) {
 }  // namespace
 
 void addColorOption(CLI::App& command, ColorChoice& choice) {
-    const std::map<std::string, ColorChoice> choices{
+    const Choices<ColorChoice> choices{
         {"auto", ColorChoice::automatic}, {"always", ColorChoice::always}, {"never", ColorChoice::never}};
     addChoiceOption(command, "--color", choice, choices,
                     "When to colour the output (default auto: on a terminal, unless NO_COLOR is set)");

@@ -62,7 +62,7 @@ std::string complaintIfUnknown(const std::string& id) {
 
 void addOptions(CLI::App& command, Options& options) {
     command.add_flag("--roundtrip", options.check.roundtrip,
-                     "Also report text that is not in canonical form, byte for byte");
+                     "Also report documents that lvdata format would change in any way");
     addChoiceOption<std::optional<Severity>>(
         command, "--fail-on", options.failOn,
         {{"error", Severity::error}, {"warning", Severity::warning}, {"never", std::nullopt}},
@@ -70,7 +70,7 @@ void addOptions(CLI::App& command, Options& options) {
     addChoiceOption<bool>(command, "--format", options.form.isJSON, {{"text", false}, {"json", true}},
                           "Form of the output (default text)");
     command.add_flag("--info", options.form.withInfos, "Also list remarks about what is kept or added");
-    command.add_option("--ignore", options.ignored, "Ids of rules that are not looked for, separated by commas")
+    command.add_option("--ignore", options.ignored, "Rules to skip, by id, separated by commas")
         ->type_name("ID")
         ->allow_extra_args(false)
         ->delimiter(',')

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lvdata/core/DataObject.h>
+#include <lvdata/records/RecordClass.h>
 #include <lvdata/xml/Limits.h>
 
 #include <cstddef>
@@ -18,7 +19,7 @@ namespace lv::analysis {
 //
 //     const lv::analysis::LoadedRecord loaded = lv::analysis::load("monitor.xml");
 //     if (!loaded) {
-//         std::cerr << "monitor.xml: " << loaded.result.reason << '\n';
+//         std::cerr << "monitor.xml: " << loaded.result.message() << '\n';
 //     }
 
 /// The content of a file, or why it could not be read. Converts to true when it was read.
@@ -66,6 +67,9 @@ struct LoadResult {
     /// What there is too much of; set with `beyondLimit` only.
     std::optional<Excess> excess;
 
+    /// What is wrong and where: "line 3: mismatched element"; without a line when none is to blame. Empty when done.
+    [[nodiscard]] std::string message() const;
+
     [[nodiscard]] explicit operator bool() const { return outcome == Outcome::done; }
 };
 
@@ -76,6 +80,9 @@ struct LoadedRecord {
 
     /// How loading ended.
     LoadResult result;
+
+    /// The class of the record; null when there is no record.
+    const RecordClass* recordClass = nullptr;
 
     [[nodiscard]] explicit operator bool() const { return record != nullptr; }
 };

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <string>
 
 namespace lv::analysis {
 namespace {
@@ -65,7 +66,7 @@ LoadedRecord loaded(const std::string& text) {
     if (found == nullptr) {
         return {nullptr, {Outcome::rootElementRefused, unknownRootElement(root), 0, {}, {}}};
     }
-    LoadedRecord loaded{found->make(), {}};
+    LoadedRecord loaded{found->make(), {}, found};
     loaded.result = readInto(*loaded.record, text, document);
     return loaded;
 }
@@ -81,6 +82,10 @@ LoadResult notReadable(const std::error_code& error) {
 }
 
 }  // namespace
+
+std::string LoadResult::message() const {
+    return line == 0 ? reason : "line " + std::to_string(line) + ": " + reason;
+}
 
 LoadedRecord load(const std::filesystem::path& path, const Limits& limits) {
     const FileContent content = readWithin(path, limits);

@@ -3,6 +3,7 @@
 #include <lvdata/records/AssetInfo.h>
 #include <lvdata/records/CorrelationInfo.h>
 #include <lvdata/records/ParameterSetting.h>
+#include <lvdata/records/RecordClass.h>
 #include <tests/analysis/files/Folder.h>
 
 #include <gtest/gtest.h>
@@ -30,6 +31,7 @@ LoadResult refusal(const std::string& text, const Limits& limits = {}) {
     const LoadedRecord loaded = loadText(text, limits);
     EXPECT_FALSE(loaded);
     EXPECT_EQ(loaded.record, nullptr);
+    EXPECT_EQ(loaded.recordClass, nullptr);
     AssetInfo record;
     record.asset1 = {"before", true};
     const LoadResult result = loadText(text, record, limits);
@@ -48,6 +50,7 @@ TEST(Load, MakesTheRecordThatTheRootElementNames) {
     const auto* const record = dynamic_cast<const AssetInfo*>(loaded.record.get());
     ASSERT_NE(record, nullptr);
     EXPECT_EQ(record->asset1.value, "one");
+    EXPECT_EQ(loaded.recordClass, lv::recordClass("AssetInfo"));
 }
 
 TEST(Load, ReadsIntoARecord) {
@@ -122,6 +125,12 @@ TEST(Load, ReportsAnotherRootElement) {
     EXPECT_EQ(other.reason, R"(unexpected root element "CorrelationInfo")");
     EXPECT_EQ(loadText("<" + std::string(200, 'x') + "/>", record).reason,
               "unexpected root element \"" + std::string(60, 'x') + "...\"");
+}
+
+TEST(Load, HasAMessageWithTheLineIfThereIsOne) {
+    EXPECT_EQ(refusal("\n<AssetInfo></Asset>").message(), "line 2: mismatched element");
+    EXPECT_EQ(refusal("").message(), "empty document");
+    EXPECT_EQ(loadText(document).result.message(), "");
 }
 
 TEST(Load, KeepsTheHLGSystemGammaOfADocumentThatHasIt) {

@@ -1,6 +1,7 @@
 #include "pages.h"
 #include "text.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace tool {
@@ -14,6 +15,23 @@ std::string plain(const std::string& text) {
     }
     const bool looksLikeMacro = !text.empty() && (text.front() == '.' || text.front() == '\'');
     return (looksLikeMacro ? "\\&" : "") + result;
+}
+
+/// The length of the first line: up to the last space within the width, else all of the text.
+std::size_t lineLength(const std::string& text) {
+    constexpr std::size_t width = 75;
+    return text.size() > width ? std::min(text.rfind(' ', width), text.size()) : text.size();
+}
+
+/// Words and a full stop, in lines of which none is a macro.
+std::string sentence(const std::string& words) {
+    std::string lines;
+    for (std::string rest = words + '.'; !rest.empty();) {
+        const std::size_t length = lineLength(rest);
+        lines += plain(rest.substr(0, length)) + '\n';
+        rest.erase(0, length + 1);
+    }
+    return lines;
 }
 
 /// "Fl o" and "Fl \-output" for "-o" and "--output": the macro puts one dash before them.
@@ -34,7 +52,7 @@ std::string optionTitle(const OptionModel& option) {
 std::string optionList(const std::vector<OptionModel>& options) {
     std::string text;
     for (const OptionModel& option : options) {
-        text += optionTitle(option) + plain(option.help) + ".\n";
+        text += optionTitle(option) + sentence(option.help);
     }
     return text;
 }
@@ -61,8 +79,8 @@ std::string synopsis(const CommandModel& command) {
 std::string sections(const CommandModel& command) {
     std::string text;
     for (const CommandModel& subcommand : command.subcommands) {
-        text +=
-            ".Ss " + command.name + ' ' + subcommand.name + '\n' + plain(subcommand.help) + ".\n.Bl -tag -width Ds\n";
+        text += ".Ss " + command.name + ' ' + subcommand.name + '\n' + sentence(subcommand.help);
+        text += ".Bl -tag -width Ds\n";
         text += optionList(subcommand.positionals) + optionList(subcommand.options) + ".El\n";
     }
     return text;
