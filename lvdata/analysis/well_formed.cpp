@@ -1,3 +1,4 @@
+#include <lvdata/analysis/utf8.h>
 #include <lvdata/analysis/well_formed.h>
 
 #include <algorithm>
@@ -33,6 +34,8 @@ std::string reasonOf(XML_Error error) {
         return "a character that XML does not allow here";
     case XML_ERROR_NO_ELEMENTS:
         return "the document ends inside an element";
+    case XML_ERROR_SYNTAX:
+        return "there is text where the root element belongs";
     case XML_ERROR_TAG_MISMATCH:
         return "the end tag does not match the start tag";
     case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
@@ -77,7 +80,8 @@ XMLVerdict judgeXML(const std::string& text) {
         if (XML_GetErrorCode(parser.get()) == XML_ERROR_NO_MEMORY) {
             throw std::bad_alloc();
         }
-        verdict.fault = faultOf(parser.get());
+        const bool isText = isUTF8(text);  // other bytes are a matter of their own: they are kept
+        verdict.fault = isText ? std::optional(faultOf(parser.get())) : std::nullopt;
     }
     return verdict;
 }

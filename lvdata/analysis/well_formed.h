@@ -13,7 +13,7 @@ struct XMLVerdict {
         std::string reason{};  ///< "the end tag does not match the start tag".
     };
 
-    std::optional<Fault> fault{};    ///< The first fault; nothing when the text is well-formed.
+    std::optional<Fault> fault{};    ///< The first fault; nothing when the text is well-formed, or is not UTF-8.
     std::string declaredEncoding{};  ///< The encoding that the XML declaration names; empty when it names none.
 };
 

@@ -109,7 +109,7 @@ TEST_F(Check, FindsWhatIsNoRecord) {
     write("text.xml", "Room 4");
     write("nul.xml", good + '\0');
     EXPECT_THAT(check({"text.xml"}).output,
-                StartsWith("text.xml: error: line 1: a character that XML does not allow here [001]\n"));
+                StartsWith("text.xml: error: line 1: there is text where the root element belongs [001]\n"));
     EXPECT_THAT(check({"nul.xml"}).output, StartsWith("nul.xml: error: line 5: NUL character [003]\n"));
     EXPECT_THAT(run({"check", "-"}, {"<Assetinfo/>"}).output,
                 StartsWith("<stdin>: error: line 1: unknown root element \"Assetinfo\", known are: AssetInfo, "));

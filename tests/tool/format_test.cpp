@@ -145,7 +145,7 @@ TEST_F(Format, ReportsTextThatIsNoXmlWithItsLine) {
     EXPECT_EQ(format("\r\n\r\n<AssetInfo><Asset1></AssetInfo>"),
               failed("in.xml: error: line 3: the end tag does not match the start tag"));
     EXPECT_EQ(format("<AssetInfo><Asset1>x"), failed("in.xml: error: line 1: the document ends inside an element"));
-    EXPECT_EQ(format("Room 4"), failed("in.xml: error: line 1: a character that XML does not allow here"));
+    EXPECT_EQ(format("Room 4"), failed("in.xml: error: line 1: there is text where the root element belongs"));
     EXPECT_EQ(format("<AssetInfo/>\n\nRoom 4"), failed("in.xml: error: line 3: something follows the root element"));
     EXPECT_EQ(format("<AssetInfo>\n<Asset1 a='1' a='2'/>"), failed("in.xml: error: line 2: duplicate attribute"));
 }

@@ -151,7 +151,7 @@ TEST_F(Show, RefusesWhatIsNotAnIndex) {
 TEST_F(Show, ReportsWhatCannotBeRead) {
     EXPECT_EQ(run({"show", "missing.xml"}), failed("missing.xml: error: No such file or directory"));
     write("in.xml", "to do");
-    EXPECT_EQ(run({"show", "in.xml"}), failed("in.xml: error: line 1: a character that XML does not allow here"));
+    EXPECT_EQ(run({"show", "in.xml"}), failed("in.xml: error: line 1: there is text where the root element belongs"));
     EXPECT_EQ(run({"show", "--max-size", "4", "in.xml"}),
               failed("in.xml: error: more than 4 bytes (limit: --max-size)"));
     EXPECT_EQ(run({"show", studio}, {"", "/dev/full"}), failed("<stdout>: error: No space left on device"));
