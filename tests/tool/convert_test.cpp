@@ -85,6 +85,18 @@ TEST_F(Convert, GoesOnAfterADocumentThatCannotBeRead) {
                              "none.xml: error: No such file or directory\n");
 }
 
+TEST_F(Convert, RefusesJSONBeyondTheLimits) {
+    write("a.json", "{\"asset_info\": {\n\"asset1\": \"one, two\"}}");
+    EXPECT_EQ(convert({"xml", "a.json", "--max-size", "39", "--max-elements", "2", "--max-nodes", "3"}),
+              run({"format", "a.xml"}));
+    EXPECT_EQ(convert({"xml", "a.json", "--max-size", "38"}),
+              failed("a.json: error: more than 38 bytes (limit: --max-size)"));
+    EXPECT_EQ(convert({"xml", "a.json", "--max-elements", "1"}),
+              failed("a.json: error: line 2: more than 1 element (limit: --max-elements)"));
+    EXPECT_EQ(convert({"xml", "a.json", "--max-nodes", "2"}),
+              failed("a.json: error: line 2: more than 2 nodes (limit: --max-nodes)"));
+}
+
 TEST_F(Convert, KeepsAFileWhenNothingWasConverted) {
     write("out.json", "kept");
     EXPECT_EQ(convert({"json", "none.xml", "-o", "out.json"}).exitCode, 2);

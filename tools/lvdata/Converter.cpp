@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "documents.h"
 #include "files.h"
+#include "limit_options.h"
 
 #include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/Projection.h>
@@ -29,7 +30,8 @@ bool isJSON(const std::string& text) {
 }
 
 Failure failureOf(const std::string& name, const lv::analysis::JSONError& error) {
-    return {name, (error.path.empty() ? "" : error.path + ": ") + error.reason, error.line};
+    const std::string note = error.exceeded ? limitNote(*error.exceeded) : "";
+    return {name, (error.path.empty() ? "" : error.path + ": ") + error.reason + note, error.line};
 }
 
 }  // namespace
@@ -40,7 +42,7 @@ std::string Converter::convert(const std::string& file) const {
     if (!isJSON(text)) {
         return convert(documentOf(text, name, limits_, catalogue_).record(), name);
     }
-    const FromJSON read = lv::analysis::fromJSON(text, catalogue_);
+    const FromJSON read = lv::analysis::fromJSON(text, catalogue_, limits_);
     if (!read) {
         throw failureOf(name, *read.error);
     }

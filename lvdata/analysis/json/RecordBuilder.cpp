@@ -39,15 +39,34 @@ void RecordBuilder::fail(std::string reason) {
 
 void RecordBuilder::fail(std::string reason, int line, std::string path) {
     if (!error_) {
-        error_ = JSONError{line, std::move(path), std::move(reason)};
+        error_ = JSONError{line, std::move(path), std::move(reason), std::nullopt};
     }
+}
+
+/// No place is to blame: the document as a whole is too large.
+void RecordBuilder::failBeyond(Excess::What what, std::size_t limit) {
+    if (!error_) {
+        error_ = JSONError{line_, {}, Excess{what, limit}.toString(), what};
+    }
+}
+
+/// Makes a node as `NodeArena::make` does, and counts it.
+Node& RecordBuilder::make(Node::Kind kind, std::string_view name, std::string text) {
+    elements_ += kind == Node::Kind::element ? 1 : 0;
+    ++nodes_;
+    if (elements_ > limits_.elements) {
+        failBeyond(Excess::What::elements, limits_.elements);
+    } else if (nodes_ > limits_.nodes) {
+        failBeyond(Excess::What::nodes, limits_.nodes);
+    }
+    return arena_.make(kind, name, std::move(text));
 }
 
 FromJSON RecordBuilder::result() const {
     FromJSON result;
     result.error = error_;
     if (!error_ && !isComplete_) {
-        result.error = JSONError{line_, {}, "there is no record"};
+        result.error = JSONError{line_, {}, "there is no record", std::nullopt};
     }
     if (!result.error) {
         const XMLDocument document;
@@ -138,7 +157,7 @@ void RecordBuilder::beginObject() {
 void RecordBuilder::beginElement() {
     const Open& parent = open_.back();
     const Shape& shape = parent.level == Level::rows ? *parent.shape : *parent.member;
-    Node& element = arena_.make(Node::Kind::element, shape.facts().name);
+    Node& element = make(Node::Kind::element, shape.facts().name);
     if (parent.level == Level::document) {
         root_ = &element;
     } else {
