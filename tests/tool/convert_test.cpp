@@ -1,5 +1,6 @@
 #include "ToolTest.h"
 
+#include <algorithm>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -95,6 +96,25 @@ TEST_F(Convert, RefusesJSONBeyondTheLimits) {
               failed("a.json: error: line 2: more than 1 element (limit: --max-elements)"));
     EXPECT_EQ(convert({"xml", "a.json", "--max-nodes", "2"}),
               failed("a.json: error: line 2: more than 2 nodes (limit: --max-nodes)"));
+}
+
+TEST_F(Convert, TellsWhatARecordDropsOfJSON) {
+    const std::string row = R"({"type":"Calibraton","target":{"type":"Lumivale"}})";
+    write("a.json", R"({"color_mode_settings":{"color_mode":[)" + row + "]}}");
+    const Outcome one = convert({"xml", "a.json"});
+    EXPECT_EQ(one.exitCode, 1);
+    EXPECT_THAT(one.output, HasSubstr("<ColorMode Type=\"Calibraton\""));
+    EXPECT_THAT(one.error, StartsWith("a.json: warning: \"Target\" is not written back"));
+    EXPECT_EQ(convert({"jsonl", "a.xml", "a.json"}).exitCode, 1);
+
+    std::string rows = row;
+    for (int count = 1; count < 12; ++count) {
+        rows += ',' + row;
+    }
+    write("a.json", R"({"color_mode_settings":{"color_mode":[)" + rows + "]}}");
+    const std::string error = convert({"xml", "a.json"}).error;
+    EXPECT_EQ(std::count(error.begin(), error.end(), '\n'), 11);
+    EXPECT_THAT(error, EndsWith("a.json: warning: 2 more changes\n"));
 }
 
 TEST_F(Convert, KeepsAFileWhenNothingWasConverted) {

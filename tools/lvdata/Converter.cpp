@@ -36,17 +36,17 @@ Failure failureOf(const std::string& name, const lv::analysis::JSONError& error)
 
 }  // namespace
 
-std::string Converter::convert(const std::string& file) const {
+Converted Converter::convert(const std::string& file) const {
     const std::string name = inputName(file);
     const std::string text = readInput(file, limits_.bytes);
     if (!isJSON(text)) {
-        return convert(documentOf(text, name, limits_, catalogue_).record(), name);
+        return {convert(documentOf(text, name, limits_, catalogue_).record(), name), name, {}};
     }
-    const FromJSON read = lv::analysis::fromJSON(text, catalogue_, limits_);
+    FromJSON read = lv::analysis::fromJSON(text, catalogue_, limits_);
     if (!read) {
         throw failureOf(name, *read.error);
     }
-    return convert(*read.record, name);
+    return {convert(*read.record, name), name, std::move(read.losses)};
 }
 
 std::string Converter::convert(const DataObject& record, const std::string& name) const {

@@ -4,9 +4,8 @@
 #include "Output.h"
 #include "documents.h"
 #include "files.h"
-#include "finding_text.h"
 #include "limit_options.h"
-#include "messages.h"
+#include "losses.h"
 
 #include <lvdata/analysis/check/check.h>
 
@@ -19,9 +18,7 @@ namespace tool {
 namespace {
 
 using lv::analysis::Catalogue;
-using lv::analysis::CheckOptions;
 using lv::analysis::Document;
-using lv::analysis::Finding;
 using lv::analysis::Findings;
 using lv::analysis::Severity;
 
@@ -41,27 +38,6 @@ void chooseHLGSystemGamma(lv::DataObject& record, const FormatOptions& options) 
     record.writeHLGSystemGamma = options.hlgSystemGamma || (record.writeHLGSystemGamma && !options.noHLGSystemGamma);
 }
 
-/// What writing the record back drops or changes.
-Findings lossesOf(const Document& document) {
-    CheckOptions options = lv::analysis::lossOptions();
-    options.ignored.insert({"105", "310", "312"});  // nothing is lost
-    return checkDocument(document, options);
-}
-
-void printLosses(const std::string& name, const Findings& losses) {
-    constexpr std::size_t mostPrinted = 10;
-    std::size_t printed = 0;
-    for (const Finding& loss : losses.listed) {
-        if (loss.severity != Severity::info && printed++ < mostPrinted) {
-            printMessage(lineOf(name, loss));
-        }
-    }
-    const std::size_t count = losses.countFrom(Severity::warning);
-    if (count > mostPrinted) {
-        printMessage(name + ": warning: " + counted(count - mostPrinted, "more change") + ", see lvdata check");
-    }
-}
-
 /// Whether the output is the file that the input was read from, under any of its names.
 bool isInPlace(const FormatOptions& options) {
     std::error_code ignored;
@@ -74,9 +50,9 @@ ExitStatus format(const FormatOptions& options) {
     const Catalogue catalogue;
     Document document = readDocument(options.input, options.limits, catalogue);
     chooseHLGSystemGamma(document.record(), options);
-    const Findings losses = lossesOf(document);
+    const Findings losses = checkDocument(document, lv::analysis::pureLossOptions());
     const bool isLossy = losses.countFrom(Severity::warning) > 0;
-    printLosses(inputName(options.input), losses);
+    printLosses(inputName(options.input), losses, ", see lvdata check");
     if (isLossy && !options.lossy && isInPlace(options)) {
         throw Failure(options.output, "not overwritten, since it would lose what is listed above (allow it: --lossy)");
     }

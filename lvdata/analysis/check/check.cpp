@@ -49,9 +49,9 @@ void checkRoundtrip(std::string_view text, const DataObject& record, Collector& 
     }
 }
 
-void compare(const Document& document, Collector& collector) {
-    const Tree printed = document.printed();
-    Comparison(document, printed, collector).run();
+void compare(const Tree& source, const Shape& root, const DataObject& record, Collector& collector) {
+    const Tree printed = Tree::ofPrinted(record.toXMLString(false, false));
+    Comparison(source, root, printed, {record.writeHLGSystemGamma}, collector).run();
 }
 
 }  // namespace
@@ -67,6 +67,12 @@ CheckOptions lossOptions() {
     return options;
 }
 
+CheckOptions pureLossOptions() {
+    CheckOptions options = lossOptions();
+    options.ignored.insert({"105", "310", "312"});
+    return options;
+}
+
 Findings check(const std::string& text, const Catalogue& catalogue, const CheckOptions& options) {
     Collector collector(options);
     checkBytes(text, collector);
@@ -75,7 +81,7 @@ Findings check(const std::string& text, const Catalogue& catalogue, const CheckO
         collector.add(ruleOf(refusal->kind), refusal->line, "", messageOf(*refusal));
         return collector.take();
     }
-    compare(document, collector);
+    compare(document.source(), *document.entry().shape, document.record(), collector);
     if (options.roundtrip) {
         checkRoundtrip(text, document.record(), collector);
     }
@@ -83,8 +89,13 @@ Findings check(const std::string& text, const Catalogue& catalogue, const CheckO
 }
 
 Findings checkDocument(const Document& document, const CheckOptions& options) {
+    return checkTree(document.source(), document.entry(), document.record(), options);
+}
+
+Findings checkTree(const Tree& source, const Catalogue::Entry& entry, const DataObject& record,
+                   const CheckOptions& options) {
     Collector collector(options);
-    compare(document, collector);
+    compare(source, *entry.shape, record, collector);
     return collector.take();
 }
 

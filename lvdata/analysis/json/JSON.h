@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lvdata/analysis/Catalogue.h>
+#include <lvdata/analysis/check/Finding.h>
 #include <lvdata/analysis/json/JSONWriter.h>
 #include <lvdata/core/DataObject.h>
 #include <lvdata/xml/Limits.h>
@@ -38,6 +39,10 @@ struct FromJSON {
     const Catalogue::Entry* entry = nullptr;  ///< Its class; null when there is none.
     std::optional<JSONError> error{};         ///< Why there is none.
 
+    /// What the text says and the record does not print, such as values that do not belong to the "type" beside them:
+    /// warnings and errors, whose paths are those of the document in XML, and whose lines are 0.
+    Findings losses{};
+
     /// Whether there is a record.
     [[nodiscard]] explicit operator bool() const { return record != nullptr; }
 };
@@ -47,8 +52,8 @@ struct FromJSON {
 [[nodiscard]] JSONResult toJSON(const DataObject& record, const Catalogue& catalogue, JSONForm form = {});
 
 /// A fresh record with what the JSON text says. `writeHLGSystemGamma` is set when the text has a key that the switch
-/// governs. Fails at the first thing that is wrong: nothing is ignored or changed in silence, save keys that the record
-/// ignores because of the values of others, as it does in XML. The catalogue must outlive the result.
+/// governs. Fails at the first thing that is wrong. Nothing is ignored or changed in silence: what the record ignores
+/// because of the values of others, as it does in XML, is among the losses. The catalogue must outlive the result.
 ///
 /// Stops also at the first thing beyond the limits of bytes, elements and nodes; the other limits do not apply.
 /// Elements and nodes are those of the document in XML that the text stands for: all numbers of an array are one text.

@@ -6,8 +6,6 @@
 #include <lvdata/analysis/spelling.h>
 #include <lvdata/analysis/utf8.h>
 
-#include <lvdata/xml/XMLDocument.h>
-
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -60,24 +58,6 @@ Node& RecordBuilder::make(Node::Kind kind, std::string_view name, std::string te
         failBeyond(Excess::What::nodes, limits_.nodes);
     }
     return arena_.make(kind, name, std::move(text));
-}
-
-FromJSON RecordBuilder::result() const {
-    FromJSON result;
-    result.error = error_;
-    if (!error_ && !isComplete_) {
-        result.error = JSONError{line_, {}, "there is no record", std::nullopt};
-    }
-    if (!result.error) {
-        const XMLDocument document;
-        const XMLElement element = document.appendChild(entry_->recordClass->name);
-        appendContent(element, *root_);
-        result.entry = entry_;
-        result.record = entry_->recordClass->make();
-        result.record->writeHLGSystemGamma = hlgSwitch_;
-        static_cast<void>(result.record->parseXMLElement(element));
-    }
-    return result;
 }
 
 bool RecordBuilder::begins(Expected value, const std::string& found) {
