@@ -83,6 +83,15 @@ TEST_F(OutputToPipe, TellsBeforeItWrites) {
     EXPECT_EQ(written(), "one two");
 }
 
+TEST_F(OutputToPipe, IsWrittenBeforeAMessage) {
+    tool::Output output(writer());
+    std::string before = "nothing";
+    output.callBeforeMessages([this, &before] { before = written(); });
+    output.write("one");
+    output.prepareForMessage();
+    EXPECT_EQ(before, "one");
+}
+
 TEST_F(OutputToPipe, TellsThatTheReaderIsGone) {
     tool::Output output(writer());
     closeReader();

@@ -1,5 +1,6 @@
 #include "ToolTest.h"
 
+#include <algorithm>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -85,6 +86,37 @@ TEST_F(Convert, GoesOnAfterADocumentThatCannotBeRead) {
                              "none.xml: error: No such file or directory\n");
 }
 
+TEST_F(Convert, RefusesJSONBeyondTheLimits) {
+    write("a.json", "{\"asset_info\": {\n\"asset1\": \"one, two\"}}");
+    EXPECT_EQ(convert({"xml", "a.json", "--max-size", "39", "--max-elements", "2", "--max-nodes", "3"}),
+              run({"format", "a.xml"}));
+    EXPECT_EQ(convert({"xml", "a.json", "--max-size", "38"}),
+              failed("a.json: error: more than 38 bytes (limit: --max-size)"));
+    EXPECT_EQ(convert({"xml", "a.json", "--max-elements", "1"}),
+              failed("a.json: error: line 2: more than 1 element (limit: --max-elements)"));
+    EXPECT_EQ(convert({"xml", "a.json", "--max-nodes", "2"}),
+              failed("a.json: error: line 2: more than 2 nodes (limit: --max-nodes)"));
+}
+
+TEST_F(Convert, TellsWhatARecordDropsOfJSON) {
+    const std::string row = R"({"type":"Calibraton","target":{"type":"Lumivale"}})";
+    write("a.json", R"({"color_mode_settings":{"color_mode":[)" + row + "]}}");
+    const Outcome one = convert({"xml", "a.json"});
+    EXPECT_EQ(one.exitCode, 1);
+    EXPECT_THAT(one.output, HasSubstr("<ColorMode Type=\"Calibraton\""));
+    EXPECT_THAT(one.error, StartsWith("a.json: warning: \"Target\" is dropped"));
+    EXPECT_EQ(convert({"jsonl", "a.xml", "a.json"}).exitCode, 1);
+
+    std::string rows = row;
+    for (int count = 1; count < 12; ++count) {
+        rows += ',' + row;
+    }
+    write("a.json", R"({"color_mode_settings":{"color_mode":[)" + rows + "]}}");
+    const std::string error = convert({"xml", "a.json"}).error;
+    EXPECT_EQ(std::count(error.begin(), error.end(), '\n'), 11);
+    EXPECT_THAT(error, EndsWith("a.json: warning: 2 more changes\n"));
+}
+
 TEST_F(Convert, KeepsAFileWhenNothingWasConverted) {
     write("out.json", "kept");
     EXPECT_EQ(convert({"json", "none.xml", "-o", "out.json"}).exitCode, 2);
@@ -105,6 +137,29 @@ TEST_F(Convert, RefusesOptionsThatDoNotGoTogether) {
               failed("lvdata: error: --table needs --to csv or --to jsonl"));
     EXPECT_EQ(convert({"xml", "a.xml", "b.xml"}), failed("lvdata: error: --to xml takes one document"));
     EXPECT_EQ(convert({"yaml", "a.xml"}).exitCode, 2);
+}
+
+TEST_F(Convert, TellsWhatARecordDropsOfXML) {
+    write("a.xml", "<AssetInfo><Owner/><Asset1>Room 4</Asset1></AssetInfo>");
+    const Outcome outcome = run({"convert", "--to", "jsonl", "a.xml"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.error, "a.xml: warning: line 1: unknown element \"Owner\" is dropped [301]\n");
+    EXPECT_THAT(outcome.output, HasSubstr("Room 4"));
+}
+
+TEST_F(Convert, OverwritesNoInputWithSomethingElse) {
+    const std::string lossy = "<AssetInfo><Owner/><Asset1>Room 4</Asset1></AssetInfo>";
+    write("a.xml", lossy);
+    const Outcome xml = run({"convert", "--to", "xml", "a.xml", "-o", "./a.xml"});
+    EXPECT_EQ(xml.exitCode, 2);
+    EXPECT_THAT(xml.error, HasSubstr("./a.xml: error: not overwritten, since it would lose what is listed above"));
+    EXPECT_EQ(read("a.xml"), lossy);
+    write("b.xml", "<AssetInfo/>");
+    const Outcome json = run({"convert", "--to", "json", "b.xml", "-o", "b.xml"});
+    EXPECT_EQ(json.exitCode, 2);
+    EXPECT_EQ(json.error, "b.xml: error: not overwritten, since it is one of the inputs\n");
+    EXPECT_EQ(read("b.xml"), "<AssetInfo/>");
+    EXPECT_EQ(run({"convert", "--to", "xml", "b.xml", "-o", "b.xml"}).exitCode, 0);
 }
 
 }  // namespace

@@ -3,9 +3,11 @@
 #include "Failure.h"
 #include "documents.h"
 #include "files.h"
+#include "limit_options.h"
 
 #include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/Projection.h>
+#include <lvdata/analysis/check/check.h>
 #include <lvdata/analysis/json/JSON.h>
 #include <lvdata/analysis/json/JSONWriter.h>
 #include <lvdata/analysis/tables/CSVWriter.h>
@@ -29,22 +31,24 @@ bool isJSON(const std::string& text) {
 }
 
 Failure failureOf(const std::string& name, const lv::analysis::JSONError& error) {
-    return {name, (error.path.empty() ? "" : error.path + ": ") + error.reason, error.line};
+    const std::string note = error.exceeded ? limitNote(*error.exceeded) : "";
+    return {name, (error.path.empty() ? "" : error.path + ": ") + error.reason + note, error.line};
 }
 
 }  // namespace
 
-std::string Converter::convert(const std::string& file) const {
+Converted Converter::convert(const std::string& file) const {
     const std::string name = inputName(file);
     const std::string text = readInput(file, limits_.bytes);
     if (!isJSON(text)) {
-        return convert(documentOf(text, name, limits_, catalogue_).record(), name);
+        const lv::analysis::Document document = documentOf(text, name, limits_, catalogue_);
+        return {convert(document.record(), name), name, checkDocument(document, lv::analysis::pureLossOptions())};
     }
-    const FromJSON read = lv::analysis::fromJSON(text, catalogue_);
+    FromJSON read = lv::analysis::fromJSON(text, catalogue_, limits_);
     if (!read) {
         throw failureOf(name, *read.error);
     }
-    return convert(*read.record, name);
+    return {convert(*read.record, name), name, std::move(read.losses)};
 }
 
 std::string Converter::convert(const DataObject& record, const std::string& name) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lvdata/analysis/Catalogue.h>
+#include <lvdata/analysis/check/Finding.h>
 #include <lvdata/analysis/tables/tables.h>
 #include <lvdata/core/DataObject.h>
 #include <lvdata/xml/Limits.h>
@@ -20,6 +21,13 @@ struct Conversion {
     bool isCompact = false;
 };
 
+/// What became of a document.
+struct Converted {
+    std::string text;
+    std::string name;               // of the document, for messages
+    lv::analysis::Findings losses;  // what a document in JSON says and the text does not
+};
+
 /// Reads documents in XML or JSON and makes their texts. Any number of threads may use one.
 class Converter {
 public:
@@ -27,7 +35,7 @@ public:
     Converter(const Conversion& conversion, const lv::Limits& limits) : conversion_(conversion), limits_(limits) {}
 
     /// What becomes of the document in that file. Throws `Failure` when it cannot be read or converted.
-    [[nodiscard]] std::string convert(const std::string& file) const;
+    [[nodiscard]] Converted convert(const std::string& file) const;
 
 private:
     [[nodiscard]] std::string convert(const lv::DataObject& record, const std::string& name) const;

@@ -6,7 +6,7 @@ namespace tool {
 /// output. Later ones are worse.
 enum class ExitStatus {
     done = 0,    // and nothing was found
-    found = 1,   // findings, or differences
+    found = 1,   // findings or differences, or something was dropped or changed
     failed = 2,  // a wrong command line, or an input or output that could not be read or written
 };
 

@@ -50,6 +50,13 @@ void Output::flush() {
     throwUnless(lv::analysis::writeDescriptor(descriptor_, text), "<stdout>");
 }
 
+void Output::prepareForMessage() {
+    flush();
+    if (beforeMessages_) {
+        beforeMessages_();
+    }
+}
+
 void writeResult(const std::string& file, std::string_view text) {
     if (file != standardStream) {
         throwUnless(lv::analysis::writeFile(file, text), file);

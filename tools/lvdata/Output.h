@@ -36,15 +36,22 @@ public:
     /// Writes everything now. Throws `ClosedPipe` or `Failure`; what could not be written is then dropped.
     void flush();
 
+    /// Writes everything now, before a message on standard error. Throws as `flush` does.
+    void prepareForMessage();
+
     [[nodiscard]] bool isTerminal() const { return ::isatty(descriptor_) == 1; }
 
     /// From now on calls this before each time that text is written; an empty function ends that.
     void callBeforeWriting(std::function<void()> function) { beforeWriting_ = std::move(function); }
 
+    /// From now on `prepareForMessage` calls this; an empty function ends that.
+    void callBeforeMessages(std::function<void()> function) { beforeMessages_ = std::move(function); }
+
 private:
     int descriptor_;
     std::string pending_;
     std::function<void()> beforeWriting_;
+    std::function<void()> beforeMessages_;
 };
 
 /// Writes a text that is the whole result to the file, or to standard output if `file` is "-". Throws as

@@ -63,12 +63,16 @@ public:
         if (progress_.isShown()) {
             count_.emplace(inputs);
         }
+        output_.callBeforeMessages([this] { progress_.hide(); });
         if (output_.isTerminal()) {
             output_.callBeforeWriting([this] { progress_.hide(); });
         }
     }
 
-    ~Delivering() { output_.callBeforeWriting({}); }
+    ~Delivering() {
+        output_.callBeforeWriting({});
+        output_.callBeforeMessages({});
+    }
     Delivering(const Delivering&) = delete;
     Delivering& operator=(const Delivering&) = delete;
     Delivering(Delivering&&) = delete;
@@ -91,8 +95,7 @@ public:
 private:
     /// What was delivered before stands before the message where both go to one place.
     ExitStatus report(const Message& message) {
-        output_.flush();
-        progress_.hide();
+        output_.prepareForMessage();
         printMessage(message);
         return ExitStatus::failed;
     }

@@ -8,6 +8,7 @@
 #include "choice_option.h"
 #include "files.h"
 #include "limit_options.h"
+#include "losses.h"
 
 #include <filesystem>
 #include <memory>
@@ -77,6 +78,30 @@ void refuseWrongOptions(const Options& options) {
     }
 }
 
+/// What was written before stands before the messages where both go to one place.
+ExitStatus reportLosses(const Converted& converted, Output& output) {
+    if (converted.losses.countFrom(lv::analysis::Severity::warning) == 0) {
+        return ExitStatus::done;
+    }
+    output.prepareForMessage();
+    printLosses(converted.name, converted.losses, "");
+    return ExitStatus::found;
+}
+
+/// An input is not overwritten with something else than the same document.
+void refuseToOverwrite(const Options& options, const Converted& converted) {
+    std::error_code ignored;
+    if (options.output == standardStream || !std::filesystem::equivalent(converted.name, options.output, ignored)) {
+        return;
+    }
+    if (options.conversion.target != Target::xml) {
+        throw Failure(options.output, "not overwritten, since it is one of the inputs");
+    }
+    if (converted.losses.countFrom(lv::analysis::Severity::warning) > 0) {
+        throw Failure(options.output, "not overwritten, since it would lose what is listed above");
+    }
+}
+
 ExitStatus convert(const Options& options) {
     refuseWrongOptions(options);
     const Converter converter(options.conversion, options.limits);
@@ -91,9 +116,11 @@ ExitStatus convert(const Options& options) {
     const auto work = [&](const Input& input) {
         return converter.convert(input.file);
     };
-    const auto deliver = [&](std::string&& text) {
-        write(result.next(text));
-        return ExitStatus::done;
+    const auto deliver = [&](Converted&& converted) {
+        write(result.next(converted.text));
+        const ExitStatus found = reportLosses(converted, output);
+        refuseToOverwrite(options, converted);
+        return found;
     };
     const ExitStatus status = forEachInput(options.batch, output, work, deliver);
     write(result.end());

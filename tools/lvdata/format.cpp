@@ -4,9 +4,8 @@
 #include "Output.h"
 #include "documents.h"
 #include "files.h"
-#include "finding_text.h"
 #include "limit_options.h"
-#include "messages.h"
+#include "losses.h"
 
 #include <lvdata/analysis/check/check.h>
 
@@ -21,7 +20,6 @@ namespace {
 using lv::analysis::Catalogue;
 using lv::analysis::CheckOptions;
 using lv::analysis::Document;
-using lv::analysis::Finding;
 using lv::analysis::Findings;
 using lv::analysis::Severity;
 
@@ -41,28 +39,13 @@ void chooseHLGSystemGamma(lv::DataObject& record, const FormatOptions& options) 
     record.writeHLGSystemGamma = options.hlgSystemGamma || (record.writeHLGSystemGamma && !options.noHLGSystemGamma);
 }
 
-/// What writing the record back drops or changes.
+/// What writing the record back drops or changes, but for what was asked for.
 Findings lossesOf(const Document& document, const FormatOptions& options) {
-    CheckOptions check = lv::analysis::lossOptions();
-    check.ignored.insert({"105", "310", "312"});  // nothing is lost
+    CheckOptions check = lv::analysis::pureLossOptions();
     if (options.noHLGSystemGamma) {
-        check.ignored.insert("313");  // as asked for
+        check.ignored.insert("313");
     }
     return checkDocument(document, check);
-}
-
-void printLosses(const std::string& name, const Findings& losses) {
-    constexpr std::size_t mostPrinted = 10;
-    std::size_t printed = 0;
-    for (const Finding& loss : losses.listed) {
-        if (loss.severity != Severity::info && printed++ < mostPrinted) {
-            printMessage(lineOf(name, loss));
-        }
-    }
-    const std::size_t count = losses.countFrom(Severity::warning);
-    if (count > mostPrinted) {
-        printMessage(name + ": warning: " + counted(count - mostPrinted, "more change") + ", see lvdata check");
-    }
 }
 
 /// Whether the output is the file that the input was read from, under any of its names.
@@ -79,7 +62,7 @@ ExitStatus format(const FormatOptions& options) {
     chooseHLGSystemGamma(document.record(), options);
     const Findings losses = lossesOf(document, options);
     const bool isLossy = losses.countFrom(Severity::warning) > 0;
-    printLosses(inputName(options.input), losses);
+    printLosses(inputName(options.input), losses, ", see lvdata check");
     if (isLossy && !options.lossy && isInPlace(options)) {
         throw Failure(options.output, "not overwritten, since it would lose what is listed above (allow it: --lossy)");
     }

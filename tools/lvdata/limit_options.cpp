@@ -43,8 +43,12 @@ void addLimitOptions(CLI::App& command, lv::Limits& limits) {
     addOption(command, What::brokenReferences, limits.brokenReferences, "'&#' without ';' in one text");
 }
 
+std::string limitNote(lv::Excess::What what) {
+    return " (limit: " + optionFor(what) + ')';
+}
+
 std::string excessReason(const lv::Excess& excess) {
-    return excess.toString() + " (limit: " + optionFor(excess.what) + ')';
+    return excess.toString() + limitNote(excess.what);
 }
 
 }  // namespace tool

@@ -1,3 +1,4 @@
+#include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/Projection.h>
 #include <lvdata/analysis/check/Comparison.h>
 #include <lvdata/analysis/check/loss_findings.h>
@@ -72,19 +73,21 @@ bool isVersion(const Shape& attribute) {
 
 }  // namespace
 
-Comparison::Comparison(const Document& document, const Tree& printed, Collector& collector)
-    : document_(document),
+Comparison::Comparison(const Tree& source, const Shape& root, const Tree& printed, Circumstances circumstances,
+                       Collector& collector)
+    : source_(source),
+      root_(root),
       printed_(printed),
       reporter_(collector),
-      unknownNames_(*document.entry().shape),
-      circumstances_{document.record().writeHLGSystemGamma} {}
+      unknownNames_(root),
+      circumstances_(circumstances) {}
 
 void Comparison::run() {
-    const Node* const root = document_.source().root();
-    for (const Node& node : childrenOf(document_.source().document())) {
+    const Node* const root = source_.root();
+    for (const Node& node : childrenOf(source_.document())) {
         if (&node == root) {
             const PathStack::Step step(reporter_.path(), root->name);
-            compareElements({*document_.entry().shape, *root, *printed_.root()});
+            compareElements({root_, *root, *printed_.root()});
         } else {
             reportOutsideRoot(node);
         }

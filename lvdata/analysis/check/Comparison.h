@@ -1,7 +1,7 @@
 #pragma once
 
-#include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/Position.h>
+#include <lvdata/analysis/Tree.h>
 #include <lvdata/analysis/check/Reporter.h>
 #include <lvdata/analysis/check/UnknownNames.h>
 
@@ -17,7 +17,8 @@ namespace lv::analysis {
 class Comparison {
 public:
     /// All must outlive the comparison.
-    Comparison(const Document& document, const Tree& printed, Collector& collector);
+    Comparison(const Tree& source, const Shape& root, const Tree& printed, Circumstances circumstances,
+               Collector& collector);
 
     /// Compares the whole documents.
     void run();
@@ -51,7 +52,8 @@ private:
     void reportAdded(const Node& printed, const Node& parent);
     void reportRest(const Pair& pair, const std::vector<Match>& matches);
 
-    const Document& document_;
+    const Tree& source_;
+    const Shape& root_;
     const Tree& printed_;
     Reporter reporter_;
     UnknownNames unknownNames_;

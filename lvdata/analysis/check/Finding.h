@@ -8,7 +8,7 @@
 
 namespace lv::analysis {
 
-/// Something in a document that its record does not keep as it stands, or that is hardly meant.
+/// Something in a document that its record does not keep as it stands, or that is probably a mistake.
 struct Finding {
     const Rule* rule = nullptr;  ///< What was looked for. Never null.
     Severity severity{};         ///< How much it matters; most often what the rule says.

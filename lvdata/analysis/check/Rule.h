@@ -9,7 +9,7 @@ namespace lv::analysis {
 /// How much a finding matters.
 enum class Severity {
     info,     ///< Nothing is lost: only worth knowing.
-    warning,  ///< Something is lost or changed when the document is written back, or is hardly meant.
+    warning,  ///< Something is lost or changed when the document is written back, or is probably a mistake.
     error,    ///< There is no record, or it holds another value than the document says.
 };
 

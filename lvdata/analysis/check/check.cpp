@@ -68,10 +68,9 @@ void checkXML(const XMLVerdict& verdict, Collector& collector) {
     }
 }
 
-void compare(const Document& document, Collector& collector) {
-    checkXML(document.verdict(), collector);
-    const Tree printed = document.printed();
-    Comparison(document, printed, collector).run();
+void compare(const Tree& source, const Shape& root, const DataObject& record, Collector& collector) {
+    const Tree printed = Tree::ofPrinted(record.toXMLString(false, false));
+    Comparison(source, root, printed, {record.writeHLGSystemGamma}, collector).run();
 }
 
 }  // namespace
@@ -87,6 +86,12 @@ CheckOptions lossOptions() {
     return options;
 }
 
+CheckOptions pureLossOptions() {
+    CheckOptions options = lossOptions();
+    options.ignored.insert({"105", "310", "312"});
+    return options;
+}
+
 Findings check(const std::string& text, const Catalogue& catalogue, const CheckOptions& options) {
     Collector collector(options);
     checkBytes(text, collector);
@@ -95,7 +100,8 @@ Findings check(const std::string& text, const Catalogue& catalogue, const CheckO
         collector.add(ruleOf(refusal->kind), refusal->line, "", messageOf(*refusal));
         return collector.take();
     }
-    compare(document, collector);
+    checkXML(document.verdict(), collector);
+    compare(document.source(), *document.entry().shape, document.record(), collector);
     if (options.roundtrip) {
         checkRoundtrip(text, document.record(), collector);
     }
@@ -104,7 +110,15 @@ Findings check(const std::string& text, const Catalogue& catalogue, const CheckO
 
 Findings checkDocument(const Document& document, const CheckOptions& options) {
     Collector collector(options);
-    compare(document, collector);
+    checkXML(document.verdict(), collector);
+    compare(document.source(), *document.entry().shape, document.record(), collector);
+    return collector.take();
+}
+
+Findings checkTree(const Tree& source, const Catalogue::Entry& entry, const DataObject& record,
+                   const CheckOptions& options) {
+    Collector collector(options);
+    compare(source, *entry.shape, record, collector);
     return collector.take();
 }
 

@@ -22,6 +22,9 @@ struct CheckOptions {
 /// when the document is written back.
 [[nodiscard]] CheckOptions lossOptions();
 
+/// The same without the rules where nothing that the document says is lost.
+[[nodiscard]] CheckOptions pureLossOptions();
+
 /// What would be lost, changed or added if the text was read as a record and written back, and what in it is hardly
 /// meant. Without a finding of a warning or an error the record holds all that the text says: the text is compared with
 /// the document that the record prints, and each difference is a finding. The order of elements and attributes, white
@@ -34,5 +37,9 @@ struct CheckOptions {
 /// The same for a document that was read already. `record` is printed with its switch `writeHLGSystemGamma` as it is:
 /// when it is off, the elements that it drops are among the findings.
 [[nodiscard]] Findings checkDocument(const Document& document, const CheckOptions& options = {});
+
+/// The same for the nodes of a document that was not read from a text, and the record that was read from it.
+[[nodiscard]] Findings checkTree(const Tree& source, const Catalogue::Entry& entry, const DataObject& record,
+                                 const CheckOptions& options = {});
 
 }  // namespace lv::analysis

@@ -1,4 +1,5 @@
 #include <lvdata/analysis/json/EventPath.h>
+#include <lvdata/analysis/wording.h>
 
 namespace lv::analysis {
 
@@ -9,7 +10,7 @@ std::string EventPath::toString() const {
             path += step.count == 0 ? "" : '[' + std::to_string(step.count - 1) + ']';
         } else if (!step.key.empty()) {
             path += path.empty() ? "" : ".";
-            path += step.key;
+            path += excerpt(step.key);
         }
     }
     return path;

@@ -32,7 +32,7 @@ public:
     /// The number of objects and arrays that are open.
     [[nodiscard]] std::size_t depth() const { return steps_.size(); }
 
-    /// Empty outside of everything.
+    /// Empty outside of everything. Long keys are cut.
     [[nodiscard]] std::string toString() const;
 
 private:

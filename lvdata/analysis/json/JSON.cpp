@@ -33,7 +33,7 @@ private:
 
 JSONResult failure(std::string path, std::string reason) {
     JSONResult result;
-    result.error = JSONError{0, std::move(path), std::move(reason)};
+    result.error = JSONError{0, std::move(path), std::move(reason), std::nullopt};
     return result;
 }
 

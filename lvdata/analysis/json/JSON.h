@@ -1,8 +1,10 @@
 #pragma once
 
 #include <lvdata/analysis/Catalogue.h>
+#include <lvdata/analysis/check/Finding.h>
 #include <lvdata/analysis/json/JSONWriter.h>
 #include <lvdata/core/DataObject.h>
+#include <lvdata/xml/Limits.h>
 
 #include <memory>
 #include <optional>
@@ -15,7 +17,8 @@ namespace lv::analysis {
 struct JSONError {
     int line = 0;          ///< Where in the JSON text that was noticed, counted from 1; 0 when no line applies.
     std::string path{};    ///< "monitor_info.asset_info.asset1"; empty when no place applies.
-    std::string reason{};  ///< In a few words; may hold a key, which can be as long as the text.
+    std::string reason{};  ///< In a few words.
+    std::optional<Excess::What> exceeded{};  ///< The limit that is exceeded, if that is the reason.
 
     /// "line 3: monitor_info.uuid: text expected, not a number".
     [[nodiscard]] std::string toString() const;
@@ -36,6 +39,10 @@ struct FromJSON {
     const Catalogue::Entry* entry = nullptr;  ///< Its class; null when there is none.
     std::optional<JSONError> error{};         ///< Why there is none.
 
+    /// What the text says and the record does not print, such as values that do not belong to the "type" beside them:
+    /// warnings and errors, whose paths are those of the document in XML, and whose lines are 0.
+    Findings losses{};
+
     /// Whether there is a record.
     [[nodiscard]] explicit operator bool() const { return record != nullptr; }
 };
@@ -45,8 +52,11 @@ struct FromJSON {
 [[nodiscard]] JSONResult toJSON(const DataObject& record, const Catalogue& catalogue, JSONForm form = {});
 
 /// A fresh record with what the JSON text says. `writeHLGSystemGamma` is set when the text has a key that the switch
-/// governs. Fails at the first thing that is wrong: nothing is ignored or changed in silence, save keys that the record
-/// ignores because of the values of others, as it does in XML. The catalogue must outlive the result.
-[[nodiscard]] FromJSON fromJSON(std::string_view text, const Catalogue& catalogue);
+/// governs. Fails at the first thing that is wrong. Nothing is ignored or changed in silence: what the record ignores
+/// because of the values of others, as it does in XML, is among the losses. The catalogue must outlive the result.
+///
+/// Stops also at the first thing beyond the limits of bytes, elements and nodes; the other limits do not apply.
+/// Elements and nodes are those of the document in XML that the text stands for: all numbers of an array are one text.
+[[nodiscard]] FromJSON fromJSON(std::string_view text, const Catalogue& catalogue, const Limits& limits = {});
 
 }  // namespace lv::analysis

@@ -6,8 +6,6 @@
 #include <lvdata/analysis/spelling.h>
 #include <lvdata/analysis/utf8.h>
 
-#include <lvdata/xml/XMLDocument.h>
-
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -39,26 +37,27 @@ void RecordBuilder::fail(std::string reason) {
 
 void RecordBuilder::fail(std::string reason, int line, std::string path) {
     if (!error_) {
-        error_ = JSONError{line, std::move(path), std::move(reason)};
+        error_ = JSONError{line, std::move(path), std::move(reason), std::nullopt};
     }
 }
 
-FromJSON RecordBuilder::result() const {
-    FromJSON result;
-    result.error = error_;
-    if (!error_ && !isComplete_) {
-        result.error = JSONError{line_, {}, "there is no record"};
+/// No place is to blame: the document as a whole is too large.
+void RecordBuilder::failBeyond(Excess::What what, std::size_t limit) {
+    if (!error_) {
+        error_ = JSONError{line_, {}, Excess{what, limit}.toString(), what};
     }
-    if (!result.error) {
-        const XMLDocument document;
-        const XMLElement element = document.appendChild(entry_->recordClass->name);
-        appendContent(element, *root_);
-        result.entry = entry_;
-        result.record = entry_->recordClass->make();
-        result.record->writeHLGSystemGamma = hlgSwitch_;
-        static_cast<void>(result.record->parseXMLElement(element));
+}
+
+/// Makes a node as `NodeArena::make` does, and counts it.
+Node& RecordBuilder::make(Node::Kind kind, std::string_view name, std::string text) {
+    elements_ += kind == Node::Kind::element ? 1 : 0;
+    ++nodes_;
+    if (elements_ > limits_.elements) {
+        failBeyond(Excess::What::elements, limits_.elements);
+    } else if (nodes_ > limits_.nodes) {
+        failBeyond(Excess::What::nodes, limits_.nodes);
     }
-    return result;
+    return arena_.make(kind, name, std::move(text));
 }
 
 bool RecordBuilder::begins(Expected value, const std::string& found) {
@@ -138,7 +137,7 @@ void RecordBuilder::beginObject() {
 void RecordBuilder::beginElement() {
     const Open& parent = open_.back();
     const Shape& shape = parent.level == Level::rows ? *parent.shape : *parent.member;
-    Node& element = arena_.make(Node::Kind::element, shape.facts().name);
+    Node& element = make(Node::Kind::element, shape.facts().name);
     if (parent.level == Level::document) {
         root_ = &element;
     } else {

@@ -5,6 +5,7 @@
 #include <lvdata/analysis/json/EventPath.h>
 #include <lvdata/analysis/json/JSON.h>
 #include <lvdata/analysis/json/NodeArena.h>
+#include <lvdata/xml/Limits.h>
 
 #include <cstddef>
 #include <optional>
@@ -20,7 +21,7 @@ namespace lv::analysis {
 class RecordBuilder final : public Sink {
 public:
     /// The catalogue must outlive the builder and its result.
-    explicit RecordBuilder(const Catalogue& catalogue) : catalogue_(catalogue) {}
+    RecordBuilder(const Catalogue& catalogue, const Limits& limits) : catalogue_(catalogue), limits_(limits) {}
 
     /// Where in the source the next call comes from, for messages: counted from 1; 0 when it has no lines.
     void setLine(int line) { line_ = line; }
@@ -30,6 +31,9 @@ public:
 
     /// Refuses the source for a reason that the builder does not know.
     void fail(std::string reason);
+
+    /// Refuses the source because it exceeds that limit.
+    void failBeyond(Excess::What what, std::size_t limit);
 
     /// The record, once all values were given; otherwise what was wrong.
     [[nodiscard]] FromJSON result() const;
@@ -89,6 +93,7 @@ private:
     };
 
     void fail(std::string reason, int line, std::string path);
+    Node& make(Node::Kind kind, std::string_view name, std::string text = {});
     [[nodiscard]] bool begins(Expected value, const std::string& found);
     [[nodiscard]] Expected expected() const;
     [[nodiscard]] static Expected expectedOfText(const Shape& member);
@@ -114,6 +119,9 @@ private:
     void convert(const Pending& pending, const Shape& shape, const Quantity* quantity);
 
     const Catalogue& catalogue_;
+    const Limits limits_;
+    std::size_t elements_ = 0;
+    std::size_t nodes_ = 0;
     const Catalogue::Entry* entry_ = nullptr;
     NodeArena arena_{};
     Node* root_ = nullptr;

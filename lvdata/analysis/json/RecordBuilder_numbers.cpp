@@ -38,15 +38,15 @@ Node& RecordBuilder::addText(const Shape& member, std::string text) {
     const Description& facts = member.facts();
     if (facts.place != Place::element) {
         const auto kind = facts.place == Place::attribute ? Node::Kind::attribute : Node::Kind::text;
-        Node& node = arena_.make(kind, facts.name, std::move(text));
+        Node& node = make(kind, facts.name, std::move(text));
         addChild(member, node);
         return node;
     }
-    Node& element = arena_.make(Node::Kind::element, facts.name);
-    Node& node = arena_.make(Node::Kind::text, {}, std::move(text));
+    Node& element = make(Node::Kind::element, facts.name);
+    Node& node = make(Node::Kind::text, {}, std::move(text));
     std::vector<Node*> children;
     if (!facts.keyAttribute.empty()) {
-        children.push_back(&arena_.make(Node::Kind::attribute, facts.keyAttribute, facts.keyText));
+        children.push_back(&make(Node::Kind::attribute, facts.keyAttribute, facts.keyText));
     }
     children.push_back(&node);
     NodeArena::setChildren(element, children);

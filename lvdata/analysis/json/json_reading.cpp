@@ -105,14 +105,16 @@ public:
         return to([](RecordBuilder& builder) { builder.endArray(); });
     }
 
-    /// A number beyond a double is one for the builder, which knows what it may be.
+    /// A number beyond a double is one for the builder, which knows what it may be. The parser's message would quote
+    /// all of it.
     bool parse_error(std::size_t /*position*/, const std::string& text, const json::exception& error) override {
         constexpr int numberOverflow = 406;
         if (error.id == numberOverflow) {
             number(text);
         }
         builder_.setLine(lines_.current());
-        builder_.fail("not JSON: " + plainReason(error.what()));
+        builder_.fail(error.id == numberOverflow ? "a number beyond all ranges"
+                                                 : "not JSON: " + plainReason(error.what()));
         return false;
     }
 
@@ -134,8 +136,12 @@ private:
 
 }  // namespace
 
-FromJSON fromJSON(std::string_view text, const Catalogue& catalogue) {
-    RecordBuilder builder(catalogue);
+FromJSON fromJSON(std::string_view text, const Catalogue& catalogue, const Limits& limits) {
+    RecordBuilder builder(catalogue, limits);
+    if (text.size() > limits.bytes) {
+        builder.failBeyond(Excess::What::bytes, limits.bytes);
+        return builder.result();
+    }
     Lines lines;
     Handler handler(builder, lines);
     const char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));

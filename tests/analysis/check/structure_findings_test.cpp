@@ -172,3 +172,28 @@ TEST(StructureFindings, OfHostileNumbersTakeTimeInProportion) {
                   .countFrom(Severity::warning),
               0U);
 }
+
+TEST(StructureFindings, OfTextThatOnlyAStrictParserRefuses) {
+    const auto isRefused = [](const std::string& text) {
+        const auto findings = findingsIn(text);
+        return findings.size() == 1 && findings.front().rfind("004 line 2 ", 0) == 0;
+    };
+    EXPECT_TRUE(isRefused("<AssetInfo>\n<Asset1>a&#0;b</Asset1></AssetInfo>"));
+    EXPECT_TRUE(isRefused("<AssetInfo>\n<Asset1>a&#;</Asset1></AssetInfo>"));
+    EXPECT_TRUE(isRefused("<AssetInfo>\n<Asset1>a&#1;</Asset1></AssetInfo>"));
+    EXPECT_TRUE(isRefused("<AssetInfo>\n<Asset1>&nbsp;</Asset1></AssetInfo>"));
+    EXPECT_TRUE(isRefused("<AssetInfo/>\n</b><AssetInfo/>"));
+}
+
+TEST(StructureFindings, OfAnotherEncodingThanUTF8) {
+    EXPECT_THAT(findingsIn("<?xml version='1.0' encoding='ISO-8859-1'?><AssetInfo/>"),
+                ElementsAre("003 line 1 : declares the encoding \"ISO-8859-1\", but is read as UTF-8"));
+    EXPECT_THAT(findingsIn("<?xml version='1.0' encoding='utf-8'?><AssetInfo/>"), ElementsAre());
+}
+
+TEST(StructureFindings, OfTypesThatDoNotBelongToAText) {
+    EXPECT_THAT(
+        findingsIn("<ProfileData>\n<RedTargetCurve Type='lut'>1|2</RedTargetCurve></ProfileData>"),
+        testing::Contains(testing::HasSubstr("it is only read when ../@Type is \"Formula\" or \"Lut\", but that "
+                                             "is \"lut\"; did you mean \"Lut\"?")));
+}

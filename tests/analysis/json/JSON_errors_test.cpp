@@ -67,7 +67,17 @@ TEST(JSONErrors, SayWhichKeyIsUnknownOrTwice) {
               "line 1: profile_data.measured_xyz.pink: unknown key");
     EXPECT_EQ(errorOf("{\"profile_data\": {\"measured_xyz\": {\"limited109_redd\": []}}}"),
               "line 1: profile_data.measured_xyz.limited109_redd: unknown key, did you mean \"limited109_red\"?");
-    EXPECT_EQ(errorOfAsset('"' + std::string(2000000, 'a') + "\": 1").size(), 2000000U + 32);
+}
+
+TEST(JSONErrors, CutLongKeysAndNumbers) {
+    const std::string cut = std::string(60, 'a') + "...";
+    EXPECT_EQ(errorOfAsset('"' + std::string(2000000, 'a') + "\": 1"), "line 1: asset_info." + cut + ": unknown key");
+    EXPECT_EQ(errorOf("{\"" + std::string(61, 'a') + "\": 1}"), "line 1: " + cut + ": unknown key");
+    EXPECT_EQ(errorOf("{\"" + std::string(60, 'a') + "\": 1}"), "line 1: " + std::string(60, 'a') + ": unknown key");
+    EXPECT_EQ(errorOf("{\"" + std::string(59, 'a') + "\xC3\xA4\": 1}"),
+              "line 1: " + std::string(59, 'a') + "...: unknown key");
+    EXPECT_EQ(errorOfParameter("\"red_lut\": [1" + std::string(2000000, '0')),
+              "line 1: monitor_parameter.red_lut[0]: a number beyond all ranges");
 }
 
 TEST(JSONErrors, SayWhichTypeIsExpected) {

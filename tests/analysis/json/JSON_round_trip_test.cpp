@@ -24,6 +24,14 @@ using analysis::toJSON;
 
 constexpr JSONForm compactForm = {true};
 
+std::string lossesOf(const FromJSON& read) {
+    std::string losses;
+    for (const analysis::Finding& loss : read.losses.listed) {
+        losses += loss.path + ": " + loss.message + '\n';
+    }
+    return losses;
+}
+
 void expectLossless(const DataObject& record) {
     const Document printed(record.toXMLString(false, false), catalogue());
     for (const JSONForm form : {JSONForm{}, compactForm}) {
@@ -34,6 +42,7 @@ void expectLossless(const DataObject& record) {
         ASSERT_TRUE(back) << back.error->toString() << '\n' << json.text;
         EXPECT_EQ(back.record->writeHLGSystemGamma, printed.record().writeHLGSystemGamma);
         EXPECT_EQ(back.record->toXMLString(true, true), record.toXMLString(true, true));
+        EXPECT_EQ(lossesOf(back), "");
         EXPECT_TRUE(areEqual(*back.record, printed.record())) << json.text;
     }
 }
