@@ -92,7 +92,8 @@ TEST_F(Check, FailsOnWhatItIsTold) {
 TEST_F(Check, GoesOnAfterTroubleAndTheWorstStatusWins) {
     const Outcome outcome = check({"missing.xml", "warning.xml", "good.xml"});
     EXPECT_EQ(outcome.exitCode, 2);
-    EXPECT_EQ(outcome.output, warningLine + "2 documents, 1 of them with findings: 0 errors, 1 warning\n");
+    EXPECT_EQ(outcome.output,
+              warningLine + "2 documents, 1 of them with findings: 0 errors, 1 warning, 1 could not be read\n");
     EXPECT_EQ(outcome.error, "missing.xml: error: No such file or directory\n");
     EXPECT_EQ(check({"good.xml", "missing.xml"}).exitCode, 2);
     EXPECT_EQ(check({"good.xml", "warning.xml"}).exitCode, 1);
@@ -101,7 +102,7 @@ TEST_F(Check, GoesOnAfterTroubleAndTheWorstStatusWins) {
 TEST_F(Check, TakesWhatIsBeyondALimitForTrouble) {
     const Outcome outcome = check({"--max-elements", "1", "warning.xml"});
     EXPECT_EQ(outcome.exitCode, 2);
-    EXPECT_EQ(outcome.output, "0 documents, no findings\n");
+    EXPECT_EQ(outcome.output, "0 documents, no findings, 1 could not be read\n");
     EXPECT_EQ(outcome.error, "warning.xml: error: line 2: more than 1 element (limit: --max-elements)\n");
 }
 
@@ -182,15 +183,16 @@ TEST_F(Check, PrintsJSON) {
             {"id": "104", "severity": "error", "file": "error.xml", "line": 2, "path": "/BasicData/UsageHours",
              "message": "what follows the number in \"140,5\" is ignored, reads as 140"}
         ],
-        "documents": 4, "documents_with_findings": 2, "errors": 1, "warnings": 1, "infos": 1
+        "documents": 4, "unreadable": 0, "documents_with_findings": 2, "errors": 1, "warnings": 1, "infos": 1
     })"));
 }
 
 TEST_F(Check, PrintsJSONWithoutFindingsAndInTrouble) {
-    const json nothing = json::parse(
-        R"({"findings": [], "documents": 1, "documents_with_findings": 0, "errors": 0, "warnings": 0, "infos": 0})");
+    json nothing = json::parse(
+        R"({"findings": [], "documents": 1, "unreadable": 0, "documents_with_findings": 0, "errors": 0, "warnings": 0, "infos": 0})");
     EXPECT_EQ(parsed(check({"--format=json", "good.xml"})), nothing);
     const Outcome trouble = check({"--format=json", "missing.xml", "good.xml"});
+    nothing["unreadable"] = 1;
     EXPECT_EQ(parsed(trouble), nothing);
     EXPECT_EQ(trouble.exitCode, 2);
     EXPECT_EQ(trouble.error, "missing.xml: error: No such file or directory\n");
@@ -203,6 +205,15 @@ TEST_F(Check, PrintsJSONWhateverBytesThereAre) {
     ASSERT_EQ(report["findings"].size(), 1U);
     EXPECT_EQ(report["findings"][0]["file"], "\uFFFD\n\".xml");
     EXPECT_EQ(report["findings"][0]["path"], "/AssetInfo/B\uFFFD");
+}
+
+TEST_F(Check, CountsWhatCannotBeRead) {
+    write("a.xml", "<AssetInfo Version='1' MinorVersion='0'/>");
+    const Outcome text = check({"none.xml", "a.xml"});
+    EXPECT_EQ(text.exitCode, 2);
+    EXPECT_EQ(text.output, "1 document, no findings, 1 could not be read\n");
+    EXPECT_EQ(text.error, "none.xml: error: No such file or directory\n");
+    EXPECT_THAT(check({"--format", "json", "none.xml", "a.xml"}).output, HasSubstr("\"unreadable\": 1"));
 }
 
 }  // namespace

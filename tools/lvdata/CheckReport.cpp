@@ -72,6 +72,7 @@ void CheckReport::end() {
     }
     writer_.endArray();
     addCount("documents", documents_);
+    addCount("unreadable", unreadable_);
     addCount("documents_with_findings", faulty_);
     addCount("errors", total_.errors);
     addCount("warnings", total_.warnings);
@@ -91,7 +92,8 @@ std::string CheckReport::summary() const {
                 "with findings: " + counted(total_.errors, "error") + ", " + counted(total_.warnings, "warning");
     }
     text += total_.infos == 0 ? "" : ", " + counted(total_.infos, "remark");
-    return text + (total_.infos == 0 || form_.withInfos ? "" : " (--info lists them)") + '\n';
+    text += total_.infos == 0 || form_.withInfos ? "" : " (--info lists them)";
+    return text + (unreadable_ == 0 ? "" : ", " + std::to_string(unreadable_) + " could not be read") + '\n';
 }
 
 void CheckReport::addCount(const char* key, std::size_t count) {

@@ -27,6 +27,9 @@ public:
     /// The findings of the next document.
     void add(const std::string& name, const lv::analysis::Findings& findings);
 
+    /// A document that could not be read; it counts among the unreadable only.
+    void addUnreadable() { ++unreadable_; }
+
     /// What there was in all.
     void end();
 
@@ -45,6 +48,7 @@ private:
     lv::analysis::JSONWriter writer_;
     std::size_t documents_ = 0;
     std::size_t faulty_ = 0;
+    std::size_t unreadable_ = 0;
     lv::analysis::Findings total_{};
 };
 

@@ -1,11 +1,13 @@
 #include "check.h"
 
 #include "CheckReport.h"
+#include "Failure.h"
 #include "batch.h"
 #include "choice_option.h"
 #include "documents.h"
 #include "files.h"
 #include "limit_options.h"
+#include "messages.h"
 
 #include <lvdata/analysis/check/check.h>
 
@@ -32,7 +34,18 @@ struct Options {
 struct CheckedFile {
     std::string file;
     Findings findings;
+    std::optional<Failure> failure;  // why it could not be read
 };
+
+CheckedFile checkedFile(const std::string& file, const Options& options, const Catalogue& catalogue) {
+    CheckedFile checked{inputName(file), {}, {}};
+    try {
+        checked.findings = lv::analysis::check(readText(file, options.limits), catalogue, options.check);
+    } catch (const Failure& failure) {
+        checked.failure = failure;
+    }
+    return checked;
+}
 
 bool isBad(const Findings& findings, const std::optional<Severity>& failOn) {
     return failOn && findings.countFrom(*failOn) > 0;
@@ -43,10 +56,15 @@ ExitStatus check(const Options& options) {
     Output output;
     CheckReport report(output, options.form);
     const auto work = [&](const Input& input) {
-        return CheckedFile{inputName(input.file),
-                           lv::analysis::check(readText(input.file, options.limits), catalogue, options.check)};
+        return checkedFile(input.file, options, catalogue);
     };
     const auto deliver = [&](CheckedFile&& checked) {
+        if (checked.failure) {
+            output.prepareForMessage();
+            printMessage(checked.failure->what());
+            report.addUnreadable();
+            return ExitStatus::failed;
+        }
         report.add(checked.file, checked.findings);
         return isBad(checked.findings, options.failOn) ? ExitStatus::found : ExitStatus::done;
     };
