@@ -25,7 +25,8 @@ constexpr JSONForm lineForm = {true, true};
 /// Documents in XML begin with another character.
 bool isJSON(const std::string& text) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    const std::size_t begin = text.compare(0, byteOrderMark.size(), byteOrderMark) == 0 ? byteOrderMark.size() : 0;
+    const bool hasMark = std::string_view(text).substr(0, byteOrderMark.size()) == byteOrderMark;
+    const std::size_t begin = hasMark ? byteOrderMark.size() : 0;
     const std::size_t first = text.find_first_not_of(" \t\r\n", begin);
     return first != std::string::npos && text[first] == '{';
 }

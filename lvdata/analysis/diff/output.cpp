@@ -41,7 +41,7 @@ std::string shown(const Difference& difference, const Difference::Value& value) 
 /// " candela", " of 255" for "1/255"; empty where there is none.
 std::string unitInWords(const std::string& unit) {
     constexpr std::string_view fraction = "1/";
-    const bool isFraction = unit.compare(0, fraction.size(), fraction) == 0;
+    const bool isFraction = std::string_view(unit).substr(0, fraction.size()) == fraction;
     return unit.empty() ? "" : isFraction ? " of " + unit.substr(fraction.size()) : ' ' + unit;
 }
 
