@@ -32,6 +32,14 @@ std::unique_ptr<lv::DataObject> readRecord(const std::string& text) {
     return record;
 }
 
+/// More than documents of others should have: 100,000 rows are meant here.
+lv::Limits wideLimits() {
+    lv::Limits limits;
+    limits.elements = 10'000'000;
+    limits.nodes = 10'000'000;
+    return limits;
+}
+
 void read(const std::string& text) {
     benchmark::DoNotOptimize(readRecord(text));
 }
@@ -69,7 +77,7 @@ void run(benchmark::State& state, Operation operation, const std::string& text) 
 void fromJSONLine(benchmark::State& state, const std::string& text) {
     const std::string json = toJSON(*readRecord(text), catalogue(), {true}).text;
     for ([[maybe_unused]] auto iteration : state) {
-        benchmark::DoNotOptimize(lv::analysis::fromJSON(json, catalogue()));
+        benchmark::DoNotOptimize(lv::analysis::fromJSON(json, catalogue(), wideLimits()));
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(json.size()));
 }
@@ -93,7 +101,7 @@ void registerAll(const std::string& name, const std::string& text) {
 bool isSound(const std::string& name, const std::string& text) {
     const auto record = readRecord(text);
     const auto json = toJSON(*record, catalogue(), {true});
-    const auto back = lv::analysis::fromJSON(json.text, catalogue());
+    const auto back = lv::analysis::fromJSON(json.text, catalogue(), wideLimits());
     const bool isKept = back && back.record->toXMLString(false, false) == record->toXMLString(false, false);
     const bool isFree = check(text, catalogue()).countFrom(lv::analysis::Severity::warning) == 0;
     if (!isKept || !isFree) {
