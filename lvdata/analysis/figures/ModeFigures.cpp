@@ -5,8 +5,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
+#include <charconv>
+#include <cstddef>
 #include <deque>
+#include <iterator>
 #include <unordered_map>
 
 namespace lv::analysis {
@@ -20,11 +22,12 @@ double natural(unsigned int stored, const Quantity& quantity) {
     return static_cast<double>(stored) / quantity.factor;
 }
 
+/// Whatever locale the application has set.
 std::string fixedText(double value, int decimals) {
-    std::array<char, 64> text{};
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the only standard way to a fixed number of digits
-    const int length = std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
-    return {text.data(), std::min(static_cast<std::size_t>(length), text.size() - 1)};
+    std::array<char, 400> text{};  // room for the greatest double
+    char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));
+    const auto written = std::to_chars(text.data(), end, value, std::chars_format::fixed, decimals);
+    return {text.data(), written.ptr};
 }
 
 /// The shortest text of a number with two digits after the point: "2.2".

@@ -82,7 +82,8 @@ TEST(Save, SaysWhyItCannot) {
     const SaveResult result = save(folder.path("no/out"), lv::AssetInfo());
     EXPECT_FALSE(result);
     EXPECT_EQ(result.error, std::errc::no_such_file_or_directory);
-    EXPECT_EQ(result.reason, "No such file or directory");
+    EXPECT_EQ(result.reason, result.error.message());  // in the language of the user
+    EXPECT_FALSE(result.reason.empty());
     EXPECT_EQ(writeFile("", "").error, std::errc::no_such_file_or_directory);
     EXPECT_EQ(writeFile("/", "").error, std::errc::is_a_directory);
     EXPECT_EQ(writeFile(folder.path("."), "").error, std::errc::is_a_directory);
@@ -150,7 +151,7 @@ TEST(WriteFile, DoesNotTouchTheOpenFilesOfOthers) {
     const int status = inChild([&] {
         ::close(file);
         const SaveResult result = writeFile(name, "new");
-        return result.reason == "cannot replace the open file of another process: Operation not supported" ? 1 : 2;
+        return result.reason.rfind("cannot replace the open file of another process: ", 0) == 0 ? 1 : 2;
     });
     ::close(file);
     EXPECT_EQ(WEXITSTATUS(status), 1);
@@ -198,7 +199,7 @@ TEST(WriteDescriptor, SaysWhyItCannot) {
     EXPECT_EQ(writeDescriptor(full, "text").error, std::errc::no_space_on_device);
     EXPECT_TRUE(writeDescriptor(full, ""));
     ::close(full);
-    EXPECT_EQ(writeDescriptor(full, "text").reason, "Bad file descriptor");
+    EXPECT_EQ(writeDescriptor(full, "text").error, std::errc::bad_file_descriptor);
 }
 
 }  // namespace
