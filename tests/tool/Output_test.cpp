@@ -5,8 +5,10 @@
 #include <tools/lvdata/Output.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <optional>
+#include <system_error>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -108,7 +110,7 @@ TEST(Output, ReportsOtherFailures) {
         output.flush();
         FAIL() << "nothing was thrown";
     } catch (const tool::Failure& failure) {
-        EXPECT_STREQ(failure.what(), "<stdout>: error: No space left on device");
+        EXPECT_EQ(failure.what(), "<stdout>: error: " + std::generic_category().message(ENOSPC));
     }
 }
 

@@ -5,10 +5,12 @@
 #include <tools/lvdata/batch.h>
 #include <tools/lvdata/files.h>
 
+#include <cerrno>
 #include <chrono>
 #include <mutex>
 #include <new>
 #include <set>
+#include <system_error>
 #include <thread>
 
 #include <fcntl.h>
@@ -95,8 +97,8 @@ TEST_P(BatchTest, GoesOnAfterInputsThatFail) {
     std::filesystem::create_directory(path("empty"));
     const Batch batch = run({"missing", "a", "empty", "b"});
     EXPECT_EQ(batch.output, "one\ntwo\n");
-    EXPECT_EQ(batch.error, path("missing").string() + ": error: No such file or directory\n" + path("empty").string() +
-                               ": error: folder without files named *.xml\n");
+    EXPECT_EQ(batch.error, path("missing").string() + ": error: " + std::generic_category().message(ENOENT) + '\n' +
+                               path("empty").string() + ": error: folder without files named *.xml\n");
     EXPECT_EQ(batch.status, ExitStatus::failed);
 }
 
