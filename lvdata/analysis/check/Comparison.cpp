@@ -176,12 +176,14 @@ void Comparison::compareOwnTexts(const Pair& pair, const Shape* textShape, const
                               inQuotes(pair.source.name) + " has no text, so it counts as missing; " +
                                   inQuotes(printed->text) + " is written");
         }
-    } else if (printed == nullptr && !isOfElement) {
-        reportDropped(reporter_, position, circumstances_);
-    } else if (isIgnored(position) && (printed == nullptr || printed->text != own->text)) {
+        return;
+    }
+    const std::string_view written = printed == nullptr ? std::string_view() : printed->text;
+    const bool isGone = printed == nullptr && !isOfElement;
+    if (isGone || (isIgnored(position) && written != own->text)) {
         reportDropped(reporter_, position, circumstances_);
     } else {
-        compareValues(reporter_, position, *own, printed == nullptr ? std::string_view() : printed->text);
+        compareValues(reporter_, position, *own, written);
     }
 }
 
