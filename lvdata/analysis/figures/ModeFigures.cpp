@@ -22,14 +22,6 @@ double natural(unsigned int stored, const Quantity& quantity) {
     return static_cast<double>(stored) / quantity.factor;
 }
 
-/// Whatever locale the application has set.
-std::string fixedText(double value, int decimals) {
-    std::array<char, 400> text{};  // room for the greatest double
-    char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));
-    const auto written = std::to_chars(text.data(), end, value, std::chars_format::fixed, decimals);
-    return {text.data(), written.ptr};
-}
-
 /// The shortest text of a number with two digits after the point: "2.2".
 std::string hundredths(unsigned int stored) {
     std::string text = fixedText(stored / 100.0, 2);
@@ -234,11 +226,8 @@ ModeFigures& modeFor(const Result& result, std::vector<ModeFigures>& modes, Wait
 
 }  // namespace
 
-std::string Figure::text(int decimals) const {
-    return value ? fixedText(*value, decimals) : "n/a (" + reason + ')';
-}
-
-std::vector<ModeFigures> modeFigures(const ColorModeSettings& settings, const CalibrationModeResult& results) {
+std::vector<ModeFigures> modeFigures(const ColorModeSettings& settings, const CalibrationModeResult& results,
+                                     const KnownUnits& /*known*/) {
     std::vector<ModeFigures> modes;
     Waiting waiting;
     for (const Setting& setting : settings.objects) {

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <lvdata/analysis/colour/standards.h>
+
+#include <array>
+#include <optional>
+
+namespace lv::analysis::colour {
+
+/// Three rows of three entries.
+using Matrix = std::array<std::array<double, 3>, 3>;
+
+/// What turns linear R, G and B of 0 to 1 into X, Y and Z, white having Y 1: SMPTE RP 177. No value when the primaries
+/// lie on a line or y of a colour is 0.
+[[nodiscard]] std::optional<Matrix> rgbToXYZ(const Primaries& primaries, const Chromaticity& white);
+
+/// The matrix that has the three columns.
+[[nodiscard]] Matrix fromColumns(const Tristimulus& first, const Tristimulus& second, const Tristimulus& third);
+
+/// The inverse; no value when there is none.
+[[nodiscard]] std::optional<Matrix> inverse(const Matrix& matrix);
+
+/// Matrix times column.
+[[nodiscard]] std::array<double, 3> product(const Matrix& matrix, const std::array<double, 3>& column);
+
+/// The colour that looks under the white `to` as the given one does under `from`, by the linear Bradford transform as
+/// Little CMS has it (`cmsAdaptToIlluminant`). Both whites must fulfil `isWhite`.
+[[nodiscard]] Tristimulus adapted(const Tristimulus& colour, const Tristimulus& from, const Tristimulus& to);
+
+}  // namespace lv::analysis::colour

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <lvdata/analysis/figures/MonitorFigures.h>
+
+#include <string>
+#include <vector>
+
+namespace lv::analysis {
+
+/// A monitor at one time: a document of it.
+struct Snapshot {
+    std::string document{};    ///< What the document is called, such as its path.
+    std::string when{};        ///< The latest time of a calibration in it, as the record has it; may be empty.
+    MonitorFigures figures{};  ///< Its figures.
+};
+
+/// A figure of one mode over all documents of a monitor.
+struct HistorySeries {
+    std::string key{};    ///< The `FigureLine::key`.
+    std::string label{};  ///< For people.
+    std::string unit{};   ///< As in the line.
+    int decimals = 0;     ///< As in the line.
+
+    /// One point.
+    struct Point {
+        std::string when{};  ///< When the mode was calibrated, as the record has it.
+        Figure figure{};     ///< The figure then.
+    };
+    std::vector<Point> points{};  ///< Of each document that has the mode, in their order.
+};
+
+/// What tells monitors apart: the UUID, or else the serial number with the model; empty when there is neither.
+[[nodiscard]] std::string identityOf(const MonitorInfo& monitor);
+
+/// Puts documents of one monitor in the order of time: by date where all have one that can be read (year first, as
+/// `isDate` takes it), otherwise the given order stays.
+void sortByTime(std::vector<Snapshot>& snapshots);
+
+/// The series of one figure of a mode (by its index) over all documents.
+[[nodiscard]] HistorySeries historyOf(const std::vector<Snapshot>& snapshots, const std::string& modeIndex,
+                                      const std::string& key);
+
+/// The day that a text begins with as days since 1970-01-01 and parts of a day; no value when it is not a date.
+[[nodiscard]] std::optional<double> daysOf(const std::string& when);
+
+}  // namespace lv::analysis
