@@ -79,7 +79,9 @@ std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, con
 }
 
 std::string subtitleOf(const ModeFigures& mode) {
-    const std::string name = mode.name.empty() ? "Mode " + svg::quotable(mode.index) : svg::quotable(mode.name);
+    constexpr std::size_t mostCharacters = 300;
+    const std::string name =
+        mode.name.empty() ? "Mode " + svg::quotable(mode.index) : svg::quotable(mode.name, mostCharacters);
     const std::string time = mode.calibratedTime.empty() ? "" : ", calibrated " + svg::quotable(mode.calibratedTime);
     return name + time;
 }

@@ -1,6 +1,7 @@
 #include <lvdata/analysis/pictures/Picture.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace lv::analysis {
 namespace {

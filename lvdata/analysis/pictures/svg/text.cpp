@@ -134,9 +134,11 @@ std::string shortened(std::string_view text, double width, double fontSize) {
     return result += ellipsis;
 }
 
-std::string quotable(std::string_view text) {
-    constexpr std::size_t mostBytes = 4000;  // more than 60 characters, and not a whole document
-    return shortened(cleaned(text.substr(0, mostBytes)), 60, 1);
+std::string quotable(std::string_view text, std::size_t characters) {
+    constexpr std::size_t mostBytesOfOne = 4;
+    const double averageWidth = relativeWidth("a");
+    const std::string start = cleaned(text.substr(0, mostBytesOfOne * (characters + 1)));
+    return shortened(start, averageWidth * static_cast<double>(characters), 1);
 }
 
 }  // namespace lv::analysis::svg

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -24,7 +25,7 @@ namespace lv::analysis::svg {
 /// The text cut to that width, with "…" at its end where something is missing.
 [[nodiscard]] std::string shortened(std::string_view text, double width, double fontSize);
 
-/// A text of a document for a description or a hover text: cleaned, and at most about 60 characters long.
-[[nodiscard]] std::string quotable(std::string_view text);
+/// A text of a document for a description or a hover text: cleaned, and cut after about so many characters.
+[[nodiscard]] std::string quotable(std::string_view text, std::size_t characters = 80);
 
 }  // namespace lv::analysis::svg
