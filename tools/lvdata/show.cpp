@@ -10,6 +10,7 @@
 #include "limit_options.h"
 
 #include <lvdata/analysis/check/check.h>
+#include <lvdata/analysis/figures/MonitorFigures.h>
 #include <lvdata/analysis/figures/Outline.h>
 
 #include <memory>
@@ -33,21 +34,10 @@ struct Options {
     ColorChoice color = ColorChoice::automatic;
 };
 
-/// The monitor that the document is of, with what it has of one; no value when the document is of something else.
-std::optional<lv::MonitorInfo> monitorOf(const lv::DataObject& record) {
-    lv::MonitorInfo monitor;
-    if (const auto* const whole = dynamic_cast<const lv::MonitorInfo*>(&record)) {
-        monitor = *whole;
-    } else if (const auto* const configuration = dynamic_cast<const lv::MonitorConfiguration*>(&record)) {
-        monitor.monitorConfiguration.set(*configuration);
-    } else if (const auto* const settings = dynamic_cast<const lv::ColorModeSettings*>(&record)) {
-        monitor.monitorConfiguration.value.colorModeSettings.set(*settings);
-    } else if (const auto* const results = dynamic_cast<const lv::CalibrationModeResult*>(&record)) {
-        monitor.calibrationModeResult.set(*results);
-    } else {
-        return std::nullopt;
-    }
-    return monitor;
+/// The monitor that the document is of; no value when the document has no modes of one.
+std::optional<lv::MonitorInfo> monitorOf(const Document& document) {
+    const bool isMap = dynamic_cast<const lv::CandelaMap*>(&document.record()) != nullptr;
+    return isMap ? std::nullopt : lv::analysis::monitorOf(document.record());
 }
 
 std::string outlineOf(const Document& document, const lv::analysis::OutlineForm& form) {
@@ -107,7 +97,7 @@ std::string viewOf(const lv::MonitorInfo& monitor, const Document& document, con
 ExitStatus show(const Options& options) {
     const Catalogue catalogue;
     const Document document = readDocument(options.file, options.limits, catalogue);
-    const auto monitor = monitorOf(document.record());
+    const auto monitor = monitorOf(document);
     if (!monitor && !options.mode.empty()) {
         throw Failure(inputName(options.file),
                       "a document of " + document.entry().shape->facts().name + " has no colour modes");
