@@ -73,11 +73,11 @@ void draw(svg::SVGWriter& svg, const std::array<StepSeries, 3>& channels) {
 std::string balancePicture(const ModeFigures& mode, const PictureForm& form) {
     const PictureTexts texts{"RGB balance of greys", subtitleOf(mode), descriptionOf(mode.tone)};
     if (mode.tone.steps.empty()) {
-        return emptyPicture(form, texts, "no grey patches were measured");
+        return emptyPicture(form, texts, reasonOf(mode.tone.greatestImbalance, "no grey patches were measured"));
     }
     const std::array<StepSeries, 3> channels{seriesOf(mode.tone, 0), seriesOf(mode.tone, 1), seriesOf(mode.tone, 2)};
     if (channels[0].values.empty()) {
-        return emptyPicture(form, texts, "the measured white and primaries are needed");
+        return emptyPicture(form, texts, reasonOf(mode.tone.greatestImbalance, "the measured white and primaries are needed"));
     }
     Picture picture(form, height, texts);
     draw(picture.svg(), channels);

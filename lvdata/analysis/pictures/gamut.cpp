@@ -28,7 +28,7 @@ PlaneForm formOf(Plane plane) {
     if (plane == Plane::xy) {
         return {{-0.05, 0.8}, {0, 0.9}, 530, "CIE 1931 x, y", "x", "y"};
     }
-    return {{-0.04, 0.65}, {0, 0.64}, 650, "CIE 1976 u′, v′", "u′", "v′"};
+    return {{-0.06, 0.64}, {0, 0.64}, 650, "CIE 1976 u′, v′", "u′", "v′"};
 }
 
 std::optional<Point> placeOf(const Chromaticity& chromaticity, Plane plane) {
@@ -61,10 +61,6 @@ std::vector<Point> locusOf(Plane plane) {
     return points;
 }
 
-std::vector<Point> pixelsOf(const svg::Panel& panel, const std::vector<Point>& values) {
-    return panel.inside(values);
-}
-
 /// A colour that fades from a corner of the diagram to the middle of the other two.
 struct Wash {
     std::string_view name;
@@ -93,39 +89,40 @@ void addWash(Diagram& diagram, const std::vector<Point>& locus) {
         svg.empty("stop", {{"class", stop}, {"offset", "1"}, {"stop-opacity", "0"}});
         svg.close();
         svg.open("g", {{"fill", "url(#" + id + ")"}});
-        svg::addPolygon(svg, pixelsOf(diagram.panel, locus), {});
+        svg::addPolygon(svg, locus, {});
         svg.close();
     }
 }
 
-/// Where the name of a wavelength stands beside the locus: away from the middle of the diagram.
-void addWavelength(Diagram& diagram, const colour::LocusPoint& point) {
-    const auto place = placeOf(point.chromaticity, diagram.plane);
-    const auto middle = placeOf({1.0 / 3, 1.0 / 3}, diagram.plane);
-    if (!place || !middle) {
-        return;
-    }
-    const Point at = diagram.panel.at(*place);
-    const Point centre = diagram.panel.at(*middle);
-    const double distance = std::hypot(at.x - centre.x, at.y - centre.y);
-    const Point step{(at.x - centre.x) / distance, (at.y - centre.y) / distance};
-    const auto anchor = std::abs(step.x) < 0.35 ? svg::Anchor::middle
-                                                : (step.x > 0 ? svg::Anchor::start : svg::Anchor::end);
-    svg::SVGWriter& svg = diagram.picture.svg();
-    svg::addLine(svg, at, {at.x + 4 * step.x, at.y + 4 * step.y}, {"lv-locus", ""});
-    svg::addText(svg, {at.x + 9 * step.x, at.y + 9 * step.y + 4}, "lv-note", anchor,
-                 std::to_string(point.wavelength) + (point.wavelength == 520 ? " nm" : ""));
+/// The direction away from the diagram at a point of the locus that is not at its ends: at a right angle to the line
+/// through its neighbours, in pixels. As seen from above, the locus runs clockwise.
+Point outward(const std::vector<Point>& locus, std::size_t index) {
+    const Point& before = locus[index - 1];
+    const Point& after = locus[index + 1];
+    const double length = std::hypot(after.x - before.x, after.y - before.y);
+    return length > 0 ? Point{(after.y - before.y) / length, (before.x - after.x) / length} : Point{0, -1};
+}
+
+void addWavelength(svg::SVGWriter& svg, const std::vector<Point>& locus, std::size_t index) {
+    const int wavelength = colour::spectrumLocus()[index].wavelength;
+    const Point& at = locus[index];
+    const Point step = outward(locus, index);
+    const auto sideways = step.x > 0 ? svg::Anchor::start : svg::Anchor::end;
+    const auto anchor = std::abs(step.x) < 0.35 ? svg::Anchor::middle : sideways;
+    svg::addLine(svg, at, {at.x + 5 * step.x, at.y + 5 * step.y}, {"lv-locus", ""});
+    svg::addText(svg, {at.x + 9 * step.x, at.y + 10 * step.y + 4}, "lv-note", anchor,
+                 std::to_string(wavelength) + (wavelength == 520 ? " nm" : ""));
 }
 
 void addLocus(Diagram& diagram) {
-    const std::vector<Point> locus = locusOf(diagram.plane);
+    const std::vector<Point> locus = diagram.panel.inside(locusOf(diagram.plane));
     addWash(diagram, locus);
-    svg::addPolygon(diagram.picture.svg(), pixelsOf(diagram.panel, locus),
+    svg::addPolygon(diagram.picture.svg(), locus,
                     {"lv-locus", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
-    for (const colour::LocusPoint& point : colour::spectrumLocus()) {
-        const int nm = point.wavelength;
-        if ((nm >= 460 && nm <= 620 && nm % 20 == 0)) {
-            addWavelength(diagram, point);
+    for (std::size_t index = 1; index + 1 < locus.size(); ++index) {
+        const int wavelength = colour::spectrumLocus()[index].wavelength;
+        if (wavelength >= 460 && wavelength <= 620 && wavelength % 20 == 0) {
+            addWavelength(diagram.picture.svg(), locus, index);
         }
     }
 }
@@ -135,7 +132,7 @@ void addPlanckianLocus(Diagram& diagram) {
     for (double kelvin = 1500; kelvin <= 25000; kelvin *= 1.1) {
         add(points, colour::planckian(kelvin), diagram.plane);
     }
-    svg::addPolyline(diagram.picture.svg(), pixelsOf(diagram.panel, points),
+    svg::addPolyline(diagram.picture.svg(), diagram.panel.inside(points),
                      {"lv-planck", "Planckian locus, 1500 K to 25,000 K"});
     diagram.legend.push_back({"Planckian locus", "lv-planck", "", std::nullopt});
 }
@@ -165,7 +162,7 @@ bool addTriangle(Diagram& diagram, const Corners& corners, const svg::Look& look
         return false;
     }
     const std::vector<Point> part = svg::clipped(points, diagram.panel);
-    svg::addPolygon(diagram.picture.svg(), pixelsOf(diagram.panel, part), look);
+    svg::addPolygon(diagram.picture.svg(), diagram.panel.inside(part), look);
     return true;
 }
 

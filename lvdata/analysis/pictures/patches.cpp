@@ -20,7 +20,7 @@ PatchLimits limitsOf(const LimitSet* set) {
     if (set == nullptr) {
         return {};
     }
-    return {set->limitOf("patches_mean_delta_e2000"), set->limitOf("patches_maximum_delta_e2000")};
+    return {set->limitOf("patches_delta_e2000_mean"), set->limitOf("patches_delta_e2000_maximum")};
 }
 
 std::optional<double> greatestAllowed(const FigureLimit* limit) {
@@ -164,8 +164,7 @@ std::string patchesPicture(const ModeFigures& mode, const LimitSet* limitSet, co
                              descriptionOf(series, limitSet, limits)};
     const auto hasValue = [](const PatchFigures& patch) { return differenceOf(patch).has_value(); };
     if (std::none_of(series.patches.begin(), series.patches.end(), hasValue)) {
-        const bool hasReason = !series.patches.empty() && !series.maximum.reason.empty();
-        return emptyPicture(form, texts, hasReason ? series.maximum.reason : "no patches were measured");
+        return emptyPicture(form, texts, reasonOf(series.maximum, "no patches were measured"));
     }
     const std::vector<Bar> bars = barsOf(series.patches);
     Picture picture(form, height, texts);

@@ -115,7 +115,7 @@ std::string descriptionOf(const ToneFigures& tone) {
 std::string tonePicture(const ModeFigures& mode, const PictureForm& form) {
     const PictureTexts texts{"Tone response and gamma", subtitleOf(mode), descriptionOf(mode.tone)};
     if (mode.tone.steps.empty()) {
-        return emptyPicture(form, texts, "no grey patches were measured");
+        return emptyPicture(form, texts, reasonOf(mode.tone.meanGamma, "no grey patches were measured"));
     }
     Picture picture(form, height, texts);
     svg::addLegendRow(picture.svg(), {panelLeft, legendTop}, responseBox.width, legendOf(mode.tone));
