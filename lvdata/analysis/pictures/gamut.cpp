@@ -1,141 +1,15 @@
-#include <lvdata/analysis/pictures/Picture.h>
+#include <lvdata/analysis/pictures/Diagram.h>
 #include <lvdata/analysis/pictures/svg/clipping.h>
 
-#include <lvdata/analysis/colour/temperature.h>
-
+#include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace lv::analysis {
 namespace {
 
 using colour::Chromaticity;
 using colour::Plane;
-using colour::PlanePoint;
 using svg::Point;
-
-/// What differs between the two diagrams.
-struct PlaneForm {
-    svg::Range horizontal;
-    svg::Range vertical;
-    double pixels;  // of a width or height of 1
-    std::string_view name;
-    std::string_view horizontalName;
-    std::string_view verticalName;
-};
-
-PlaneForm formOf(Plane plane) {
-    if (plane == Plane::xy) {
-        return {{-0.05, 0.8}, {0, 0.9}, 530, "CIE 1931 x, y", "x", "y"};
-    }
-    return {{-0.06, 0.64}, {0, 0.64}, 650, "CIE 1976 u′, v′", "u′", "v′"};
-}
-
-std::optional<Point> placeOf(const Chromaticity& chromaticity, Plane plane) {
-    if (plane == Plane::xy) {
-        return Point{chromaticity.x, chromaticity.y};
-    }
-    const auto place = colour::uniform(chromaticity);
-    return place ? std::optional<Point>({place->u, place->v}) : std::nullopt;
-}
-
-/// What all steps need.
-struct Diagram {
-    Picture& picture;
-    const svg::Panel& panel;
-    Plane plane;
-    std::vector<svg::LegendEntry> legend{};
-};
-
-void add(std::vector<Point>& points, const Chromaticity& chromaticity, Plane plane) {
-    if (const auto place = placeOf(chromaticity, plane)) {
-        points.push_back(*place);
-    }
-}
-
-std::vector<Point> locusOf(Plane plane) {
-    std::vector<Point> points;
-    for (const colour::LocusPoint& point : colour::spectrumLocus()) {
-        add(points, point.chromaticity, plane);
-    }
-    return points;
-}
-
-/// A colour that fades from a corner of the diagram to the middle of the other two.
-struct Wash {
-    std::string_view name;
-    Chromaticity corner;
-    Chromaticity opposite;
-};
-
-/// A faint fill with the colours of the diagram, roughly.
-void addWash(Diagram& diagram, const std::vector<Point>& locus) {
-    constexpr std::array<Wash, 3> washes{{{"red", {0.70, 0.29}, {0.12, 0.44}},
-                                          {"green", {0.14, 0.80}, {0.43, 0.17}},
-                                          {"blue", {0.16, 0.02}, {0.38, 0.56}}}};
-    svg::SVGWriter& svg = diagram.picture.svg();
-    for (const Wash& wash : washes) {
-        const Point from = diagram.panel.at(placeOf(wash.corner, diagram.plane).value_or(Point{}));
-        const Point to = diagram.panel.at(placeOf(wash.opposite, diagram.plane).value_or(Point{}));
-        const std::string id = diagram.picture.idOf(wash.name);
-        const std::string stop = "lv-wash-" + std::string(wash.name);
-        svg.open("linearGradient", {{"id", id},
-                                    {"gradientUnits", "userSpaceOnUse"},
-                                    {"x1", from.x},
-                                    {"y1", from.y},
-                                    {"x2", to.x},
-                                    {"y2", to.y}});
-        svg.empty("stop", {{"class", stop}, {"offset", "0"}, {"stop-opacity", "0.3"}});
-        svg.empty("stop", {{"class", stop}, {"offset", "1"}, {"stop-opacity", "0"}});
-        svg.close();
-        svg.open("g", {{"fill", "url(#" + id + ")"}});
-        svg::addPolygon(svg, locus, {});
-        svg.close();
-    }
-}
-
-/// The direction away from the diagram at a point of the locus that is not at its ends: at a right angle to the line
-/// through its neighbours, in pixels. As seen from above, the locus runs clockwise.
-Point outward(const std::vector<Point>& locus, std::size_t index) {
-    const Point& before = locus[index - 1];
-    const Point& after = locus[index + 1];
-    const double length = std::hypot(after.x - before.x, after.y - before.y);
-    return length > 0 ? Point{(after.y - before.y) / length, (before.x - after.x) / length} : Point{0, -1};
-}
-
-void addWavelength(svg::SVGWriter& svg, const std::vector<Point>& locus, std::size_t index) {
-    const int wavelength = colour::spectrumLocus()[index].wavelength;
-    const Point& at = locus[index];
-    const Point step = outward(locus, index);
-    const auto sideways = step.x > 0 ? svg::Anchor::start : svg::Anchor::end;
-    const auto anchor = std::abs(step.x) < 0.35 ? svg::Anchor::middle : sideways;
-    svg::addLine(svg, at, {at.x + 5 * step.x, at.y + 5 * step.y}, {"lv-locus", ""});
-    svg::addText(svg, {at.x + 9 * step.x, at.y + 10 * step.y + 4}, "lv-note", anchor,
-                 std::to_string(wavelength) + (wavelength == 520 ? " nm" : ""));
-}
-
-void addLocus(Diagram& diagram) {
-    const std::vector<Point> locus = diagram.panel.inside(locusOf(diagram.plane));
-    addWash(diagram, locus);
-    svg::addPolygon(diagram.picture.svg(), locus,
-                    {"lv-locus", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
-    for (std::size_t index = 1; index + 1 < locus.size(); ++index) {
-        const int wavelength = colour::spectrumLocus()[index].wavelength;
-        if (wavelength >= 460 && wavelength <= 620 && wavelength % 20 == 0) {
-            addWavelength(diagram.picture.svg(), locus, index);
-        }
-    }
-}
-
-void addPlanckianLocus(Diagram& diagram) {
-    std::vector<Point> points;
-    for (double kelvin = 1500; kelvin <= 25000; kelvin *= 1.1) {
-        add(points, colour::planckian(kelvin), diagram.plane);
-    }
-    svg::addPolyline(diagram.picture.svg(), diagram.panel.inside(points),
-                     {"lv-planck", "Planckian locus, 1500 K to 25,000 K"});
-    diagram.legend.push_back({"Planckian locus", "lv-planck", "", std::nullopt});
-}
 
 std::string coordinates(const Chromaticity& chromaticity, Plane plane) {
     const PlaneForm form = formOf(plane);
@@ -154,8 +28,8 @@ using Corners = std::array<std::optional<Chromaticity>, 3>;
 bool addTriangle(Diagram& diagram, const Corners& corners, const svg::Look& look) {
     std::vector<Point> points;
     for (const auto& corner : corners) {
-        if (corner) {
-            add(points, *corner, diagram.plane);
+        if (const auto place = corner ? placeOf(*corner, diagram.plane) : std::nullopt) {
+            points.push_back(*place);
         }
     }
     if (points.size() != corners.size()) {
@@ -268,16 +142,16 @@ std::string gamutPicture(const ModeFigures& mode, Plane plane, const PictureForm
                        planeForm.pixels * planeForm.vertical.last};
     Picture picture(form, box.bottom() + 52, texts);
     const svg::Panel panel(box, planeForm.horizontal, planeForm.vertical);
-    svg::addAxes(picture.svg(), panel,
-                 {svg::ticksOf(planeForm.horizontal, 9), std::string(planeForm.horizontalName)},
+    svg::addAxes(picture.svg(), panel, {svg::ticksOf(planeForm.horizontal, 9), std::string(planeForm.horizontalName)},
                  {svg::ticksOf(planeForm.vertical, 9), std::string(planeForm.verticalName)});
     Diagram diagram{picture, panel, plane};
-    addLocus(diagram);
+    addSpectrumLocus(diagram);
     addPlanckianLocus(diagram);
     addReferenceSpaces(diagram);
     addTarget(diagram, mode);
     addMeasured(diagram, mode);
     addWhites(diagram, mode);
+    std::reverse(diagram.legend.begin(), diagram.legend.end());  // what matters most was drawn last
     const double left = box.right() + 20;
     svg::addLegendColumn(picture.svg(), {left, box.top + 8}, pictureWidth - left - 8, diagram.legend);
     return picture.finished();

@@ -74,7 +74,7 @@ std::string valueOf(const HistorySeries& series, double value) {
     return svg::valueText(value, series.decimals) + unit;
 }
 
-svg::Range rangeOf(const HistorySeries& series, const FigureLimit* limit) {
+svg::TickedRange rangeOf(const HistorySeries& series, const FigureLimit* limit) {
     svg::Extent extent;
     for (const Point& point : series.points) {
         if (hasValue(point)) {
@@ -114,8 +114,8 @@ std::vector<LevelLine> linesOf(const HistorySeries& series, const FigureLimit* l
 }
 
 bool isWithin(double value, const FigureLimit* limit) {
-    return limit == nullptr || ((!limit->minimum || value >= *limit->minimum) &&
-                                (!limit->maximum || value <= *limit->maximum));
+    return limit == nullptr ||
+           ((!limit->minimum || value >= *limit->minimum) && (!limit->maximum || value <= *limit->maximum));
 }
 
 void addPoints(svg::SVGWriter& svg, const svg::Panel& panel, const HistorySeries& series, const Times& times,
@@ -133,9 +133,10 @@ void addPoints(svg::SVGWriter& svg, const svg::Panel& panel, const HistorySeries
         if (hasValue(point)) {
             const double value = *point.figure.value;
             const bool passes = isWithin(value, limit);
-            const std::string title = svg::quotable(point.when) + ": " + valueOf(series, value) +
-                                      (passes ? "" : ", outside the limit");
-            svg::addSymbol(svg, panel.at({times.places[index], value}), passes ? svg::Symbol::circle : svg::Symbol::cross,
+            const std::string title =
+                svg::quotable(point.when) + ": " + valueOf(series, value) + (passes ? "" : ", outside the limit");
+            svg::addSymbol(svg, panel.at({times.places[index], value}),
+                           passes ? svg::Symbol::circle : svg::Symbol::cross,
                            {passes ? "lv-mark lv-measured" : "lv-stroke lv-over", title});
         }
     }
@@ -182,11 +183,12 @@ std::string historyPicture(const HistorySeries& series, const FigureLimit* limit
         return emptyPicture(form, texts, reasonOf(last, "no document has this figure"));
     }
     const Times times = timesOf(series.points);
-    const svg::Panel panel(box, rangeOfTimes(times), rangeOf(series, limit));
+    const svg::TickedRange scale = rangeOf(series, limit);
+    const svg::Panel panel(box, rangeOfTimes(times), scale.range);
     Picture picture(form, height, texts);
     addBand(picture.svg(), panel, limit);
     svg::addAxes(picture.svg(), panel, {dateTicks(series.points, times, panel.horizontal()), "", true},
-                 {svg::ticksOf(panel.vertical().values(), 6), labelOf(series), true});
+                 {scale.ticks, labelOf(series), true});
     addLevelLines(picture.svg(), panel, linesOf(series, limit));
     addPoints(picture.svg(), panel, series, times, limit);
     return picture.finished();

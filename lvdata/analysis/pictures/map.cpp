@@ -91,7 +91,9 @@ Cell cellAt(const MapFigures& map, const Grid& grid, std::size_t cellColumn, std
 
 /// Digits after the point that tell entries apart without noise.
 int decimalsOf(const MapFigures& map) {
-    const auto isWhole = [](double value) { return !std::isfinite(value) || value == std::floor(value); };
+    const auto isWhole = [](double value) {
+        return !std::isfinite(value) || value == std::floor(value);
+    };
     return std::all_of(map.values.begin(), map.values.end(), isWhole) ? 0 : 1;
 }
 
@@ -143,8 +145,7 @@ void addCellTexts(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid, 
         return;
     }
     const std::string deviation = deviationText(map, grid, cell);
-    const bool hasBoth =
-        !deviation.empty() && box.height >= 36 && svg::textWidth(deviation, fontSize) <= box.width - 4;
+    const bool hasBoth = !deviation.empty() && box.height >= 36 && svg::textWidth(deviation, fontSize) <= box.width - 4;
     const double middle = box.left + box.width / 2;
     const double line = box.top + box.height / 2 + (hasBoth ? -2 : 4);
     svg::addText(svg, {middle, line}, classes, svg::Anchor::start, value);
@@ -189,12 +190,12 @@ void addFoot(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
     const double rampRight = rampLeft + static_cast<double>(rampSteps) * stepWidth;
     const std::string greatest = withUnit(svg::valueText(range.last, decimalsOf(map)), map);
     svg::addText(svg, {rampRight + 6, y + 10}, "lv-value", svg::Anchor::start, svg::shortened(greatest, 200, 11));
-    const std::string shape = isShapeKnown(map) ? (grid.block > 1 ? "Each cell is the mean of up to " +
-                                                                        std::to_string(grid.block * grid.block) +
-                                                                        " entries."
-                                                                  : "")
-                                                : "The shape of the map is not known: entries in stored order, " +
-                                                      std::to_string(grid.columns) + " in a row.";
+    const std::string shape = isShapeKnown(map)
+                                  ? (grid.block > 1 ? "Each cell is the mean of up to " +
+                                                          std::to_string(grid.block * grid.block) + " entries."
+                                                    : "")
+                                  : "The shape of the map is not known: entries in stored order, " +
+                                        std::to_string(grid.columns) + " in a row.";
     svg::addText(svg, {left, y + 30}, "lv-note", svg::Anchor::start, shape);
 }
 
@@ -219,7 +220,9 @@ std::string mapPicture(const MapFigures& map, const PictureForm& form) {
     const std::string name = map.name.empty() ? "Map" : std::string(map.name);
     const std::string updated = map.updatedAt.empty() ? "" : "Updated " + svg::quotable(map.updatedAt);
     const PictureTexts texts{name, updated, descriptionOf(map)};
-    const auto isNumber = [](double value) { return std::isfinite(value); };
+    const auto isNumber = [](double value) {
+        return std::isfinite(value);
+    };
     if (std::none_of(map.values.begin(), map.values.end(), isNumber)) {
         return emptyPicture(form, texts, "no such map is recorded");
     }

@@ -50,7 +50,7 @@ constexpr std::string_view rules = R"(
 .lv-halo{paint-order:stroke;stroke:@paper;stroke-width:3px;stroke-linejoin:round}
 .lv-band{fill:@band}
 .lv-cells rect{stroke:@paper;stroke-width:1}
-.lv-cells text{pointer-events:none}
+.lv-quiet,.lv-cells text{pointer-events:none}
 .lv-under{stroke:@paper;stroke-width:3.5}
 .lv-hover{fill:#000;fill-opacity:0}
 .lv-line{fill:none;stroke:currentColor;stroke-width:2;stroke-linejoin:round}
