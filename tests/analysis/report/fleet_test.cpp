@@ -24,7 +24,7 @@ HTMLPage fleetOf(const std::vector<FleetEntry>& entries) {
 /// A mean that is worse than all of the example.
 FleetEntry worseEntry() {
     FleetEntry entry = entryOf("worse.html", lv::test::studioMonitor(), 2);
-    entry.latest.figures.modes.at(3).series.mean.value = 87.125;
+    entry.latest.figures.modes.at(3).series.mean.value = 87.25;
     return entry;
 }
 
@@ -40,14 +40,18 @@ TEST(Fleet, HasALineForEachMonitorInTheGivenOrder) {
 }
 
 TEST(Fleet, TellsTheWorstMeanOfAllModes) {
-    EXPECT_EQ(fleetOf({worseEntry()}).text("//tbody/tr/td[6]"), "87.13");
+    EXPECT_EQ(fleetOf({worseEntry()}).text("//tbody/tr/td[6]"), "87.25");
     EXPECT_EQ(fleetOf({entryOf("a.html", {}, 1)}).text("//tbody/tr/td[6]"), "n/a (nothing measured)");
 }
 
 TEST(Fleet, CountsFailedLimits) {
-    const HTMLPage page = fleetOf({worseEntry()});
+    lv::analysis::LimitSet limits;
+    limits.limits = {{"patches_count", {}, 90, ""}};
+    lv::analysis::ReportForm form;
+    form.limits = &limits;
+    const HTMLPage page(lv::analysis::fleetPage({worseEntry()}, form));
     EXPECT_EQ(page.text("//tbody/tr/td[4]"), "✗ Fail");
-    EXPECT_NE(page.text("//tbody/tr/td[5]"), "0");
+    EXPECT_EQ(page.text("//tbody/tr/td[5]"), "2");
 }
 
 TEST(Fleet, StaysInItsFolder) {

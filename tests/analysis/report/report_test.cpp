@@ -66,7 +66,7 @@ std::string cellsOf(const std::string& mode, const std::string& key) {
 }  // namespace
 
 TEST(Report, TellsWhichMonitorItIsAbout) {
-    EXPECT_EQ(studioPage().text("//title"), "Studio wall");
+    EXPECT_EQ(studioPage().text("//head/title"), "Studio wall");
     EXPECT_EQ(studioPage().text("//h1"), "Studio wall");
     EXPECT_THAT(studioPage().texts("//header//dd"),
                 ElementsAre("Studio wall", "LV-27W", "27W-000417", "6f1d2c9a-52c7-4b0e-9a57-0d3c5b7e4417", "INV-2041",
