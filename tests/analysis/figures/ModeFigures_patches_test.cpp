@@ -102,8 +102,7 @@ TEST(SeriesFigures, TakeTheTargetWhereItHasPrimariesAndWhite) {
     // IEC 61966-2-1 has the X, Y and Z of the primaries of a white of Y 1; here Y of the white is 31.
     const ColorModeSettingsObject setting = settingWithPrimaries(200);
     expectNear(expectedOf({255, 0, 0}, simpleResult(), setting), {31 * 0.4124, 31 * 0.2126, 31 * 0.0193}, 0.005);
-    expectNear(expectedOf({0, 51, 0}, simpleResult(), setting),
-               {1.24 * 0.3576, 1.24 * 0.7152, 1.24 * 0.1192}, 0.001);
+    expectNear(expectedOf({0, 51, 0}, simpleResult(), setting), {1.24 * 0.3576, 1.24 * 0.7152, 1.24 * 0.1192}, 0.001);
     expectNear(expectedOf({0, 0, 0}, simpleResult(), setting), {0, 0, 0}, 0);
 }
 

@@ -40,8 +40,7 @@ inline CalibrationModeResultObject measuredResult(const std::vector<std::vector<
 }
 
 inline analysis::ModeFigures figuresOf(const ColorModeSettingsObject& setting,
-                                       const CalibrationModeResultObject& result,
-                                       const analysis::KnownUnits& known) {
+                                       const CalibrationModeResultObject& result, const analysis::KnownUnits& known) {
     ColorModeSettings settings;
     settings.objects = {setting};
     CalibrationModeResult results;

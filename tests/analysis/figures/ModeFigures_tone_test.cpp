@@ -126,8 +126,7 @@ TEST(ToneFigures, HaveTheDistanceFromTheTarget) {
     EXPECT_EQ(tone.targetGamma.text(2), "2.00");
     EXPECT_EQ(tone.steps.at(1).target.text(4), "0.0400");
     EXPECT_EQ(tone.greatestDeviation.text(4), "0.0100");
-    EXPECT_EQ(toneOf(greys(0, 5, 100)).greatestDeviation.text(2),
-              "n/a (the target has no tone curve that is known)");
+    EXPECT_EQ(toneOf(greys(0, 5, 100)).greatestDeviation.text(2), "n/a (the target has no tone curve that is known)");
 }
 
 TEST(ToneFigures, CompareGreyWithGreen) {
@@ -205,8 +204,8 @@ TEST(ToneFigures, HaveTheBalanceOfTheMeasuredPrimaries) {
     CalibrationModeResultObject result = measuredResult({{2, 0, 0}, {0, 3, 0}, {0, 0, 4}, {20, 30, 40}, {0, 0, 0}});
     addRow(result, {0, 0, 0}, {0, 0, 0});
     addRow(result, {255, 255, 255}, {20, 30, 40});
-    addRow(result, {128, 128, 128}, {2, 3, 4.4});   // 0.1, 0.1, 0.11
-    addRow(result, {50, 50, 50}, {1, 3, 4});        // 19.6 % of the signal
+    addRow(result, {128, 128, 128}, {2, 3, 4.4});  // 0.1, 0.1, 0.11
+    addRow(result, {50, 50, 50}, {1, 3, 4});       // 19.6 % of the signal
     const ToneFigures tone = toneOf(result);
     EXPECT_FALSE(tone.steps.at(0).balance);
     EXPECT_THAT(*tone.steps.at(3).balance, ElementsAre(DoubleNear(1, 1e-9), DoubleNear(1, 1e-9), DoubleNear(1, 1e-9)));

@@ -68,9 +68,9 @@ TEST(ToneCurve, HasNoOtherNames) {
 // By hand, of the formulas that lvdata/analysis/colour/transfer.h names.
 
 TEST(ToneCurve, IsThatOfItsStandard) {
-    EXPECT_EQ(lightOfName("sRGB", 0.5), "0.21404");          // ((0.5 + 0.055) / 1.055)^2.4
-    EXPECT_EQ(lightOfName("LStar", 0.5), "0.18419");         // ((50 + 16) / 116)^3
-    EXPECT_EQ(lightOfName("BT.1886", 0.5), "0.18946");       // 0.5^2.4, black being 0
+    EXPECT_EQ(lightOfName("sRGB", 0.5), "0.21404");     // ((0.5 + 0.055) / 1.055)^2.4
+    EXPECT_EQ(lightOfName("LStar", 0.5), "0.18419");    // ((50 + 16) / 116)^3
+    EXPECT_EQ(lightOfName("BT.1886", 0.5), "0.18946");  // 0.5^2.4, black being 0
     EXPECT_EQ(lightOfName("2.4", 0.5), lightOfName("BT.1886", 0.5));
     // Lw^(1/2.4) = 6.812921, Lb^(1/2.4) = 0.383119: (6.429802 * 0.5 + 0.383119)^2.4 = 21.6049; less black, over 99.9.
     EXPECT_EQ(lightOfName("BT.1886", 0.5, absolute), "0.21526");
