@@ -69,7 +69,7 @@ std::optional<Matrix> inverse(const Matrix& matrix) {
     const auto& [first, second, third] = matrix;
     const double determinant = dot(first, cross(second, third));
     const double largestPossible = length(first) * length(second) * length(third);
-    if (!(std::abs(determinant) > smallestRatio * largestPossible) || !std::isfinite(largestPossible)) {
+    if (!(std::abs(determinant) > smallestRatio * largestPossible)) {
         return std::nullopt;
     }
     const double factor = 1 / determinant;
@@ -87,7 +87,8 @@ Tristimulus adapted(const Tristimulus& colour, const Tristimulus& from, const Tr
     const cmsCIEXYZ stimulus = toLittleCMS(colour);
     cmsCIEXYZ result = stimulus;
     cmsAdaptToIlluminant(&result, &source, &destination, &stimulus);
-    return {result.X, result.Y, result.Z};
+    const Tristimulus found = {result.X, result.Y, result.Z};
+    return isFinite(found) ? found : colour;
 }
 
 }  // namespace lv::analysis::colour
