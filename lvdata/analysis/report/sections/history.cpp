@@ -8,7 +8,7 @@ namespace lv::analysis {
 namespace {
 
 constexpr std::array<std::string_view, 4> drawnFigures = {"white_delta_uv", "white_tristimulus_y", "contrast",
-                                                        patchesMeanKey};
+                                                          patchesMeanKey};
 
 bool isDrawn(const JudgedLine& judged) {
     return std::find(drawnFigures.begin(), drawnFigures.end(), judged.line.key) != drawnFigures.end();
