@@ -66,11 +66,10 @@ std::optional<GamutComparison> compare(const Polygon& gamut, const Polygon& refe
     const double whole = geometry::area(reference);
     const double coverage = sharedArea(gamut, reference) / whole;
     const double rest = uncoveredArea(gamut, reference) / whole;
-    const double areaRatio = geometry::area(gamut) / whole;
-    if (!(std::abs(coverage + rest - 1) < largestError && coverage < areaRatio + largestError)) {
+    if (!(std::abs(coverage + rest - 1) < largestError)) {
         return std::nullopt;
     }
-    return GamutComparison{std::clamp(coverage, 0.0, 1.0), areaRatio};
+    return GamutComparison{std::clamp(coverage, 0.0, 1.0), geometry::area(gamut) / whole};
 }
 
 }  // namespace
