@@ -89,8 +89,8 @@ AllFigures figuresNamed(const std::string& text) {
 
 std::vector<NamedPicture> everyPicture(const AllFigures& figures, const analysis::PictureForm& form) {
     using namespace analysis;  // NOLINT(*-using-namespace): names of pictures
-    return {{"gamut xy", gamutPicture(figures.mode, colour::Plane::xy, form)},
-            {"gamut uv", gamutPicture(figures.mode, colour::Plane::uv, form)},
+    return {{"gamut xy", gamutPicture(figures.mode, lv::analysis::colour::Plane::xy, form)},
+            {"gamut uv", gamutPicture(figures.mode, lv::analysis::colour::Plane::uv, form)},
             {"tone", tonePicture(figures.mode, form)},
             {"balance", balancePicture(figures.mode, form)},
             {"tables", tablesPicture(figures.mode, form)},

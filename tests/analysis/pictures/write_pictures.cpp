@@ -20,8 +20,8 @@ void write(const std::string& name, const std::string& picture) {
 
 void writeMode(const std::string& name, const ModeFigures& mode) {
     const LimitSet limits = lv::test::sampleLimits();
-    write(name + "-gamut-xy", gamutPicture(mode, colour::Plane::xy));
-    write(name + "-gamut-uv", gamutPicture(mode, colour::Plane::uv));
+    write(name + "-gamut-xy", gamutPicture(mode, lv::analysis::colour::Plane::xy));
+    write(name + "-gamut-uv", gamutPicture(mode, lv::analysis::colour::Plane::uv));
     write(name + "-tone", tonePicture(mode));
     write(name + "-balance", balancePicture(mode));
     write(name + "-tables", tablesPicture(mode));

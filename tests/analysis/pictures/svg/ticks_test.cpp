@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -47,7 +48,9 @@ TEST(Ticks, AreMultiplesOfOneTwoOrFive) {
 
 TEST(Ticks, StandWhereTheirLabelsSay) {
     for (const Tick& tick : ticksOf({0, 1}, 10)) {
-        EXPECT_NEAR(tick.value, std::stod(tick.label), 1e-12);
+        double labelled = 0;
+        std::from_chars(tick.label.data(), tick.label.data() + tick.label.size(), labelled);
+        EXPECT_NEAR(tick.value, labelled, 1e-12);
     }
 }
 
