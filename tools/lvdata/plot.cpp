@@ -139,7 +139,7 @@ std::string pictureOf(const MonitorDocuments& documents, const Options& options,
     };
     switch (options.picture) {
     case Picture::gamut:
-        return gamutPicture(mode(), options.plane.value_or(Plane::xy));
+        return gamutPicture(mode(), options.plane.value_or(Plane::uv));
     case Picture::tone:
         return tonePicture(mode());
     case Picture::balance:
@@ -196,7 +196,7 @@ void addOptions(CLI::App& command, Options& options) {
     addOutputOption(command, options.output);
     addModeOption(command, options.mode, "Colour mode of this index (default: the first with a calibration result)");
     addChoiceOption<std::optional<Plane>>(command, "--plane", options.plane, {{"xy", Plane::xy}, {"uv", Plane::uv}},
-                                          "Diagram of gamut: CIE 1931 x and y (default), or CIE 1976 u' and v'");
+                                          "Diagram of gamut: CIE 1931 x and y, or CIE 1976 u' and v' (default)");
     addLimitSetOption(command, options.limitSet, "Limits to draw for patches and history (default: none)");
     command.add_option("--figure", options.figure, "Figure that history draws (default: white_delta_uv)")
         ->type_name("KEY");

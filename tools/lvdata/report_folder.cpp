@@ -7,6 +7,7 @@
 #include "page_names.h"
 
 #include <lvdata/analysis/files/HeldSignals.h>
+#include <lvdata/analysis/files/files.h>
 
 #include <filesystem>
 #include <functional>
@@ -60,13 +61,23 @@ public:
         }
     }
 
+    /// A file that is not such a page stays.
     void write(const std::string& page, const std::string& text) const {
         const std::string file = folder_ / page;
         inputs_.refuseToOverwrite(file);
+        refuseUnlessPage(file);
         writeResult(file, text);
     }
 
 private:
+    static void refuseUnlessPage(const std::string& file) {
+        constexpr std::size_t beginning = 4096;
+        const auto content = lv::analysis::readFile(file, beginning);
+        if (content && content.text.find(R"(<meta name="generator" content="lvdata">)") == std::string::npos) {
+            throw Failure(file, "not overwritten, since it is not a page that lvdata made");
+        }
+    }
+
     fs::path folder_;
     const InputFiles& inputs_;
 };
