@@ -24,7 +24,8 @@ using Matrix = std::array<std::array<double, 3>, 3>;
 [[nodiscard]] std::array<double, 3> product(const Matrix& matrix, const std::array<double, 3>& column);
 
 /// The colour that looks under the white `to` as the given one does under `from`, by the linear Bradford transform as
-/// Little CMS has it (`cmsAdaptToIlluminant`). Both whites must fulfil `isWhite`.
+/// Little CMS has it (`cmsAdaptToIlluminant`). Both whites must fulfil `isWhite`. Where Little CMS has no transform for
+/// a white, the colour stays as it is.
 [[nodiscard]] Tristimulus adapted(const Tristimulus& colour, const Tristimulus& from, const Tristimulus& to);
 
 }  // namespace lv::analysis::colour

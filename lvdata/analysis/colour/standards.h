@@ -3,6 +3,7 @@
 #include <lvdata/analysis/colour/difference.h>
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -45,7 +46,7 @@ struct LocusPoint {
 /// The number of points of the locus: 380 nm to 700 nm in steps of 5 nm.
 inline constexpr std::size_t locusPoints = 65;
 
-/// The spectrum locus, from CIE 015:2018, table 5 (colour-matching functions of the CIE 1931 standard observer).
+/// The spectrum locus, computed from `colourMatchingFunctions()`.
 [[nodiscard]] const std::array<LocusPoint, locusPoints>& spectrumLocus();
 
 }  // namespace lv::analysis::colour

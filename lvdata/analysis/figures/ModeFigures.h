@@ -66,8 +66,9 @@ struct ToneStep {
 struct ToneFigures {
     std::vector<ToneStep> steps{};  ///< By signal, rising; of several with one signal the mean.
     std::string targetCurve{};      ///< What the target is, such as "2.2"; empty when not known.
+    Figure targetGamma{};           ///< The exponent aimed at, where the target is a power of the signal.
     Figure meanGamma{};             ///< The mean of the steps from 10 % to 90 % of the signal.
-    Figure greatestDeviation{};     ///< The greatest |light - target| of all steps.
+    Figure greatestDeviation{};     ///< The greatest |light - target| of all steps, as a fraction.
     Figure greatestImbalance{};     ///< The greatest |balance - 1| of a channel, of steps from 20 % of the signal.
 };
 
@@ -114,7 +115,7 @@ struct ModeFigures {
     std::string calibratedTime{};                                ///< When it was calibrated, as the record has it.
     MeasuredBy measuredBy{};                                     ///< Who and what measured.
     Figure targetY{};                                            ///< The brightness aimed at, where it is a number.
-    std::optional<colour::Chromaticity> targetChromaticity{};    ///< Where the target white is given by x and y.
+    std::optional<colour::Chromaticity> targetChromaticity{};    ///< Target white by x and y, or else by a standard.
     std::optional<colour::Tristimulus> measuredWhite{};          ///< X, Y, Z of the white that was reached.
     std::optional<colour::Chromaticity> measuredChromaticity{};  ///< x and y of the measured white.
     std::optional<colour::Tristimulus> measuredBlack{};          ///< X, Y, Z of the measured black.

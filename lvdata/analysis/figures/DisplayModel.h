@@ -1,0 +1,52 @@
+#pragma once
+
+#include <lvdata/analysis/colour/rgb.h>
+#include <lvdata/analysis/figures/stored_values.h>
+#include <lvdata/analysis/figures/target_curves.h>
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace lv::analysis {
+
+/// The columns of the result are what full red, green and blue add to black, scaled so that all three make the white.
+/// No value where a colour is missing or the primaries cannot make the white. A missing black counts as 0.
+[[nodiscard]] std::optional<colour::Matrix> channelsOf(const MeasuredSet& set);
+
+/// A display without errors: what it would show.
+class DisplayModel {
+public:
+    /// \param channels  what full red, green and blue add to black
+    /// \param black     what it shows of 0, 0, 0
+    /// \param curves    the tone curves of the three channels
+    /// \param isAbsolute  whether Y is known to be in cd/m²
+    DisplayModel(const colour::Matrix& channels, const colour::Tristimulus& black,
+                 const std::array<ToneCurve, 3>& curves, bool isAbsolute);
+
+    /// What it shows of signals of 0 to 1, or why that is not known.
+    struct Prediction {
+        std::optional<colour::Tristimulus> XYZ{};
+        std::string reason{};
+    };
+    [[nodiscard]] Prediction predict(const std::array<double, 3>& signals) const;
+
+    /// What it shows of 1, 1, 1.
+    [[nodiscard]] const colour::Tristimulus& white() const { return white_; }
+
+private:
+    struct Lights {
+        std::array<double, 3> values{};
+        std::string reason{};
+    };
+    [[nodiscard]] Lights lightsOf(const std::array<double, 3>& signals) const;
+    [[nodiscard]] Lights hlgLightsOf(const std::array<double, 3>& signals) const;
+
+    colour::Matrix channels_;
+    colour::Tristimulus black_;
+    colour::Tristimulus white_;
+    std::array<ToneCurve, 3> curves_;
+    ToneRange range_;
+};
+
+}  // namespace lv::analysis

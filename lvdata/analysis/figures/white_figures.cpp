@@ -1,0 +1,92 @@
+#include <lvdata/analysis/figures/white_figures.h>
+
+#include <lvdata/analysis/colour/temperature.h>
+
+namespace lv::analysis {
+namespace {
+
+using Result = CalibrationModeResultObject;
+
+/// Of white and black of one set: other whites may have another unit.
+Figure contrastOf(const MeasuredSet& set) {
+    if (!set.black) {
+        return missing(set.blackReason);
+    }
+    if (!set.white) {
+        return missing("no white was measured");
+    }
+    const double whiteY = (*set.white)[1];
+    const double blackY = (*set.black)[1];
+    if (whiteY > 0 && blackY > 0) {
+        return computed(whiteY / blackY);
+    }
+    return missing(whiteY > 0 ? "black has Y 0" : "white has Y 0");
+}
+
+Figure deltaUVOf(const ModeFigures& figures) {
+    if (!figures.targetChromaticity) {
+        return missing("the target has no x and y");
+    }
+    if (!figures.measuredChromaticity) {
+        return missing("X, Y and Z of the white are 0");
+    }
+    const auto target = colour::uniform(*figures.targetChromaticity);
+    const auto measured = colour::uniform(*figures.measuredChromaticity);
+    return target && measured ? computed(colour::distance(*target, *measured))
+                              : missing("x and y are not of a real colour");
+}
+
+Figure deltaE2000Of(const ModeFigures& figures) {
+    if (!figures.targetChromaticity) {
+        return missing("the target has no x and y");
+    }
+    const colour::Tristimulus& measured = *figures.measuredWhite;
+    const auto target = tristimulusOf(*figures.targetChromaticity, measured[1]);
+    if (!target || !colour::isWhite(*target)) {
+        return missing(measured[1] > 0 ? "x and y are not of a real colour" : "white has Y 0");
+    }
+    return computed(colour::deltaE2000(colour::lab(measured, *target), colour::lab(*target, *target)));
+}
+
+/// The white that the calibration reached, or else that of the profile data.
+std::optional<colour::Tristimulus> measuredWhiteOf(const Result& result, const MeasuredSet& set) {
+    const auto& reached = result.basicData.justCalibratedWhite;
+    const auto white = result.hasBasicData && reached.hasValue ? tristimulusOf(reached.value) : std::nullopt;
+    return white ? white : set.white;
+}
+
+void takeTemperature(ModeFigures& figures) {
+    if (!figures.measuredChromaticity) {
+        figures.temperature = figures.duv = missing("X, Y and Z of the white are 0");
+    } else if (const auto temperature = colour::correlatedTemperature(*figures.measuredChromaticity)) {
+        figures.temperature = computed(temperature->kelvin);
+        figures.duv = computed(temperature->duv);
+    } else {
+        figures.temperature = figures.duv = missing("too far from the Planckian locus");
+    }
+}
+
+}  // namespace
+
+void missWhite(ModeFigures& figures, const std::string& reason) {
+    figures.measuredY = figures.blackY = figures.contrast = missing(reason);
+    figures.deltaUV = figures.deltaE2000 = figures.temperature = figures.duv = missing(reason);
+}
+
+void takeWhite(ModeFigures& figures, const Result& result) {
+    missWhite(figures, "no white was measured");
+    const MeasuredSet set = measuredSetOf(result);
+    figures.measuredBlack = set.black;
+    figures.blackY = set.black ? computed((*set.black)[1]) : missing(set.blackReason);
+    figures.contrast = contrastOf(set);
+    figures.measuredWhite = measuredWhiteOf(result, set);
+    if (figures.measuredWhite) {
+        figures.measuredChromaticity = chromaticityOf(*figures.measuredWhite);
+        figures.measuredY = computed((*figures.measuredWhite)[1]);
+        figures.deltaUV = deltaUVOf(figures);
+        figures.deltaE2000 = deltaE2000Of(figures);
+        takeTemperature(figures);
+    }
+}
+
+}  // namespace lv::analysis

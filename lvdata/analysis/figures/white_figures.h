@@ -1,0 +1,13 @@
+#pragma once
+
+#include <lvdata/analysis/figures/stored_values.h>
+
+namespace lv::analysis {
+
+/// White and black that were reached, against the target that `figures` already has.
+void takeWhite(ModeFigures& figures, const CalibrationModeResultObject& result);
+
+/// Sets every figure of white and black to n/a.
+void missWhite(ModeFigures& figures, const std::string& reason);
+
+}  // namespace lv::analysis
