@@ -1,13 +1,48 @@
 #include <lvdata/analysis/report/report.h>
 
-namespace lv::analysis {
+#include <lvdata/analysis/pictures/pictures.h>
+#include <lvdata/analysis/report/filling.h>
+#include <lvdata/analysis/report/page_frame.h>
+#include <lvdata/analysis/report/sections.h>
+#include <lvdata/analysis/utf8.h>
 
-std::string reportPage(const std::vector<ReportedDocument>&, const ReportForm& form) {
-    return "<!DOCTYPE html><title>" + form.title + "</title>\n";
+#include <utility>
+
+namespace lv::analysis {
+namespace {
+
+std::string titleOf(const ReportContents& contents) {
+    const std::string& name = contents.latest().snapshot.figures.name;
+    return !contents.form.title.empty() ? contents.form.title : !name.empty() ? name : "Monitor without a name";
 }
 
-std::string fleetPage(const std::vector<FleetEntry>&, const ReportForm& form) {
-    return "<!DOCTYPE html><title>" + form.title + "</title>\n";
+View modesOf(const ReportContents& contents) {
+    View::Items modes;
+    for (const ReportedMode& mode : contents.judged.calibrated) {
+        modes.push_back(modeView(contents, mode));
+    }
+    return modes;
+}
+
+View viewOf(const ReportContents& contents) {
+    return View::Members{
+        {"frame", pageFrame(titleOf(contents))},
+        {"head_section", headView(contents)},
+        {"summary_section", summaryView(contents)},
+        {"modes", modesOf(contents)},
+        {"uniformity_section", uniformityView(contents.latest().snapshot.figures, contents.limits())},
+        {"history_section", historyView(contents)},
+        {"quality_section", qualityView(contents.latest().findings)},
+        {"data_section", dataView(contents)},
+    };
+}
+
+}  // namespace
+
+std::string reportPage(const std::vector<ReportedDocument>& documents, const ReportForm& form) {
+    ReportContents contents{documents, form, {}};
+    contents.judged = judgedMonitor(contents.latest().snapshot.figures, contents.limits(), form.mode);
+    return inUTF8(filled("report", viewOf(contents)));
 }
 
 }  // namespace lv::analysis

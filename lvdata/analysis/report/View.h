@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace lv::analysis {
+
+/// What a template is filled with: a condition, a text, a list, or values with names.
+///
+/// A template looks a name up in the innermost value first and then further out, so each value of a list has all names
+/// that the template asks for, be they empty. An empty text, an empty list and `false` count as "not there".
+class View {
+public:
+    struct Member;
+    using Items = std::vector<View>;
+    using Members = std::vector<Member>;
+    using Value = std::variant<bool, std::string, Items, Members>;
+
+    View(bool condition) : value_(condition) {}
+    View(std::string text) : value_(std::move(text)) {}
+    View(std::string_view text) : value_(std::string(text)) {}
+    View(const char* text) : value_(std::string(text)) {}
+    View(Items items);
+    View(Members members);
+
+    /// What it holds.
+    [[nodiscard]] const Value& value() const { return value_; }
+
+private:
+    Value value_;
+};
+
+/// A value with its name.
+struct View::Member {
+    std::string name;  ///< As templates write it.
+    View view;         ///< The value.
+};
+
+}  // namespace lv::analysis

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <lvdata/analysis/report/View.h>
+#include <lvdata/analysis/report/report.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What the sections of a page are filled with.
+namespace lv::analysis {
+
+/// A mode with its judged figures.
+struct ReportedMode {
+    const ModeFigures* figures = nullptr;  ///< The mode. Not null.
+    std::string id{};                      ///< What ids of its elements begin with, such as "mode-1".
+    std::vector<JudgedLine> lines{};       ///< All its figures.
+    Verdict verdict{};                     ///< How it does as a whole.
+};
+
+/// A monitor, judged.
+struct JudgedMonitor {
+    std::vector<ReportedMode> calibrated{};    ///< Modes with a result.
+    std::vector<const ModeFigures*> others{};  ///< Modes without one.
+    Verdict verdict{};                         ///< Of all modes with a result, and of the maps.
+};
+
+/// Judges the modes of a monitor, or the only one with that index. `monitor` and `limits` must outlive the result.
+[[nodiscard]] JudgedMonitor judgedMonitor(const MonitorFigures& monitor, const LimitSet& limits,
+                                          const std::optional<std::string>& mode = {});
+
+/// What a page is about.
+struct ReportContents {
+    const std::vector<ReportedDocument>& documents;  ///< All documents, at least one.
+    const ReportForm& form;                          ///< How the page is made.
+    JudgedMonitor judged{};                          ///< The monitor of the latest document.
+
+    /// The document that is told in full.
+    [[nodiscard]] const ReportedDocument& latest() const { return documents.back(); }
+
+    /// What figures are judged by.
+    [[nodiscard]] const LimitSet& limits() const { return *form.limits; }
+};
+
+/// Whether anything of a calibration or measurement of the mode is known.
+[[nodiscard]] bool hasResult(const ModeFigures& mode);
+
+/// The key of the mean ΔE00 of all patches.
+inline constexpr std::string_view patchesMeanKey = "patches_mean";
+
+/// \name Pieces that several sections use
+/// @{
+
+/// A text of a document: "text" is short enough for a line, "full" the whole text when that was shortened.
+[[nodiscard]] View textView(std::string_view text);
+
+/// The same, with other words when the text is empty.
+[[nodiscard]] View textView(std::string_view text, std::string_view otherwise);
+
+/// The text, cut to that many characters when it is longer, with "…" at the end.
+[[nodiscard]] std::string shortened(std::string_view text, std::size_t most = 80);
+
+/// "symbol", "word" and "class" of a mark on a single figure.
+[[nodiscard]] View markView(Mark mark);
+
+/// The same for a mode or a monitor as a whole.
+[[nodiscard]] View verdictMarkView(Mark mark);
+
+/// How the figures count: "12 of 14 within limits, 1 outside, 1 not available".
+[[nodiscard]] std::string countsText(const Verdict& verdict);
+
+/// Judged figures as the rows of a table, by their groups.
+[[nodiscard]] View figureGroupsView(const std::vector<JudgedLine>& lines);
+
+/// A number of things: "1 document", "3 documents".
+[[nodiscard]] std::string counted(std::size_t number, std::string_view noun);
+/// @}
+
+/// \name Sections
+/// @{
+[[nodiscard]] View headView(const ReportContents& contents);
+[[nodiscard]] View summaryView(const ReportContents& contents);
+[[nodiscard]] View modeView(const ReportContents& contents, const ReportedMode& mode);
+[[nodiscard]] View verdictView(const ReportContents& contents, const ReportedMode& mode);
+[[nodiscard]] View gamutView(const ReportedMode& mode);
+[[nodiscard]] View toneView(const ReportedMode& mode);
+[[nodiscard]] View patchesView(const ReportedMode& mode, const LimitSet& limits);
+[[nodiscard]] View tablesView(const ReportedMode& mode);
+[[nodiscard]] View uniformityView(const MonitorFigures& monitor, const LimitSet& limits);
+[[nodiscard]] View historyView(const ReportContents& contents);
+[[nodiscard]] View qualityView(const Findings& findings);
+[[nodiscard]] View dataView(const ReportContents& contents);
+/// @}
+
+}  // namespace lv::analysis

@@ -1,0 +1,94 @@
+#include <lvdata/analysis/pictures/pictures.h>
+#include <lvdata/analysis/report/sections.h>
+
+#include <algorithm>
+#include <array>
+
+namespace lv::analysis {
+namespace {
+
+constexpr std::array<std::string_view, 4> alwaysTold = {"white_delta_uv", "white_y", "contrast", patchesMeanKey};
+
+/// Whether a figure's history is told: it has a limit, or is one of the few that matter most.
+bool isTold(const JudgedLine& judged) {
+    const auto found = std::find(alwaysTold.begin(), alwaysTold.end(), judged.line.key);
+    return judged.limit != nullptr || found != alwaysTold.end();
+}
+
+bool hasValue(const HistorySeries& series) {
+    return std::any_of(series.points.begin(), series.points.end(),
+                       [](const HistorySeries::Point& point) { return point.figure.value.has_value(); });
+}
+
+std::vector<Snapshot> snapshotsOf(const std::vector<ReportedDocument>& documents) {
+    std::vector<Snapshot> snapshots;
+    for (const ReportedDocument& document : documents) {
+        snapshots.push_back(document.snapshot);
+    }
+    return snapshots;
+}
+
+View pictureOf(const HistorySeries& series, const JudgedLine& judged, const std::string& id) {
+    return View::Members{{"picture_label", series.label},
+                         {"picture_history", historyPicture(series, judged.limit, {id, false})}};
+}
+
+View rowOf(const std::vector<HistorySeries>& all, std::size_t point) {
+    View::Items values;
+    for (const HistorySeries& series : all) {
+        const Figure& figure = series.points.at(point).figure;
+        values.push_back(View::Members{{"value", figure.text(series.decimals)}});
+    }
+    const std::string number = "Document " + std::to_string(point + 1);
+    return View::Members{{"when", textView(all.front().points[point].when, number)}, {"values", std::move(values)}};
+}
+
+View columnOf(const HistorySeries& series) {
+    return View::Members{{"column_label", series.label}, {"column_unit", series.unit}};
+}
+
+View tableOf(const std::vector<HistorySeries>& all) {
+    View::Items columns;
+    for (const HistorySeries& series : all) {
+        columns.push_back(columnOf(series));
+    }
+    View::Items rows;
+    for (std::size_t point = 0; point < all.front().points.size(); ++point) {
+        rows.push_back(rowOf(all, point));
+    }
+    return View::Members{{"columns", std::move(columns)}, {"rows", std::move(rows)}};
+}
+
+/// The history of a mode; `false` when there is none.
+View modeHistoryOf(const std::vector<Snapshot>& snapshots, const ReportedMode& mode) {
+    std::vector<HistorySeries> told;
+    View::Items pictures;
+    for (const JudgedLine& judged : mode.lines) {
+        HistorySeries series =
+            isTold(judged) ? historyOf(snapshots, mode.figures->index, judged.line.key) : HistorySeries{};
+        if (series.points.size() > 1 && hasValue(series)) {
+            pictures.push_back(pictureOf(series, judged, mode.id + "-history-" + std::to_string(told.size() + 1)));
+            told.push_back(std::move(series));
+        }
+    }
+    if (told.empty()) {
+        return false;
+    }
+    return View::Members{
+        {"history_name", shortened(mode.figures->name)}, {"pictures", std::move(pictures)}, {"table", tableOf(told)}};
+}
+
+}  // namespace
+
+View historyView(const ReportContents& contents) {
+    View::Items modes;
+    if (contents.documents.size() > 1) {
+        const std::vector<Snapshot> snapshots = snapshotsOf(contents.documents);
+        for (const ReportedMode& mode : contents.judged.calibrated) {
+            modes.push_back(modeHistoryOf(snapshots, mode));
+        }
+    }
+    return View::Members{{"is_told", contents.documents.size() > 1}, {"mode_histories", std::move(modes)}};
+}
+
+}  // namespace lv::analysis

@@ -1,0 +1,73 @@
+#include <lvdata/analysis/pictures/pictures.h>
+#include <lvdata/analysis/report/sections.h>
+
+namespace lv::analysis {
+namespace {
+
+template <std::size_t Count>
+std::string joined(const std::array<unsigned int, Count>& values, const char* separator) {
+    std::string text;
+    for (const unsigned int value : values) {
+        text += (text.empty() ? "" : separator) + std::to_string(value);
+    }
+    return text;
+}
+
+/// What was shown: "RGB 255 0 0", "CMYK 0 100 100 0".
+std::string shownText(const PatchFigures& patch) {
+    if (patch.RGB) {
+        return "RGB " + joined(*patch.RGB, " ");
+    }
+    return patch.CMYK ? "CMYK " + joined(*patch.CMYK, " ") : "";
+}
+
+std::string componentOf(const std::optional<colour::Tristimulus>& XYZ, std::size_t component) {
+    return XYZ ? fixedText((*XYZ)[component], 4) : "n/a";
+}
+
+View patchOf(const PatchFigures& patch) {
+    return View::Members{
+        {"number", std::to_string(patch.number)},
+        {"shown", shownText(patch)},
+        {"swatch", patch.RGB ? "rgb(" + joined(*patch.RGB, ",") + ")" : ""},
+        {"X", componentOf(patch.XYZ, 0)},
+        {"Y", componentOf(patch.XYZ, 1)},
+        {"Z", componentOf(patch.XYZ, 2)},
+        {"expected_X", componentOf(patch.expected, 0)},
+        {"expected_Y", componentOf(patch.expected, 1)},
+        {"expected_Z", componentOf(patch.expected, 2)},
+        {"delta_e", patch.deltaE2000.text(2)},
+    };
+}
+
+View worstOf(const SeriesFigures& series) {
+    View::Items rows;
+    for (const std::size_t index : series.worst) {
+        rows.push_back(patchOf(series.patches.at(index)));
+    }
+    return rows;
+}
+
+}  // namespace
+
+View patchesView(const ReportedMode& mode, const LimitSet& limits) {
+    const SeriesFigures& series = mode.figures->series;
+    View::Items rows;
+    for (const PatchFigures& patch : series.patches) {
+        rows.push_back(patchOf(patch));
+    }
+    return View::Members{
+        {"picture_patches", patchesPicture(*mode.figures, &limits, {mode.id + "-patches", false})},
+        {"reference", textView(series.reference, "nothing: the record has no target for the patches")},
+        {"mean", series.mean.text(2)},
+        {"percentile", series.percentile95.text(2)},
+        {"maximum", series.maximum.text(2)},
+        {"has_worst", !series.worst.empty()},
+        {"worst", worstOf(series)},
+        {"patch_count", counted(rows.size(), "patch measurement")},
+        {"has_patches", !rows.empty()},
+        {"patches", std::move(rows)},
+    };
+}
+
+}  // namespace lv::analysis

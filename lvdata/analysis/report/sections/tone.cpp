@@ -1,0 +1,39 @@
+#include <lvdata/analysis/pictures/pictures.h>
+#include <lvdata/analysis/report/sections.h>
+
+namespace lv::analysis {
+namespace {
+
+std::string balanceOf(const ToneStep& step, std::size_t channel) {
+    return step.balance ? fixedText((*step.balance)[channel], 3) : "n/a";
+}
+
+View stepOf(const ToneStep& step) {
+    return View::Members{
+        {"signal", fixedText(step.signal * 100, 1)},
+        {"light", fixedText(step.light, 4)},
+        {"target", step.target.text(4)},
+        {"gamma", step.gamma.text(2)},
+        {"red", balanceOf(step, 0)},
+        {"green", balanceOf(step, 1)},
+        {"blue", balanceOf(step, 2)},
+    };
+}
+
+}  // namespace
+
+View toneView(const ReportedMode& mode) {
+    View::Items steps;
+    for (const ToneStep& step : mode.figures->tone.steps) {
+        steps.push_back(stepOf(step));
+    }
+    return View::Members{
+        {"picture_tone", tonePicture(*mode.figures, {mode.id + "-tone", false})},
+        {"picture_balance", balancePicture(*mode.figures, {mode.id + "-balance", false})},
+        {"step_count", counted(steps.size(), "grey step")},
+        {"has_steps", !steps.empty()},
+        {"steps", std::move(steps)},
+    };
+}
+
+}  // namespace lv::analysis

@@ -1,0 +1,79 @@
+"use strict";
+(() => {
+  const each = (root, selector, act) => root.querySelectorAll(selector).forEach(act);
+  document.documentElement.classList.add("has-script");
+
+  // The switch between the diagrams, of all modes at once.
+  const showPlane = (plane) => {
+    each(document, ".switch button", (button) => button.setAttribute("aria-pressed", button.dataset.plane === plane));
+    each(document, ".plane", (figure) => figure.classList.toggle("is-shown", figure.dataset.plane === plane));
+  };
+  each(document, ".switch button", (button) => button.addEventListener("click", () => showPlane(button.dataset.plane)));
+
+  // Values of a picture: under the pointer, or by the arrow keys while the picture has the focus.
+  const valuesOf = (svg) => [...svg.querySelectorAll("title")].map((title) => title.parentNode).filter((e) => e !== svg);
+  const textOf = (element) => [...element.children].find((child) => child.tagName === "title").textContent;
+  const makeReadable = (figure) => {
+    const svg = figure.querySelector("svg");
+    const values = svg ? valuesOf(svg) : [];
+    if (values.length === 0) {
+      return;
+    }
+    const readout = figure.appendChild(document.createElement("output"));
+    readout.className = "readout";
+    let current = -1;
+    const show = (index) => {
+      if (current >= 0) {
+        values[current].classList.remove("is-current");
+      }
+      current = index;
+      if (index >= 0) {
+        values[index].classList.add("is-current");
+      }
+      readout.textContent = index >= 0 ? textOf(values[index]) : "";
+    };
+    const hint = () => {
+      readout.textContent = `Arrow keys: read ${values.length} values`;
+    };
+    const steps = { ArrowRight: 1, ArrowDown: 1, ArrowLeft: -1, ArrowUp: -1 };
+    svg.setAttribute("tabindex", "0");
+    svg.addEventListener("focus", () => (current < 0 ? hint() : show(current)));
+    svg.addEventListener("blur", () => show(-1));
+    svg.addEventListener("keydown", (event) => {
+      if (event.key in steps) {
+        event.preventDefault();
+        show((Math.max(current, steps[event.key] > 0 ? -1 : 0) + steps[event.key] + values.length) % values.length);
+      }
+    });
+    svg.addEventListener("pointerover", (event) => {
+      const index = values.findIndex((value) => value.contains(event.target));
+      if (index >= 0) {
+        show(index);
+      }
+    });
+  };
+  each(document, ".picture", makeReadable);
+
+  // Tables whose rows can be sorted by a column.
+  const keyOf = (row, column) => row.cells[column].textContent.trim();
+  const compare = (left, right) => {
+    const [a, b] = [parseFloat(left), parseFloat(right)];
+    const areNumbers = /^-?[\d.]+$/.test(left) && /^-?[\d.]+$/.test(right);
+    return areNumbers ? a - b : left.localeCompare(right, "en", { numeric: true });
+  };
+  const sortBy = (table, heading, column) => {
+    const isRising = heading.getAttribute("aria-sort") !== "ascending";
+    each(table, "thead th", (other) => other.removeAttribute("aria-sort"));
+    heading.setAttribute("aria-sort", isRising ? "ascending" : "descending");
+    const body = table.tBodies[0];
+    const rows = [...body.rows].sort((a, b) => compare(keyOf(a, column), keyOf(b, column)));
+    body.append(...(isRising ? rows : rows.reverse()));
+  };
+  each(document, "table.sortable", (table) => each(table, "thead th", (heading, column) => {
+    const button = document.createElement("button");
+    button.type = "button";
+    button.append(...heading.childNodes);
+    heading.append(button);
+    button.addEventListener("click", () => sortBy(table, heading, column));
+  }));
+})();
