@@ -86,6 +86,17 @@ TEST_F(Report, IsJudgedByTheLimitsThatAreAskedFor) {
               failed("/dev/zero: error: more than 1000000 bytes, which no limits need"));
 }
 
+TEST_F(Report, FailsOnLimitsOnRequest) {
+    const std::string figure = R"({"name": "own", "title": "Own", "limits": {"white_delta_uv": {"maximum": )";
+    write("strict.json", figure + "0}}}");
+    write("lax.json", figure + "1}}}");
+    EXPECT_EQ(run({"report", studio, "--limits", "strict.json", "-o", "out.html"}), done());
+    EXPECT_EQ(run({"report", studio, "--limits", "strict.json", "-o", "out.html", "--fail-on-limits"}).exitCode, 1);
+    EXPECT_EQ(run({"report", studio, "--limits", "lax.json", "-o", "out.html", "--fail-on-limits"}), done());
+    EXPECT_EQ(run({"report", studio, "--limits", "strict.json", "-o", "out/", "--fail-on-limits"}).exitCode, 1);
+    EXPECT_EQ(run({"report", studio, "--limits", "lax.json", "-o", "out/", "--fail-on-limits"}), done());
+}
+
 TEST_F(Report, SaysWhatIsWrongWithAFileOfLimits) {
     write("limits.json", "{\n\"name\": 1\n}");
     const Outcome outcome = run({"report", studio, "--limits", "limits.json", "-o", "out.html"});

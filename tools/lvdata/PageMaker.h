@@ -12,6 +12,7 @@ namespace tool {
 struct MonitorPage {
     std::string text;
     lv::analysis::FleetEntry entry;  // without the name of the page
+    bool isWithinLimits = true;      // no figure of the page is beyond its limit
 };
 
 /// Makes pages. Any number of threads may use one.

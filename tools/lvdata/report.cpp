@@ -39,6 +39,7 @@ struct Options {
     std::string title;
     std::string date;
     std::string output{standardStream};
+    bool failsOnLimits = false;
 };
 
 /// Whether the output is a folder: one that is there, or a name that ends with "/".
@@ -52,7 +53,7 @@ ReportForm formOf(const Options& options, const LimitSet& limits) {
             &limits};
 }
 
-/// Reads all documents. The last two are compared when `isForOne`: a page has one monitor.
+/// Reads all documents. Throws `Failure` when there is a second monitor and no folder to have its page.
 ExitStatus readFleet(const Options& options, const MonitorReader& reader, InputFiles& inputs, Fleet& fleet) {
     const bool isForOne = !isFolder(options.output);
     Output output;
@@ -72,6 +73,12 @@ ExitStatus readFleet(const Options& options, const MonitorReader& reader, InputF
     return forEachInput(options.batch, output, work, deliver);
 }
 
+ExitStatus writePage(const Options& options, const MonitorPage& page, const InputFiles& inputs) {
+    inputs.refuseToOverwrite(options.output);
+    writeResult(options.output, page.text);
+    return options.failsOnLimits && !page.isWithinLimits ? ExitStatus::found : ExitStatus::done;
+}
+
 ExitStatus report(const Options& options) {
     const LimitSet limits = readLimitSet(options.limitSet);
     const ReportForm form = formOf(options, limits);
@@ -84,15 +91,13 @@ ExitStatus report(const Options& options) {
     if (monitors.empty()) {
         return status;
     }
-    if (isFolder(options.output)) {
-        ReportForm formOfPages = form;
-        formOfPages.title.clear();
-        return worst(status, writeReportFolder({options.output, form, jobsOf(options.batch)}, monitors,
-                                               PageMaker(reader, formOfPages), inputs));
+    if (!isFolder(options.output)) {
+        return worst(status, writePage(options, PageMaker(reader, form).pageOf(monitors.front()), inputs));
     }
-    inputs.refuseToOverwrite(options.output);
-    writeResult(options.output, PageMaker(reader, form).pageOf(monitors.front()).text);
-    return status;
+    ReportForm formOfPages = form;
+    formOfPages.title.clear();  // each has the name of its monitor
+    const ReportFolder folder{options.output, form, jobsOf(options.batch), options.failsOnLimits};
+    return worst(status, writeReportFolder(folder, monitors, PageMaker(reader, formOfPages), inputs));
 }
 
 void addOptions(CLI::App& command, Options& options) {
@@ -101,6 +106,7 @@ void addOptions(CLI::App& command, Options& options) {
                     "there, or a name that ends with /");
     addModeOption(command, options.mode, "Only the colour mode of this index (default: all)");
     addLimitSetOption(command, options.limitSet, "What figures are judged by (default: default)");
+    command.add_flag("--fail-on-limits", options.failsOnLimits, "Exit status 1 when a figure is not within its limit");
     command.add_option("--title", options.title, "Heading (default: the name of the monitor)")->type_name("TEXT");
     addDateOption(command, options.date);
     addUnitOptions(command, options.units);

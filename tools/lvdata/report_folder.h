@@ -16,6 +16,7 @@ struct ReportFolder {
     std::string folder;             // is made when it is not there
     lv::analysis::ReportForm form;  // of the page with the table
     std::size_t jobs = 1;           // pages that are made at a time
+    bool failsOnLimits = false;     // whether a figure beyond its limit is `found`
 };
 
 /// Writes a page for each monitor and then "index.html" with the table of all. A monitor whose page cannot be made is
