@@ -25,14 +25,13 @@ Figure coordinate(const std::optional<colour::Chromaticity>& place, double colou
     return place ? computed((*place).*member) : missing(reason);
 }
 
-/// The reason of a Δu'v' says which of the two is missing; the other one has the general reason.
-void addPrimary(std::vector<FigureLine>& lines, const Name& name, const PrimaryFigures& primary) {
-    const std::string& reason = primary.deltaUV.reason;
-    const std::string noTarget = primary.measured && !reason.empty() ? reason : "the target has no x and y of it";
+/// A primary that was not measured has the reason of its Δu'v'.
+void addPrimary(std::vector<FigureLine>& lines, const Name& name, const PrimaryFigures& primary,
+                const std::string& targetGamut) {
     const auto add = [&](const Name& axis, double colour::Chromaticity::*member) {
-        lines.push_back(chromaticityLine({name.key + axis.key, name.label + axis.label},
-                                         {coordinate(primary.target, member, noTarget), ""},
-                                         coordinate(primary.measured, member, reason)));
+        const Aim aim{coordinate(primary.target, member, "the target has no x and y of it"), targetGamut};
+        lines.push_back(chromaticityLine({name.key + axis.key, name.label + axis.label}, aim,
+                                         coordinate(primary.measured, member, primary.deltaUV.reason)));
     };
     add({"_x", " x"}, &colour::Chromaticity::x);
     add({"_y", " y"}, &colour::Chromaticity::y);
@@ -59,9 +58,9 @@ void addSpace(std::vector<FigureLine>& lines, const std::string& key, const Gamu
 }  // namespace
 
 void addPrimaries(std::vector<FigureLine>& lines, const ModeFigures& mode) {
-    addPrimary(lines, {"red", "Red"}, mode.primaries[0]);
-    addPrimary(lines, {"green", "Green"}, mode.primaries[1]);
-    addPrimary(lines, {"blue", "Blue"}, mode.primaries[2]);
+    addPrimary(lines, {"red", "Red"}, mode.primaries[0], mode.targetGamut);
+    addPrimary(lines, {"green", "Green"}, mode.primaries[1], mode.targetGamut);
+    addPrimary(lines, {"blue", "Blue"}, mode.primaries[2], mode.targetGamut);
 }
 
 void addGamuts(std::vector<FigureLine>& lines, const ModeFigures& mode) {

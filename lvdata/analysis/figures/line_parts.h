@@ -10,18 +10,19 @@ namespace lv::analysis {
 /// What a line aims at; neither value nor reason nor words where a target makes no sense.
 struct Aim {
     Figure number{};      ///< The number, or why there is none.
-    std::string words{};  ///< The target where it is words.
+    std::string words{};  ///< The target where it is not a number; they count where `number` has no value.
 };
 
 /// Gives a line its target, measured value and their difference.
 inline void setNumbers(FigureLine& line, const Aim& aim, const Figure& measured) {
-    line.target = aim.number;
-    line.targetText = aim.words;
+    const bool isWords = !aim.number.value && !aim.words.empty();
+    line.target = isWords ? Figure() : aim.number;
+    line.targetText = isWords ? aim.words : "";
     line.measured = measured;
-    if (aim.number.value && measured.value) {
-        line.difference = computed(*measured.value - *aim.number.value);
-    } else if (aim.number.value || !aim.number.reason.empty()) {
-        line.difference = missing(measured.value ? aim.number.reason : measured.reason);
+    if (line.target.value && measured.value) {
+        line.difference = computed(*measured.value - *line.target.value);
+    } else if (line.target.value || !line.target.reason.empty()) {
+        line.difference = missing(measured.value ? line.target.reason : measured.reason);
     }
 }
 

@@ -31,10 +31,7 @@ std::string whiteWords(const Mode& mode) {
 /// A coordinate of the target white.
 template <class Coordinate>
 Aim whiteAim(const Mode& mode, Coordinate coordinate) {
-    if (!mode.targetChromaticity) {
-        return {missing("the target has no x and y"), whiteWords(mode)};
-    }
-    return {coordinate(*mode.targetChromaticity), ""};
+    return {mode.targetChromaticity ? coordinate(*mode.targetChromaticity) : missing("the target has no x and y"), ""};
 }
 
 /// A coordinate of the measured white; without a white its reason is that of Y.
@@ -100,7 +97,8 @@ constexpr std::array whiteAndBlack = {
              [](const Mode& mode) { return whiteFigure(mode, uOf); }},
     LineForm{"white_v", "White", "White v'", "", 4, [](const Mode& mode) { return whiteAim(mode, vOf); },
              [](const Mode& mode) { return whiteFigure(mode, vOf); }},
-    LineForm{"white_cct", "White", "White CCT", "K", 0, [](const Mode& mode) { return whiteAim(mode, kelvinOf); },
+    LineForm{"white_cct", "White", "White CCT", "K", 0, 
+             [](const Mode& mode) { return Aim{whiteAim(mode, kelvinOf).number, whiteWords(mode)}; },
              [](const Mode& mode) { return mode.temperature; }},
     LineForm{"white_duv", "White", "White Δuv", "", 4, [](const Mode& mode) { return whiteAim(mode, duvOf); },
              [](const Mode& mode) { return mode.duv; }},
@@ -108,7 +106,7 @@ constexpr std::array whiteAndBlack = {
     LineForm{"white_delta_e2000", "White", "White ΔE00", "", 2, nullptr,
              [](const Mode& mode) { return mode.deltaE2000; }},
     LineForm{"white_tristimulus_y", "White", "White Y", unitOfY, 4,
-             [](const Mode& mode) { return Aim{mode.targetY, mode.targetY.value ? "" : mode.targetBrightness}; },
+             [](const Mode& mode) { return Aim{mode.targetY, mode.targetBrightness}; },
              [](const Mode& mode) { return mode.measuredY; }},
     LineForm{"white_tristimulus_y_deviation", "White", "White Y over target", "%", 1, nullptr, deviationOfY},
     LineForm{"black_tristimulus_y", "Black", "Black Y", unitOfY, 4,
@@ -119,7 +117,7 @@ constexpr std::array whiteAndBlack = {
 constexpr std::array toneAndPatches = {
     LineForm{"tone_mean_gamma", "Tone", "Mean gamma", "", 2,
              [](const Mode& mode) {
-                 return Aim{mode.tone.targetGamma, mode.tone.targetGamma.value ? "" : mode.tone.targetCurve};
+                 return Aim{mode.tone.targetGamma, mode.tone.targetCurve};
              },
              [](const Mode& mode) { return mode.tone.meanGamma; }},
     LineForm{"tone_greatest_deviation", "Tone", "Greatest deviation of the tone curve", "%", 2, nullptr,
