@@ -1,0 +1,93 @@
+#include <lvdata/analysis/pictures/Picture.h>
+
+#include <vector>
+
+namespace lv::analysis {
+namespace {
+
+constexpr double margin = 16;
+constexpr double titleLine = 26;
+constexpr double subtitleLine = 44;
+constexpr double textFontSize = 12;
+constexpr double emptyHeight = 150;
+
+/// The words of a text in lines of at most that width.
+std::vector<std::string> wrapped(const std::string& text, double width) {
+    std::vector<std::string> lines{""};
+    std::string word;
+    for (const char character : text + ' ') {
+        if (character != ' ') {
+            word += character;
+            continue;
+        }
+        const std::string longer = lines.back().empty() ? word : lines.back() + ' ' + word;
+        if (svg::textWidth(longer, textFontSize) <= width || lines.back().empty()) {
+            lines.back() = svg::shortened(longer, width, textFontSize);
+        } else {
+            lines.push_back(svg::shortened(word, width, textFontSize));
+        }
+        word.clear();
+    }
+    return lines;
+}
+
+}  // namespace
+
+Picture::Picture(const PictureForm& form, double height, const PictureTexts& texts) : id_(form.id) {
+    const std::string size = svg::coordinateText(pictureWidth) + ' ' + svg::coordinateText(height);
+    svg_.open("svg", {{"xmlns", "http://www.w3.org/2000/svg"},
+                      {"class", "lv-picture " + id_},
+                      {"role", "img"},
+                      {"aria-labelledby", idOf("title") + ' ' + idOf("desc")},
+                      {"viewBox", "0 0 " + size},
+                      {"width", pictureWidth},
+                      {"height", height}});
+    const std::string subtitle = svg::cleaned(texts.subtitle);
+    svg_.text("title", {{"id", idOf("title")}}, texts.title + (subtitle.empty() ? "" : ": " + subtitle));
+    svg_.text("desc", {{"id", idOf("desc")}}, svg::cleaned(texts.description));
+    if (form.hasStyle) {
+        svg_.style(pictureStyle());
+    }
+    svg_.empty("rect", {{"class", "lv-paper"}, {"width", pictureWidth}, {"height", height}});
+    svg::addText(svg_, {margin, titleLine}, "lv-title", svg::Anchor::start, texts.title);
+    if (!subtitle.empty()) {
+        const std::string shown = svg::shortened(subtitle, pictureWidth - 2 * margin, textFontSize);
+        svg::addText(svg_, {margin, subtitleLine}, "lv-sub", svg::Anchor::start, shown);
+    }
+}
+
+std::string Picture::idOf(std::string_view part) const {
+    return id_ + '-' + std::string(part);
+}
+
+std::string Picture::finished() {
+    svg_.close();
+    return svg_.document();
+}
+
+std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, const std::string& reason) {
+    Picture picture(form, emptyHeight, {texts.title, texts.subtitle, "Nothing to show: " + reason + '.'});
+    const svg::Box frame{margin, 60, pictureWidth - 2 * margin, emptyHeight - 60 - margin};
+    svg::addBox(picture.svg(), frame, {"lv-frame", ""});
+    const double lineHeight = 17;
+    double y = frame.top + 28;
+    for (const std::string& line : wrapped("Nothing to show: " + svg::quotable(reason) + '.', frame.width - 40)) {
+        svg::addText(picture.svg(), {pictureWidth / 2, y}, "lv-reason", svg::Anchor::middle, line);
+        y += lineHeight;
+    }
+    return picture.finished();
+}
+
+std::string subtitleOf(const ModeFigures& mode) {
+    constexpr std::size_t mostCharacters = 300;
+    const std::string name =
+        mode.name.empty() ? "Mode " + svg::quotable(mode.index) : svg::quotable(mode.name, mostCharacters);
+    const std::string time = mode.calibratedTime.empty() ? "" : ", calibrated " + svg::quotable(mode.calibratedTime);
+    return name + time;
+}
+
+std::string counted(std::size_t number, const std::string& one, const std::string& several) {
+    return std::to_string(number) + ' ' + (number == 1 ? one : several);
+}
+
+}  // namespace lv::analysis

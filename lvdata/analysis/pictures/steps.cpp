@@ -1,0 +1,57 @@
+#include <lvdata/analysis/pictures/steps.h>
+#include <lvdata/analysis/pictures/svg/thinning.h>
+
+#include <cmath>
+
+namespace lv::analysis {
+
+svg::Range rangeOfTypical(const std::vector<svg::Point>& values, svg::Range typicalSteps, double leastWidth) {
+    svg::Extent typical;
+    svg::Extent all;
+    for (const svg::Point& value : values) {
+        all.add(value.y);
+        if (value.x >= typicalSteps.first && value.x <= typicalSteps.last) {
+            typical.add(value.y);
+        }
+    }
+    const svg::Range range = typical.isEmpty() ? all.range() : typical.range();
+    return svg::toTicks(svg::widened(range, 0.3, leastWidth), 4);
+}
+
+std::size_t countOutside(const svg::Panel& panel, const StepSeries& series) {
+    return series.values.size() - panel.inside(series.values).size();
+}
+
+void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const StepSeries& series, std::string_view lineClasses,
+              std::string_view markClasses, svg::Symbol symbol) {
+    constexpr std::size_t mostSymbols = 64;
+    svg::addPolyline(svg, panel.inside(series.values), {lineClasses, ""});
+    svg.open("g", {{"class", markClasses}});
+    for (const std::size_t index : svg::spreadIndices(series.values.size(), mostSymbols)) {
+        if (panel.holds(series.values[index])) {
+            svg::addSymbol(svg, panel.at(series.values[index]), symbol, {"", series.titles[index]});
+        }
+    }
+    svg.close();
+}
+
+void addOutsideNote(svg::SVGWriter& svg, const svg::Panel& panel, std::size_t count) {
+    if (count > 0) {
+        const svg::Point place{panel.box().right() - 8, panel.box().top - 8};
+        svg::addText(svg, place, "lv-note", svg::Anchor::end, counted(count, "value", "values") + " outside the scale");
+    }
+}
+
+svg::Axis signalAxis(bool hasTexts) {
+    std::vector<svg::Tick> ticks = svg::ticksOf({0, 1}, 10);
+    for (svg::Tick& tick : ticks) {
+        tick.label = svg::valueText(tick.value * 100, 0);
+    }
+    return {ticks, hasTexts ? "Signal in %" : "", hasTexts};
+}
+
+std::string percent(double fraction, int decimals) {
+    return svg::valueText(fraction * 100, decimals) + " %";
+}
+
+}  // namespace lv::analysis

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <lvdata/analysis/pictures/Picture.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+/// What pictures of grey steps share.
+namespace lv::analysis {
+
+/// A value at each of some steps, in the values of a panel.
+struct StepSeries {
+    std::vector<svg::Point> values{};   ///< Of the steps that have one.
+    std::vector<std::string> titles{};  ///< Of each value, for hover.
+};
+
+/// A range for values whose extremes at the dark end say little: that of the typical ones, made wider. Values outside
+/// are left out of the picture.
+[[nodiscard]] svg::Range rangeOfTypical(const std::vector<svg::Point>& values, svg::Range typicalSteps,
+                                        double leastWidth);
+
+/// How many values do not lie in the panel.
+[[nodiscard]] std::size_t countOutside(const svg::Panel& panel, const StepSeries& series);
+
+/// A line with a symbol at each value that lies in the panel. Of very many steps, some have symbols.
+void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const StepSeries& series, std::string_view lineClasses,
+              std::string_view markClasses, svg::Symbol symbol);
+
+/// A note inside a panel about values that are left out; nothing when there are none.
+void addOutsideNote(svg::SVGWriter& svg, const svg::Panel& panel, std::size_t count);
+
+/// The axis of signals in per cent, for signals of 0 to 1.
+[[nodiscard]] svg::Axis signalAxis(bool hasTexts);
+
+/// "50.2 %", of 0.502.
+[[nodiscard]] std::string percent(double fraction, int decimals);
+
+}  // namespace lv::analysis

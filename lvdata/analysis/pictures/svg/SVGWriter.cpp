@@ -1,0 +1,65 @@
+#include <lvdata/analysis/pictures/svg/SVGWriter.h>
+#include <lvdata/analysis/pictures/svg/text.h>
+
+namespace lv::analysis::svg {
+
+Attribute::Attribute(std::string_view attribute, std::string_view text) : name(attribute), value(text) {}
+
+Attribute::Attribute(std::string_view attribute, double coordinate) :
+    name(attribute), value(coordinateText(coordinate)) {}
+
+void SVGWriter::start(std::string_view name, const Attributes& attributes) {
+    document_ += '<';
+    document_ += name;
+    for (const Attribute& attribute : attributes) {
+        document_ += ' ';
+        document_ += attribute.name;
+        document_ += "=\"" + escaped(attribute.value) + '"';
+    }
+}
+
+void SVGWriter::open(std::string_view name, const Attributes& attributes) {
+    start(name, attributes);
+    document_ += ">\n";
+    open_.push_back(name);
+}
+
+void SVGWriter::close() {
+    document_ += "</";
+    document_ += open_.back();
+    document_ += ">\n";
+    open_.pop_back();
+}
+
+void SVGWriter::empty(std::string_view name, const Attributes& attributes) {
+    start(name, attributes);
+    document_ += "/>\n";
+}
+
+void SVGWriter::text(std::string_view name, const Attributes& attributes, std::string_view content) {
+    start(name, attributes);
+    document_ += '>';
+    document_ += escaped(content);
+    document_ += "</";
+    document_ += name;
+    document_ += ">\n";
+}
+
+void SVGWriter::titled(std::string_view name, const Attributes& attributes, std::string_view title) {
+    if (title.empty()) {
+        empty(name, attributes);
+        return;
+    }
+    start(name, attributes);
+    document_ += "><title>" + escaped(title) + "</title></";
+    document_ += name;
+    document_ += ">\n";
+}
+
+void SVGWriter::style(std::string_view sheet) {
+    document_ += "<style>";
+    document_ += sheet;
+    document_ += "</style>\n";
+}
+
+}  // namespace lv::analysis::svg

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lv::analysis::svg {
+
+/// An attribute of an element.
+struct Attribute {
+    /// With a text, which is escaped when it is written.
+    Attribute(std::string_view name, std::string_view value);
+
+    /// With a coordinate.
+    Attribute(std::string_view name, double value);
+
+    std::string_view name;  ///< Its name, of static storage.
+    std::string value;      ///< Its value, not escaped.
+};
+
+/// The attributes of an element, in the order in which they are written.
+using Attributes = std::vector<Attribute>;
+
+/// Writes the elements of an SVG document, each on a line of its own. Texts must be fit for XML (see `cleaned`); what
+/// markup needs is escaped.
+class SVGWriter {
+public:
+    /// The start of an element that holds others.
+    void open(std::string_view name, const Attributes& attributes = {});
+
+    /// The end of the element that was opened last.
+    void close();
+
+    /// An element without content.
+    void empty(std::string_view name, const Attributes& attributes);
+
+    /// An element that holds a text.
+    void text(std::string_view name, const Attributes& attributes, std::string_view content);
+
+    /// An element that holds a `title`, which browsers show on hover and screen readers read; without a title, an empty
+    /// element.
+    void titled(std::string_view name, const Attributes& attributes, std::string_view title);
+
+    /// A style sheet.
+    void style(std::string_view sheet);
+
+    /// The document, after each element was closed.
+    [[nodiscard]] const std::string& document() const { return document_; }
+
+private:
+    void start(std::string_view name, const Attributes& attributes);
+
+    std::string document_;
+    std::vector<std::string_view> open_;
+};
+
+}  // namespace lv::analysis::svg

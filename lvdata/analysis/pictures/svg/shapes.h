@@ -1,0 +1,42 @@
+#pragma once
+
+#include <lvdata/analysis/pictures/svg/SVGWriter.h>
+#include <lvdata/analysis/pictures/svg/geometry.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lv::analysis::svg {
+
+/// How a shape looks and what it says.
+struct Look {
+    std::string_view classes{};  ///< Classes of the style sheet; empty: those of the group around it.
+    std::string title{};         ///< What is shown on hover; may be empty.
+};
+
+/// What a point is marked with.
+enum class Symbol { circle, cross, square, diamond };
+
+/// How a text stands to its point.
+enum class Anchor { start, middle, end };
+
+/// A straight line.
+void addLine(SVGWriter& svg, const Point& from, const Point& to, const Look& look);
+
+/// A line through all points, thinned. Nothing when there are less than two.
+void addPolyline(SVGWriter& svg, const std::vector<Point>& points, const Look& look);
+
+/// A closed line through all points. Nothing when there are less than three.
+void addPolygon(SVGWriter& svg, const std::vector<Point>& points, const Look& look);
+
+/// A rectangle.
+void addBox(SVGWriter& svg, const Box& box, const Look& look);
+
+/// A symbol around a point.
+void addSymbol(SVGWriter& svg, const Point& at, Symbol symbol, const Look& look);
+
+/// A text. It is not shortened: see `shortened`.
+void addText(SVGWriter& svg, const Point& at, std::string_view classes, Anchor anchor, std::string_view text);
+
+}  // namespace lv::analysis::svg

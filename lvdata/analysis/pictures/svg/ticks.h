@@ -1,0 +1,23 @@
+#pragma once
+
+#include <lvdata/analysis/pictures/svg/geometry.h>
+
+#include <string>
+#include <vector>
+
+namespace lv::analysis::svg {
+
+/// A place on an axis that is named.
+struct Tick {
+    double value = 0;   ///< Where it is.
+    std::string label;  ///< What stands there.
+};
+
+/// The ticks of a rising range: multiples of 1, 2 or 5 times a power of ten, the finest of them that gives not more than
+/// `most` steps. Labels have as many digits after the point as the step needs.
+[[nodiscard]] std::vector<Tick> ticksOf(Range range, int most);
+
+/// The range made wider until it begins and ends at a tick.
+[[nodiscard]] Range toTicks(Range range, int most);
+
+}  // namespace lv::analysis::svg
