@@ -62,7 +62,7 @@ TEST_F(Plot, HasTheUnitsThatItsUserKnows) {
     const std::string map = made({"plot", "uniformity", studio});
     EXPECT_THAT(made({"plot", "uniformity", studio, "--map-unit", "my unit"}), HasSubstr("my unit"));
     EXPECT_NE(made({"plot", "uniformity", studio, "--grid", "5"}), map);
-    EXPECT_THAT(made({"plot", "history", "--figure", "white_luminance", "--y-unit", "my unit", studio}),
+    EXPECT_THAT(made({"plot", "history", "--figure", "white_tristimulus_y", "--y-unit", "my unit", studio}),
                 HasSubstr("my unit"));
 }
 
@@ -73,7 +73,7 @@ TEST_F(Plot, DrawsTheHistoryOfAFigure) {
     EXPECT_EQ(made({"plot", "history", "b.xml", "a.xml"}), history);
     EXPECT_EQ(made({"plot", "history", "."}), history);
     EXPECT_EQ(made({"plot", "history", ".", "--figure", "white_delta_uv"}), history);
-    EXPECT_NE(made({"plot", "history", ".", "--figure", "white_luminance"}), history);
+    EXPECT_NE(made({"plot", "history", ".", "--figure", "white_tristimulus_y"}), history);
     EXPECT_THAT(run({"plot", "history", ".", "--figure", "x"}).error,
                 StartsWith("lvdata: error: there is no figure 'x'; there are "));
     write("c.xml", monitor({"Wall", "2", "u-2"}));

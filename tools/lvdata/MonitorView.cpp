@@ -243,7 +243,6 @@ std::string modeView(const ModeFigures& mode, const lv::analysis::KnownUnits& un
     addLine(text, "Type", orDash(mode.type));
     addLine(text, "Calibrated", orDash(mode.calibratedTime));
     addLine(text, "Target", targets(mode));
-    addLine(text, "Measurements", std::to_string(mode.measurements));
     text += '\n' + figureTable(figureLines(mode, units), palette);
     return text + '\n' + (mode.deltaUV.value ? noteOnDifference() : "") +
            (mode.measuredY.value ? noteOnUnit(units.yUnit) : "");
