@@ -1,4 +1,4 @@
-#include <lvdata/analysis/check/dates.h>
+#include <lvdata/analysis/dates.h>
 #include <lvdata/analysis/check/numbers.h>
 #include <lvdata/analysis/check/plausibility.h>
 #include <lvdata/analysis/wording.h>

@@ -13,11 +13,12 @@ struct ColourMatch {
     Tristimulus functions;  ///< x̄, ȳ and z̄ of that wavelength.
 };
 
-/// The number of rows: 380 nm to 780 nm in steps of 5 nm.
-inline constexpr std::size_t colourMatches = 81;
+/// The number of rows: 360 nm to 830 nm in steps of 5 nm.
+inline constexpr std::size_t colourMatches = 95;
 
-/// The colour-matching functions of the CIE 1931 2° standard observer, CIE 15:2004, table T.4. The numbers are those of
-/// the data set of the CIE (https://doi.org/10.25039/CIE.DS.xvudnb9b) at every 5 nm, rounded to six decimals.
+/// The colour-matching functions of the CIE 1931 2° standard observer. From 380 nm to 780 nm it is table T.4 of CIE
+/// 15:2004. What that table leaves out matters a little for hot radiators: it is from the data set of the CIE that has
+/// every nanometre, https://doi.org/10.25039/CIE.DS.xvudnb9b.
 [[nodiscard]] const std::array<ColourMatch, colourMatches>& colourMatchingFunctions();
 
 }  // namespace lv::analysis::colour

@@ -87,7 +87,8 @@ Tristimulus adapted(const Tristimulus& colour, const Tristimulus& from, const Tr
     const cmsCIEXYZ stimulus = toLittleCMS(colour);
     cmsCIEXYZ result = stimulus;
     cmsAdaptToIlluminant(&result, &source, &destination, &stimulus);
-    return {result.X, result.Y, result.Z};
+    const Tristimulus found = {result.X, result.Y, result.Z};
+    return isFinite(found) ? found : colour;
 }
 
 }  // namespace lv::analysis::colour

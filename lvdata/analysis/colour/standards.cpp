@@ -105,9 +105,10 @@ LocusPoint locusPoint(const ColourMatch& match) {
 }
 
 std::array<LocusPoint, locusPoints> computedLocus() {
+    constexpr std::size_t rowsBefore = 4;  // 360 nm to 375 nm
+    const auto* first = colourMatchingFunctions().begin() + rowsBefore;
     std::array<LocusPoint, locusPoints> points = {};
-    std::transform(colourMatchingFunctions().begin(), colourMatchingFunctions().begin() + points.size(), points.begin(),
-                   locusPoint);
+    std::transform(first, first + points.size(), points.begin(), locusPoint);
     return points;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <lvdata/analysis/figures/MonitorFigures.h>
+#include <lvdata/analysis/figures/lines.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,9 @@ struct HistorySeries {
 /// What tells monitors apart: the UUID, or else the serial number with the model; empty when there is neither.
 [[nodiscard]] std::string identityOf(const MonitorInfo& monitor);
 
+/// The latest time of a calibration, for `Snapshot::when`: of those that are dates, otherwise the first that is not empty.
+[[nodiscard]] std::string latestTimeOf(const MonitorFigures& figures);
+
 /// Puts documents of one monitor in the order of time: by date where all have one that can be read (year first, as
 /// `isDate` takes it), otherwise the given order stays.
 void sortByTime(std::vector<Snapshot>& snapshots);
@@ -40,7 +45,7 @@ void sortByTime(std::vector<Snapshot>& snapshots);
 [[nodiscard]] HistorySeries historyOf(const std::vector<Snapshot>& snapshots, const std::string& modeIndex,
                                       const std::string& key);
 
-/// The day that a text begins with as days since 1970-01-01 and parts of a day; no value when it is not a date.
+/// A date (see `daysSince1970`) as days since 1970-01-01 and parts of a day; no value when it is not a date.
 [[nodiscard]] std::optional<double> daysOf(const std::string& when);
 
 }  // namespace lv::analysis

@@ -1,9 +1,64 @@
 #include <lvdata/analysis/figures/LimitSet.h>
 
+#include <embedded/limits.h>
+
+#include <array>
+#include <charconv>
+#include <iterator>
+
 namespace lv::analysis {
+namespace {
+
+/// Without zeros at the end of the digits after the point.
+std::string shortest(double value, int decimals) {
+    std::string text = fixedText(value, decimals);
+    if (text.find('.') == std::string::npos) {
+        return text;
+    }
+    text.erase(text.find_last_not_of('0') + 1);
+    return text.back() == '.' ? text.substr(0, text.size() - 1) : text;
+}
+
+/// The number that the text of a figure shows.
+double shown(double value, int decimals) {
+    const std::string text = fixedText(value, decimals);
+    double number = value;
+    const char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));
+    std::from_chars(text.data(), end, number);
+    return number;
+}
+
+Mark markOf(const FigureLine& line, const FigureLimit& limit) {
+    if (!line.measured.value) {
+        return Mark::notAvailable;
+    }
+    const double value = shown(*line.measured.value, line.decimals);
+    const bool isBelow = limit.minimum && value < *limit.minimum;
+    const bool isAbove = limit.maximum && value > *limit.maximum;
+    return isBelow || isAbove ? Mark::fails : Mark::passes;
+}
+
+std::vector<LimitSet> readKnownSets() {
+    namespace files = embedded::limits;
+    std::vector<LimitSet> sets;
+    for (const std::string_view text : {files::default_json, files::iso14861_json, files::ebu3320_g1_json}) {
+        LimitSetResult result = readLimitSet(text);
+        if (result.set) {
+            sets.push_back(*result.set);
+        }
+    }
+    return sets;
+}
+
+}  // namespace
 
 std::string FigureLimit::text(int decimals) const {
-    return maximum ? "\u2264 " + fixedText(*maximum, decimals) : "";
+    if (minimum && maximum) {
+        return shortest(*minimum, decimals) + " to " + shortest(*maximum, decimals);
+    }
+    return maximum   ? "\u2264 " + shortest(*maximum, decimals)
+           : minimum ? "\u2265 " + shortest(*minimum, decimals)
+                     : "";
 }
 
 const FigureLimit* LimitSet::limitOf(std::string_view key) const {
@@ -15,13 +70,8 @@ const FigureLimit* LimitSet::limitOf(std::string_view key) const {
     return nullptr;
 }
 
-LimitSetResult readLimitSet(std::string_view) {
-    return {std::nullopt, 0, "not done yet"};
-}
-
 const std::vector<LimitSet>& knownLimitSets() {
-    static const std::vector<LimitSet> sets = {
-        {"default", "Default limits", "This is no test against a standard.", {{"white_delta_uv", {}, 0.005, ""}}}};
+    static const std::vector<LimitSet> sets = readKnownSets();
     return sets;
 }
 
@@ -32,13 +82,20 @@ Mark Verdict::mark() const {
 std::vector<JudgedLine> judge(const std::vector<FigureLine>& lines, const LimitSet& set) {
     std::vector<JudgedLine> judged;
     for (const FigureLine& line : lines) {
-        judged.push_back({line, set.limitOf(line.key), Mark::none});
+        const FigureLimit* const limit = set.limitOf(line.key);
+        judged.push_back({line, limit, limit != nullptr ? markOf(line, *limit) : Mark::none});
     }
     return judged;
 }
 
-Verdict verdictOf(const std::vector<JudgedLine>&) {
-    return {};
+Verdict verdictOf(const std::vector<JudgedLine>& lines) {
+    Verdict verdict;
+    for (const JudgedLine& line : lines) {
+        verdict.passed += line.mark == Mark::passes ? 1U : 0U;
+        verdict.failed += line.mark == Mark::fails ? 1U : 0U;
+        verdict.notAvailable += line.mark == Mark::notAvailable ? 1U : 0U;
+    }
+    return verdict;
 }
 
 }  // namespace lv::analysis

@@ -28,6 +28,10 @@ std::string whiteWords(const Mode& mode) {
     return mode.targetWhite.empty() ? mode.targetWhiteStandard : mode.targetWhite;
 }
 
+std::string gammaWords(const Mode& mode) {
+    return mode.tone.targetCurve.empty() ? mode.targetGamma : mode.tone.targetCurve;
+}
+
 /// A coordinate of the target white.
 template <class Coordinate>
 Aim whiteAim(const Mode& mode, Coordinate coordinate) {
@@ -117,7 +121,7 @@ constexpr std::array whiteAndBlack = {
 constexpr std::array toneAndPatches = {
     LineForm{"tone_mean_gamma", "Tone", "Mean gamma", "", 2,
              [](const Mode& mode) {
-                 return Aim{mode.tone.targetGamma, mode.tone.targetCurve};
+                 return Aim{mode.tone.targetGamma, gammaWords(mode)};
              },
              [](const Mode& mode) { return mode.tone.meanGamma; }},
     LineForm{"tone_greatest_deviation", "Tone", "Greatest deviation of the tone curve", "%", 2, nullptr,

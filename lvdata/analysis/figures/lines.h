@@ -16,8 +16,8 @@ struct FigureLine {
     int decimals = 0;     ///< Digits after the point, of all three numbers.
     Figure target{};      ///< What was aimed at. No value and no reason where a target makes no sense.
     Figure measured{};    ///< What was reached.
-    Figure difference{};  ///< Measured minus target. No value and no reason where there is no target.
-    std::string targetText{};  ///< The target where it is words, not a number: "Minimum", "LStar".
+    Figure difference{};  ///< Measured minus target. No value and no reason where the target is no number.
+    std::string targetText{};  ///< The target where it is words: "Minimum", "LStar"; `target` then has nothing.
 
     /// `target`, `measured` or `difference` as text: "n/a (reason)" when there is a reason, empty when there is
     /// neither.
@@ -29,6 +29,9 @@ struct FigureLine {
 
 /// The figures of a map, always the same keys in the same order: "uniformity_minimum", "brightness_minimum", ...
 [[nodiscard]] std::vector<FigureLine> figureLines(const MapFigures& map);
+
+/// The keys of all figures that there are: of modes and of both maps.
+[[nodiscard]] const std::vector<std::string>& figureKeys();
 
 /// All figures of a monitor as JSON text, numbers with the digits of the lines: docs/figures.md.
 [[nodiscard]] std::string figuresJSON(const MonitorFigures& monitor);

@@ -28,7 +28,26 @@ Figure inUnit(const LineForm& form, const Figure& figure) {
     return form.isDeviation && figure.value ? computed(*figure.value * 100) : figure;
 }
 
+std::vector<std::string> allKeys() {
+    MapFigures uniformity;
+    uniformity.name = "Uniformity";
+    MapFigures brightness;
+    brightness.name = "Brightness";
+    std::vector<std::string> keys;
+    for (const auto& lines : {figureLines(ModeFigures()), figureLines(uniformity), figureLines(brightness)}) {
+        for (const FigureLine& line : lines) {
+            keys.push_back(line.key);
+        }
+    }
+    return keys;
+}
+
 }  // namespace
+
+const std::vector<std::string>& figureKeys() {
+    static const std::vector<std::string> keys = allKeys();
+    return keys;
+}
 
 std::vector<FigureLine> figureLines(const MapFigures& map) {
     const std::string name(map.name);

@@ -74,6 +74,17 @@ colour::Chromaticity locusAt(int wavelength) {
     return {};
 }
 
+colour::Tristimulus sumOfColourMatches(int first, int last) {
+    colour::Tristimulus sums = {};
+    for (const colour::ColourMatch& match : colour::colourMatchingFunctions()) {
+        for (std::size_t index = 0; match.wavelength >= first && match.wavelength <= last && index < sums.size();
+             ++index) {
+            sums.at(index) += match.functions.at(index);
+        }
+    }
+    return sums;
+}
+
 }  // namespace
 
 TEST(ColourStandards, HasTheReferenceSpacesInOrder) {
@@ -123,24 +134,35 @@ TEST(ColourStandards, KnowsNoOtherNames) {
     EXPECT_FALSE(colour::whiteNamed("sRGB"));
 }
 
-// CIE 15:2004 prints these sums below the table, so that a wrong digit in a row would show.
+// CIE 15:2004 prints these sums below its table, so that a wrong digit in a row would show.
 TEST(ColourStandards, HasTheColourMatchingFunctionsWithTheirPublishedSums) {
-    colour::Tristimulus sums = {};
-    int wavelength = 380;
-    for (const colour::ColourMatch& match : colour::colourMatchingFunctions()) {
-        EXPECT_EQ(match.wavelength, wavelength);
-        wavelength += 5;
-        for (std::size_t index = 0; index < sums.size(); ++index) {
-            sums[index] += match.functions[index];
-        }
-    }
-    EXPECT_EQ(wavelength, 785);
+    const colour::Tristimulus sums = sumOfColourMatches(380, 780);
     EXPECT_NEAR(sums[0], 21.371524, 1e-9);
     EXPECT_NEAR(sums[1], 21.371327, 1e-9);
     EXPECT_NEAR(sums[2], 21.371540, 1e-9);
     const double total = sums[0] + sums[1] + sums[2];
     EXPECT_NEAR(sums[0] / total, 1.0 / 3, 0.00001);  // light of equal power everywhere is illuminant E
     EXPECT_NEAR(sums[1] / total, 1.0 / 3, 0.00001);
+}
+
+TEST(ColourStandards, HasColourMatchingFunctionsOutsideThatTable) {
+    const colour::Tristimulus before = sumOfColourMatches(360, 375);
+    EXPECT_NEAR(before[0], 0.0015185, 1e-12);
+    EXPECT_NEAR(before[1], 0.000045292, 1e-12);
+    EXPECT_NEAR(before[2], 0.0071241, 1e-12);
+    const colour::Tristimulus after = sumOfColourMatches(785, 830);
+    EXPECT_NEAR(after[0], 0.00009628006, 1e-12);
+    EXPECT_NEAR(after[1], 0.00003476847, 1e-12);
+    EXPECT_EQ(after[2], 0);
+}
+
+TEST(ColourStandards, HasARowForEveryFiveNanometres) {
+    int wavelength = 360;
+    for (const colour::ColourMatch& match : colour::colourMatchingFunctions()) {
+        EXPECT_EQ(match.wavelength, wavelength);
+        wavelength += 5;
+    }
+    EXPECT_EQ(wavelength, 835);
 }
 
 // CIE 15:2004, table T.4: chromaticity coordinates.

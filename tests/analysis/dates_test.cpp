@@ -1,10 +1,11 @@
-#include <lvdata/analysis/check/dates.h>
+#include <lvdata/analysis/dates.h>
 
 #include <array>
 #include <string>
 
 #include <gtest/gtest.h>
 
+using lv::analysis::daysSince1970;
 using lv::analysis::isDate;
 
 namespace {
@@ -68,4 +69,28 @@ TEST(Dates, MayHaveAZone) {
     for (const std::string zone : {"z", "+", "+2", "+02:", "+15:00", "+02:60", "+02:0", "+02:000", "ZZ", "CET"}) {
         EXPECT_FALSE(isDate("2024-03-17T09:31:00" + zone)) << zone;
     }
+}
+
+// The days by `date --utc --date=... +%s`, over 86400.
+
+TEST(Dates, CountTheDaysSince1970) {
+    EXPECT_EQ(daysSince1970("1970-01-01"), 0.0);
+    EXPECT_EQ(daysSince1970("1969-12-31"), -1.0);
+    EXPECT_EQ(daysSince1970("2000-02-29"), 11016.0);
+    EXPECT_EQ(daysSince1970("2000-03-01"), 11017.0);
+    EXPECT_EQ(daysSince1970("2024/3/17"), 19799.0);
+    EXPECT_EQ(daysSince1970("1900-03-01"), -25508.0);
+    EXPECT_EQ(daysSince1970("0000-01-01"), -719528.0);
+    EXPECT_EQ(daysSince1970("9999-12-31"), 2932896.0);
+    EXPECT_EQ(daysSince1970("2023-02-29"), std::nullopt);
+}
+
+TEST(Dates, CountPartsOfADay) {
+    EXPECT_EQ(daysSince1970("1970-01-01T06:00"), 0.25);
+    EXPECT_EQ(daysSince1970("1970-01-02 24:00"), 2.0);
+    EXPECT_DOUBLE_EQ(*daysSince1970("19700101T00:00:43.2"), 0.0005);
+    EXPECT_EQ(daysSince1970("1970-01-01T06:00+06:00"), 0.0);
+    EXPECT_EQ(daysSince1970("1970-01-01T06:00-0600"), 0.5);
+    EXPECT_EQ(daysSince1970("1970-01-01T06:00Z"), 0.25);
+    EXPECT_EQ(daysSince1970("1970-01-01T06:00 PM"), std::nullopt);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 namespace lv::analysis {
@@ -8,5 +9,9 @@ namespace lv::analysis {
 /// alone or followed by a time of day: "T09:31", " 09:31:00", "T09:31:00.250+02:00", "T093100Z". The records do not say
 /// how dates are written, so this takes what is in use.
 [[nodiscard]] bool isDate(std::string_view text);
+
+/// A date that `isDate` takes as days since 1970-01-01 and parts of a day, in UTC where it has a zone. No value for any
+/// other text.
+[[nodiscard]] std::optional<double> daysSince1970(std::string_view text);
 
 }  // namespace lv::analysis
