@@ -20,7 +20,7 @@ struct PictureTexts {
 };
 
 /// The width of all pictures in pixels, at their natural size.
-inline constexpr double pictureWidth = 680;
+inline constexpr double pictureWidth = 720;
 
 /// From the left edge to where panels begin: room for the labels of the vertical axis.
 inline constexpr double panelLeft = 60;

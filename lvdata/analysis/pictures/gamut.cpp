@@ -26,9 +26,9 @@ struct PlaneForm {
 
 PlaneForm formOf(Plane plane) {
     if (plane == Plane::xy) {
-        return {{0, 0.8}, {0, 0.9}, 560, "CIE 1931 x, y", "x", "y"};
+        return {{-0.05, 0.8}, {0, 0.9}, 530, "CIE 1931 x, y", "x", "y"};
     }
-    return {{0, 0.63}, {0, 0.6}, 750, "CIE 1976 u′, v′", "u′", "v′"};
+    return {{-0.04, 0.65}, {0, 0.64}, 650, "CIE 1976 u′, v′", "u′", "v′"};
 }
 
 std::optional<Point> placeOf(const Chromaticity& chromaticity, Plane plane) {
@@ -267,7 +267,7 @@ std::string gamutPicture(const ModeFigures& mode, Plane plane, const PictureForm
     if (!hasPoints(mode)) {
         return emptyPicture(form, texts, "no white and no primaries are recorded");
     }
-    const svg::Box box{panelLeft, 80, planeForm.pixels * planeForm.horizontal.last,
+    const svg::Box box{panelLeft, 80, planeForm.pixels * (planeForm.horizontal.last - planeForm.horizontal.first),
                        planeForm.pixels * planeForm.vertical.last};
     Picture picture(form, box.bottom() + 52, texts);
     const svg::Panel panel(box, planeForm.horizontal, planeForm.vertical);

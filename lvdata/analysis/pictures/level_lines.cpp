@@ -33,6 +33,7 @@ void addLevelLines(svg::SVGWriter& svg, const svg::Panel& panel, std::vector<Lev
                      [](const LevelLine& left, const LevelLine& right) { return left.value > right.value; });
     const std::vector<double> places = placesOf(panel, lines);
     for (std::size_t index = 0; index < lines.size(); ++index) {
+        svg::addLevel(svg, panel, lines[index].value, "lv-under");
         svg::addLevel(svg, panel, lines[index].value, lines[index].classes);
         const std::string label = svg::shortened(lines[index].label, levelLabelWidth - gap, fontSize);
         svg::addText(svg, {panel.box().right() + gap, places[index] + 4}, "lv-value", svg::Anchor::start, label);

@@ -11,7 +11,7 @@ constexpr double top = 60;
 constexpr double width = pictureWidth - 2 * left;
 constexpr double footHeight = 58;
 constexpr std::size_t wrappedAt = 10;
-constexpr double mostCells = 500;
+constexpr double mostCells = 300;
 constexpr std::size_t rampSteps = 9;
 constexpr std::size_t mostSide = 100000;  // of a map in entries, so that products fit
 

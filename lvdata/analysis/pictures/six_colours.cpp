@@ -7,7 +7,7 @@ namespace lv::analysis {
 namespace {
 
 constexpr double panelHeight = 120;
-constexpr double panelGap = 44;
+constexpr double panelGap = 54;
 constexpr std::size_t mostPanels = 6;
 constexpr std::array<std::string_view, 6> colourNames{"Red", "Yellow", "Green", "Cyan", "Blue", "Magenta"};
 

@@ -50,6 +50,7 @@ constexpr std::string_view rules = R"(
 .lv-halo{paint-order:stroke;stroke:@paper;stroke-width:3px;stroke-linejoin:round}
 .lv-band{fill:@band}
 .lv-cell{stroke:@paper;stroke-width:1}
+.lv-under{stroke:@paper;stroke-width:3.5}
 .lv-hover{fill:#000;fill-opacity:0}
 .lv-line{fill:none;stroke:currentColor;stroke-width:2;stroke-linejoin:round}
 .lv-thin{stroke-width:1.5}

@@ -46,7 +46,7 @@ struct ReportContents {
 [[nodiscard]] bool hasResult(const ModeFigures& mode);
 
 /// The key of the mean ΔE00 of all patches.
-inline constexpr std::string_view patchesMeanKey = "patches_mean";
+inline constexpr std::string_view patchesMeanKey = "patches_delta_e2000_mean";
 
 /// \name Pieces that several sections use
 /// @{

@@ -7,7 +7,8 @@
 namespace lv::analysis {
 namespace {
 
-constexpr std::array<std::string_view, 4> alwaysTold = {"white_delta_uv", "white_y", "contrast", patchesMeanKey};
+constexpr std::array<std::string_view, 4> alwaysTold = {"white_delta_uv", "white_tristimulus_y", "contrast",
+                                                        patchesMeanKey};
 
 /// Whether a figure's history is told: it has a limit, or is one of the few that matter most.
 bool isTold(const JudgedLine& judged) {

@@ -1,5 +1,7 @@
 #include <lvdata/analysis/report/sections.h>
 
+#include <algorithm>
+
 namespace lv::analysis {
 namespace {
 
@@ -19,6 +21,16 @@ View rowOf(const JudgedLine& judged) {
         {"limit", judged.limit == nullptr ? "" : judged.limit->text(line.decimals)},
         {"mark", markView(judged.mark)},
     };
+}
+
+/// Whether the gamut's own tables tell of a figure, so that it needs no row here.
+bool standsElsewhere(const JudgedLine& judged) {
+    return judged.limit == nullptr && (judged.line.group == "Primaries" || judged.line.group == "Gamut");
+}
+
+std::vector<JudgedLine> toldHere(std::vector<JudgedLine> lines) {
+    lines.erase(std::remove_if(lines.begin(), lines.end(), &standsElsewhere), lines.end());
+    return lines;
 }
 
 }  // namespace
@@ -42,7 +54,7 @@ View verdictView(const ReportContents& contents, const ReportedMode& mode) {
         {"verdict_counts", countsText(mode.verdict)},
         {"verdict_limits", limits.title.empty() ? limits.name : limits.title},
         {"verdict_notice", limits.notice},
-        {"groups", figureGroupsView(mode.lines)},
+        {"groups", figureGroupsView(toldHere(mode.lines))},
     };
 }
 
