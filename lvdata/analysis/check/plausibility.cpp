@@ -1,6 +1,6 @@
-#include <lvdata/analysis/dates.h>
 #include <lvdata/analysis/check/numbers.h>
 #include <lvdata/analysis/check/plausibility.h>
+#include <lvdata/analysis/dates.h>
 #include <lvdata/analysis/wording.h>
 #include <lvdata/core/quantities.h>
 

@@ -10,9 +10,8 @@ namespace {
 
 /// The first mode of that index; null when there is none.
 const ModeFigures* modeOf(const MonitorFigures& figures, const std::string& index) {
-    const auto found = std::find_if(figures.modes.begin(), figures.modes.end(), [&](const ModeFigures& mode) {
-        return mode.index == index;
-    });
+    const auto found = std::find_if(figures.modes.begin(), figures.modes.end(),
+                                    [&](const ModeFigures& mode) { return mode.index == index; });
     return found != figures.modes.end() ? &*found : nullptr;
 }
 
@@ -34,9 +33,8 @@ std::string identityOf(const MonitorInfo& monitor) {
 }
 
 void sortByTime(std::vector<Snapshot>& snapshots) {
-    const bool allHaveDates = std::all_of(snapshots.begin(), snapshots.end(), [](const Snapshot& snapshot) {
-        return daysOf(snapshot.when).has_value();
-    });
+    const bool allHaveDates = std::all_of(snapshots.begin(), snapshots.end(),
+                                          [](const Snapshot& snapshot) { return daysOf(snapshot.when).has_value(); });
     if (allHaveDates) {
         std::stable_sort(snapshots.begin(), snapshots.end(), [](const Snapshot& left, const Snapshot& right) {
             return *daysOf(left.when) < *daysOf(right.when);

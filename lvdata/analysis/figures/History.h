@@ -34,7 +34,8 @@ struct HistorySeries {
 /// What tells monitors apart: the UUID, or else the serial number with the model; empty when there is neither.
 [[nodiscard]] std::string identityOf(const MonitorInfo& monitor);
 
-/// The latest time of a calibration, for `Snapshot::when`: of those that are dates, otherwise the first that is not empty.
+/// The latest time of a calibration, for `Snapshot::when`: of those that are dates, otherwise the first that is not
+/// empty.
 [[nodiscard]] std::string latestTimeOf(const MonitorFigures& figures);
 
 /// Puts documents of one monitor in the order of time: by date where all have one that can be read (year first, as

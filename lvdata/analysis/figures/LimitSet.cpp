@@ -56,9 +56,7 @@ std::string FigureLimit::text(int decimals) const {
     if (minimum && maximum) {
         return shortest(*minimum, decimals) + " to " + shortest(*maximum, decimals);
     }
-    return maximum   ? "\u2264 " + shortest(*maximum, decimals)
-           : minimum ? "\u2265 " + shortest(*minimum, decimals)
-                     : "";
+    return maximum ? "\u2264 " + shortest(*maximum, decimals) : minimum ? "\u2265 " + shortest(*minimum, decimals) : "";
 }
 
 const FigureLimit* LimitSet::limitOf(std::string_view key) const {

@@ -44,11 +44,11 @@ struct Name {
 };
 
 constexpr std::array names = {
-    Name{"srgb", Kind::sRGB},       Name{"lstar", Kind::lightness}, Name{"l", Kind::lightness},
-    Name{"bt1886", Kind::bt1886},   Name{"rec1886", Kind::bt1886},  Name{"itubt1886", Kind::bt1886},
-    Name{"iturbt1886", Kind::bt1886}, Name{"hlg", Kind::hlg},       Name{"pq", Kind::pq},
-    Name{"st2084", Kind::pq},       Name{"smptest2084", Kind::pq},  Name{"dicom", Kind::gsdf},
-    Name{"gsdf", Kind::gsdf},       Name{"dicomgsdf", Kind::gsdf},  Name{"dicompart14", Kind::gsdf},
+    Name{"srgb", Kind::sRGB},         Name{"lstar", Kind::lightness}, Name{"l", Kind::lightness},
+    Name{"bt1886", Kind::bt1886},     Name{"rec1886", Kind::bt1886},  Name{"itubt1886", Kind::bt1886},
+    Name{"iturbt1886", Kind::bt1886}, Name{"hlg", Kind::hlg},         Name{"pq", Kind::pq},
+    Name{"st2084", Kind::pq},         Name{"smptest2084", Kind::pq},  Name{"dicom", Kind::gsdf},
+    Name{"gsdf", Kind::gsdf},         Name{"dicomgsdf", Kind::gsdf},  Name{"dicompart14", Kind::gsdf},
 };
 
 double interpolated(const std::vector<double>& entries, double signal) {
@@ -106,9 +106,8 @@ std::optional<ToneCurve> curveNamed(std::string_view name) {
         return *number <= greatestExponent ? powerCurve(*number) : std::nullopt;
     }
     const std::string text = plain(name);
-    const auto* const found = std::find_if(names.begin(), names.end(), [&](const Name& known) {
-        return known.name == text;
-    });
+    const auto* const found =
+        std::find_if(names.begin(), names.end(), [&](const Name& known) { return known.name == text; });
     return found != names.end() ? std::optional(ToneCurve{found->kind, 0, {}, std::string(name)}) : std::nullopt;
 }
 

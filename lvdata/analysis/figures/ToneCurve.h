@@ -26,9 +26,9 @@ struct ToneCurve {
         sRGB,       ///< IEC 61966-2-1.
         lightness,  ///< The lightness L* of CIE 15.
         bt1886,     ///< ITU-R BT.1886.
-        hlg,        ///< Hybrid log-gamma of ITU-R BT.2100, with `exponent` as system gamma, 0 for that of the luminance.
-        pq,         ///< Perceptual quantization of ITU-R BT.2100, up to the display's white.
-        gsdf,       ///< The grayscale standard display function of DICOM PS3.14.
+        hlg,   ///< Hybrid log-gamma of ITU-R BT.2100, with `exponent` as system gamma, 0 for that of the luminance.
+        pq,    ///< Perceptual quantization of ITU-R BT.2100, up to the display's white.
+        gsdf,  ///< The grayscale standard display function of DICOM PS3.14.
     };
 
     Kind kind = Kind::power;        ///< Its kind.
@@ -45,8 +45,9 @@ struct ToneCurve {
 /// A curve by its entries; no value of fewer than two.
 [[nodiscard]] std::optional<ToneCurve> tableCurve(std::vector<double> entries);
 
-/// The curve that a record names: a number such as "2.2" is an exponent. Of other names letters of either case count the
-/// same, and only letters and digits count: "L*" and "LStar", "BT.1886", "DICOM" and "GSDF". No value for any other.
+/// The curve that a record names: a number such as "2.2" is an exponent. Of other names letters of either case count
+/// the same, and only letters and digits count: "L*" and "LStar", "BT.1886", "DICOM" and "GSDF". No value for any
+/// other.
 [[nodiscard]] std::optional<ToneCurve> curveNamed(std::string_view name);
 
 /// The light of a grey signal of 0 to 1 over that of black and white, 0 to 1: (Y - black) / (white - black).

@@ -49,7 +49,9 @@ public:
                                                : "not JSON: " + plainReason(error.what()));
     }
 
-    LimitSetResult result() { return reason_.empty() ? LimitSetResult{set_, 0, ""} : LimitSetResult{{}, line_, reason_}; }
+    LimitSetResult result() {
+        return reason_.empty() ? LimitSetResult{set_, 0, ""} : LimitSetResult{{}, line_, reason_};
+    }
 
 private:
     /// What is open.
@@ -136,10 +138,7 @@ std::string* Reader::textOfKey() {
     if (place_ != Place::set) {
         return nullptr;
     }
-    return key_ == "name"     ? &set_.name
-           : key_ == "title"  ? &set_.title
-           : key_ == "notice" ? &set_.notice
-                              : nullptr;
+    return key_ == "name" ? &set_.name : key_ == "title" ? &set_.title : key_ == "notice" ? &set_.notice : nullptr;
 }
 
 bool Reader::string(std::string& text) {
@@ -186,9 +185,8 @@ bool Reader::endSet() {
             return fail("no key '" + std::string(needed) + '\'');
         }
     }
-    std::sort(set_.limits.begin(), set_.limits.end(), [](const FigureLimit& left, const FigureLimit& right) {
-        return left.key < right.key;
-    });
+    std::sort(set_.limits.begin(), set_.limits.end(),
+              [](const FigureLimit& left, const FigureLimit& right) { return left.key < right.key; });
     return true;
 }
 

@@ -94,28 +94,59 @@ Figure percent(const Figure& fraction) {
 
 constexpr std::array whiteAndBlack = {
     LineForm{"white_x", "White", "White x", "", 4, [](const Mode& mode) { return whiteAim(mode, xOf); },
-             [](const Mode& mode) { return whiteFigure(mode, xOf); }},
+             [](const Mode& mode) {
+                 return whiteFigure(mode, xOf);
+             }},
     LineForm{"white_y", "White", "White y", "", 4, [](const Mode& mode) { return whiteAim(mode, yOf); },
-             [](const Mode& mode) { return whiteFigure(mode, yOf); }},
+             [](const Mode& mode) {
+                 return whiteFigure(mode, yOf);
+             }},
     LineForm{"white_u", "White", "White u'", "", 4, [](const Mode& mode) { return whiteAim(mode, uOf); },
-             [](const Mode& mode) { return whiteFigure(mode, uOf); }},
+             [](const Mode& mode) {
+                 return whiteFigure(mode, uOf);
+             }},
     LineForm{"white_v", "White", "White v'", "", 4, [](const Mode& mode) { return whiteAim(mode, vOf); },
-             [](const Mode& mode) { return whiteFigure(mode, vOf); }},
-    LineForm{"white_cct", "White", "White CCT", "K", 0, 
-             [](const Mode& mode) { return Aim{whiteAim(mode, kelvinOf).number, whiteWords(mode)}; },
-             [](const Mode& mode) { return mode.temperature; }},
+             [](const Mode& mode) {
+                 return whiteFigure(mode, vOf);
+             }},
+    LineForm{"white_cct", "White", "White CCT", "K", 0,
+             [](const Mode& mode) {
+                 return Aim{whiteAim(mode, kelvinOf).number, whiteWords(mode)};
+             },
+             [](const Mode& mode) {
+                 return mode.temperature;
+             }},
     LineForm{"white_duv", "White", "White Δuv", "", 4, [](const Mode& mode) { return whiteAim(mode, duvOf); },
-             [](const Mode& mode) { return mode.duv; }},
-    LineForm{"white_delta_uv", "White", "White Δu'v'", "", 4, nullptr, [](const Mode& mode) { return mode.deltaUV; }},
+             [](const Mode& mode) {
+                 return mode.duv;
+             }},
+    LineForm{"white_delta_uv", "White", "White Δu'v'", "", 4, nullptr,
+             [](const Mode& mode) {
+                 return mode.deltaUV;
+             }},
     LineForm{"white_delta_e2000", "White", "White ΔE00", "", 2, nullptr,
-             [](const Mode& mode) { return mode.deltaE2000; }},
+             [](const Mode& mode) {
+                 return mode.deltaE2000;
+             }},
     LineForm{"white_tristimulus_y", "White", "White Y", unitOfY, 4,
-             [](const Mode& mode) { return Aim{mode.targetY, mode.targetBrightness}; },
-             [](const Mode& mode) { return mode.measuredY; }},
+             [](const Mode& mode) {
+                 return Aim{mode.targetY, mode.targetBrightness};
+             },
+             [](const Mode& mode) {
+                 return mode.measuredY;
+             }},
     LineForm{"white_tristimulus_y_deviation", "White", "White Y over target", "%", 1, nullptr, deviationOfY},
     LineForm{"black_tristimulus_y", "Black", "Black Y", unitOfY, 4,
-             [](const Mode& mode) { return Aim{{}, mode.targetBlack}; }, [](const Mode& mode) { return mode.blackY; }},
-    LineForm{"contrast", "Black", "Contrast", "", 0, nullptr, [](const Mode& mode) { return mode.contrast; }},
+             [](const Mode& mode) {
+                 return Aim{{}, mode.targetBlack};
+             },
+             [](const Mode& mode) {
+                 return mode.blackY;
+             }},
+    LineForm{"contrast", "Black", "Contrast", "", 0, nullptr,
+             [](const Mode& mode) {
+                 return mode.contrast;
+             }},
 };
 
 constexpr std::array toneAndPatches = {
@@ -123,19 +154,33 @@ constexpr std::array toneAndPatches = {
              [](const Mode& mode) {
                  return Aim{mode.tone.targetGamma, gammaWords(mode)};
              },
-             [](const Mode& mode) { return mode.tone.meanGamma; }},
+             [](const Mode& mode) {
+                 return mode.tone.meanGamma;
+             }},
     LineForm{"tone_greatest_deviation", "Tone", "Greatest deviation of the tone curve", "%", 2, nullptr,
-             [](const Mode& mode) { return percent(mode.tone.greatestDeviation); }},
+             [](const Mode& mode) {
+                 return percent(mode.tone.greatestDeviation);
+             }},
     LineForm{"tone_greatest_imbalance", "Tone", "Greatest imbalance of R, G and B", "%", 1, nullptr,
-             [](const Mode& mode) { return percent(mode.tone.greatestImbalance); }},
+             [](const Mode& mode) {
+                 return percent(mode.tone.greatestImbalance);
+             }},
     LineForm{"patches_count", "Patches", "Measurements", "", 0, nullptr,
-             [](const Mode& mode) { return computed(static_cast<double>(mode.measurements)); }},
+             [](const Mode& mode) {
+                 return computed(static_cast<double>(mode.measurements));
+             }},
     LineForm{"patches_delta_e2000_mean", "Patches", "Mean ΔE00", "", 2, nullptr,
-             [](const Mode& mode) { return mode.series.mean; }},
+             [](const Mode& mode) {
+                 return mode.series.mean;
+             }},
     LineForm{"patches_delta_e2000_percentile_95", "Patches", "95 % of ΔE00 up to", "", 2, nullptr,
-             [](const Mode& mode) { return mode.series.percentile95; }},
+             [](const Mode& mode) {
+                 return mode.series.percentile95;
+             }},
     LineForm{"patches_delta_e2000_maximum", "Patches", "Greatest ΔE00", "", 2, nullptr,
-             [](const Mode& mode) { return mode.series.maximum; }},
+             [](const Mode& mode) {
+                 return mode.series.maximum;
+             }},
 };
 
 FigureLine lineOf(const LineForm& form, const Mode& mode, const KnownUnits& known) {

@@ -140,14 +140,13 @@ void summarize(SeriesFigures& series) {
     const auto valueAt = [&](std::size_t index) {
         return *series.patches[index].deltaE2000.value;
     };
-    const double sum = std::accumulate(falling.begin(), falling.end(), 0.0, [&](double total, std::size_t index) {
-        return total + valueAt(index);
-    });
+    const double sum = std::accumulate(falling.begin(), falling.end(), 0.0,
+                                       [&](double total, std::size_t index) { return total + valueAt(index); });
     series.mean = computed(sum / static_cast<double>(falling.size()));
     series.percentile95 = computed(valueAt(falling[falling.size() / 20]));  // 5 % may exceed it
     series.maximum = computed(valueAt(falling[0]));
-    series.worst.assign(falling.begin(), std::next(falling.begin(), static_cast<std::ptrdiff_t>(
-                                                                        std::min(mostWorst, falling.size()))));
+    series.worst.assign(falling.begin(),
+                        std::next(falling.begin(), static_cast<std::ptrdiff_t>(std::min(mostWorst, falling.size()))));
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <lvdata/analysis/figures/target_curves.h>
 #include <lvdata/analysis/figures/stored_values.h>
+#include <lvdata/analysis/figures/target_curves.h>
 
 namespace lv::analysis {
 
