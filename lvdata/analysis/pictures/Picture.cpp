@@ -9,6 +9,7 @@ constexpr double margin = 16;
 constexpr double titleLine = 26;
 constexpr double subtitleLine = 44;
 constexpr double textFontSize = 12;
+constexpr double titleFontSize = 16;  // 15 and bold
 constexpr double emptyHeight = 150;
 
 /// The words of a text in lines of at most that width.
@@ -49,9 +50,11 @@ Picture::Picture(const PictureForm& form, double height, const PictureTexts& tex
         svg_.style(pictureStyle());
     }
     svg_.empty("rect", {{"class", "lv-paper"}, {"width", pictureWidth}, {"height", height}});
-    svg::addText(svg_, {margin, titleLine}, "lv-title", svg::Anchor::start, texts.title);
+    const double width = pictureWidth - 2 * margin;
+    const std::string shownTitle = svg::shortened(texts.title, width, titleFontSize);
+    svg::addText(svg_, {margin, titleLine}, "lv-title", svg::Anchor::start, shownTitle);
     if (!subtitle.empty()) {
-        const std::string shown = svg::shortened(subtitle, pictureWidth - 2 * margin, textFontSize);
+        const std::string shown = svg::shortened(subtitle, width, textFontSize);
         svg::addText(svg_, {margin, subtitleLine}, "lv-sub", svg::Anchor::start, shown);
     }
 }
@@ -76,6 +79,10 @@ std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, con
         y += lineHeight;
     }
     return picture.finished();
+}
+
+std::string reasonOf(const Figure& figure, const std::string& otherwise) {
+    return figure.reason.empty() ? otherwise : figure.reason;
 }
 
 std::string subtitleOf(const ModeFigures& mode) {

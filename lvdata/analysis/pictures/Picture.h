@@ -56,6 +56,9 @@ private:
 /// A picture that says why there is nothing to see.
 [[nodiscard]] std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, const std::string& reason);
 
+/// Why a figure has no value, or else the other reason.
+[[nodiscard]] std::string reasonOf(const Figure& figure, const std::string& otherwise);
+
 /// The name of a mode with when it was calibrated, for subtitles.
 [[nodiscard]] std::string subtitleOf(const ModeFigures& mode);
 

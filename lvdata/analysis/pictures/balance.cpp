@@ -26,7 +26,7 @@ StepSeries seriesOf(const ToneFigures& tone, std::size_t channel) {
 }
 
 /// As far down as up.
-svg::Range rangeOf(const std::array<StepSeries, 3>& channels) {
+svg::TickedRange rangeOf(const std::array<StepSeries, 3>& channels) {
     std::vector<svg::Point> values;
     for (const StepSeries& series : channels) {
         for (const svg::Point& value : series.values) {
@@ -54,8 +54,9 @@ std::string descriptionOf(const ToneFigures& tone) {
 }
 
 void draw(svg::SVGWriter& svg, const std::array<StepSeries, 3>& channels) {
-    const svg::Panel panel(box, {0, 1}, rangeOf(channels));
-    const svg::Axis vertical{svg::ticksOf(panel.vertical().values(), 8), "Difference from the mean in %", true};
+    const svg::TickedRange scale = rangeOf(channels);
+    const svg::Panel panel(box, {0, 1}, scale.range);
+    const svg::Axis vertical{scale.ticks, "Difference from the mean in %", true};
     svg::addAxes(svg, panel, signalAxis(true), vertical);
     svg::addLevel(svg, panel, 0, "lv-zero");
     std::size_t outside = 0;
@@ -73,11 +74,12 @@ void draw(svg::SVGWriter& svg, const std::array<StepSeries, 3>& channels) {
 std::string balancePicture(const ModeFigures& mode, const PictureForm& form) {
     const PictureTexts texts{"RGB balance of greys", subtitleOf(mode), descriptionOf(mode.tone)};
     if (mode.tone.steps.empty()) {
-        return emptyPicture(form, texts, "no grey patches were measured");
+        return emptyPicture(form, texts, reasonOf(mode.tone.greatestImbalance, "no grey patches were measured"));
     }
     const std::array<StepSeries, 3> channels{seriesOf(mode.tone, 0), seriesOf(mode.tone, 1), seriesOf(mode.tone, 2)};
     if (channels[0].values.empty()) {
-        return emptyPicture(form, texts, "the measured white and primaries are needed");
+        return emptyPicture(form, texts,
+                            reasonOf(mode.tone.greatestImbalance, "the measured white and primaries are needed"));
     }
     Picture picture(form, height, texts);
     draw(picture.svg(), channels);

@@ -1,144 +1,15 @@
-#include <lvdata/analysis/pictures/Picture.h>
+#include <lvdata/analysis/pictures/Diagram.h>
 #include <lvdata/analysis/pictures/svg/clipping.h>
 
-#include <lvdata/analysis/colour/temperature.h>
-
+#include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace lv::analysis {
 namespace {
 
 using colour::Chromaticity;
 using colour::Plane;
-using colour::PlanePoint;
 using svg::Point;
-
-/// What differs between the two diagrams.
-struct PlaneForm {
-    svg::Range horizontal;
-    svg::Range vertical;
-    double pixels;  // of a width or height of 1
-    std::string_view name;
-    std::string_view horizontalName;
-    std::string_view verticalName;
-};
-
-PlaneForm formOf(Plane plane) {
-    if (plane == Plane::xy) {
-        return {{-0.05, 0.8}, {0, 0.9}, 530, "CIE 1931 x, y", "x", "y"};
-    }
-    return {{-0.04, 0.65}, {0, 0.64}, 650, "CIE 1976 u′, v′", "u′", "v′"};
-}
-
-std::optional<Point> placeOf(const Chromaticity& chromaticity, Plane plane) {
-    if (plane == Plane::xy) {
-        return Point{chromaticity.x, chromaticity.y};
-    }
-    const auto place = colour::uniform(chromaticity);
-    return place ? std::optional<Point>({place->u, place->v}) : std::nullopt;
-}
-
-/// What all steps need.
-struct Diagram {
-    Picture& picture;
-    const svg::Panel& panel;
-    Plane plane;
-    std::vector<svg::LegendEntry> legend{};
-};
-
-void add(std::vector<Point>& points, const Chromaticity& chromaticity, Plane plane) {
-    if (const auto place = placeOf(chromaticity, plane)) {
-        points.push_back(*place);
-    }
-}
-
-std::vector<Point> locusOf(Plane plane) {
-    std::vector<Point> points;
-    for (const colour::LocusPoint& point : colour::spectrumLocus()) {
-        add(points, point.chromaticity, plane);
-    }
-    return points;
-}
-
-std::vector<Point> pixelsOf(const svg::Panel& panel, const std::vector<Point>& values) {
-    return panel.inside(values);
-}
-
-/// A colour that fades from a corner of the diagram to the middle of the other two.
-struct Wash {
-    std::string_view name;
-    Chromaticity corner;
-    Chromaticity opposite;
-};
-
-/// A faint fill with the colours of the diagram, roughly.
-void addWash(Diagram& diagram, const std::vector<Point>& locus) {
-    constexpr std::array<Wash, 3> washes{{{"red", {0.70, 0.29}, {0.12, 0.44}},
-                                          {"green", {0.14, 0.80}, {0.43, 0.17}},
-                                          {"blue", {0.16, 0.02}, {0.38, 0.56}}}};
-    svg::SVGWriter& svg = diagram.picture.svg();
-    for (const Wash& wash : washes) {
-        const Point from = diagram.panel.at(placeOf(wash.corner, diagram.plane).value_or(Point{}));
-        const Point to = diagram.panel.at(placeOf(wash.opposite, diagram.plane).value_or(Point{}));
-        const std::string id = diagram.picture.idOf(wash.name);
-        const std::string stop = "lv-wash-" + std::string(wash.name);
-        svg.open("linearGradient", {{"id", id},
-                                    {"gradientUnits", "userSpaceOnUse"},
-                                    {"x1", from.x},
-                                    {"y1", from.y},
-                                    {"x2", to.x},
-                                    {"y2", to.y}});
-        svg.empty("stop", {{"class", stop}, {"offset", "0"}, {"stop-opacity", "0.3"}});
-        svg.empty("stop", {{"class", stop}, {"offset", "1"}, {"stop-opacity", "0"}});
-        svg.close();
-        svg.open("g", {{"fill", "url(#" + id + ")"}});
-        svg::addPolygon(svg, pixelsOf(diagram.panel, locus), {});
-        svg.close();
-    }
-}
-
-/// Where the name of a wavelength stands beside the locus: away from the middle of the diagram.
-void addWavelength(Diagram& diagram, const colour::LocusPoint& point) {
-    const auto place = placeOf(point.chromaticity, diagram.plane);
-    const auto middle = placeOf({1.0 / 3, 1.0 / 3}, diagram.plane);
-    if (!place || !middle) {
-        return;
-    }
-    const Point at = diagram.panel.at(*place);
-    const Point centre = diagram.panel.at(*middle);
-    const double distance = std::hypot(at.x - centre.x, at.y - centre.y);
-    const Point step{(at.x - centre.x) / distance, (at.y - centre.y) / distance};
-    const auto anchor = std::abs(step.x) < 0.35 ? svg::Anchor::middle
-                                                : (step.x > 0 ? svg::Anchor::start : svg::Anchor::end);
-    svg::SVGWriter& svg = diagram.picture.svg();
-    svg::addLine(svg, at, {at.x + 4 * step.x, at.y + 4 * step.y}, {"lv-locus", ""});
-    svg::addText(svg, {at.x + 9 * step.x, at.y + 9 * step.y + 4}, "lv-note", anchor,
-                 std::to_string(point.wavelength) + (point.wavelength == 520 ? " nm" : ""));
-}
-
-void addLocus(Diagram& diagram) {
-    const std::vector<Point> locus = locusOf(diagram.plane);
-    addWash(diagram, locus);
-    svg::addPolygon(diagram.picture.svg(), pixelsOf(diagram.panel, locus),
-                    {"lv-locus", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
-    for (const colour::LocusPoint& point : colour::spectrumLocus()) {
-        const int nm = point.wavelength;
-        if ((nm >= 460 && nm <= 620 && nm % 20 == 0)) {
-            addWavelength(diagram, point);
-        }
-    }
-}
-
-void addPlanckianLocus(Diagram& diagram) {
-    std::vector<Point> points;
-    for (double kelvin = 1500; kelvin <= 25000; kelvin *= 1.1) {
-        add(points, colour::planckian(kelvin), diagram.plane);
-    }
-    svg::addPolyline(diagram.picture.svg(), pixelsOf(diagram.panel, points),
-                     {"lv-planck", "Planckian locus, 1500 K to 25,000 K"});
-    diagram.legend.push_back({"Planckian locus", "lv-planck", "", std::nullopt});
-}
 
 std::string coordinates(const Chromaticity& chromaticity, Plane plane) {
     const PlaneForm form = formOf(plane);
@@ -157,15 +28,15 @@ using Corners = std::array<std::optional<Chromaticity>, 3>;
 bool addTriangle(Diagram& diagram, const Corners& corners, const svg::Look& look) {
     std::vector<Point> points;
     for (const auto& corner : corners) {
-        if (corner) {
-            add(points, *corner, diagram.plane);
+        if (const auto place = corner ? placeOf(*corner, diagram.plane) : std::nullopt) {
+            points.push_back(*place);
         }
     }
     if (points.size() != corners.size()) {
         return false;
     }
     const std::vector<Point> part = svg::clipped(points, diagram.panel);
-    svg::addPolygon(diagram.picture.svg(), pixelsOf(diagram.panel, part), look);
+    svg::addPolygon(diagram.picture.svg(), diagram.panel.inside(part), look);
     return true;
 }
 
@@ -271,16 +142,16 @@ std::string gamutPicture(const ModeFigures& mode, Plane plane, const PictureForm
                        planeForm.pixels * planeForm.vertical.last};
     Picture picture(form, box.bottom() + 52, texts);
     const svg::Panel panel(box, planeForm.horizontal, planeForm.vertical);
-    svg::addAxes(picture.svg(), panel,
-                 {svg::ticksOf(planeForm.horizontal, 9), std::string(planeForm.horizontalName)},
+    svg::addAxes(picture.svg(), panel, {svg::ticksOf(planeForm.horizontal, 9), std::string(planeForm.horizontalName)},
                  {svg::ticksOf(planeForm.vertical, 9), std::string(planeForm.verticalName)});
     Diagram diagram{picture, panel, plane};
-    addLocus(diagram);
+    addSpectrumLocus(diagram);
     addPlanckianLocus(diagram);
     addReferenceSpaces(diagram);
     addTarget(diagram, mode);
     addMeasured(diagram, mode);
     addWhites(diagram, mode);
+    std::reverse(diagram.legend.begin(), diagram.legend.end());  // what matters most was drawn last
     const double left = box.right() + 20;
     svg::addLegendColumn(picture.svg(), {left, box.top + 8}, pictureWidth - left - 8, diagram.legend);
     return picture.finished();

@@ -7,7 +7,7 @@
 namespace lv::analysis {
 namespace {
 
-constexpr svg::Box box{panelLeft, 84, pictureWidth - panelLeft - levelLabelWidth, 230};
+constexpr svg::Box box{panelLeft, 70, pictureWidth - panelLeft - levelLabelWidth, 230};
 constexpr double height = box.top + box.height + 40;
 constexpr double fontSize = 11;
 
@@ -74,7 +74,7 @@ std::string valueOf(const HistorySeries& series, double value) {
     return svg::valueText(value, series.decimals) + unit;
 }
 
-svg::Range rangeOf(const HistorySeries& series, const FigureLimit* limit) {
+svg::TickedRange rangeOf(const HistorySeries& series, const FigureLimit* limit) {
     svg::Extent extent;
     for (const Point& point : series.points) {
         if (hasValue(point)) {
@@ -89,26 +89,33 @@ svg::Range rangeOf(const HistorySeries& series, const FigureLimit* limit) {
     return svg::toTicks(svg::widened(extent.range(), 0.08, leastWidth), 6);
 }
 
-/// A band where values pass, and its borders.
-void addLimit(svg::SVGWriter& svg, const svg::Panel& panel, const HistorySeries& series, const FigureLimit& limit) {
-    const double top = limit.maximum ? panel.vertical().at(*limit.maximum) : box.top;
-    const double bottom = limit.minimum ? panel.vertical().at(*limit.minimum) : box.bottom();
-    if (bottom > top && (limit.minimum || limit.maximum)) {
+/// Where values pass.
+void addBand(svg::SVGWriter& svg, const svg::Panel& panel, const FigureLimit* limit) {
+    if (limit == nullptr || !(limit->minimum || limit->maximum)) {
+        return;
+    }
+    const double top = limit->maximum ? panel.vertical().at(*limit->maximum) : box.top;
+    const double bottom = limit->minimum ? panel.vertical().at(*limit->minimum) : box.bottom();
+    if (bottom > top) {
         svg::addBox(svg, {box.left, top, box.width, bottom - top}, {"lv-band", "Within the limit"});
     }
+}
+
+std::vector<LevelLine> linesOf(const HistorySeries& series, const FigureLimit* limit) {
+    constexpr std::string_view looks = "lv-line lv-thin lv-limit";
     std::vector<LevelLine> lines;
-    if (limit.maximum) {
-        lines.push_back({*limit.maximum, "limit ≤ " + valueOf(series, *limit.maximum), "lv-line lv-thin lv-limit"});
+    if (limit != nullptr && limit->maximum) {
+        lines.push_back({*limit->maximum, "limit ≤ " + valueOf(series, *limit->maximum), looks});
     }
-    if (limit.minimum) {
-        lines.push_back({*limit.minimum, "limit ≥ " + valueOf(series, *limit.minimum), "lv-line lv-thin lv-limit"});
+    if (limit != nullptr && limit->minimum) {
+        lines.push_back({*limit->minimum, "limit ≥ " + valueOf(series, *limit->minimum), looks});
     }
-    addLevelLines(svg, panel, lines);
+    return lines;
 }
 
 bool isWithin(double value, const FigureLimit* limit) {
-    return limit == nullptr || ((!limit->minimum || value >= *limit->minimum) &&
-                                (!limit->maximum || value <= *limit->maximum));
+    return limit == nullptr ||
+           ((!limit->minimum || value >= *limit->minimum) && (!limit->maximum || value <= *limit->maximum));
 }
 
 void addPoints(svg::SVGWriter& svg, const svg::Panel& panel, const HistorySeries& series, const Times& times,
@@ -126,9 +133,10 @@ void addPoints(svg::SVGWriter& svg, const svg::Panel& panel, const HistorySeries
         if (hasValue(point)) {
             const double value = *point.figure.value;
             const bool passes = isWithin(value, limit);
-            const std::string title = svg::quotable(point.when) + ": " + valueOf(series, value) +
-                                      (passes ? "" : ", outside the limit");
-            svg::addSymbol(svg, panel.at({times.places[index], value}), passes ? svg::Symbol::circle : svg::Symbol::cross,
+            const std::string title =
+                svg::quotable(point.when) + ": " + valueOf(series, value) + (passes ? "" : ", outside the limit");
+            svg::addSymbol(svg, panel.at({times.places[index], value}),
+                           passes ? svg::Symbol::circle : svg::Symbol::cross,
                            {passes ? "lv-mark lv-measured" : "lv-stroke lv-over", title});
         }
     }
@@ -169,19 +177,19 @@ svg::Range rangeOfTimes(const Times& times) {
 }  // namespace
 
 std::string historyPicture(const HistorySeries& series, const FigureLimit* limit, const PictureForm& form) {
-    const PictureTexts texts{"History", svg::quotable(series.label), descriptionOf(series, limit)};
+    const PictureTexts texts{svg::quotable(series.label) + " over time", "", descriptionOf(series, limit)};
     if (std::none_of(series.points.begin(), series.points.end(), hasValue)) {
-        const bool hasReason = !series.points.empty() && !series.points.back().figure.reason.empty();
-        return emptyPicture(form, texts, hasReason ? series.points.back().figure.reason : "no document has this figure");
+        const Figure last = series.points.empty() ? Figure() : series.points.back().figure;
+        return emptyPicture(form, texts, reasonOf(last, "no document has this figure"));
     }
     const Times times = timesOf(series.points);
-    const svg::Panel panel(box, rangeOfTimes(times), rangeOf(series, limit));
+    const svg::TickedRange scale = rangeOf(series, limit);
+    const svg::Panel panel(box, rangeOfTimes(times), scale.range);
     Picture picture(form, height, texts);
-    if (limit != nullptr) {
-        addLimit(picture.svg(), panel, series, *limit);
-    }
+    addBand(picture.svg(), panel, limit);
     svg::addAxes(picture.svg(), panel, {dateTicks(series.points, times, panel.horizontal()), "", true},
-                 {svg::ticksOf(panel.vertical().values(), 6), labelOf(series), true});
+                 {scale.ticks, labelOf(series), true});
+    addLevelLines(picture.svg(), panel, linesOf(series, limit));
     addPoints(picture.svg(), panel, series, times, limit);
     return picture.finished();
 }

@@ -27,7 +27,9 @@ std::vector<double> placesOf(const svg::Panel& panel, const std::vector<LevelLin
 }  // namespace
 
 void addLevelLines(svg::SVGWriter& svg, const svg::Panel& panel, std::vector<LevelLine> lines) {
-    const auto isOutside = [&](const LevelLine& line) { return !panel.vertical().holds(line.value); };
+    const auto isOutside = [&](const LevelLine& line) {
+        return !panel.vertical().holds(line.value);
+    };
     lines.erase(std::remove_if(lines.begin(), lines.end(), isOutside), lines.end());
     std::stable_sort(lines.begin(), lines.end(),
                      [](const LevelLine& left, const LevelLine& right) { return left.value > right.value; });

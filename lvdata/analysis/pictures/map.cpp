@@ -11,7 +11,7 @@ constexpr double top = 60;
 constexpr double width = pictureWidth - 2 * left;
 constexpr double footHeight = 58;
 constexpr std::size_t wrappedAt = 10;
-constexpr double mostCells = 300;
+constexpr double mostCells = 225;
 constexpr std::size_t rampSteps = 9;
 constexpr std::size_t mostSide = 100000;  // of a map in entries, so that products fit
 
@@ -56,7 +56,7 @@ Grid gridOf(const MapFigures& map) {
     const std::size_t columns = columnsOf(map);
     const std::size_t rows = (map.values.size() + columns - 1) / columns;
     Grid grid{columns, rows, blockOf(columns, rows), 0, 0};
-    grid.cellWidth = std::min(width / static_cast<double>(grid.cellColumns()), 130.0);
+    grid.cellWidth = std::min(width / static_cast<double>(grid.cellColumns()), 138.0);
     const double most = 480 / static_cast<double>(grid.cellRows());
     grid.cellHeight = std::min({grid.cellWidth, most, 64.0});
     return grid;
@@ -91,7 +91,9 @@ Cell cellAt(const MapFigures& map, const Grid& grid, std::size_t cellColumn, std
 
 /// Digits after the point that tell entries apart without noise.
 int decimalsOf(const MapFigures& map) {
-    const auto isWhole = [](double value) { return !std::isfinite(value) || value == std::floor(value); };
+    const auto isWhole = [](double value) {
+        return !std::isfinite(value) || value == std::floor(value);
+    };
     return std::all_of(map.values.begin(), map.values.end(), isWhole) ? 0 : 1;
 }
 
@@ -143,18 +145,18 @@ void addCellTexts(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid, 
         return;
     }
     const std::string deviation = deviationText(map, grid, cell);
-    const bool hasBoth =
-        !deviation.empty() && box.height >= 36 && svg::textWidth(deviation, fontSize) <= box.width - 4;
+    const bool hasBoth = !deviation.empty() && box.height >= 36 && svg::textWidth(deviation, fontSize) <= box.width - 4;
     const double middle = box.left + box.width / 2;
     const double line = box.top + box.height / 2 + (hasBoth ? -2 : 4);
-    svg::addText(svg, {middle, line}, classes, svg::Anchor::middle, value);
+    svg::addText(svg, {middle, line}, classes, svg::Anchor::start, value);
     if (hasBoth) {
-        svg::addText(svg, {middle, line + 15}, "lv-value " + classes, svg::Anchor::middle, deviation);
+        svg::addText(svg, {middle, line + 15}, "lv-value " + classes, svg::Anchor::start, deviation);
     }
 }
 
 void addCells(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
     const svg::Range range = rangeOf(map);
+    svg.open("g", {{"class", "lv-cells"}, {"text-anchor", "middle"}});
     for (std::size_t row = 0; row < grid.cellRows(); ++row) {
         for (std::size_t column = 0; column < grid.cellColumns(); ++column) {
             const Cell cell = cellAt(map, grid, column, row);
@@ -164,10 +166,11 @@ void addCells(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
             const svg::Box box{left + static_cast<double>(column) * grid.cellWidth,
                                top + static_cast<double>(row) * grid.cellHeight, grid.cellWidth, grid.cellHeight};
             const std::string classes = rampClass(cell.mean(), range);
-            svg::addBox(svg, box, {"lv-cell " + classes, titleOf(map, grid, cell)});
+            svg::addBox(svg, box, {classes, titleOf(map, grid, cell)});
             addCellTexts(svg, map, grid, cell, box, classes + 't');
         }
     }
+    svg.close();
 }
 
 /// The ramp with its ends, and what the reader must know of the map.
@@ -178,19 +181,21 @@ void addFoot(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
     const std::string least = svg::valueText(range.first, decimalsOf(map));
     const double rampLeft = left + svg::textWidth(least, 11) + 6;
     svg::addText(svg, {left, y + 10}, "lv-value", svg::Anchor::start, least);
+    svg.open("g", {{"class", "lv-cells"}});
     for (std::size_t step = 0; step < rampSteps; ++step) {
         const svg::Box box{rampLeft + static_cast<double>(step) * stepWidth, y, stepWidth, 12};
-        svg::addBox(svg, box, {"lv-cell lv-r" + std::to_string(step), ""});
+        svg::addBox(svg, box, {"lv-r" + std::to_string(step), ""});
     }
+    svg.close();
     const double rampRight = rampLeft + static_cast<double>(rampSteps) * stepWidth;
     const std::string greatest = withUnit(svg::valueText(range.last, decimalsOf(map)), map);
     svg::addText(svg, {rampRight + 6, y + 10}, "lv-value", svg::Anchor::start, svg::shortened(greatest, 200, 11));
-    const std::string shape = isShapeKnown(map) ? (grid.block > 1 ? "Each cell is the mean of up to " +
-                                                                        std::to_string(grid.block * grid.block) +
-                                                                        " entries."
-                                                                  : "")
-                                                : "The shape of the map is not known: entries in stored order, " +
-                                                      std::to_string(grid.columns) + " in a row.";
+    const std::string shape = isShapeKnown(map)
+                                  ? (grid.block > 1 ? "Each cell is the mean of up to " +
+                                                          std::to_string(grid.block * grid.block) + " entries."
+                                                    : "")
+                                  : "The shape of the map is not known: entries in stored order, " +
+                                        std::to_string(grid.columns) + " in a row.";
     svg::addText(svg, {left, y + 30}, "lv-note", svg::Anchor::start, shape);
 }
 
@@ -215,7 +220,9 @@ std::string mapPicture(const MapFigures& map, const PictureForm& form) {
     const std::string name = map.name.empty() ? "Map" : std::string(map.name);
     const std::string updated = map.updatedAt.empty() ? "" : "Updated " + svg::quotable(map.updatedAt);
     const PictureTexts texts{name, updated, descriptionOf(map)};
-    const auto isNumber = [](double value) { return std::isfinite(value); };
+    const auto isNumber = [](double value) {
+        return std::isfinite(value);
+    };
     if (std::none_of(map.values.begin(), map.values.end(), isNumber)) {
         return emptyPicture(form, texts, "no such map is recorded");
     }

@@ -20,7 +20,7 @@ PatchLimits limitsOf(const LimitSet* set) {
     if (set == nullptr) {
         return {};
     }
-    return {set->limitOf("patches_mean_delta_e2000"), set->limitOf("patches_maximum_delta_e2000")};
+    return {set->limitOf("patches_delta_e2000_mean"), set->limitOf("patches_delta_e2000_maximum")};
 }
 
 std::optional<double> greatestAllowed(const FigureLimit* limit) {
@@ -69,8 +69,8 @@ Bar barOf(const std::vector<PatchFigures>& patches, std::size_t first, std::size
         const std::string value = svg::valueText(*differenceOf(*bar.greatest), 2);
         bar.title = first == last ? "Patch " + nameOf(*bar.greatest) + ": ΔE00 " + value
                                   : "Patches " + std::to_string(patches[first].number) + " to " +
-                                        std::to_string(patches[last].number) + ": greatest ΔE00 " + value +
-                                        ", patch " + nameOf(*bar.greatest);
+                                        std::to_string(patches[last].number) + ": greatest ΔE00 " + value + ", patch " +
+                                        nameOf(*bar.greatest);
     }
     return bar;
 }
@@ -85,7 +85,7 @@ std::vector<Bar> barsOf(const std::vector<PatchFigures>& patches) {
     return bars;
 }
 
-svg::Range rangeOf(const SeriesFigures& series, const PatchLimits& limits) {
+svg::TickedRange rangeOf(const SeriesFigures& series, const PatchLimits& limits) {
     svg::Extent extent;
     extent.add(0);
     for (const PatchFigures& patch : series.patches) {
@@ -143,8 +143,9 @@ std::vector<LevelLine> linesOf(const SeriesFigures& series, const PatchLimits& l
 }
 
 std::string descriptionOf(const SeriesFigures& series, const LimitSet* set, const PatchLimits& limits) {
-    std::string text = "ΔE00 of " + counted(series.patches.size(), "patch", "patches") + " as bars: mean " + series.mean.text(2) +
-                       ", 95 % not above " + series.percentile95.text(2) + ", greatest " + series.maximum.text(2) + '.';
+    std::string text = "ΔE00 of " + counted(series.patches.size(), "patch", "patches") + " as bars: mean " +
+                       series.mean.text(2) + ", 95 % not above " + series.percentile95.text(2) + ", greatest " +
+                       series.maximum.text(2) + '.';
     if (!series.reference.empty()) {
         text += " Compared with " + svg::quotable(series.reference) + '.';
     }
@@ -162,16 +163,17 @@ std::string patchesPicture(const ModeFigures& mode, const LimitSet* limitSet, co
     const PatchLimits limits = limitsOf(limitSet);
     const PictureTexts texts{"Colour differences of the patches", subtitleOf(mode),
                              descriptionOf(series, limitSet, limits)};
-    const auto hasValue = [](const PatchFigures& patch) { return differenceOf(patch).has_value(); };
+    const auto hasValue = [](const PatchFigures& patch) {
+        return differenceOf(patch).has_value();
+    };
     if (std::none_of(series.patches.begin(), series.patches.end(), hasValue)) {
-        const bool hasReason = !series.patches.empty() && !series.maximum.reason.empty();
-        return emptyPicture(form, texts, hasReason ? series.maximum.reason : "no patches were measured");
+        return emptyPicture(form, texts, reasonOf(series.maximum, "no patches were measured"));
     }
     const std::vector<Bar> bars = barsOf(series.patches);
     Picture picture(form, height, texts);
-    const svg::Panel panel(box, {0, 1}, rangeOf(series, limits));
-    svg::addAxes(picture.svg(), panel, {numberTicks(series.patches), "Patch", true},
-                 {svg::ticksOf(panel.vertical().values(), 6), "ΔE00", true});
+    const svg::TickedRange scale = rangeOf(series, limits);
+    const svg::Panel panel(box, {0, 1}, scale.range);
+    svg::addAxes(picture.svg(), panel, {numberTicks(series.patches), "Patch", true}, {scale.ticks, "ΔE00", true});
     addBars(picture.svg(), panel, bars, limits);
     addLevelLines(picture.svg(), panel, linesOf(series, limits));
     return picture.finished();

@@ -18,7 +18,9 @@ using Group = std::vector<const SixColours*>;
 std::vector<Group> groupsOf(const std::vector<SixColours>& all) {
     std::vector<Group> groups;
     for (const SixColours& colours : all) {
-        const auto isSame = [&](const Group& group) { return group.front()->name == colours.name; };
+        const auto isSame = [&](const Group& group) {
+            return group.front()->name == colours.name;
+        };
         const auto found = std::find_if(groups.begin(), groups.end(), isSame);
         if (found != groups.end()) {
             found->push_back(&colours);
@@ -34,7 +36,7 @@ std::string_view looksOf(const SixColours& colours) {
 }
 
 /// All panels have one scale, as far down as up.
-svg::Range rangeOf(const std::vector<SixColours>& all) {
+svg::TickedRange rangeOf(const std::vector<SixColours>& all) {
     svg::Extent extent;
     for (const SixColours& colours : all) {
         for (const int value : colours.values) {
@@ -80,12 +82,12 @@ svg::Axis colourAxis() {
     return axis;
 }
 
-void addPanels(svg::SVGWriter& svg, const std::vector<Group>& groups, const svg::Range& range) {
+void addPanels(svg::SVGWriter& svg, const std::vector<Group>& groups, const svg::TickedRange& scale) {
     double top = panelTop;
     for (const Group& group : groups) {
         const svg::Box box{panelLeft, top, pictureWidth - panelLeft - rightMargin, panelHeight};
-        const svg::Panel panel(box, {0, 1}, range);
-        const svg::Axis vertical{svg::ticksOf(range, 4), std::string(group.front()->name) + " in steps", true};
+        const svg::Panel panel(box, {0, 1}, scale.range);
+        const svg::Axis vertical{scale.ticks, std::string(group.front()->name) + " in steps", true};
         svg::addAxes(svg, panel, colourAxis(), vertical);
         svg::addLevel(svg, panel, 0, "lv-zero");
         addGroup(svg, panel, group);
@@ -97,7 +99,9 @@ std::vector<svg::LegendEntry> legendOf(const std::vector<SixColours>& all) {
     std::vector<svg::LegendEntry> entries;
     for (const SixColours& colours : all) {
         const std::string label = "Of the " + std::string(colours.place);
-        const auto isSame = [&](const svg::LegendEntry& entry) { return entry.label == label; };
+        const auto isSame = [&](const svg::LegendEntry& entry) {
+            return entry.label == label;
+        };
         if (std::none_of(entries.begin(), entries.end(), isSame)) {
             entries.push_back({label, "", looksOf(colours), std::nullopt});
         }

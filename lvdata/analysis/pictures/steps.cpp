@@ -5,7 +5,7 @@
 
 namespace lv::analysis {
 
-svg::Range rangeOfTypical(const std::vector<svg::Point>& values, svg::Range typicalSteps, double leastWidth) {
+svg::TickedRange rangeOfTypical(const std::vector<svg::Point>& values, svg::Range typicalSteps, double leastWidth) {
     svg::Extent typical;
     svg::Extent all;
     for (const svg::Point& value : values) {

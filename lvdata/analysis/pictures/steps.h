@@ -17,8 +17,8 @@ struct StepSeries {
 
 /// A range for values whose extremes at the dark end say little: that of the typical ones, made wider. Values outside
 /// are left out of the picture.
-[[nodiscard]] svg::Range rangeOfTypical(const std::vector<svg::Point>& values, svg::Range typicalSteps,
-                                        double leastWidth);
+[[nodiscard]] svg::TickedRange rangeOfTypical(const std::vector<svg::Point>& values, svg::Range typicalSteps,
+                                              double leastWidth);
 
 /// How many values do not lie in the panel.
 [[nodiscard]] std::size_t countOutside(const svg::Panel& panel, const StepSeries& series);

@@ -33,7 +33,7 @@ constexpr std::array<Colour, 11> colours{{
 
 /// Steps of a ramp from dark to light, the same on every page.
 constexpr std::array<std::string_view, 9> ramp{"#08306b", "#08519c", "#2171b5", "#4292c6", "#6baed6",
-                                               "#9ecae1", "#c6dbef", "#deebf7", "#f7fbff"};
+                                               "#8fc2de", "#b3d3e8", "#d0e2f0", "#e8f1f8"};
 constexpr std::size_t firstLightStep = 3;  // from here on black letters have more contrast than white ones
 
 constexpr std::string_view rules = R"(
@@ -49,7 +49,8 @@ constexpr std::string_view rules = R"(
 .lv-zero{stroke:@axis;stroke-width:1.5}
 .lv-halo{paint-order:stroke;stroke:@paper;stroke-width:3px;stroke-linejoin:round}
 .lv-band{fill:@band}
-.lv-cell{stroke:@paper;stroke-width:1}
+.lv-cells rect{stroke:@paper;stroke-width:1}
+.lv-quiet,.lv-cells text{pointer-events:none}
 .lv-under{stroke:@paper;stroke-width:3.5}
 .lv-hover{fill:#000;fill-opacity:0}
 .lv-line{fill:none;stroke:currentColor;stroke-width:2;stroke-linejoin:round}

@@ -49,8 +49,9 @@ svg::Point greatestDeviation(const std::vector<double>& table) {
 
 std::string described(std::size_t channel, const std::vector<double>& table) {
     const svg::Point greatest = greatestDeviation(table);
-    return std::string(channelLooks[channel].name) + ": " + counted(table.size(), "entry", "entries") + ", greatest deviation from the diagonal " +
-           svg::valueText(greatest.y, 2) + " % at " + percent(greatest.x, 1) + " of the input";
+    return std::string(channelLooks[channel].name) + ": " + counted(table.size(), "entry", "entries") +
+           ", greatest deviation from the diagonal " + svg::valueText(greatest.y, 2) + " % at " +
+           percent(greatest.x, 1) + " of the input";
 }
 
 void addCurves(svg::SVGWriter& svg, const svg::Panel& panel, const Tables& tables,
@@ -114,11 +115,11 @@ void addDeviationPanel(svg::SVGWriter& svg, const Tables& tables) {
             extent.add(value.y);
         }
     }
-    const svg::Range range = svg::toTicks(svg::widened(extent.range(), 0.05, 0.5), 5);
-    const svg::Panel panel(deviationBox, {0, 1}, range);
+    const svg::TickedRange scale = svg::toTicks(svg::widened(extent.range(), 0.05, 0.5), 5);
+    const svg::Panel panel(deviationBox, {0, 1}, scale.range);
     svg::Axis horizontal = signalAxis(true);
     horizontal.label = "Input in % (place in the table)";
-    svg::addAxes(svg, panel, horizontal, {svg::ticksOf(range, 5), "Deviation from the diagonal in %", true});
+    svg::addAxes(svg, panel, horizontal, {scale.ticks, "Deviation from the diagonal in %", true});
     svg::addLevel(svg, panel, 0, "lv-zero");
     addCurves(svg, panel, tables, deviationOf);
 }
@@ -137,7 +138,9 @@ std::string descriptionOf(const Tables& tables) {
 
 std::string tablesPicture(const ModeFigures& mode, const PictureForm& form) {
     const PictureTexts texts{"Look-up tables of the monitor", subtitleOf(mode), descriptionOf(mode.tables)};
-    const auto isEmpty = [](const std::vector<double>& table) { return table.empty(); };
+    const auto isEmpty = [](const std::vector<double>& table) {
+        return table.empty();
+    };
     if (std::all_of(mode.tables.begin(), mode.tables.end(), isEmpty)) {
         return emptyPicture(form, texts, "no look-up tables are recorded");
     }

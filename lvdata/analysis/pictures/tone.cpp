@@ -11,7 +11,7 @@ constexpr double height = gammaBox.top + gammaBox.height + 52;
 
 constexpr std::string_view measuredLine = "lv-line lv-measured";
 constexpr std::string_view measuredMark = "lv-mark lv-measured";
-constexpr std::string_view targetLine = "lv-line lv-target";
+constexpr std::string_view targetLine = "lv-line lv-target lv-quiet";
 
 std::string signalText(const ToneStep& step) {
     return "Signal " + percent(step.signal, 1);
@@ -68,8 +68,8 @@ void addResponse(svg::SVGWriter& svg, const ToneFigures& tone) {
     const svg::Panel panel(responseBox, {0, 1}, {0, 1});
     const StepSeries light = lightOf(tone);
     svg::addAxes(svg, panel, signalAxis(false), lightAxis());
-    svg::addPolyline(svg, panel.inside(targetLight(tone)), {targetLine, "Target " + svg::quotable(tone.targetCurve)});
     addSteps(svg, panel, light, measuredLine, measuredMark, svg::Symbol::circle);
+    svg::addPolyline(svg, panel.inside(targetLight(tone)), {targetLine, ""});
     addOutsideNote(svg, panel, countOutside(panel, light));
 }
 
@@ -78,11 +78,11 @@ void addGamma(svg::SVGWriter& svg, const ToneFigures& tone) {
     const std::vector<svg::Point> target = targetGamma(tone);
     std::vector<svg::Point> both = gamma.values;
     both.insert(both.end(), target.begin(), target.end());
-    const svg::Range range = rangeOfTypical(both, {0.1, 0.9}, 0.4);
-    const svg::Panel panel(gammaBox, {0, 1}, range);
-    svg::addAxes(svg, panel, signalAxis(true), {svg::ticksOf(range, 4), "Gamma", true});
-    svg::addPolyline(svg, panel.inside(target), {targetLine, ""});
+    const svg::TickedRange scale = rangeOfTypical(both, {0.1, 0.9}, 0.4);
+    const svg::Panel panel(gammaBox, {0, 1}, scale.range);
+    svg::addAxes(svg, panel, signalAxis(true), {scale.ticks, "Gamma", true});
     addSteps(svg, panel, gamma, measuredLine, measuredMark, svg::Symbol::circle);
+    svg::addPolyline(svg, panel.inside(target), {targetLine, ""});
     addOutsideNote(svg, panel, countOutside(panel, gamma));
 }
 
@@ -115,7 +115,7 @@ std::string descriptionOf(const ToneFigures& tone) {
 std::string tonePicture(const ModeFigures& mode, const PictureForm& form) {
     const PictureTexts texts{"Tone response and gamma", subtitleOf(mode), descriptionOf(mode.tone)};
     if (mode.tone.steps.empty()) {
-        return emptyPicture(form, texts, "no grey patches were measured");
+        return emptyPicture(form, texts, reasonOf(mode.tone.meanGamma, "no grey patches were measured"));
     }
     Picture picture(form, height, texts);
     svg::addLegendRow(picture.svg(), {panelLeft, legendTop}, responseBox.width, legendOf(mode.tone));

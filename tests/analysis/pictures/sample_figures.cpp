@@ -135,7 +135,7 @@ analysis::MapFigures noisyMap(std::size_t count, std::size_t gridWidth) {
 
 analysis::HistorySeries sampleSeries() {
     analysis::HistorySeries series;
-    series.key = "patches_mean_delta_e2000";
+    series.key = "patches_delta_e2000_mean";
     series.label = "Mean ΔE00";
     series.decimals = 2;
     series.points = {{"2023-02-11T09:00:00", {0.61, ""}},
@@ -149,7 +149,7 @@ analysis::LimitSet sampleLimits() {
     return {"default",
             "Default limits",
             "",
-            {{"patches_mean_delta_e2000", {}, 1.5, ""}, {"patches_maximum_delta_e2000", {}, 2.5, ""}}};
+            {{"patches_delta_e2000_mean", {}, 1.5, ""}, {"patches_delta_e2000_maximum", {}, 2.5, ""}}};
 }
 
 }  // namespace lv::test

@@ -1,4 +1,4 @@
-// Writes pictures into a folder: write_pictures FOLDER. What is drawn is made up.
+// Writes pictures into a folder: write_pictures FOLDER DOCUMENT. Those of a monitor's document, and of made-up figures.
 
 #include <tests/analysis/pictures/sample_figures.h>
 
@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 using namespace lv::analysis;  // NOLINT(*-using-namespace): a short program
 
@@ -28,6 +29,24 @@ void writeMode(const std::string& name, const ModeFigures& mode) {
     write(name + "-six-colours", sixColoursPicture(mode));
 }
 
+bool writeMonitor(const std::string& path) {
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    lv::MonitorInfo monitor;
+    if (!monitor.parseXML(text.str())) {
+        return false;
+    }
+    KnownUnits known;
+    known.gridWidth = 5;
+    const MonitorFigures figures = monitorFigures(monitor, known);
+    for (const ModeFigures& mode : figures.modes) {
+        writeMode("studio-" + mode.index, mode);
+    }
+    write("studio-uniformity", mapPicture(figures.uniformity));
+    write("studio-brightness", mapPicture(figures.brightness));
+    return true;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -35,6 +54,9 @@ int main(int count, char** arguments) {
         return 2;
     }
     folder = arguments[1];
+    if (!writeMonitor(arguments[2])) {
+        return 1;
+    }
     writeMode("sample", lv::test::sampleMode());
     writeMode("noisy", lv::test::noisyMode(1024));
     writeMode("empty", ModeFigures());

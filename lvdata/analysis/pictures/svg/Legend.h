@@ -11,10 +11,10 @@ namespace lv::analysis::svg {
 
 /// What one look stands for.
 struct LegendEntry {
-    std::string label{};                ///< What it means.
-    std::string_view line{};            ///< The classes of a line; empty: none.
-    std::string_view mark{};            ///< The classes of a symbol or a filled square; empty: none.
-    std::optional<Symbol> symbol{};     ///< The symbol; none: a filled square.
+    std::string label{};             ///< What it means.
+    std::string_view line{};         ///< The classes of a line; empty: none.
+    std::string_view mark{};         ///< The classes of a symbol or a filled square; empty: none.
+    std::optional<Symbol> symbol{};  ///< The symbol; none: a filled square.
 };
 
 /// Entries in one column from a point down.

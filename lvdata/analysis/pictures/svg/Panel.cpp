@@ -6,8 +6,8 @@
 namespace lv::analysis::svg {
 namespace {
 
-constexpr double tickGap = 8;       // from the frame to the label of a tick
-constexpr double baseline = 4;      // from the middle of a line of text to where its letters stand
+constexpr double tickGap = 8;   // from the frame to the label of a tick
+constexpr double baseline = 4;  // from the middle of a line of text to where its letters stand
 constexpr double lineHeight = 16;
 
 /// Grid lines are one path for each direction.
@@ -55,8 +55,10 @@ void addVerticalTexts(SVGWriter& svg, const Panel& panel, const Axis& axis) {
 
 }  // namespace
 
-Panel::Panel(const Box& box, Range horizontal, Range vertical) :
-    box_(box), horizontal_(horizontal, {box.left, box.right()}), vertical_(vertical, {box.bottom(), box.top}) {}
+Panel::Panel(const Box& box, Range horizontal, Range vertical)
+    : box_(box),
+      horizontal_(horizontal, {box.left, box.right()}),
+      vertical_(vertical, {box.bottom(), box.top}) {}
 
 Point Panel::at(const Point& values) const {
     return {horizontal_.at(values.x), vertical_.at(values.y)};

@@ -5,8 +5,9 @@ namespace lv::analysis::svg {
 
 Attribute::Attribute(std::string_view attribute, std::string_view text) : name(attribute), value(text) {}
 
-Attribute::Attribute(std::string_view attribute, double coordinate) :
-    name(attribute), value(coordinateText(coordinate)) {}
+Attribute::Attribute(std::string_view attribute, double coordinate)
+    : name(attribute),
+      value(coordinateText(coordinate)) {}
 
 void SVGWriter::start(std::string_view name, const Attributes& attributes) {
     document_ += '<';

@@ -6,7 +6,7 @@
 namespace lv::analysis::svg {
 namespace {
 
-constexpr double greatest = 1e200;          // so that sums and products of a few values stay finite
+constexpr double greatest = 1e200;           // so that sums and products of a few values stay finite
 constexpr double leastRelativeWidth = 1e-6;  // so that ticks stay apart
 
 double bounded(double value) {

@@ -22,8 +22,8 @@ struct Box {
     double width = 0;   ///< Not below 0.
     double height = 0;  ///< Not below 0.
 
-    [[nodiscard]] double right() const { return left + width; }     ///< The right edge.
-    [[nodiscard]] double bottom() const { return top + height; }    ///< The lower edge.
+    [[nodiscard]] double right() const { return left + width; }   ///< The right edge.
+    [[nodiscard]] double bottom() const { return top + height; }  ///< The lower edge.
 };
 
 }  // namespace lv::analysis::svg

@@ -1,5 +1,5 @@
-#include <lvdata/analysis/pictures/svg/ticks.h>
 #include <lvdata/analysis/pictures/svg/text.h>
+#include <lvdata/analysis/pictures/svg/ticks.h>
 
 #include <algorithm>
 #include <cmath>
@@ -8,6 +8,7 @@ namespace lv::analysis::svg {
 namespace {
 
 constexpr int mostDecimals = 9;
+constexpr double leastRelativeStep = 1e-12;
 constexpr double tolerance = 1e-6;  // of a step, for what rounding does to multiples
 
 /// The finest of 1, 2, 5 times a power of ten that is not below; 0 where there is none.
@@ -24,8 +25,11 @@ double stepFrom(double least) {
     return 10 * power;
 }
 
+/// 0 where numbers beside each other cannot be told apart at that step.
 double stepOf(const Range& range, int most) {
-    return stepFrom((range.last - range.first) / most);
+    const double step = stepFrom((range.last - range.first) / most);
+    const double greatest = std::max(std::abs(range.first), std::abs(range.last));
+    return step > greatest * leastRelativeStep ? step : 0;
 }
 
 int decimalsOf(double step) {
@@ -33,31 +37,39 @@ int decimalsOf(double step) {
     return static_cast<int>(std::clamp(digits, 0.0, static_cast<double>(mostDecimals)));
 }
 
-}  // namespace
-
-std::vector<Tick> ticksOf(Range range, int most) {
-    const double step = stepOf(range, most);
-    if (step == 0) {
-        return {{range.first, valueText(range.first, 0)}};
-    }
+/// The multiples of a step from the first to the last.
+std::vector<Tick> multiples(double first, double last, double step) {
     std::vector<Tick> ticks;
-    const double first = std::ceil(range.first / step - tolerance);
-    for (int index = 0; index <= most; ++index) {
-        const double value = (first + index) * step;
-        if (value > range.last + tolerance * step) {
-            break;
-        }
+    for (double factor = first; factor <= last; ++factor) {
+        const double value = factor * step;
         ticks.push_back({value, valueText(value, decimalsOf(step))});
     }
     return ticks;
 }
 
-Range toTicks(Range range, int most) {
+/// What is left where a range has no width.
+std::vector<Tick> onlyTick(double value) {
+    return {{value, valueText(value, 0)}};
+}
+
+}  // namespace
+
+std::vector<Tick> ticksOf(Range range, int most) {
     const double step = stepOf(range, most);
     if (step == 0) {
-        return range;
+        return onlyTick(range.first);
     }
-    return {std::floor(range.first / step + tolerance) * step, std::ceil(range.last / step - tolerance) * step};
+    return multiples(std::ceil(range.first / step - tolerance), std::floor(range.last / step + tolerance), step);
+}
+
+TickedRange toTicks(Range range, int most) {
+    const double step = stepOf(range, most);
+    if (step == 0) {
+        return {range, onlyTick(range.first)};
+    }
+    const double first = std::floor(range.first / step + tolerance);
+    const double last = std::ceil(range.last / step - tolerance);
+    return {{first * step, last * step}, multiples(first, last, step)};
 }
 
 }  // namespace lv::analysis::svg
