@@ -57,7 +57,7 @@ public:
         std::error_code error;
         fs::create_directories(folder_, error);
         if (error) {
-            throw Failure(folder, error.message());
+            throw Failure(folder, error == std::errc::file_exists ? "it is not a folder" : error.message());
         }
     }
 

@@ -1,0 +1,49 @@
+#include "PageRows.h"
+
+#include <memory>
+
+#include <libxml/HTMLparser.h>
+#include <libxml/xpath.h>
+
+namespace {
+
+std::string taken(xmlChar* text) {
+    const std::unique_ptr<xmlChar, void (*)(void*)> owned(text, xmlFree);
+    return text == nullptr ? "" : reinterpret_cast<const char*>(text);  // NOLINT: bytes of UTF-8
+}
+
+/// Without the blanks and line breaks at both ends.
+std::string trimmed(const std::string& text) {
+    const std::size_t begin = text.find_first_not_of(" \n");
+    return begin == std::string::npos ? "" : text.substr(begin, text.find_last_not_of(" \n") - begin + 1);
+}
+
+PageRow rowOf(xmlNode* node) {
+    PageRow row{taken(xmlGetProp(node, BAD_CAST "data-key")), {}};  // NOLINT: a macro of libxml2
+    for (xmlNode* child = node->children; child != nullptr; child = child->next) {
+        if (xmlStrcmp(child->name, BAD_CAST "td") == 0) {  // NOLINT: as above
+            row.cells.push_back(trimmed(taken(xmlNodeGetContent(child))));
+        }
+    }
+    return row;
+}
+
+}  // namespace
+
+std::vector<PageRow> rowsOfPage(const std::string& page, const std::string& xpath) {
+    const std::unique_ptr<xmlDoc, void (*)(xmlDoc*)> document(
+        htmlReadMemory(page.data(), static_cast<int>(page.size()), nullptr, "UTF-8",
+                       HTML_PARSE_NOERROR | HTML_PARSE_NOWARNING | HTML_PARSE_NONET),
+        xmlFreeDoc);
+    const std::unique_ptr<xmlXPathContext, void (*)(xmlXPathContext*)> context(xmlXPathNewContext(document.get()),
+                                                                               xmlXPathFreeContext);
+    const std::string rows = xpath + "//tr[@data-key]";
+    const std::unique_ptr<xmlXPathObject, void (*)(xmlXPathObject*)> found(
+        xmlXPathEval(reinterpret_cast<const xmlChar*>(rows.c_str()), context.get()),  // NOLINT: bytes of UTF-8
+        xmlXPathFreeObject);
+    std::vector<PageRow> result;
+    for (int index = 0; found && index < xmlXPathNodeSetGetLength(found->nodesetval); ++index) {
+        result.push_back(rowOf(xmlXPathNodeSetItem(found->nodesetval, index)));
+    }
+    return result;
+}
