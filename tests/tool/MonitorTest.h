@@ -29,6 +29,11 @@ inline std::string monitor(const MonitorText& text = {}) {
            "</JustCalibratedWhite></BasicData></ColorMode></CalibrationModeResult></MonitorInfo>";
 }
 
+/// Whether a page or a picture has that text: shorter than a matcher when it has not.
+inline bool has(const std::string& page, const std::string& text) {
+    return page.find(text) != std::string::npos;
+}
+
 /// A test of a subcommand that tells of monitors.
 class MonitorTest : public ToolTest {
 protected:

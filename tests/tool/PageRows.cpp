@@ -18,10 +18,14 @@ std::string trimmed(const std::string& text) {
     return begin == std::string::npos ? "" : text.substr(begin, text.find_last_not_of(" \n") - begin + 1);
 }
 
+const xmlChar* xmlText(const char* text) {
+    return reinterpret_cast<const xmlChar*>(text);  // NOLINT: bytes of UTF-8
+}
+
 PageRow rowOf(xmlNode* node) {
-    PageRow row{taken(xmlGetProp(node, BAD_CAST "data-key")), {}};  // NOLINT: a macro of libxml2
+    PageRow row{taken(xmlGetProp(node, xmlText("data-key"))), {}};
     for (xmlNode* child = node->children; child != nullptr; child = child->next) {
-        if (xmlStrcmp(child->name, BAD_CAST "td") == 0) {  // NOLINT: as above
+        if (xmlStrcmp(child->name, xmlText("td")) == 0) {
             row.cells.push_back(trimmed(taken(xmlNodeGetContent(child))));
         }
     }
@@ -39,8 +43,7 @@ std::vector<PageRow> rowsOfPage(const std::string& page, const std::string& xpat
                                                                                xmlXPathFreeContext);
     const std::string rows = xpath + "//tr[@data-key]";
     const std::unique_ptr<xmlXPathObject, void (*)(xmlXPathObject*)> found(
-        xmlXPathEval(reinterpret_cast<const xmlChar*>(rows.c_str()), context.get()),  // NOLINT: bytes of UTF-8
-        xmlXPathFreeObject);
+        xmlXPathEval(xmlText(rows.c_str()), context.get()), xmlXPathFreeObject);
     std::vector<PageRow> result;
     for (int index = 0; found && index < xmlXPathNodeSetGetLength(found->nodesetval); ++index) {
         result.push_back(rowOf(xmlXPathNodeSetItem(found->nodesetval, index)));

@@ -2,10 +2,7 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-using testing::AllOf;
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 
 const std::vector<std::string> pictures = {"gamut",      "tone",        "balance", "lut",    "uniformity",
@@ -16,9 +13,9 @@ using Plot = MonitorTest;
 TEST_F(Plot, MakesEachPicture) {
     for (const std::string& picture : pictures) {
         const std::string made = this->made({"plot", picture, studio});
-        EXPECT_THAT(made, AllOf(HasSubstr("<svg "), HasSubstr("</svg>"))) << picture;
+        EXPECT_TRUE(has(made, "<svg ") && has(made, "</svg>")) << picture;
         EXPECT_LT(made.size(), 60'000U) << picture;
-        EXPECT_EQ(this->made({"plot", picture, studio, "--jobs", "2"}), made);
+        EXPECT_TRUE(this->made({"plot", picture, studio, "--jobs", "2"}) == made);
         for (const std::string& other : pictures) {
             EXPECT_EQ(this->made({"plot", other, studio}) == made, other == picture) << picture << ' ' << other;
         }
@@ -27,53 +24,53 @@ TEST_F(Plot, MakesEachPicture) {
 
 TEST_F(Plot, DrawsDocumentsWithNothingMeasured) {
     for (const std::string& picture : pictures) {
-        EXPECT_THAT(made({"plot", picture, "-"}, {monitor()}), HasSubstr("</svg>")) << picture;
+        EXPECT_TRUE(has(made({"plot", picture, "-"}, {monitor()}), "</svg>")) << picture;
     }
 }
 
 TEST_F(Plot, DrawsTheModeThatIsAskedFor) {
-    EXPECT_NE(made({"plot", "tone", studio, "--mode", "3"}), made({"plot", "tone", studio}));
-    EXPECT_EQ(made({"plot", "tone", studio, "--mode", "2"}), made({"plot", "tone", studio}));  // the first calibrated
+    EXPECT_TRUE(made({"plot", "tone", studio, "--mode", "3"}) != made({"plot", "tone", studio}));
+    EXPECT_TRUE(made({"plot", "tone", studio, "--mode", "2"}) ==
+                made({"plot", "tone", studio}));  // the first calibrated
     EXPECT_EQ(run({"plot", "tone", studio, "--mode", "9"}),
               failed(studio + ": error: no colour mode has the index 9; there are 0, 1, 2, 3, 4"));
     EXPECT_EQ(run({"plot", "tone", "-"}, {"<MonitorInfo/>"}), failed("<stdin>: error: there are no colour modes"));
-    EXPECT_THAT(made({"plot", "uniformity", "-"}, {"<MonitorInfo/>"}), HasSubstr("</svg>"));
+    EXPECT_TRUE(has(made({"plot", "uniformity", "-"}, {"<MonitorInfo/>"}), "</svg>"));
 }
 
 TEST_F(Plot, DrawsTheFirstModeWhenNoneIsCalibrated) {
     const std::string mode = "<ColorMode Type='SyncSignal'><Index>7</Index></ColorMode>";
-    EXPECT_THAT(made({"plot", "tone", "-"}, {"<ColorModeSettings>" + mode + "</ColorModeSettings>"}),
-                HasSubstr("</svg>"));
+    EXPECT_TRUE(has(made({"plot", "tone", "-"}, {"<ColorModeSettings>" + mode + "</ColorModeSettings>"}), "</svg>"));
 }
 
 TEST_F(Plot, DrawsBothDiagrams) {
-    EXPECT_EQ(made({"plot", "gamut", studio, "--plane", "uv"}), made({"plot", "gamut", studio}));
-    EXPECT_NE(made({"plot", "gamut", studio, "--plane", "xy"}), made({"plot", "gamut", studio}));
+    EXPECT_TRUE(made({"plot", "gamut", studio, "--plane", "uv"}) == made({"plot", "gamut", studio}));
+    EXPECT_TRUE(made({"plot", "gamut", studio, "--plane", "xy"}) != made({"plot", "gamut", studio}));
     EXPECT_EQ(run({"plot", "gamut", studio, "--plane", "XY"}).exitCode, 2);
 }
 
 TEST_F(Plot, DrawsLimitsOnRequest) {
-    EXPECT_NE(made({"plot", "patches", studio, "--limits", "default"}), made({"plot", "patches", studio}));
-    EXPECT_NE(made({"plot", "history", studio, "--limits", "default"}), made({"plot", "history", studio}));
+    EXPECT_TRUE(made({"plot", "patches", studio, "--limits", "default"}) != made({"plot", "patches", studio}));
+    EXPECT_TRUE(made({"plot", "history", studio, "--limits", "default"}) != made({"plot", "history", studio}));
     EXPECT_EQ(run({"plot", "patches", studio, "--limits", "none"}).exitCode, 2);
 }
 
 TEST_F(Plot, HasTheUnitsThatItsUserKnows) {
     const std::string map = made({"plot", "uniformity", studio});
-    EXPECT_THAT(made({"plot", "uniformity", studio, "--map-unit", "my unit"}), HasSubstr("my unit"));
-    EXPECT_NE(made({"plot", "uniformity", studio, "--grid", "5"}), map);
-    EXPECT_THAT(made({"plot", "history", "--figure", "white_tristimulus_y", "--y-unit", "my unit", studio}),
-                HasSubstr("my unit"));
+    EXPECT_TRUE(has(made({"plot", "uniformity", studio, "--map-unit", "my unit"}), "my unit"));
+    EXPECT_TRUE(made({"plot", "uniformity", studio, "--grid", "5"}) != map);
+    EXPECT_TRUE(has(made({"plot", "history", "--figure", "white_tristimulus_y", "--y-unit", "my unit", studio}),
+                    "my unit"));
 }
 
 TEST_F(Plot, DrawsTheHistoryOfAFigure) {
     write("b.xml", monitor({"Wall", "1", "u-1", "2024-05-02T09:31:00"}));
     write("a.xml", monitor({"Wall", "1", "u-1", "2023-05-02T09:31:00"}));
     const std::string history = made({"plot", "history", "a.xml", "b.xml"});
-    EXPECT_EQ(made({"plot", "history", "b.xml", "a.xml"}), history);
-    EXPECT_EQ(made({"plot", "history", "."}), history);
-    EXPECT_EQ(made({"plot", "history", ".", "--figure", "white_delta_uv"}), history);
-    EXPECT_NE(made({"plot", "history", ".", "--figure", "white_tristimulus_y"}), history);
+    EXPECT_TRUE(made({"plot", "history", "b.xml", "a.xml"}) == history);
+    EXPECT_TRUE(made({"plot", "history", "."}) == history);
+    EXPECT_TRUE(made({"plot", "history", ".", "--figure", "white_delta_uv"}) == history);
+    EXPECT_TRUE(made({"plot", "history", ".", "--figure", "white_tristimulus_y"}) != history);
     EXPECT_THAT(run({"plot", "history", ".", "--figure", "x"}).error,
                 StartsWith("lvdata: error: there is no figure 'x'; there are "));
     write("c.xml", monitor({"Wall", "2", "u-2"}));

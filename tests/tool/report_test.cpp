@@ -3,10 +3,8 @@
 namespace {
 
 namespace fs = std::filesystem;
-using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 
 using Report = MonitorTest;
@@ -24,28 +22,30 @@ std::size_t count(const std::string& text, const std::string& part) {
 
 TEST_F(Report, IsAPageOfOneMonitor) {
     const std::string page = made({"report", studio});
-    EXPECT_THAT(page, AllOf(StartsWith("<!DOCTYPE html>"), HasSubstr("<title>Studio wall"), HasSubstr("27W-000417")));
+    EXPECT_EQ(page.rfind("<!DOCTYPE html>", 0), 0U);
+    EXPECT_TRUE(has(page, "<title>Studio wall"));
+    EXPECT_TRUE(has(page, "27W-000417"));
     EXPECT_EQ(count(page, "<html"), 1U);
 }
 
 TEST_F(Report, ReadsStandardInputAndPipes) {
     write("in.xml", monitor());
-    EXPECT_THAT(made({"report", "-"}, {monitor()}), HasSubstr("<title>Wall"));
-    EXPECT_THAT(runBash("lvdata report <(cat in.xml)").output, HasSubstr("<title>Wall"));
-    EXPECT_THAT(runBash("lvdata report - < in.xml").output, HasSubstr("<title>Wall"));
+    EXPECT_TRUE(has(made({"report", "-"}, {monitor()}), "<title>Wall"));
+    EXPECT_TRUE(has(runBash("lvdata report <(cat in.xml)").output, "<title>Wall"));
+    EXPECT_TRUE(has(runBash("lvdata report - < in.xml").output, "<title>Wall"));
 }
 
 TEST_F(Report, HasTheHeadingAndTheDateThatAreAskedFor) {
-    EXPECT_THAT(made({"report", studio}), Not(HasSubstr("Spring")));
-    EXPECT_THAT(made({"report", studio, "--title", "Spring <1>"}), HasSubstr("<title>Spring &lt;1&gt;"));
-    EXPECT_THAT(made({"report", studio, "--date", "1 May"}), HasSubstr("1 May"));
-    EXPECT_THAT(made({"report", studio, "--date", ""}), made({"report", studio}));
+    EXPECT_FALSE(has(made({"report", studio}), "Spring"));
+    EXPECT_TRUE(has(made({"report", studio, "--title", "Spring <1>"}), "<title>Spring &lt;1&gt;"));
+    EXPECT_TRUE(has(made({"report", studio, "--date", "1 May"}), "1 May"));
+    EXPECT_TRUE(made({"report", studio, "--date", ""}) == made({"report", studio}));
 }
 
 TEST_F(Report, HasTheDayOfTodayWhenAskedFor) {
     write("in.xml", monitor());
     const std::string command = "lvdata report --date now in.xml";
-    EXPECT_THAT(runBash("SOURCE_DATE_EPOCH=951782400 " + command).output, HasSubstr("2000-02-29"));
+    EXPECT_TRUE(has(runBash("SOURCE_DATE_EPOCH=951782400 " + command).output, "2000-02-29"));
     EXPECT_THAT(runBash("export TZ=UTC0; before=$(date +%F); page=$(" + command +
                         "); [[ $page == *$before* || $page == *$(date +%F)* ]] && echo yes")
                     .output,
@@ -60,23 +60,23 @@ TEST_F(Report, TellsOfOneModeOnRequest) {
     const std::string all = made({"report", studio});
     const std::string one = made({"report", studio, "--mode", "3"});
     EXPECT_GT(count(all, "data-key=\"white_delta_uv\""), count(one, "data-key=\"white_delta_uv\""));
-    EXPECT_THAT(one, HasSubstr("Proof"));
+    EXPECT_TRUE(has(one, "Proof"));
     EXPECT_EQ(run({"report", studio, "--mode", "9"}),
               failed(studio + ": error: no colour mode has the index 9; there are 0, 1, 2, 3, 4"));
     EXPECT_EQ(run({"report", studio, "--mode", "x"}).exitCode, 2);
 }
 
 TEST_F(Report, HasTheUnitsThatItsUserKnows) {
-    EXPECT_THAT(made({"report", studio}), Not(HasSubstr("my unit")));
-    EXPECT_THAT(made({"report", studio, "--y-unit", "my unit"}), HasSubstr("my unit"));
-    EXPECT_THAT(made({"report", studio, "--map-unit", "my unit"}), HasSubstr("my unit"));
-    EXPECT_NE(made({"report", studio, "--grid", "5"}), made({"report", studio}));
+    EXPECT_FALSE(has(made({"report", studio}), "my unit"));
+    EXPECT_TRUE(has(made({"report", studio, "--y-unit", "my unit"}), "my unit"));
+    EXPECT_TRUE(has(made({"report", studio, "--map-unit", "my unit"}), "my unit"));
+    EXPECT_TRUE(made({"report", studio, "--grid", "5"}) != made({"report", studio}));
 }
 
 TEST_F(Report, IsJudgedByTheLimitsThatAreAskedFor) {
     const std::string page = made({"report", studio});
-    EXPECT_EQ(made({"report", studio, "--limits", "default"}), page);
-    EXPECT_NE(made({"report", studio, "--limits", "iso14861"}), page);
+    EXPECT_TRUE(made({"report", studio, "--limits", "default"}) == page);
+    EXPECT_TRUE(made({"report", studio, "--limits", "iso14861"}) != page);
     EXPECT_EQ(run({"report", studio, "--limits", "missing"}).exitCode, 2);
     EXPECT_THAT(run({"report", studio, "--limits", "missing"}).error,
                 StartsWith("missing: error: there is no such file, and no limits of that name; known are default, "));
@@ -108,7 +108,7 @@ TEST_F(Report, SaysWhatIsWrongWithAFileOfLimits) {
 
 TEST_F(Report, IsTheSameEachTime) {
     for (const std::string jobs : {"1", "2"}) {
-        EXPECT_EQ(made({"report", studio, "--jobs", jobs}), made({"report", studio}));
+        EXPECT_TRUE(made({"report", studio, "--jobs", jobs}) == made({"report", studio}));
     }
 }
 
@@ -118,10 +118,11 @@ TEST_F(Report, HasTheHistoryOfOneMonitor) {
     write("new.xml", monitor({"Wall", "1", "u-1", "2024-05-02T09:31:00"}));
     write("old.xml", monitor({"Attic", "1", "u-1", "2023-04-01T09:31:00"}));
     const std::string page = made({"report", "new.xml", "old.xml"});
-    EXPECT_THAT(page,
-                AllOf(HasSubstr("<title>Wall"), HasSubstr("old.xml"), HasSubstr("new.xml"), HasSubstr("2023-04-01")));
-    EXPECT_EQ(made({"report", "old.xml", "new.xml"}), page);
-    EXPECT_EQ(made({"report", "."}).size(), made({"report", "./new.xml", "./old.xml"}).size());
+    for (const std::string text : {"<title>Wall", "old.xml", "new.xml", "2023-04-01"}) {
+        EXPECT_TRUE(has(page, text)) << text;
+    }
+    EXPECT_TRUE(made({"report", "old.xml", "new.xml"}) == page);
+    EXPECT_TRUE(made({"report", "."}).size() == made({"report", "./new.xml", "./old.xml"}).size());
 }
 
 TEST_F(Report, KnowsAMonitorByItsSerialNumberAndModel) {
@@ -133,7 +134,7 @@ TEST_F(Report, KnowsAMonitorByItsSerialNumberAndModel) {
     write("a.xml", configuration("1"));
     write("b.xml", configuration("1"));
     write("c.xml", configuration("2"));
-    EXPECT_THAT(made({"report", "a.xml", "b.xml"}), HasSubstr("</html>"));
+    EXPECT_TRUE(has(made({"report", "a.xml", "b.xml"}), "</html>"));
     EXPECT_EQ(run({"report", "a.xml", "b.xml", "c.xml"}).exitCode, 2);
 }
 
@@ -176,7 +177,7 @@ TEST_F(Report, GoesOnAfterABadDocument) {
 TEST_F(Report, MakesAPageOfEveryRecordOfAMonitor) {
     for (const std::string root :
          {"MonitorInfo", "MonitorConfiguration", "ColorModeSettings", "CalibrationModeResult", "CandelaMap"}) {
-        EXPECT_THAT(made({"report", "-"}, {'<' + root + "/>"}), HasSubstr("</html>")) << root;
+        EXPECT_TRUE(has(made({"report", "-"}, {'<' + root + "/>"}), "</html>")) << root;
     }
 }
 
@@ -242,16 +243,19 @@ TEST_F(ReportFolder, HasAPageForEachMonitorAndATable) {
     EXPECT_EQ(run({"report", "in", "-o", "out/"}), done());
     EXPECT_THAT(namesIn("out"), ElementsAre("Desk-2.html", "Wall-1.html", "index.html"));
     const std::string index = read("out/index.html");
-    EXPECT_THAT(index, AllOf(HasSubstr("Desk-2.html"), HasSubstr("Wall-1.html")));
+    EXPECT_TRUE(has(index, "Desk-2.html"));
+    EXPECT_TRUE(has(index, "Wall-1.html"));
     EXPECT_LT(index.find("Desk-2.html"), index.find("Wall-1.html"));
-    EXPECT_THAT(read("out/Wall-1.html"),
-                AllOf(HasSubstr("in/a.xml"), HasSubstr("in/c.xml"), Not(HasSubstr("in/b.xml"))));
+    const std::string page = read("out/Wall-1.html");
+    EXPECT_TRUE(has(page, "in/a.xml"));
+    EXPECT_TRUE(has(page, "in/c.xml"));
+    EXPECT_FALSE(has(page, "in/b.xml"));
 }
 
 TEST_F(ReportFolder, GivesTheHeadingToTheTable) {
     EXPECT_EQ(run({"report", "in", "-o", "out/", "--title", "Spring"}), done());
-    EXPECT_THAT(read("out/index.html"), HasSubstr("<title>Spring"));
-    EXPECT_THAT(read("out/Wall-1.html"), HasSubstr("<title>Wall"));
+    EXPECT_TRUE(has(read("out/index.html"), "<title>Spring"));
+    EXPECT_TRUE(has(read("out/Wall-1.html"), "<title>Wall"));
 }
 
 TEST_F(ReportFolder, IsMadeAgainInTheSamePlace) {
@@ -283,7 +287,7 @@ TEST_F(ReportFolder, LeavesOutAMonitorWithoutTheMode) {
     EXPECT_EQ(run({"report", "in", "-o", "out/", "--mode", "2"}),
               failed("in/b.xml: error: no colour mode has the index 2; there are none"));
     EXPECT_THAT(namesIn("out"), ElementsAre("Wall-1.html", "index.html"));
-    EXPECT_THAT(read("out/index.html"), Not(HasSubstr("u-2")));
+    EXPECT_FALSE(has(read("out/index.html"), "u-2"));
 }
 
 TEST_F(ReportFolder, TakesListsOfDocuments) {
