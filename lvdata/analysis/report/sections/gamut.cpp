@@ -53,8 +53,8 @@ View gamutView(const ReportedMode& mode) {
     return View::Members{
         {"picture_xy", gamutPicture(*mode.figures, colour::Plane::xy, xy)},
         {"picture_uv", gamutPicture(*mode.figures, colour::Plane::uv, uv)},
-        {"primaries", View::Items{primaryOf(mode, "Red", "red"), primaryOf(mode, "Green", "green"),
-                                  primaryOf(mode, "Blue", "blue")}},
+        {"primaries", View::Items{primaryOf(mode, "Red", "primary_red"), primaryOf(mode, "Green", "primary_green"),
+                                  primaryOf(mode, "Blue", "primary_blue")}},
         {"spaces", spacesOf(mode)},
     };
 }

@@ -30,8 +30,7 @@ std::vector<Snapshot> snapshotsOf(const std::vector<ReportedDocument>& documents
 }
 
 View pictureOf(const HistorySeries& series, const JudgedLine& judged, const std::string& id) {
-    return View::Members{{"picture_label", series.label},
-                         {"picture_history", historyPicture(series, judged.limit, {id, false})}};
+    return View::Members{{"picture_history", historyPicture(series, judged.limit, {id, false})}};
 }
 
 View rowOf(const std::vector<HistorySeries>& all, std::size_t point) {
@@ -60,8 +59,8 @@ View tableOf(const std::vector<HistorySeries>& all) {
     return View::Members{{"columns", std::move(columns)}, {"rows", std::move(rows)}};
 }
 
-/// The history of a mode; `false` when there is none.
-View modeHistoryOf(const std::vector<Snapshot>& snapshots, const ReportedMode& mode) {
+/// Adds the history of a mode, if there is one.
+void addHistory(View::Items& modes, const std::vector<Snapshot>& snapshots, const ReportedMode& mode) {
     std::vector<HistorySeries> told;
     View::Items pictures;
     for (const JudgedLine& judged : mode.lines) {
@@ -72,11 +71,11 @@ View modeHistoryOf(const std::vector<Snapshot>& snapshots, const ReportedMode& m
             told.push_back(std::move(series));
         }
     }
-    if (told.empty()) {
-        return false;
+    if (!told.empty()) {
+        modes.push_back(View::Members{{"history_name", shortened(mode.figures->name)},
+                                      {"pictures", std::move(pictures)},
+                                      {"table", tableOf(told)}});
     }
-    return View::Members{
-        {"history_name", shortened(mode.figures->name)}, {"pictures", std::move(pictures)}, {"table", tableOf(told)}};
 }
 
 }  // namespace
@@ -86,7 +85,7 @@ View historyView(const ReportContents& contents) {
     if (contents.documents.size() > 1) {
         const std::vector<Snapshot> snapshots = snapshotsOf(contents.documents);
         for (const ReportedMode& mode : contents.judged.calibrated) {
-            modes.push_back(modeHistoryOf(snapshots, mode));
+            addHistory(modes, snapshots, mode);
         }
     }
     return View::Members{{"is_told", contents.documents.size() > 1}, {"mode_histories", std::move(modes)}};

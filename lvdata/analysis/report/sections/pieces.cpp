@@ -70,7 +70,7 @@ std::string counted(std::size_t number, std::string_view noun) {
 std::string countsText(const Verdict& verdict) {
     const std::size_t all = verdict.passed + verdict.failed + verdict.notAvailable;
     if (all == 0) {
-        return "no figure has a limit";
+        return "No figure has a limit";
     }
     std::string text = std::to_string(verdict.passed) + " of " + counted(all, "figure") + " within the limits";
     text += verdict.failed == 0 ? "" : ", " + std::to_string(verdict.failed) + " outside";

@@ -25,7 +25,7 @@ View rowOf(const JudgedLine& judged) {
 
 /// Whether the gamut's own tables tell of a figure, so that it needs no row here.
 bool standsElsewhere(const JudgedLine& judged) {
-    return judged.limit == nullptr && (judged.line.group == "Primaries" || judged.line.group == "Gamut");
+    return judged.limit == nullptr && judged.line.group == "Gamut";
 }
 
 std::vector<JudgedLine> toldHere(std::vector<JudgedLine> lines) {
