@@ -22,11 +22,22 @@ const xmlChar* xmlText(const char* text) {
     return reinterpret_cast<const xmlChar*>(text);  // NOLINT: bytes of UTF-8
 }
 
+bool isCell(const xmlNode* node) {
+    return xmlStrcmp(node->name, xmlText("td")) == 0;
+}
+
+std::string contentOf(xmlNode* cell) {
+    return trimmed(taken(xmlNodeGetContent(cell)));
+}
+
 PageRow rowOf(xmlNode* node) {
     PageRow row{taken(xmlGetProp(node, xmlText("data-key"))), {}};
+    if (isCell(node)) {
+        row.cells.push_back(contentOf(node));
+    }
     for (xmlNode* child = node->children; child != nullptr; child = child->next) {
-        if (xmlStrcmp(child->name, xmlText("td")) == 0) {
-            row.cells.push_back(trimmed(taken(xmlNodeGetContent(child))));
+        if (isCell(child)) {
+            row.cells.push_back(contentOf(child));
         }
     }
     return row;
@@ -41,7 +52,7 @@ std::vector<PageRow> rowsOfPage(const std::string& page, const std::string& xpat
         xmlFreeDoc);
     const std::unique_ptr<xmlXPathContext, void (*)(xmlXPathContext*)> context(xmlXPathNewContext(document.get()),
                                                                                xmlXPathFreeContext);
-    const std::string rows = xpath + "//tr[@data-key]";
+    const std::string rows = xpath + "//tr[@data-key] | " + xpath + "//td[@data-key]";
     const std::unique_ptr<xmlXPathObject, void (*)(xmlXPathObject*)> found(
         xmlXPathEval(xmlText(rows.c_str()), context.get()), xmlXPathFreeObject);
     std::vector<PageRow> result;

@@ -59,8 +59,8 @@ TEST_F(Plot, HasTheUnitsThatItsUserKnows) {
     const std::string map = made({"plot", "uniformity", studio});
     EXPECT_TRUE(has(made({"plot", "uniformity", studio, "--map-unit", "my unit"}), "my unit"));
     EXPECT_TRUE(made({"plot", "uniformity", studio, "--grid", "5"}) != map);
-    EXPECT_TRUE(has(made({"plot", "history", "--figure", "white_tristimulus_y", "--y-unit", "my unit", studio}),
-                    "my unit"));
+    EXPECT_TRUE(
+        has(made({"plot", "history", "--figure", "white_tristimulus_y", "--y-unit", "my unit", studio}), "my unit"));
 }
 
 TEST_F(Plot, DrawsTheHistoryOfAFigure) {
