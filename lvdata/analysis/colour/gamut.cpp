@@ -16,8 +16,8 @@ using Polygon = geometry::model::polygon<geometry::model::d2::point_xy<double>>;
 // Less than a triangle has whose corners differ in the fourth decimal: only points on a line, after rounding.
 constexpr double smallestArea = 1e-10;
 
-// Far more than any colour has, and little enough for all products.
-constexpr double largestCoordinate = 1e6;
+// Far more than any primary has, imaginary ones included, and little enough for exact results.
+constexpr double largestCoordinate = 10;
 
 std::optional<PlanePoint> planePoint(const Chromaticity& chromaticity, Plane plane) {
     PlanePoint point = {chromaticity.x, chromaticity.y};

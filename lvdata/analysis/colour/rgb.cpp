@@ -69,7 +69,7 @@ std::optional<Matrix> inverse(const Matrix& matrix) {
     const auto& [first, second, third] = matrix;
     const double determinant = dot(first, cross(second, third));
     const double largestPossible = length(first) * length(second) * length(third);
-    if (!(std::abs(determinant) > smallestRatio * largestPossible) || !std::isfinite(largestPossible)) {
+    if (!(std::abs(determinant) > smallestRatio * largestPossible)) {
         return std::nullopt;
     }
     const double factor = 1 / determinant;

@@ -77,7 +77,8 @@ Figure gsdfLight(double signal, const ToneRange& range) {
     }
     const double first = colour::gsdfIndex(range.black);
     const double last = colour::gsdfIndex(range.white);
-    return between(colour::gsdfLuminance(first + (last - first) * signal), range);
+    const ToneRange ends = {colour::gsdfLuminance(last), colour::gsdfLuminance(first)};  // the index is but a fit
+    return between(colour::gsdfLuminance(first + (last - first) * signal), ends);
 }
 
 Figure hlgLight(const ToneCurve& curve, double signal, const ToneRange& range) {

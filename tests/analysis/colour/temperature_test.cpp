@@ -135,6 +135,16 @@ TEST(ColourTemperature, HasNoValueFarFromTheLocus) {
     EXPECT_FALSE(colour::correlatedTemperature({0, 0}));
 }
 
+// A little farther along the locus than its ends.
+TEST(ColourTemperature, HasNoValueJustOutsideTheRange) {
+    const Point coldest = pointOf(colour::planckian(1000));
+    const Point cold = pointOf(colour::planckian(1001));
+    EXPECT_FALSE(colour::correlatedTemperature(chromaticityOf({2 * coldest.u - cold.u, 2 * coldest.v - cold.v})));
+    const Point hottest = pointOf(colour::planckian(100000));
+    const Point hot = pointOf(colour::planckian(99900));
+    EXPECT_FALSE(colour::correlatedTemperature(chromaticityOf({2 * hottest.u - hot.u, 2 * hottest.v - hot.v})));
+}
+
 TEST(ColourTemperature, HasNoValueOutsideTheRange) {
     const Point coldest = pointOf(colour::planckian(1000));
     EXPECT_FALSE(colour::correlatedTemperature(chromaticityOf({coldest.u + 0.001, coldest.v})));
