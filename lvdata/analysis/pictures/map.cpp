@@ -113,7 +113,8 @@ std::string deviationText(const MapFigures& map, const Grid& grid, const Cell& c
 std::string titleOf(const MapFigures& map, const Grid& grid, const Cell& cell) {
     const std::string value = withUnit(svg::valueText(cell.mean(), decimalsOf(map)), map);
     if (!isShapeKnown(map)) {
-        return "From entry " + std::to_string(cell.index + 1) + " on: " + value;
+        const std::string number = std::to_string(cell.index + 1);
+        return (cell.count > 1 ? "Around entry " : "Entry ") + number + ": " + value;
     }
     const std::string deviation = deviationText(map, grid, cell);
     return "Row " + std::to_string(cell.row + 1) + ", column " + std::to_string(cell.column + 1) + ": " +

@@ -9,6 +9,8 @@ namespace {
 constexpr double greatest = 1e200;           // so that sums and products of a few values stay finite
 constexpr double leastRelativeWidth = 1e-6;  // so that ticks stay apart
 
+constexpr double relativeTolerance = 1e-9;  // for what rounding does to an end
+
 double bounded(double value) {
     return std::clamp(value, -greatest, greatest);
 }
@@ -25,7 +27,8 @@ double Scale::at(double value) const {
 
 bool Scale::holds(double value) const {
     const auto [least, most] = std::minmax(values_.first, values_.last);
-    return value >= least && value <= most;
+    const double tolerance = (most - least) * relativeTolerance;
+    return value >= least - tolerance && value <= most + tolerance;
 }
 
 void Extent::add(double value) {

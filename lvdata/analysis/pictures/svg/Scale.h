@@ -14,7 +14,7 @@ public:
     /// The pixel of a value; of one outside, the pixel of the nearer end; of NaN, the middle.
     [[nodiscard]] double at(double value) const;
 
-    /// Whether a value lies in the range, its ends included. NaN does not.
+    /// Whether a value lies in the range, its ends included, rounded as they may be. NaN does not.
     [[nodiscard]] bool holds(double value) const;
 
     [[nodiscard]] const Range& values() const { return values_; }  ///< The range of values.

@@ -1,0 +1,164 @@
+#include <tests/analysis/pictures/ParsedPicture.h>
+
+#include <gtest/gtest.h>
+#include <libxml/parser.h>
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+namespace lv::test {
+namespace {
+
+using analysis::svg::Point;
+
+std::string textOf(const xmlChar* text) {
+    return text == nullptr ? "" : std::string(reinterpret_cast<const char*>(text));
+}
+
+std::string attributeOf(const xmlNode* node, const xmlAttr* attribute) {
+    const std::unique_ptr<xmlChar, void (*)(xmlChar*)> value(xmlGetProp(node, attribute->name),
+                                                             [](xmlChar* text) { xmlFree(text); });
+    return textOf(value.get());
+}
+
+/// The text in an element, without that of elements in it.
+std::string ownText(const xmlNode* node) {
+    std::string text;
+    for (const xmlNode* child = node->children; child != nullptr; child = child->next) {
+        text += child->type == XML_TEXT_NODE ? textOf(child->content) : "";
+    }
+    return text;
+}
+
+void collect(const xmlNode* node, const std::string& groupClass, std::vector<Element>& elements) {
+    Element element{textOf(node->name), {}, ownText(node), "", groupClass};
+    for (const xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next) {
+        element.attributes[textOf(attribute->name)] = attributeOf(node, attribute);
+    }
+    for (const xmlNode* child = node->children; child != nullptr; child = child->next) {
+        if (child->type == XML_ELEMENT_NODE && textOf(child->name) == "title") {
+            element.title = ownText(child);
+        }
+    }
+    elements.push_back(element);
+    const std::string own = element.attributes["class"];
+    for (const xmlNode* child = node->children; child != nullptr; child = child->next) {
+        if (child->type == XML_ELEMENT_NODE) {
+            collect(child, own, elements);
+        }
+    }
+}
+
+bool isWordOf(const std::string& words, const std::string& word) {
+    return (' ' + words + ' ').find(' ' + word + ' ') != std::string::npos;
+}
+
+double numberOf(const std::string& text) {
+    double value = std::numeric_limits<double>::quiet_NaN();
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+    EXPECT_TRUE(read.ec == std::errc() && read.ptr == text.data() + text.size()) << '"' << text << '"';
+    return value;
+}
+
+/// All numbers of a text; everything else separates them.
+std::vector<double> numbersOf(const std::string& text) {
+    std::vector<double> numbers;
+    for (std::size_t at = text.find_first_of("-.0123456789"); at != std::string::npos;
+         at = text.find_first_of("-.0123456789", at)) {
+        const std::size_t end = std::min(text.find_first_not_of(".0123456789", at + 1), text.size());
+        numbers.push_back(numberOf(text.substr(at, end - at)));
+        at = end;
+    }
+    return numbers;
+}
+
+/// Where each part of a path begins: "M" with two numbers.
+std::vector<Point> startsOf(const std::string& path) {
+    std::vector<Point> points;
+    for (std::size_t at = path.find('M'); at != std::string::npos; at = path.find('M', at + 1)) {
+        const std::vector<double> numbers = numbersOf(path.substr(at, path.find_first_of("lhvm", at) - at));
+        points.push_back({numbers.at(0), numbers.at(1)});
+    }
+    return points;
+}
+
+}  // namespace
+
+double Element::number(const std::string& attribute) const {
+    const auto found = attributes.find(attribute);
+    EXPECT_NE(found, attributes.end()) << name << " has no " << attribute;
+    return found == attributes.end() ? 0 : numberOf(found->second);
+}
+
+bool Element::hasClass(const std::string& className) const {
+    const auto own = attributes.find("class");
+    return isWordOf(groupClass, className) || (own != attributes.end() && isWordOf(own->second, className));
+}
+
+std::vector<Point> Element::points() const {
+    if (name == "rect" && attributes.count("x") > 0) {
+        const Point start{number("x"), number("y")};
+        return {start, {start.x + number("width"), start.y + number("height")}};
+    }
+    if (name == "circle") {
+        return {{number("cx"), number("cy")}};
+    }
+    if (name == "line") {
+        return {{number("x1"), number("y1")}, {number("x2"), number("y2")}};
+    }
+    if (name == "text") {
+        return {{number("x"), number("y")}};
+    }
+    if (name == "path") {
+        return startsOf(attributes.at("d"));
+    }
+    std::vector<Point> points;
+    if (name == "polyline" || name == "polygon") {
+        const std::vector<double> numbers = numbersOf(attributes.at("points"));
+        for (std::size_t index = 0; index + 1 < numbers.size(); index += 2) {
+            points.push_back({numbers[index], numbers[index + 1]});
+        }
+    }
+    return points;
+}
+
+ParsedPicture::ParsedPicture(const std::string& text) {
+    const std::unique_ptr<xmlDoc, void (*)(xmlDoc*)> document(
+        xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, "UTF-8", XML_PARSE_NONET), xmlFreeDoc);
+    EXPECT_NE(document, nullptr) << text.substr(0, 1000);
+    if (document) {
+        collect(xmlDocGetRootElement(document.get()), "", elements_);
+    } else {
+        elements_.emplace_back();
+    }
+}
+
+std::vector<Element> ParsedPicture::all(const std::string& name, const std::string& withClass) const {
+    std::vector<Element> found;
+    for (const Element& element : elements_) {
+        if (element.name == name && (withClass.empty() || element.hasClass(withClass))) {
+            found.push_back(element);
+        }
+    }
+    return found;
+}
+
+Element ParsedPicture::only(const std::string& name, const std::string& withClass) const {
+    const std::vector<Element> found = all(name, withClass);
+    EXPECT_EQ(found.size(), 1U) << name << ' ' << withClass;
+    return found.empty() ? Element() : found.front();
+}
+
+bool ParsedPicture::says(const std::string& text) const {
+    for (const Element& element : elements_) {
+        if ((element.name == "text" || element.name == "title" || element.name == "desc") &&
+            element.text.find(text) != std::string::npos) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace lv::test
