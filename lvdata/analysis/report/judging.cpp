@@ -11,7 +11,7 @@ void add(Verdict& sum, const Verdict& verdict) {
 
 void addMap(JudgedMonitor& judged, const MapFigures& map, const LimitSet& limits) {
     if (!map.values.empty()) {
-        add(judged.verdict, verdictOf(judge(figureLines(map), limits)));
+        add(judged.maps, verdictOf(judge(figureLines(map), limits)));
     }
 }
 
@@ -41,6 +41,7 @@ JudgedMonitor judgedMonitor(const MonitorFigures& monitor, const LimitSet& limit
     }
     addMap(judged, monitor.uniformity, limits);
     addMap(judged, monitor.brightness, limits);
+    add(judged.verdict, judged.maps);
     return judged;
 }
 

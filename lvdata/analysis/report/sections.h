@@ -22,6 +22,7 @@ struct ReportedMode {
 struct JudgedMonitor {
     std::vector<ReportedMode> calibrated{};    ///< Modes with a result.
     std::vector<const ModeFigures*> others{};  ///< Modes without one.
+    Verdict maps{};                            ///< Of the maps.
     Verdict verdict{};                         ///< Of all modes with a result, and of the maps.
 };
 

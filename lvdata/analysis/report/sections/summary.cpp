@@ -22,10 +22,23 @@ View otherOf(const ModeFigures& mode) {
     };
 }
 
-View cardsOf(const std::vector<ReportedMode>& modes) {
+View mapsCardOf(const Verdict& verdict) {
+    return View::Members{
+        {"card_id", "uniformity"},
+        {"card_name", "Uniformity"},
+        {"card_mark", verdictMarkView(verdict.mark())},
+        {"card_counts", countsText(verdict)},
+        {"card_time", ""},
+    };
+}
+
+View cardsOf(const JudgedMonitor& judged) {
     View::Items cards;
-    for (const ReportedMode& mode : modes) {
+    for (const ReportedMode& mode : judged.calibrated) {
         cards.push_back(cardOf(mode));
+    }
+    if (judged.maps.mark() != Mark::none) {
+        cards.push_back(mapsCardOf(judged.maps));
     }
     return cards;
 }
@@ -45,7 +58,9 @@ View summaryView(const ReportContents& contents) {
     return View::Members{
         {"has_cards", !contents.judged.calibrated.empty()},
         {"has_others", !contents.judged.others.empty()},
-        {"cards", cardsOf(contents.judged.calibrated)},
+        {"overall_mark", verdictMarkView(contents.judged.verdict.mark())},
+        {"overall_counts", countsText(contents.judged.verdict)},
+        {"cards", cardsOf(contents.judged)},
         {"others", othersOf(contents.judged.others)},
         {"limits_title", limits.title.empty() ? limits.name : limits.title},
         {"limits_notice", limits.notice},
