@@ -78,6 +78,14 @@ TEST_F(Plot, DrawsTheHistoryOfAFigure) {
               failed("c.xml: error: is of another monitor than the documents before it"));
 }
 
+TEST_F(Plot, MadeThePicturesOfTheReadme) {
+    for (const std::string picture : {"gamut", "tone"}) {
+        const std::string file = LVDATA_PICTURES "/" + picture + ".svg";
+        EXPECT_TRUE(runBash("lvdata plot " + picture + ' ' + studio + " | cmp - " + file) == done())
+            << "lvdata plot " << picture << " examples/data/studio.xml -o " << file;
+    }
+}
+
 TEST_F(Plot, TakesOneDocument) {
     EXPECT_EQ(run({"plot", "gamut", studio, studio}),
               failed("lvdata: error: all pictures but history take one document"));
