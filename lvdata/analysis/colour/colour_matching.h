@@ -9,8 +9,8 @@ namespace lv::analysis::colour {
 
 /// A row of the table of the colour-matching functions.
 struct ColourMatch {
-    int wavelength;         ///< In nm.
-    Tristimulus functions;  ///< x̄, ȳ and z̄ of that wavelength.
+    int wavelength = 0;       ///< In nm.
+    Tristimulus functions{};  ///< x̄, ȳ and z̄ of that wavelength.
 };
 
 /// The number of rows: 360 nm to 830 nm in steps of 5 nm.

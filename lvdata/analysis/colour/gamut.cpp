@@ -13,8 +13,8 @@ namespace {
 namespace geometry = boost::geometry;
 using Polygon = geometry::model::polygon<geometry::model::d2::point_xy<double>>;
 
-// Less than a triangle has whose corners differ in the fourth decimal: only points on a line, after rounding.
-constexpr double smallestArea = 1e-10;
+// Less is a point or a line, but for rounding.
+constexpr double smallestArea = 1e-9;
 
 // Far more than any primary has, imaginary ones included, and little enough for exact results.
 constexpr double largestCoordinate = 10;
@@ -53,10 +53,23 @@ double sharedArea(const Polygon& left, const Polygon& right) {
     return geometry::area(shared);
 }
 
-GamutComparison compare(const Polygon& gamut, const Polygon& reference) {
-    const double referenceArea = geometry::area(reference);
-    const double coverage = sharedArea(gamut, reference) / referenceArea;
-    return {std::clamp(coverage, 0.0, 1.0), geometry::area(gamut) / referenceArea};
+double uncoveredArea(const Polygon& gamut, const Polygon& reference) {
+    geometry::model::multi_polygon<Polygon> uncovered;
+    geometry::difference(reference, gamut, uncovered);
+    return geometry::area(uncovered);
+}
+
+// Doubles can put a corner on the wrong side of an edge that it nearly touches, about once in a million triangles. The
+// parts of the reference do not make up the whole then, and there is no value.
+std::optional<GamutComparison> compare(const Polygon& gamut, const Polygon& reference) {
+    constexpr double largestError = 1e-6;
+    const double whole = geometry::area(reference);
+    const double coverage = sharedArea(gamut, reference) / whole;
+    const double rest = uncoveredArea(gamut, reference) / whole;
+    if (!(std::abs(coverage + rest - 1) < largestError)) {
+        return std::nullopt;
+    }
+    return GamutComparison{std::clamp(coverage, 0.0, 1.0), geometry::area(gamut) / whole};
 }
 
 }  // namespace

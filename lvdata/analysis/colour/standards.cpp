@@ -2,7 +2,6 @@
 
 #include <lvdata/analysis/colour/colour_matching.h>
 
-#include <algorithm>
 #include <string>
 
 namespace lv::analysis::colour {
@@ -106,9 +105,10 @@ LocusPoint locusPoint(const ColourMatch& match) {
 
 std::array<LocusPoint, locusPoints> computedLocus() {
     constexpr std::size_t rowsBefore = 4;  // 360 nm to 375 nm
-    const auto* first = colourMatchingFunctions().begin() + rowsBefore;
     std::array<LocusPoint, locusPoints> points = {};
-    std::transform(first, first + points.size(), points.begin(), locusPoint);
+    for (std::size_t index = 0; index < points.size(); ++index) {
+        points.at(index) = locusPoint(colourMatchingFunctions().at(rowsBefore + index));
+    }
     return points;
 }
 

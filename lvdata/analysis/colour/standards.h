@@ -39,8 +39,8 @@ struct RGBSpace {
 
 /// A point of the spectrum locus of the CIE 1931 2° observer.
 struct LocusPoint {
-    int wavelength;             ///< In nm.
-    Chromaticity chromaticity;  ///< Of light of that wavelength alone.
+    int wavelength = 0;           ///< In nm.
+    Chromaticity chromaticity{};  ///< Of light of that wavelength alone.
 };
 
 /// The number of points of the locus: 380 nm to 700 nm in steps of 5 nm.

@@ -41,9 +41,9 @@ std::optional<Point> pointOf(const Chromaticity& chromaticity) {
 }
 
 double squaredDistance(const Point& left, const Point& right) {
-    const double u = left.u - right.u;
-    const double v = left.v - right.v;
-    return u * u + v * v;
+    const double deltaU = left.u - right.u;
+    const double deltaV = left.v - right.v;
+    return deltaU * deltaU + deltaV * deltaV;
 }
 
 double distance(const Point& left, const Point& right) {
@@ -72,10 +72,12 @@ Chromaticity computedPlanckian(double kelvin) {
 // Some steps longer than the range at either end, so that each temperature of the range has neighbours.
 std::vector<PlanckianPoint> computedTable() {
     std::vector<PlanckianPoint> table;
-    for (double kelvin = lowest / step / step; kelvin < highest * step * step; kelvin *= step) {
+    double kelvin = lowest / step / step;
+    while (kelvin < highest * step * step) {
         if (const auto point = pointOf(computedPlanckian(kelvin))) {
             table.push_back({kelvin, *point});
         }
+        kelvin *= step;
     }
     return table;
 }
@@ -109,9 +111,9 @@ CorrelatedTemperature triangular(const std::array<Neighbour, 3>& near, const Poi
         (before.distance * before.distance - after.distance * after.distance + length * length) / (2 * length);
     const double part = foot / length;
     const double squaredHeight = std::fmax(before.distance * before.distance - foot * foot, 0);
-    const double v = before.point.v + (after.point.v - before.point.v) * part;
+    const double footV = before.point.v + (after.point.v - before.point.v) * part;
     return {before.kelvin + (after.kelvin - before.kelvin) * part,
-            std::copysign(std::sqrt(squaredHeight), colour.v - v)};
+            std::copysign(std::sqrt(squaredHeight), colour.v - footV)};
 }
 
 // Ohno's parabolic solution: the lowest point of the parabola through the three distances. Temperatures count from that
@@ -122,10 +124,10 @@ CorrelatedTemperature parabolic(const std::array<Neighbour, 3>& near, double sig
     const double right = after.kelvin - nearest.kelvin;
     const double leftSlope = (before.distance - nearest.distance) / left;
     const double rightSlope = (after.distance - nearest.distance) / right;
-    const double a = (rightSlope - leftSlope) / (right - left);
-    const double b = rightSlope - a * right;
-    const double lowestAt = -b / (2 * a);
-    return {nearest.kelvin + lowestAt, std::copysign(nearest.distance + b * lowestAt / 2, sign)};
+    const double curvature = (rightSlope - leftSlope) / (right - left);
+    const double slope = rightSlope - curvature * right;
+    const double lowestAt = -slope / (2 * curvature);
+    return {nearest.kelvin + lowestAt, std::copysign(nearest.distance + slope * lowestAt / 2, sign)};
 }
 
 // The paper takes the parabola from this distance on, where the triangle is less exact.

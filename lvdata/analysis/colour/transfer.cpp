@@ -66,11 +66,12 @@ double pqSignal(double luminance) {
 }
 
 double hlgSceneLight(double signal) {
-    constexpr double a = 0.17883277;
-    constexpr double b = 0.28466892;
-    constexpr double c = 0.55991073;
+    // The constants a, b and c of the table.
+    constexpr double scale = 0.17883277;
+    constexpr double offset = 0.28466892;
+    constexpr double start = 0.55991073;
     const double value = limitedSignal(signal);
-    return value <= 0.5 ? value * value / 3 : (std::exp((value - c) / a) + b) / 12;
+    return value <= 0.5 ? value * value / 3 : (std::exp((value - start) / scale) + offset) / 12;
 }
 
 std::array<double, 3> hlgDisplayLight(const std::array<double, 3>& scene, double systemGamma,

@@ -115,7 +115,8 @@ struct ModeFigures {
     std::string calibratedTime{};                                ///< When it was calibrated, as the record has it.
     MeasuredBy measuredBy{};                                     ///< Who and what measured.
     Figure targetY{};                                            ///< The brightness aimed at, where it is a number.
-    std::optional<colour::Chromaticity> targetChromaticity{};    ///< Target white by x and y, or else by a standard.
+    std::optional<colour::Chromaticity> targetChromaticity{};    ///< Where the target white is given by x and y.
+    std::optional<colour::Chromaticity> standardChromaticity{};  ///< Of the standard that the target white names.
     std::optional<colour::Tristimulus> measuredWhite{};          ///< X, Y, Z of the white that was reached.
     std::optional<colour::Chromaticity> measuredChromaticity{};  ///< x and y of the measured white.
     std::optional<colour::Tristimulus> measuredBlack{};          ///< X, Y, Z of the measured black.
@@ -137,6 +138,11 @@ struct ModeFigures {
 
     std::size_t measurements = 0;  ///< Rows of the mode's measurement series.
 };
+
+/// The white that a mode aims at: by x and y, or else of a standard.
+[[nodiscard]] inline std::optional<colour::Chromaticity> aimedWhite(const ModeFigures& mode) {
+    return mode.targetChromaticity ? mode.targetChromaticity : mode.standardChromaticity;
+}
 
 /// The figures of all modes, in the order of the settings; results without settings come last. Settings and results
 /// belong together when they have the same index; where several have it, the first to the first, and so on.

@@ -35,7 +35,8 @@ std::string gammaWords(const Mode& mode) {
 /// A coordinate of the target white.
 template <class Coordinate>
 Aim whiteAim(const Mode& mode, Coordinate coordinate) {
-    return {mode.targetChromaticity ? coordinate(*mode.targetChromaticity) : missing("the target has no x and y"), ""};
+    const auto white = aimedWhite(mode);
+    return {white ? coordinate(*white) : missing("the target has no x and y"), ""};
 }
 
 /// A coordinate of the measured white; without a white its reason is that of Y.

@@ -23,10 +23,11 @@ bool needsBlack(const TargetCurves& curves) {
 /// The target's primaries and white, as bright as the measured white, without black. No value where the target or the
 /// measured white does not give them.
 std::optional<colour::Matrix> targetChannels(const ModeFigures& mode, const TargetPrimaries& target) {
-    if (!target.primaries || !mode.targetChromaticity || !mode.measuredWhite) {
+    const auto white = aimedWhite(mode);
+    if (!target.primaries || !white || !mode.measuredWhite) {
         return std::nullopt;
     }
-    auto channels = colour::rgbToXYZ(*target.primaries, *mode.targetChromaticity);
+    auto channels = colour::rgbToXYZ(*target.primaries, *white);
     const double Y = (*mode.measuredWhite)[1];
     if (!channels || !(Y > 0)) {
         return std::nullopt;

@@ -24,7 +24,7 @@ void takeWhitePoint(ModeFigures& figures, const ParameterSetting::white_point_t&
         figures.targetWhite = "Temperature " + std::to_string(white.temperature);
     } else if (white.type == types::whitePoint::fixed) {
         figures.targetWhite = white.fixed;
-        figures.targetChromaticity = colour::whiteNamed(white.fixed);
+        figures.standardChromaticity = colour::whiteNamed(white.fixed);
     } else {
         figures.targetWhite = white.type;
     }
@@ -98,9 +98,7 @@ void takeTarget(ModeFigures& figures, const TargetSetting& target) {
         takeWhitePoint(figures, target.whitePoint.value);
     }
     figures.targetWhiteStandard = standardOf(target.whitePointV7);
-    if (!figures.targetChromaticity) {
-        figures.targetChromaticity = colour::whiteNamed(figures.targetWhiteStandard);
-    }
+    figures.standardChromaticity = colour::whiteNamed(figures.targetWhiteStandard);
     figures.targetGamma = standardOr(target.gammaV7, target.gamma.hasValue ? gammaOf(target.gamma.value) : "");
     figures.targetGamut = standardOr(target.gamutV7, gamutOf(target.gamut));
 }

@@ -24,24 +24,26 @@ Figure contrastOf(const MeasuredSet& set) {
 }
 
 Figure deltaUVOf(const ModeFigures& figures) {
-    if (!figures.targetChromaticity) {
+    const auto aim = aimedWhite(figures);
+    if (!aim) {
         return missing("the target has no x and y");
     }
     if (!figures.measuredChromaticity) {
         return missing("X, Y and Z of the white are 0");
     }
-    const auto target = colour::uniform(*figures.targetChromaticity);
+    const auto target = colour::uniform(*aim);
     const auto measured = colour::uniform(*figures.measuredChromaticity);
     return target && measured ? computed(colour::distance(*target, *measured))
                               : missing("x and y are not of a real colour");
 }
 
 Figure deltaE2000Of(const ModeFigures& figures) {
-    if (!figures.targetChromaticity) {
+    const auto aim = aimedWhite(figures);
+    if (!aim) {
         return missing("the target has no x and y");
     }
     const colour::Tristimulus& measured = *figures.measuredWhite;
-    const auto target = tristimulusOf(*figures.targetChromaticity, measured[1]);
+    const auto target = tristimulusOf(*aim, measured[1]);
     if (!target || !colour::isWhite(*target)) {
         return missing(measured[1] > 0 ? "x and y are not of a real colour" : "white has Y 0");
     }

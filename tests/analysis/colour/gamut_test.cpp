@@ -38,9 +38,9 @@ bool contains(const Triangle& corners, const colour::PlanePoint& point) {
 double countedCoverage(const Triangle& gamut, const Triangle& reference) {
     int all = 0;
     int covered = 0;
-    for (double horizontal = 0.0005; horizontal < 0.8; horizontal += 0.001) {
-        for (double vertical = 0.0005; vertical < 0.9; vertical += 0.001) {
-            const colour::PlanePoint point = {horizontal, vertical};
+    for (int column = 0; column < 400; ++column) {
+        for (int row = 0; row < 450; ++row) {
+            const colour::PlanePoint point = {0.001 + 0.002 * column, 0.001 + 0.002 * row};
             if (contains(reference, point)) {
                 ++all;
                 covered += contains(gamut, point) ? 1 : 0;
@@ -99,7 +99,7 @@ TEST(ColourGamut, IsTheSameAsCountingPoints) {
                 const auto comparison = colour::compareGamuts(gamut, reference, plane);
                 ASSERT_TRUE(comparison);
                 EXPECT_NEAR(comparison->coverage, countedCoverage(corners(gamut, plane), corners(reference, plane)),
-                            0.005);
+                            0.01);
             }
         }
     }
@@ -152,6 +152,7 @@ TEST(ColourGamut, HasNoValueWhereAPrimaryHasNoPlace) {
         }
         EXPECT_FALSE(colour::triangle({sRGB.red, sRGB.green, {0.3, odd}}, colour::Plane::xy)) << odd;
     }
+    EXPECT_FALSE(colour::triangle({{-1e7, 0.3}, sRGB.green, sRGB.blue}, colour::Plane::xy));
     EXPECT_FALSE(colour::triangle({{1.5, 0}, sRGB.green, sRGB.blue}, colour::Plane::uv));
     EXPECT_TRUE(colour::triangle({{1.5, 0}, sRGB.green, sRGB.blue}, colour::Plane::xy));
 }
@@ -174,4 +175,24 @@ TEST(ColourGamut, StaysInRangeForTrianglesThatTouch) {
             }
         }
     }
+}
+
+// Two corners of the second triangle lie beside edges of the first, less than a rounding error away.
+TEST(ColourGamut, HasNoWrongValueWhereCornersNearlyTouchEdges) {
+    const colour::Primaries gamut = {{0.86594102630999292, 0.73615504116540897},
+                                     {0.87056381098269575, 0.7943354442566799},
+                                     {0.91761330491237569, 0.12165819481128873}};
+    const colour::Primaries reference = {{0.15854999750515969, 0.3541942282639321},
+                                         {0.89177716561118436, 0.42890661798834884},
+                                         {0.088685681388616613, 0.3564956344159228}};
+    const auto comparison = colour::compareGamuts(gamut, reference, colour::Plane::uv);
+    EXPECT_LT(comparison ? comparison->coverage : 0, 1e-9);
+}
+
+TEST(ColourGamut, CoversATriangleThatTouchesAnEdge) {
+    const colour::Primaries gamut = {{0.875, 0.875}, {0.125, 0.125}, {0.625, 0}};
+    const colour::Primaries reference = {{0.375, 0.375}, {0.75, 0.4375}, {0.625, 0.625}};
+    const auto comparison = colour::compareGamuts(gamut, reference, colour::Plane::uv);
+    ASSERT_TRUE(comparison);
+    EXPECT_NEAR(comparison->coverage, 1, 1e-9);
 }

@@ -112,13 +112,15 @@ TEST(ColourTemperature, HasThePublishedIsotherms) {
 }
 
 TEST(ColourTemperature, FindsEachTemperatureAgain) {
-    for (double kelvin = 1000.1; kelvin < 100000; kelvin *= 1.00317) {
+    for (int index = 0; index < 1450; ++index) {
+        const double kelvin = 1000.1 * std::pow(1.00317, index);
         expectTemperature(colour::planckian(kelvin), kelvin, 0, 0.00001, 0.000001);
     }
 }
 
 TEST(ColourTemperature, FindsEachTemperatureAgainBesideTheLocus) {
-    for (double kelvin = 1010; kelvin < 99000; kelvin *= 1.0371) {
+    for (int index = 0; index < 125; ++index) {
+        const double kelvin = 1010 * std::pow(1.0371, index);
         for (const double duv : {-0.03, -0.01, -0.0021, -0.0019, -0.0005, 0.0005, 0.0019, 0.0021, 0.01, 0.03}) {
             expectTemperature(beside(kelvin, duv), kelvin, duv, 0.0001, 0.00001);
         }

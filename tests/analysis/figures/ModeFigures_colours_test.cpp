@@ -48,14 +48,15 @@ std::string deltaOfRed(const ColorModeSettingsObject& setting) {
 // White.
 
 TEST(WhiteFigures, TakeAStandardWhereTheTargetHasNoXAndY) {
-    EXPECT_EQ(figuresOf(settingWithWhite("D65"), sRGBResult()).targetChromaticity->x, 0.3127);
-    EXPECT_FALSE(figuresOf(settingWithWhite("Paper"), sRGBResult()).targetChromaticity);
+    EXPECT_EQ(aimedWhite(figuresOf(settingWithWhite("D65"), sRGBResult()))->x, 0.3127);
+    EXPECT_FALSE(figuresOf(settingWithWhite("D65"), sRGBResult()).targetChromaticity);
+    EXPECT_FALSE(aimedWhite(figuresOf(settingWithWhite("Paper"), sRGBResult())));
     ColorModeSettingsObject setting = settingOf(types::colorMode::calibration);
     setting.targetSetting.value.whitePointV7.set({types::targetStandard::standard, "D65"});
     setting.targetSetting.value.whitePoint.set({types::targetWhitePoint::temperature, 5000, 0, 0});
-    EXPECT_EQ(figuresOf(setting, sRGBResult()).targetChromaticity->y, 0.3290);
+    EXPECT_EQ(aimedWhite(figuresOf(setting, sRGBResult()))->y, 0.3290);
     setting.targetSetting.value.whitePoint.set({types::targetWhitePoint::coordinate, 0, 3457, 3585});
-    EXPECT_EQ(figuresOf(setting, sRGBResult()).targetChromaticity->y, 0.3585);
+    EXPECT_EQ(aimedWhite(figuresOf(setting, sRGBResult()))->y, 0.3585);
 }
 
 TEST(WhiteFigures, HaveTheTemperatureOfTheMeasuredWhite) {

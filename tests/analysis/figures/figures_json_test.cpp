@@ -127,5 +127,16 @@ TEST(FiguresJSON, HoldsTextsOfAnyKind) {
 TEST(FiguresJSON, IsOneLine) {
     EXPECT_EQ(figuresJSON(studioFigures()).find('\n'), std::string::npos);
     EXPECT_LT(figuresJSON(studioFigures()).size(), 100000U);
-    EXPECT_THAT(figuresJSON(studioFigures()), HasSubstr("\"signal\":0.1961,\"light\":"));
+}
+
+TEST(FiguresJSON, HasTheDigitsThatThePageTells) {
+    MonitorFigures monitor;
+    ModeFigures& mode = monitor.modes.emplace_back();
+    mode.tone.steps.push_back({0.5, 0.25, {0.2, ""}, {2, ""}, {{1, 1.1, 0.9}}});
+    mode.series.patches.push_back({7, {{1, 2, 3}}, {{4, 5, 6, 7}}, {{1, 2, 3}}, {{4, 5, 6}}, {0.5, ""}});
+    const std::string text = figuresJSON(monitor);
+    EXPECT_THAT(text, HasSubstr("{\"signal\":0.5000,\"light\":0.2500,\"target\":0.2000,\"gamma\":2.00,"
+                                "\"balance\":[1.000,1.100,0.900]}"));
+    EXPECT_THAT(text, HasSubstr("{\"number\":7,\"rgb\":[1,2,3],\"cmyk\":[4,5,6,7],\"xyz\":[1.0000,2.0000,3.0000],"
+                                "\"expected_xyz\":[4.0000,5.0000,6.0000],\"delta_e2000\":0.50}"));
 }
