@@ -81,6 +81,10 @@ std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, con
     return picture.finished();
 }
 
+std::string figureText(const Figure& figure, int decimals) {
+    return figure.value ? svg::valueText(*figure.value, decimals) : figure.text(decimals);
+}
+
 std::string reasonOf(const Figure& figure, const std::string& otherwise) {
     return figure.reason.empty() ? otherwise : figure.reason;
 }

@@ -56,6 +56,9 @@ private:
 /// A picture that says why there is nothing to see.
 [[nodiscard]] std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, const std::string& reason);
 
+/// A figure in a sentence: its value as `valueText` has it, or "n/a (reason)".
+[[nodiscard]] std::string figureText(const Figure& figure, int decimals);
+
 /// Why a figure has no value, or else the other reason.
 [[nodiscard]] std::string reasonOf(const Figure& figure, const std::string& otherwise);
 

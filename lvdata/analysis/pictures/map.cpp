@@ -202,8 +202,8 @@ void addFoot(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
 
 std::string descriptionOf(const MapFigures& map) {
     const int decimals = decimalsOf(map);
-    std::string text = counted(map.values.size(), "entry", "entries") + ": least " + map.minimum.text(decimals) +
-                       ", greatest " + map.maximum.text(decimals) + ", mean " + map.mean.text(1) + '.';
+    std::string text = counted(map.values.size(), "entry", "entries") + ": least " + figureText(map.minimum, decimals) +
+                       ", greatest " + figureText(map.maximum, decimals) + ", mean " + figureText(map.mean, 1) + '.';
     if (isShapeKnown(map)) {
         text += ' ' + std::to_string(map.gridWidth) + " entries in a row.";
     } else {

@@ -144,8 +144,8 @@ std::vector<LevelLine> linesOf(const SeriesFigures& series, const PatchLimits& l
 
 std::string descriptionOf(const SeriesFigures& series, const LimitSet* set, const PatchLimits& limits) {
     std::string text = "ΔE00 of " + counted(series.patches.size(), "patch", "patches") + " as bars: mean " +
-                       series.mean.text(2) + ", 95 % not above " + series.percentile95.text(2) + ", greatest " +
-                       series.maximum.text(2) + '.';
+                       figureText(series.mean, 2) + ", 95 % not above " + figureText(series.percentile95, 2) +
+                       ", greatest " + figureText(series.maximum, 2) + '.';
     if (!series.reference.empty()) {
         text += " Compared with " + svg::quotable(series.reference) + '.';
     }

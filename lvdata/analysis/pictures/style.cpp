@@ -43,7 +43,7 @@ constexpr std::string_view rules = R"(
 .lv-title{font-size:15px;font-weight:600}
 .lv-picture .lv-sub,.lv-picture .lv-note,.lv-picture .lv-tick text{fill:@muted}
 .lv-tick,.lv-note,.lv-value{font-size:11px}
-.lv-picture .lv-label,.lv-reason{font-size:12px}
+.lv-picture .lv-label,.lv-reason,.lv-key{font-size:12px}
 .lv-grid{fill:none;stroke:@grid;stroke-width:1}
 .lv-frame{fill:none;stroke:@axis;stroke-width:1}
 .lv-zero{stroke:@axis;stroke-width:1.5}

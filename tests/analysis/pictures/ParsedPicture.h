@@ -32,7 +32,8 @@ public:
     /// Parses; fails the test where the text is not well-formed.
     explicit ParsedPicture(const std::string& text);
 
-    [[nodiscard]] const std::vector<Element>& elements() const { return elements_; }  ///< All, in their order.
+    [[nodiscard]] const std::vector<Element>& elements() const& { return elements_; }  ///< All, in their order.
+    const std::vector<Element>& elements() const&& = delete;                           ///< Name the picture first.
 
     /// The root element.
     [[nodiscard]] const Element& root() const { return elements_.front(); }
