@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -19,10 +18,10 @@ public:
     using Members = std::vector<Member>;
     using Value = std::variant<bool, std::string, Items, Members>;
 
-    View(bool condition) : value_(condition) {}
-    View(std::string text) : value_(std::move(text)) {}
-    View(std::string_view text) : value_(std::string(text)) {}
-    View(const char* text) : value_(std::string(text)) {}
+    View(bool condition);
+    View(std::string text);
+    View(std::string_view text);
+    View(const char* text);
     View(Items items);
     View(Members members);
 

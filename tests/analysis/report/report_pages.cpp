@@ -52,6 +52,7 @@ std::string referencesOf(const std::string& text) {
 MonitorInfo parsed(const std::string& text) {
     MonitorInfo monitor;
     EXPECT_TRUE(monitor.parseXMLString(text));
+    monitor.writeHLGSystemGamma = true;
     return monitor;
 }
 

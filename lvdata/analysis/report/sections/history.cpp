@@ -7,13 +7,16 @@
 namespace lv::analysis {
 namespace {
 
-constexpr std::array<std::string_view, 4> alwaysTold = {"white_delta_uv", "white_tristimulus_y", "contrast",
-                                                        patchesMeanKey};
+constexpr std::array<std::string_view, 4> drawnFigures = {"white_delta_uv", "white_tristimulus_y", "contrast",
+                                                          patchesMeanKey};
 
-/// Whether a figure's history is told: it has a limit, or is one of the few that matter most.
+bool isDrawn(const JudgedLine& judged) {
+    return std::find(drawnFigures.begin(), drawnFigures.end(), judged.line.key) != drawnFigures.end();
+}
+
+/// Whether a figure has a column in the table.
 bool isTold(const JudgedLine& judged) {
-    const auto found = std::find(alwaysTold.begin(), alwaysTold.end(), judged.line.key);
-    return judged.limit != nullptr || found != alwaysTold.end();
+    return judged.limit != nullptr || isDrawn(judged);
 }
 
 bool hasValue(const HistorySeries& series) {
@@ -59,15 +62,21 @@ View tableOf(const std::vector<HistorySeries>& all) {
     return View::Members{{"columns", std::move(columns)}, {"rows", std::move(rows)}};
 }
 
+/// The series of a figure; empty when its history is not told.
+HistorySeries toldSeries(const std::vector<Snapshot>& snapshots, const ReportedMode& mode, const JudgedLine& judged) {
+    return isTold(judged) ? historyOf(snapshots, mode.figures->index, judged.line.key) : HistorySeries{};
+}
+
 /// Adds the history of a mode, if there is one.
 void addHistory(View::Items& modes, const std::vector<Snapshot>& snapshots, const ReportedMode& mode) {
     std::vector<HistorySeries> told;
     View::Items pictures;
     for (const JudgedLine& judged : mode.lines) {
-        HistorySeries series =
-            isTold(judged) ? historyOf(snapshots, mode.figures->index, judged.line.key) : HistorySeries{};
+        HistorySeries series = toldSeries(snapshots, mode, judged);
         if (series.points.size() > 1 && hasValue(series)) {
-            pictures.push_back(pictureOf(series, judged, mode.id + "-history-" + std::to_string(told.size() + 1)));
+            if (isDrawn(judged)) {
+                pictures.push_back(pictureOf(series, judged, mode.id + "-history-" + judged.line.key));
+            }
             told.push_back(std::move(series));
         }
     }

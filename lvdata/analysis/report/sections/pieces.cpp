@@ -43,7 +43,7 @@ View markView(Mark mark) {
     case Mark::fails:
         return marked("✗", "Fail", "fails");
     case Mark::notAvailable:
-        return marked("?", "No value", "missing");
+        return marked("?", "n/a", "missing");
     case Mark::none:
         break;
     }
