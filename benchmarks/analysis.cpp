@@ -2,12 +2,17 @@
 
 #include <lvdata/analysis/check/check.h>
 #include <lvdata/analysis/diff/diff.h>
+#include <lvdata/analysis/figures/MonitorFigures.h>
 #include <lvdata/analysis/json/JSON.h>
+#include <lvdata/analysis/pictures/pictures.h>
+#include <lvdata/analysis/report/report.h>
 
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -59,11 +64,50 @@ void diffWithItself(const std::string& text) {
     benchmark::DoNotOptimize(diff(*record, *record, catalogue()));
 }
 
+lv::analysis::MonitorFigures figuresOf(const lv::DataObject& record) {
+    return lv::analysis::monitorFigures(lv::analysis::monitorOf(record).value());
+}
+
+void figures(const std::string& text) {
+    benchmark::DoNotOptimize(figuresOf(*readRecord(text)));
+}
+
+/// All pictures of each mode and the maps, as files of their own.
+void pictures(const std::string& text) {
+    using lv::analysis::colour::Plane;
+    const auto monitor = figuresOf(*readRecord(text));
+    std::size_t size = mapPicture(monitor.uniformity).size() + mapPicture(monitor.brightness).size();
+    for (const lv::analysis::ModeFigures& mode : monitor.modes) {
+        size += gamutPicture(mode, Plane::xy).size() + gamutPicture(mode, Plane::uv).size() + tonePicture(mode).size() +
+                balancePicture(mode).size() + tablesPicture(mode).size() + patchesPicture(mode, nullptr).size() +
+                sixColoursPicture(mode).size();
+    }
+    benchmark::DoNotOptimize(size);
+}
+
+/// As `lvdata report` makes the page of one document.
+void report(const std::string& text) {
+    const lv::analysis::Document document(text, catalogue());
+    lv::analysis::ReportedDocument reported{{"monitor.xml", "", figuresOf(document.record())},
+                                            checkDocument(document),
+                                            toJSON(document.record(), catalogue(), {true}).text};
+    lv::analysis::ReportForm form;
+    form.limits = &lv::analysis::knownLimitSets().front();
+    benchmark::DoNotOptimize(reportPage({std::move(reported)}, form));
+}
+
 using Operation = void (*)(const std::string&);
 
 const std::vector<std::pair<std::string, Operation>>& operations() {
     static const std::vector<std::pair<std::string, Operation>> all = {
         {"read", read}, {"check", check}, {"JSON line", toJSONLine}, {"diff", diffWithItself}};
+    return all;
+}
+
+/// Operations on documents of monitors alone.
+const std::vector<std::pair<std::string, Operation>>& operationsOnMonitors() {
+    static const std::vector<std::pair<std::string, Operation>> all = {
+        {"figures", figures}, {"pictures", pictures}, {"report", report}};
     return all;
 }
 
@@ -90,8 +134,18 @@ std::string oneMode() {
     return monitor.toXMLString(true, true);
 }
 
+/// The monitor of the examples.
+std::string studio() {
+    std::ifstream file(LVDATA_STUDIO, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
 void registerAll(const std::string& name, const std::string& text) {
-    for (const auto& [operation, function] : operations()) {
+    auto all = operations();
+    if (lv::analysis::monitorOf(*readRecord(text))) {
+        all.insert(all.end(), operationsOnMonitors().begin(), operationsOnMonitors().end());
+    }
+    for (const auto& [operation, function] : all) {
         benchmark::RegisterBenchmark((operation + '/' + name).c_str(), run, function, text);
     }
     benchmark::RegisterBenchmark(("from JSON/" + name).c_str(), fromJSONLine, text);
@@ -115,7 +169,8 @@ bool isSound(const std::string& name, const std::string& text) {
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    std::vector<std::pair<std::string, std::string>> texts = {{"one mode", benchmarks::oneMode()}};
+    std::vector<std::pair<std::string, std::string>> texts = {{"studio", benchmarks::studio()},
+                                                              {"one mode", benchmarks::oneMode()}};
     for (const benchmarks::Document& document : benchmarks::allDocuments()) {
         texts.emplace_back(document.name, document.text());
     }

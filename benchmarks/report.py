@@ -78,8 +78,8 @@ def tables(times):
     yield from table("More of one thing", ["ratio"], further_rows(times))
 
 
-ANALYSIS_DOCUMENTS = ["one mode", *DOCUMENTS]
-ANALYSIS_OPERATIONS = ["check", "JSON line", "diff", "from JSON"]
+ANALYSIS_DOCUMENTS = ["studio", "one mode", *DOCUMENTS]
+ANALYSIS_OPERATIONS = ["check", "JSON line", "diff", "from JSON", "figures", "pictures", "report"]
 ROWS = ("rows x25000", "rows x100000")
 
 

@@ -11,6 +11,7 @@
 namespace {
 
 using testing::AllOf;
+using testing::ContainsRegex;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
@@ -101,14 +102,15 @@ TEST_F(ShowContent, HasTheStandardOfATargetWithoutAnOlderForm) {
         modes("<ColorMode Type='Calibration'><Index>1</Index><Target><TargetSetting><WhitePointV7 Type='Standard'>"
               "<Standard>D65</Standard></WhitePointV7></TargetSetting></Target></ColorMode>");
     EXPECT_THAT(shown(document), HasSubstr("\n1     -     D65           n/a  "));
-    EXPECT_THAT(shown(document, {"--mode", "1"}), HasSubstr("\nWhite         D65     n/a "));
+    EXPECT_THAT(shown(document, {"--mode", "1"}), HasSubstr("\nTarget        white D65\n"));
 }
 
 TEST_F(ShowContent, SaysThatAWhiteOfZerosHasNoChromaticity) {
     const std::string white =
         "<CalibrationModeResult><ColorMode Type='Calibration'><Index>1</Index><BasicData><JustCalibratedWhite>0|0|0"
         "</JustCalibratedWhite></BasicData></ColorMode></CalibrationModeResult>";
-    EXPECT_THAT(shown(white, {"--mode", "1"}), HasSubstr("White         -       n/a (X, Y and Z are 0)\n"));
+    EXPECT_THAT(shown(white, {"--mode", "1"}),
+                ContainsRegex("\n  White x +n/a [^\n]+ n/a \\(X, Y and Z of the white are 0\\) "));
     EXPECT_THAT(shown(white), HasSubstr("1     -     -             n/a         n/a  "));
 }
 

@@ -7,6 +7,7 @@
 namespace {
 
 using testing::AllOf;
+using testing::ContainsRegex;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
@@ -53,47 +54,48 @@ TEST_F(Show, HasTheMonitorAndItsModes) {
 }
 
 TEST_F(Show, HasOneMode) {
-    EXPECT_EQ(run({"show", "--mode", "3", studio}),
-              printed("Mode 3, Proof\n"
-                      "Type          Calibration\n"
-                      "Calibrated    2024-05-02T09:48:00\n"
-                      "              Target                   Measured\n"
-                      "White         x 0.3457 y 0.3585 (D50)  x 0.3459 y 0.3582\n"
-                      "Brightness    160                      Y 159.8531\n"
-                      "Black level   Minimum                  Y 0.0040\n"
-                      "Gamma         LStar\n"
-                      "Gamut         Native\n"
-                      "Δu'v'         0.0003\n"
-                      "Contrast      39963:1\n"
-                      "Measurements  84\n"
-                      "\n"
-                      "Δu'v': target white against measured white, CIE 1976 UCS diagram, CIE 1931 2° observer.\n"
-                      "Y: CIE 1931 tristimulus value; the records do not say its unit (--y-unit).\n" +
-                      noFindings));
+    const std::string text = run({"show", "--mode", "3", studio}).output;
+    EXPECT_THAT(text, StartsWith("Mode 3, Proof\n"
+                                 "Type          Calibration\n"
+                                 "Calibrated    2024-05-02T09:48:00\n"
+                                 "Target        brightness 160, white x 0.3457 y 0.3585 (D50), black Minimum, gamma "
+                                 "LStar, gamut Native\n\n"));
+    EXPECT_THAT(text, ContainsRegex("\n +Target +Measured +Difference\nWhite\n  White x +0.3457 +0.3459 +0.0002\n"));
+    EXPECT_THAT(text, EndsWith("\n\nΔu'v': target white against measured white, CIE 1976 UCS diagram, CIE 1931 2° "
+                               "observer.\n"
+                               "Y: CIE 1931 tristimulus value; the records do not say its unit (--y-unit).\n" +
+                               noFindings));
 }
 
 TEST_F(Show, SaysWhyAFigureOfAModeIsMissing) {
-    EXPECT_EQ(run({"show", "--mode", "0", studio}),
-              printed("Mode 0, Desktop\n"
-                      "Type          Standard\n"
-                      "Calibrated    -\n"
-                      "              Target            Measured\n"
-                      "White         Temperature 6500  n/a (no calibration result)\n"
-                      "Brightness    140 candela       n/a (no calibration result)\n"
-                      "Black level   -                 n/a (no calibration result)\n"
-                      "Gamma         2.2\n"
-                      "Gamut         sRGB\n"
-                      "Δu'v'         n/a (no calibration result)\n"
-                      "Contrast      n/a (no calibration result)\n"
-                      "Measurements  0\n" +
-                      noFindings));
+    const std::string text = run({"show", "--mode", "0", studio}).output;
+    EXPECT_THAT(text, StartsWith("Mode 0, Desktop\n"
+                                 "Type          Standard\n"
+                                 "Calibrated    -\n"
+                                 "Target        brightness 140 candela, white Temperature 6500, gamma 2.2, gamut "
+                                 "sRGB\n\n"));
+    EXPECT_THAT(text, ContainsRegex("\n  Contrast +n/a \\(no calibration result\\)\n"));
+    EXPECT_THAT(text, EndsWith("n/a (no calibration result)\n\n" + noFindings));
+}
+
+TEST_F(Show, HasTheFiguresAsJSON) {
+    const std::string all = run({"show", "--json", studio}).output;
+    EXPECT_THAT(all, AllOf(StartsWith("{\"monitor\":{\"uuid\":\"6f1d2c9a-"), EndsWith("}\n"), HasSubstr("\"Photo\"")));
+    EXPECT_THAT(run({"show", "--json", "--mode", "3", studio}).output, Not(HasSubstr("\"Photo\"")));
+    EXPECT_THAT(run({"show", "--json", "--y-unit", "cd/m²", studio}).output, HasSubstr("\"y_unit\":\"cd/m²\""));
+    EXPECT_THAT(shown("<CandelaMap/>", {"--json"}), HasSubstr("\"maps\":"));
+    EXPECT_EQ(run({"show", "--json", "--mode", "9", studio}).exitCode, 2);
+    EXPECT_EQ(run({"show", "--json", "--full", studio}).exitCode, 2);
+    write("in.xml", "<AssetInfo/>");
+    EXPECT_EQ(run({"show", "--json", "in.xml"}), failed("in.xml: error: a document of AssetInfo has no figures"));
 }
 
 TEST_F(Show, HasTheUnitOfYThatItsUserKnows) {
     const std::string table = run({"show", studio, "--y-unit", "cd/m²"}).output;
     EXPECT_THAT(table, AllOf(HasSubstr("  Y cd/m²  "), HasSubstr("   120.03  "), Not(HasSubstr("--y-unit"))));
     const std::string one = run({"show", studio, "--y-unit", "cd/m²", "--mode", "3"}).output;
-    EXPECT_THAT(one, AllOf(HasSubstr("Y 159.8531 cd/m²\n"), HasSubstr("Y 0.0040 cd/m²\n"), Not(HasSubstr("--y-unit"))));
+    EXPECT_THAT(one, ContainsRegex("\n  White Y \\(cd/m²\\) +160.0000 +159.8531 "));
+    EXPECT_THAT(one, Not(HasSubstr("--y-unit")));
     EXPECT_THAT(run({"show", studio, "--y-unit", "a\nb"}).output, HasSubstr("Y a\\x0Ab"));
 }
 

@@ -2,6 +2,8 @@
 
 #include "columns.h"
 #include "finding_text.h"
+
+#include <lvdata/analysis/figures/lines.h>
 #include <lvdata/analysis/printable.h>
 
 #include <lvdata/records/types.h>
@@ -12,6 +14,7 @@ namespace tool {
 namespace {
 
 using lv::analysis::Figure;
+using lv::analysis::FigureLine;
 using lv::analysis::ModeFigures;
 using lv::analysis::printable;
 
@@ -34,12 +37,8 @@ std::string cell(const std::string& text, std::size_t mostCharacters = 16) {
     return shortened(orDash(text), mostCharacters);
 }
 
+/// x and y without their names, for which a table has no room.
 std::string coordinates(const lv::analysis::colour::Chromaticity& white) {
-    return "x " + Figure{white.x, ""}.text(4) + " y " + Figure{white.y, ""}.text(4);
-}
-
-/// Without the names of the coordinates, for which a table has no room.
-std::string coordinatesAlone(const lv::analysis::colour::Chromaticity& white) {
     return Figure{white.x, ""}.text(4) + ' ' + Figure{white.y, ""}.text(4);
 }
 
@@ -59,11 +58,11 @@ std::string dayOf(const std::string& time) {
 }
 
 std::vector<std::string> rowOf(const ModeFigures& mode) {
-    const std::string target = mode.targetChromaticity ? coordinatesAlone(*mode.targetChromaticity) : mode.targetWhite;
+    const std::string target = mode.targetChromaticity ? coordinates(*mode.targetChromaticity) : mode.targetWhite;
     return {cell(mode.index),
             cell(mode.name, 20),
             cell(target.empty() ? mode.targetWhiteStandard : target),
-            mode.measuredChromaticity ? coordinatesAlone(*mode.measuredChromaticity) : "n/a",
+            mode.measuredChromaticity ? coordinates(*mode.measuredChromaticity) : "n/a",
             numberAlone(mode.deltaUV, 4),
             cell(mode.targetBrightness),
             numberAlone(mode.measuredY, 2),
@@ -188,20 +187,39 @@ std::string contents(const lv::MonitorInfo& monitor, const std::vector<ModeFigur
 std::string targetWhite(const ModeFigures& mode) {
     const std::string& standard = mode.targetWhiteStandard;
     if (mode.targetWhite.empty() || standard.empty()) {
-        return orDash(mode.targetWhite + standard);
+        return mode.targetWhite + standard;
     }
-    return printable(mode.targetWhite) + " (" + printable(standard) + ')';
+    return mode.targetWhite + " (" + standard + ')';
 }
 
-std::string measuredWhite(const ModeFigures& mode) {
-    if (!mode.measuredWhite) {
-        return mode.measuredY.text(4);
-    }
-    return mode.measuredChromaticity ? coordinates(*mode.measuredChromaticity) : "n/a (X, Y and Z are 0)";
+/// What a mode was set to, in words: "brightness 120, white x 0.3127 y 0.3290 (D65), gamma 2.2".
+std::string targets(const ModeFigures& mode) {
+    std::string text;
+    const auto add = [&text](const std::string& name, const std::string& value) {
+        addItem(text, value.empty() ? "" : name + ' ' + printable(value));
+    };
+    add("brightness", mode.targetBrightness);
+    add("white", targetWhite(mode));
+    add("black", mode.targetBlack);
+    add("gamma", mode.targetGamma);
+    add("gamut", mode.targetGamut);
+    return text;
 }
 
-std::string measuredY(const Figure& Y, const std::string& yUnit) {
-    return Y.value ? withUnit("Y " + Y.text(4), yUnit) : Y.text(4);
+/// A table of the figures, under a heading for each group.
+std::string figureTable(const std::vector<FigureLine>& lines, const Palette& palette) {
+    Columns columns({"", "Target", "Measured", "Difference"});
+    std::string group;
+    for (const FigureLine& line : lines) {
+        if (line.group != group) {
+            group = line.group;
+            columns.add({group, "", "", ""});
+        }
+        const std::string target = line.targetText.empty() ? line.text(line.target) : printable(line.targetText);
+        const std::string unit = line.unit.empty() ? "" : " (" + printable(line.unit) + ')';
+        columns.add({"  " + line.label + unit, target, line.text(line.measured), line.text(line.difference)});
+    }
+    return columns.text(palette);
 }
 
 }  // namespace
@@ -220,23 +238,14 @@ std::string monitorView(const lv::MonitorInfo& monitor, const MonitorViewForm& f
     return modes.empty() ? text : text + '\n' + modeTable(modes, form, palette) + '\n' + notes(modes, form.yUnit);
 }
 
-std::string modeView(const ModeFigures& mode, const std::string& yUnit, const Palette& palette) {
+std::string modeView(const ModeFigures& mode, const lv::analysis::KnownUnits& units, const Palette& palette) {
     std::string text = palette.paint(Style::heading, "Mode " + orDash(mode.index) + ", " + orDash(mode.name)) + '\n';
     addLine(text, "Type", orDash(mode.type));
     addLine(text, "Calibrated", orDash(mode.calibratedTime));
-    Columns columns({std::string(labelWidth - 2, ' '), "Target", "Measured"});
-    columns.add({"White", targetWhite(mode), measuredWhite(mode)});
-    columns.add({"Brightness", orDash(mode.targetBrightness), measuredY(mode.measuredY, yUnit)});
-    columns.add({"Black level", orDash(mode.targetBlack), measuredY(mode.blackY, yUnit)});
-    columns.add({"Gamma", orDash(mode.targetGamma), ""});
-    columns.add({"Gamut", orDash(mode.targetGamut), ""});
-    text += columns.text(palette);
-    addLine(text, "Δu'v'", mode.deltaUV.text(4));
-    addLine(text, "Contrast", mode.contrast.value ? mode.contrast.text(0) + ":1" : mode.contrast.text(0));
-    addLine(text, "Measurements", std::to_string(mode.measurements));
-    const std::string notes =
-        (mode.deltaUV.value ? noteOnDifference() : "") + (mode.measuredY.value ? noteOnUnit(yUnit) : "");
-    return text + (notes.empty() ? "" : '\n' + notes);
+    addLine(text, "Target", targets(mode));
+    text += '\n' + figureTable(figureLines(mode, units), palette);
+    return text + '\n' + (mode.deltaUV.value ? noteOnDifference() : "") +
+           (mode.measuredY.value ? noteOnUnit(units.yUnit) : "");
 }
 
 }  // namespace tool

@@ -22,8 +22,8 @@ struct MonitorViewForm {
 [[nodiscard]] std::string monitorView(const lv::MonitorInfo& monitor, const MonitorViewForm& form,
                                       const Palette& palette);
 
-/// One colour mode, a line for each figure.
-[[nodiscard]] std::string modeView(const lv::analysis::ModeFigures& mode, const std::string& yUnit,
+/// One colour mode, a line for each figure: what was aimed at, what was measured, and the difference.
+[[nodiscard]] std::string modeView(const lv::analysis::ModeFigures& mode, const lv::analysis::KnownUnits& units,
                                    const Palette& palette);
 
 }  // namespace tool

@@ -129,6 +129,10 @@ std::size_t processorCount() {
     return std::max(1U, std::thread::hardware_concurrency());
 }
 
+std::size_t jobsOf(const BatchOptions& options) {
+    return std::min(options.jobs, processorCount());
+}
+
 void addBatchOptions(CLI::App& command, BatchOptions& options) {
     addInputOptions(command, options.inputs);
     constexpr CountRange range{1, 1024};

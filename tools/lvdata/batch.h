@@ -5,7 +5,6 @@
 #include "InputWalk.h"
 #include "Output.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -29,6 +28,9 @@ struct BatchOptions {
 /// must outlive the command. Uses the command's `parse_complete_callback`.
 void addBatchOptions(CLI::App& command, BatchOptions& options);
 
+/// How many threads there are for that: not more than processors.
+[[nodiscard]] std::size_t jobsOf(const BatchOptions& options);
+
 /// Brings the result of one input to its user, and tells what it amounts to.
 using Delivery = std::function<ExitStatus()>;
 
@@ -51,8 +53,7 @@ ExitStatus runBatch(const InputOptions& inputs, std::size_t jobs, Output& output
 /// standard error where that is a terminal.
 template <class Work, class Deliver>
 ExitStatus forEachInput(const BatchOptions& options, Output& output, const Work& work, const Deliver& deliver) {
-    const std::size_t jobs = std::min(options.jobs, processorCount());
-    return runBatch(options.inputs, jobs, output, [&work, &deliver](const Input& input) -> Delivery {
+    return runBatch(options.inputs, jobsOf(options), output, [&work, &deliver](const Input& input) -> Delivery {
         using Result = std::decay_t<decltype(work(input))>;
         return [&deliver, result = std::make_shared<Result>(work(input))] {
             return deliver(std::move(*result));

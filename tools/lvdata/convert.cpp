@@ -9,6 +9,7 @@
 #include "files.h"
 #include "limit_options.h"
 #include "losses.h"
+#include "output_option.h"
 
 #include <filesystem>
 #include <memory>
@@ -149,9 +150,7 @@ void addOptions(CLI::App& command, Options& options) {
     addChoiceOption<std::optional<Table>>(command, "--table", conversion.table, tableChoices(),
                                           "Rows of a table, for csv and jsonl");
     command.add_flag("--compact", conversion.isCompact, "Omit indentation and line breaks");
-    command.add_option("-o,--output", options.output, "Write to FILE instead of standard output")
-        ->type_name("FILE")
-        ->check([](const std::string& name) { return name.empty() ? std::string("is empty") : std::string(); });
+    addOutputOption(command, options.output);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "files.h"
 #include "limit_options.h"
 #include "losses.h"
+#include "output_option.h"
 
 #include <lvdata/analysis/check/check.h>
 
@@ -93,9 +94,7 @@ Subcommand addFormat(CLI::App& application) {
     CLI::App* const command = application.add_subcommand("format", "Print a record in canonical form");
     const auto options = std::make_shared<FormatOptions>();
     addLayoutOptions(*command, *options);
-    command->add_option("-o,--output", options->output, "Write to FILE instead of standard output")
-        ->type_name("FILE")
-        ->check(complaintIfEmpty);
+    addOutputOption(*command, options->output);
     command->add_flag("--lossy", options->lossy,
                       "Accept that something of the document is dropped or changed, also when FILE is overwritten");
     command->add_option("FILE", options->input, "XML document with a record as root element; - for standard input")

@@ -4,6 +4,7 @@
 #include "Failure.h"
 #include "Output.h"
 #include "files.h"
+#include "output_option.h"
 
 #include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/schemas/json_schema.h>
@@ -36,10 +37,6 @@ ExitStatus printSchema(const SchemaOptions& options) {
     return ExitStatus::done;
 }
 
-std::string complaintIfEmpty(const std::string& name) {
-    return name.empty() ? "is empty" : "";
-}
-
 }  // namespace
 
 Subcommand addSchema(CLI::App& application) {
@@ -47,9 +44,7 @@ Subcommand addSchema(CLI::App& application) {
     const auto options = std::make_shared<SchemaOptions>();
     CLI::Option* const forXML = command->add_flag("--xsd", options->isXSD, "XML Schema of the XML form");
     command->add_flag("--json-schema", options->isJSONSchema, "JSON Schema of the JSON form")->excludes(forXML);
-    command->add_option("-o,--output", options->output, "Write to FILE instead of standard output")
-        ->type_name("FILE")
-        ->check(complaintIfEmpty);
+    addOutputOption(*command, options->output);
     command->add_option("ROOT", options->root, "Root element of the documents, such as MonitorInfo")
         ->type_name("")
         ->required();

@@ -5,6 +5,8 @@
 #include "diff.h"
 #include "explain.h"
 #include "format.h"
+#include "plot.h"
+#include "report.h"
 #include "schema.h"
 #include "show.h"
 
@@ -18,6 +20,8 @@ std::vector<SubcommandAdder> everySubcommand() {
         addFormat,   //
         addSchema,   //
         addShow,     //
+        addReport,   //
+        addPlot,     //
         addExplain,  //
     };
 }

@@ -1,0 +1,351 @@
+#include "MonitorTest.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+using Report = MonitorTest;
+
+/// How many times one text is in another.
+std::size_t count(const std::string& text, const std::string& part) {
+    std::size_t found = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+        ++found;
+    }
+    return found;
+}
+
+// One page.
+
+TEST_F(Report, IsAPageOfOneMonitor) {
+    const std::string page = made({"report", studio});
+    EXPECT_EQ(page.rfind("<!DOCTYPE html>", 0), 0U);
+    EXPECT_TRUE(has(page, "<title>Studio wall"));
+    EXPECT_TRUE(has(page, "27W-000417"));
+    EXPECT_EQ(count(page, "<html"), 1U);
+}
+
+TEST_F(Report, ReadsStandardInputAndPipes) {
+    write("in.xml", monitor());
+    EXPECT_TRUE(has(made({"report", "-"}, {monitor()}), "<title>Wall"));
+    EXPECT_TRUE(has(runBash("lvdata report <(cat in.xml)").output, "<title>Wall"));
+    EXPECT_TRUE(has(runBash("lvdata report - < in.xml").output, "<title>Wall"));
+}
+
+TEST_F(Report, HasTheHeadingAndTheDateThatAreAskedFor) {
+    EXPECT_FALSE(has(made({"report", studio}), "Spring"));
+    EXPECT_TRUE(has(made({"report", studio, "--title", "Spring <1>"}), "<title>Spring &lt;1&gt;"));
+    EXPECT_TRUE(has(made({"report", studio, "--date", "1 May"}), "1 May"));
+    EXPECT_TRUE(made({"report", studio, "--date", ""}) == made({"report", studio}));
+}
+
+TEST_F(Report, HasTheDayOfTodayWhenAskedFor) {
+    write("in.xml", monitor());
+    const std::string command = "lvdata report --date now in.xml";
+    EXPECT_TRUE(has(runBash("SOURCE_DATE_EPOCH=951782400 " + command).output, "2000-02-29"));
+    EXPECT_THAT(runBash("export TZ=UTC0; before=$(date +%F); page=$(" + command +
+                        "); [[ $page == *$before* || $page == *$(date +%F)* ]] && echo yes")
+                    .output,
+                "yes\n");
+    for (const std::string time : {"x", "-1", "1x", "253402300800", "99999999999999999999"}) {
+        const Outcome outcome = runBash("SOURCE_DATE_EPOCH=" + time + ' ' + command);
+        EXPECT_EQ(outcome, failed("lvdata: error: SOURCE_DATE_EPOCH is not a number of seconds: '" + time + "'"));
+    }
+}
+
+TEST_F(Report, TellsOfOneModeOnRequest) {
+    const std::string all = made({"report", studio});
+    const std::string one = made({"report", studio, "--mode", "3"});
+    EXPECT_GT(count(all, "data-key=\"white_delta_uv\""), count(one, "data-key=\"white_delta_uv\""));
+    EXPECT_TRUE(has(one, "Proof"));
+    EXPECT_EQ(run({"report", studio, "--mode", "9"}),
+              failed(studio + ": error: no colour mode has the index 9; there are 0, 1, 2, 3, 4"));
+    EXPECT_EQ(run({"report", studio, "--mode", "x"}).exitCode, 2);
+}
+
+TEST_F(Report, HasTheUnitsThatItsUserKnows) {
+    EXPECT_FALSE(has(made({"report", studio}), "my unit"));
+    EXPECT_TRUE(has(made({"report", studio, "--y-unit", "my unit"}), "my unit"));
+    EXPECT_TRUE(has(made({"report", studio, "--map-unit", "my unit"}), "my unit"));
+    EXPECT_TRUE(made({"report", studio, "--grid", "5"}) != made({"report", studio}));
+}
+
+TEST_F(Report, IsJudgedByTheLimitsThatAreAskedFor) {
+    const std::string page = made({"report", studio});
+    EXPECT_TRUE(made({"report", studio, "--limits", "default"}) == page);
+    EXPECT_TRUE(made({"report", studio, "--limits", "iso14861"}) != page);
+    EXPECT_EQ(run({"report", studio, "--limits", "missing"}).exitCode, 2);
+    EXPECT_THAT(run({"report", studio, "--limits", "missing"}).error,
+                StartsWith("missing: error: there is no such file, and no limits of that name; known are default, "));
+    fs::create_directory(path("folder"));
+    EXPECT_EQ(run({"report", studio, "--limits", "folder"}), failed("folder: error: Is a directory"));
+    EXPECT_EQ(run({"report", studio, "--limits", "/dev/zero"}),
+              failed("/dev/zero: error: more than 1000000 bytes, which no limits need"));
+}
+
+TEST_F(Report, FailsOnLimitsOnRequest) {
+    const std::string figure =
+        R"({"name": "own", "title": "Own", "notice": "", "limits": [{"figure": "white_delta_uv", "maximum": )";
+    write("strict.json", figure + "0}]}");
+    write("lax.json", figure + "1}]}");
+    EXPECT_EQ(run({"report", studio, "--limits", "strict.json", "-o", "out.html"}), done());
+    EXPECT_EQ(run({"report", studio, "--limits", "strict.json", "-o", "out.html", "--fail-on-limits"}).exitCode, 1);
+    EXPECT_EQ(run({"report", studio, "--limits", "lax.json", "-o", "out.html", "--fail-on-limits"}), done());
+    EXPECT_EQ(run({"report", studio, "--limits", "strict.json", "-o", "out/", "--fail-on-limits"}).exitCode, 1);
+    EXPECT_EQ(run({"report", studio, "--limits", "lax.json", "-o", "out/", "--fail-on-limits"}), done());
+}
+
+TEST_F(Report, SaysWhatIsWrongWithAFileOfLimits) {
+    write("limits.json", "{\n\"name\": 1\n}");
+    const Outcome outcome = run({"report", studio, "--limits", "limits.json", "-o", "out.html"});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_THAT(outcome.error, StartsWith("limits.json: error: line 2: "));
+    EXPECT_EQ(names(), std::vector<std::string>{"limits.json"});
+}
+
+TEST_F(Report, IsTheSameEachTime) {
+    for (const std::string jobs : {"1", "2"}) {
+        EXPECT_TRUE(made({"report", studio, "--jobs", jobs}) == made({"report", studio}));
+    }
+}
+
+// Several documents of one monitor.
+
+TEST_F(Report, HasTheHistoryOfOneMonitor) {
+    write("new.xml", monitor({"Wall", "1", "u-1", "2024-05-02T09:31:00"}));
+    write("old.xml", monitor({"Attic", "1", "u-1", "2023-04-01T09:31:00"}));
+    const std::string page = made({"report", "new.xml", "old.xml"});
+    for (const std::string text : {"<title>Wall", "old.xml", "new.xml", "2023-04-01"}) {
+        EXPECT_TRUE(has(page, text)) << text;
+    }
+    EXPECT_TRUE(made({"report", "old.xml", "new.xml"}) == page);
+    EXPECT_TRUE(made({"report", "."}).size() == made({"report", "./new.xml", "./old.xml"}).size());
+}
+
+TEST_F(Report, KnowsAMonitorByItsSerialNumberAndModel) {
+    const std::string modes = "<ColorModeSettings Version='2' MinorVersion='0'/>";
+    const auto configuration = [&](const std::string& serial) {
+        return "<MonitorConfiguration Version='2' MinorVersion='0'><Model>M</Model><Serial>" + serial + "</Serial>" +
+               modes + "</MonitorConfiguration>";
+    };
+    write("a.xml", configuration("1"));
+    write("b.xml", configuration("1"));
+    write("c.xml", configuration("2"));
+    EXPECT_TRUE(has(made({"report", "a.xml", "b.xml"}), "</html>"));
+    EXPECT_EQ(run({"report", "a.xml", "b.xml", "c.xml"}).exitCode, 2);
+}
+
+TEST_F(Report, HasOneMonitorInAFile) {
+    write("a.xml", monitor({"Wall", "1", "u-1"}));
+    write("b.xml", monitor({"Wall", "1", "u-2"}));
+    const std::string message = "b.xml: error: is of another monitor than the documents before it; with -o FOLDER/ "
+                                "there is a page for each monitor";
+    EXPECT_EQ(run({"report", "a.xml", "b.xml"}), failed(message));
+    EXPECT_EQ(run({"report", "a.xml", "b.xml", "-o", "out.html"}), failed(message));
+    EXPECT_EQ(names(), (Arguments{"a.xml", "b.xml"}));
+    write("a.xml", "<ColorModeSettings/>");
+    EXPECT_EQ(run({"report", "a.xml", "a.xml"}).exitCode, 2);  // it does not say of which monitor
+}
+
+// Documents that are none of a monitor.
+
+TEST_F(Report, RefusesWhatIsNotOfAMonitor) {
+    write("asset.xml", "<AssetInfo/>");
+    write("bad.xml", "<MonitorInfo>\n</MonitorConfiguration>");
+    EXPECT_EQ(run({"report", "asset.xml", "-o", "out.html"}),
+              failed("asset.xml: error: a document of AssetInfo is not of a monitor"));
+    EXPECT_THAT(run({"report", "bad.xml"}).error, StartsWith("bad.xml: error: line 2: "));
+    EXPECT_EQ(run({"report", "none.xml"}), failed("none.xml: error: No such file or directory"));
+    EXPECT_EQ(run({"report", "--max-size", "4", "bad.xml"}),
+              failed("bad.xml: error: more than 4 bytes (limit: --max-size)"));
+    EXPECT_EQ(names(), (Arguments{"asset.xml", "bad.xml"}));
+}
+
+TEST_F(Report, GoesOnAfterABadDocument) {
+    write("asset.xml", "<AssetInfo/>");
+    write("in.xml", monitor());
+    const Outcome outcome = run({"report", "asset.xml", "none.xml", "in.xml", "-o", "out/"});
+    EXPECT_EQ(outcome, (Outcome{2, "",
+                                "asset.xml: error: a document of AssetInfo is not of a monitor\n"
+                                "none.xml: error: No such file or directory\n"}));
+    EXPECT_THAT(namesIn("out"), ElementsAre("Wall-1.html", "index.html"));
+}
+
+TEST_F(Report, MakesAPageOfEveryRecordOfAMonitor) {
+    for (const std::string root :
+         {"MonitorInfo", "MonitorConfiguration", "ColorModeSettings", "CalibrationModeResult", "CandelaMap"}) {
+        EXPECT_TRUE(has(made({"report", "-"}, {'<' + root + "/>"}), "</html>")) << root;
+    }
+}
+
+// Output files.
+
+TEST_F(Report, WritesIntoAFile) {
+    EXPECT_EQ(run({"report", studio, "-o", "out.html"}), done());
+    EXPECT_EQ(read("out.html"), made({"report", studio}));
+    EXPECT_EQ(run({"report", studio, "-o", "-"}).output, read("out.html"));
+    EXPECT_EQ(names(), Arguments{"out.html"});
+    EXPECT_EQ(run({"report", studio}, {"", "/dev/full"}), failed("<stdout>: error: No space left on device"));
+    EXPECT_EQ(run({"report", studio, "-o", "no/out.html"}), failed("no/out.html: error: No such file or directory"));
+    EXPECT_EQ(run({"report", studio, "-o", ""}).exitCode, 2);
+}
+
+TEST_F(Report, DoesNotOverwriteAnInput) {
+    const std::string message = ": error: not overwritten, since it is one of the inputs";
+    write("in.xml", monitor());
+    fs::create_symlink("in.xml", path("link.xml"));
+    write("bad.xml", "<AssetInfo/>");
+    EXPECT_EQ(run({"report", "in.xml", "-o", "in.xml"}), failed("in.xml" + message));
+    EXPECT_EQ(run({"report", "./in.xml", "-o", "link.xml"}), failed("link.xml" + message));
+    EXPECT_THAT(run({"report", "in.xml", "bad.xml", "-o", "bad.xml"}).error, HasSubstr("bad.xml" + message));
+    EXPECT_EQ(runBash("lvdata report - -o in.xml < in.xml"), failed("in.xml" + message));
+    EXPECT_EQ(read("in.xml"), monitor());
+    EXPECT_EQ(read("bad.xml"), "<AssetInfo/>");
+    fs::create_directory(path("out"));
+    write("out/index.html", monitor());
+    EXPECT_EQ(run({"report", "out/index.html", "-o", "out"}), failed("out/index.html" + message));
+    EXPECT_EQ(read("out/index.html"), monitor());
+}
+
+TEST_F(Report, LeavesTheFileWhenItFails) {
+    write("out.html", "before");
+    EXPECT_EQ(run({"report", "none.xml", "-o", "out.html"}).exitCode, 2);
+    EXPECT_EQ(run({"report", studio, "--mode", "9", "-o", "out.html"}).exitCode, 2);
+    EXPECT_EQ(read("out.html"), "before");
+    EXPECT_EQ(names(), Arguments{"out.html"});
+}
+
+// Folders.
+
+class ReportFolder : public MonitorTest {
+protected:
+    ReportFolder() {
+        fs::create_directory(path("in"));
+        write("in/a.xml", monitor({"Wall", "1", "u-1"}));
+        write("in/b.xml", monitor({"Desk", "2", "u-2"}));
+        write("in/c.xml", monitor({"Wall", "1", "u-1", "2023-05-02"}));
+    }
+
+    /// The bytes of all pages.
+    [[nodiscard]] std::string contentsOf(const std::string& folder) const {
+        std::string all;
+        for (const std::string& name : namesIn(folder)) {
+            all += name + '\n' + read(folder + '/' + name);
+        }
+        return all;
+    }
+};
+
+TEST_F(ReportFolder, HasAPageForEachMonitorAndATable) {
+    EXPECT_EQ(run({"report", "in", "-o", "out/"}), done());
+    EXPECT_THAT(namesIn("out"), ElementsAre("Desk-2.html", "Wall-1.html", "index.html"));
+    const std::string index = read("out/index.html");
+    EXPECT_TRUE(has(index, "Desk-2.html"));
+    EXPECT_TRUE(has(index, "Wall-1.html"));
+    EXPECT_LT(index.find("Desk-2.html"), index.find("Wall-1.html"));
+    const std::string page = read("out/Wall-1.html");
+    EXPECT_TRUE(has(page, "in/a.xml"));
+    EXPECT_TRUE(has(page, "in/c.xml"));
+    EXPECT_FALSE(has(page, "in/b.xml"));
+}
+
+TEST_F(ReportFolder, GivesTheHeadingToTheTable) {
+    EXPECT_EQ(run({"report", "in", "-o", "out/", "--title", "Spring"}), done());
+    EXPECT_TRUE(has(read("out/index.html"), "<title>Spring"));
+    EXPECT_TRUE(has(read("out/Wall-1.html"), "<title>Wall"));
+}
+
+TEST_F(ReportFolder, IsMadeAgainInTheSamePlace) {
+    fs::create_directory(path("out"));
+    EXPECT_EQ(run({"report", "in", "-o", "out", "--jobs", "1"}), done());
+    const std::string before = contentsOf("out");
+    EXPECT_EQ(run({"report", "in", "-o", "out", "--jobs", "2"}), done());
+    EXPECT_EQ(contentsOf("out"), before);
+    EXPECT_EQ(run({"report", "in/c.xml", "in/b.xml", "in/a.xml", "-o", "other/"}), done());
+    EXPECT_EQ(contentsOf("other"), before);
+}
+
+TEST_F(ReportFolder, KeepsFilesOfOthers) {
+    fs::create_directory(path("out"));
+    write("out/Wall-1.html", "mine");
+    EXPECT_EQ(run({"report", "in", "-o", "out"}),
+              failed("out/Wall-1.html: error: not overwritten, since it is not a page that lvdata made"));
+    EXPECT_EQ(read("out/Wall-1.html"), "mine");
+    EXPECT_EQ(fs::exists(path("out/index.html")), false);
+}
+
+TEST_F(ReportFolder, IsNotMadeForNothing) {
+    EXPECT_EQ(run({"report", "none.xml", "-o", "out/"}), failed("none.xml: error: No such file or directory"));
+    EXPECT_EQ(names(), Arguments{"in"});
+}
+
+TEST_F(ReportFolder, LeavesOutAMonitorWithoutTheMode) {
+    write("in/b.xml", "<MonitorInfo><UUID>u-2</UUID></MonitorInfo>");
+    EXPECT_EQ(run({"report", "in", "-o", "out/", "--mode", "2"}),
+              failed("in/b.xml: error: no colour mode has the index 2; there are none"));
+    EXPECT_THAT(namesIn("out"), ElementsAre("Wall-1.html", "index.html"));
+    EXPECT_FALSE(has(read("out/index.html"), "u-2"));
+}
+
+TEST_F(ReportFolder, TakesListsOfDocuments) {
+    EXPECT_EQ(runBash("find in -name '*.xml' | sort | lvdata report --files-from - -o out/"), done());
+    EXPECT_EQ(run({"report", "in", "-o", "other/"}), done());
+    EXPECT_EQ(contentsOf("out"), contentsOf("other"));
+}
+
+TEST_F(ReportFolder, KeepsStandardInputForTheSecondReading) {
+    EXPECT_EQ(run({"report", "-", "in/b.xml", "-o", "out/"}, {monitor({"Stream", "9", "u-9"})}), done());
+    EXPECT_THAT(namesIn("out"), ElementsAre("Desk-2.html", "Stream-9.html", "index.html"));
+}
+
+TEST_F(ReportFolder, SaysWhenItCannotBeMade) {
+    EXPECT_EQ(run({"report", "in", "-o", "in/a.xml/"}), failed("in/a.xml/: error: it is not a folder"));
+    const Outcome outcome = run({"report", "in", "-o", "/proc/none/"});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_THAT(outcome.error, StartsWith("/proc/none/: error: "));
+}
+
+// Names of pages.
+
+/// The names that the pages of monitors with these names and serial numbers have.
+class PageNames : public MonitorTest {
+protected:
+    std::vector<std::string> pagesOf(const std::vector<MonitorText>& monitors) const {
+        std::vector<std::string> arguments{"report", "-o", "out/"};
+        for (std::size_t index = 0; index < monitors.size(); ++index) {
+            const std::string name = std::to_string(index) + ".xml";
+            write(name, monitor(monitors[index]));
+            arguments.push_back(name);
+        }
+        EXPECT_EQ(run(arguments), done());
+        std::vector<std::string> pages = namesIn("out");
+        pages.erase(std::remove(pages.begin(), pages.end(), "index.html"), pages.end());
+        fs::remove_all(path("out"));
+        return pages;
+    }
+};
+
+TEST_F(PageNames, HaveLettersAndDigitsOnly) {
+    EXPECT_THAT(pagesOf({{"../../etc/passwd", "..", "u"}}), ElementsAre("etc-passwd.html"));
+    EXPECT_THAT(pagesOf({{"B\xC3\xBCro &lt;b&gt; &amp;\n", "-o", "u"}}), ElementsAre("B-ro-b-o.html"));
+    EXPECT_THAT(pagesOf({{"/", ".", "u-7"}}), ElementsAre("u-7.html"));
+    EXPECT_THAT(pagesOf({{"", "", "..."}}), ElementsAre("monitor.html"));
+    EXPECT_THAT(pagesOf({{std::string(10000, 'x'), std::string(10000, 'y'), "u"}}),
+                ElementsAre(std::string(60, 'x') + '-' + std::string(60, 'y') + ".html"));
+}
+
+TEST_F(PageNames, AreDifferent) {
+    EXPECT_THAT(pagesOf({{"A", "1", "u-1"}, {"A", "1", "u-2"}}), ElementsAre("A-1-u-1.html", "A-1-u-2.html"));
+    EXPECT_THAT(pagesOf({{"A", "1", "u-1"}, {"a", "1", "u-2"}}), ElementsAre("A-1-u-1.html", "a-1-u-2.html"));
+    EXPECT_THAT(pagesOf({{"A", "1", "u 1"}, {"A", "1", "u+1"}, {"A", "1", "u-1-2"}}),
+                ElementsAre("A-1-u-1-2-2.html", "A-1-u-1-2.html", "A-1-u-1.html"));
+}
+
+TEST_F(PageNames, LeaveTheIndexItsName) {
+    EXPECT_THAT(pagesOf({{"Index", "", "u-1"}}), ElementsAre("Index-2.html"));
+}
+
+}  // namespace

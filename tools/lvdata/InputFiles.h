@@ -1,0 +1,29 @@
+#pragma once
+
+#include <mutex>
+#include <set>
+#include <string>
+#include <utility>
+
+#include <sys/types.h>
+
+namespace tool {
+
+/// The files that a command reads, whatever they are called, so that it does not write over them. Any number of threads
+/// may use one.
+class InputFiles {
+public:
+    /// \param file  as `readInput` takes it
+    void add(const std::string& file);
+
+    /// Throws `Failure` when the file of that name is one of them.
+    void refuseToOverwrite(const std::string& file) const;
+
+private:
+    using Identity = std::pair<dev_t, ino_t>;
+
+    mutable std::mutex mutex_;
+    std::set<Identity> files_;
+};
+
+}  // namespace tool

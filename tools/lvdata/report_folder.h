@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ExitStatus.h"
+#include "Fleet.h"
+#include "InputFiles.h"
+#include "PageMaker.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace tool {
+
+/// Where a report of several monitors goes.
+struct ReportFolder {
+    std::string folder;             // is made when it is not there
+    lv::analysis::ReportForm form;  // of the page with the table
+    std::size_t jobs = 1;           // pages that are made at a time
+    bool failsOnLimits = false;     // whether a figure beyond its limit is `found`
+};
+
+/// Writes a page for each monitor and then "index.html" with the table of all. A monitor whose page cannot be made is
+/// left out, with a message; the status is then `failed`. Throws `Failure` when a page cannot be written.
+ExitStatus writeReportFolder(const ReportFolder& report, const std::vector<MonitorDocuments>& monitors,
+                             const PageMaker& maker, const InputFiles& inputs);
+
+}  // namespace tool
