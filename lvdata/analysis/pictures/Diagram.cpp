@@ -121,8 +121,7 @@ void addPlanckianLocus(Diagram& diagram) {
     for (double kelvin = 1500; kelvin <= 25000; kelvin *= 1.1) {
         add(points, colour::planckian(kelvin), diagram.plane);
     }
-    svg::addPolyline(diagram.svg, diagram.panel.inside(points),
-                     {"lv-planck", "Planckian locus, 1500 K to 25,000 K"});
+    svg::addPolyline(diagram.svg, diagram.panel.inside(points), {"lv-planck", "Planckian locus, 1500 K to 25,000 K"});
     diagram.legend.push_back({"Planckian locus", "lv-planck", "", std::nullopt});
 }
 

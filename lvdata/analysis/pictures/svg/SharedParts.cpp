@@ -14,7 +14,8 @@ std::string SharedParts::definitions() const {
     // Not display:none, which would switch off its gradients.
     return definitions_.empty() ? ""
                                 : "<svg class=\"lv-picture lv-parts\" width=\"0\" height=\"0\" aria-hidden=\"true\">\n"
-                                  "<defs>\n" + definitions_ + "</defs>\n</svg>\n";
+                                  "<defs>\n" +
+                                      definitions_ + "</defs>\n</svg>\n";
 }
 
 }  // namespace lv::analysis::svg

@@ -33,7 +33,8 @@ std::vector<Snapshot> snapshotsOf(const std::vector<ReportedDocument>& documents
 }
 
 View pictureOf(const HistorySeries& series, const JudgedLine& judged, const ReportedMode& mode) {
-    return View::Members{{"picture_history", historyPicture(series, judged.limit, mode.formOf("history-" + judged.line.key))}};
+    return View::Members{
+        {"picture_history", historyPicture(series, judged.limit, mode.formOf("history-" + judged.line.key))}};
 }
 
 View rowOf(const std::vector<HistorySeries>& all, std::size_t point) {
