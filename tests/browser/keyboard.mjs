@@ -37,9 +37,9 @@ async function expectValues(page, expect) {
 }
 
 async function expectPointer(page, expect) {
-  const figure = page.locator(".picture:has(output):has(rect > title):visible").first();
+  const figure = page.locator(".picture:has(output):has(path > title):visible").first();
   await figure.scrollIntoViewIfNeeded();
-  const value = figure.locator("rect:has(> title)").last();
+  const value = figure.locator("path:has(> title)").last();
   await value.dispatchEvent("pointerover");
   const text = await value.locator("title").textContent();
   expect(await figure.locator("output").textContent() === text, "pointing at a value does not show it");

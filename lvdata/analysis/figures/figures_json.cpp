@@ -13,7 +13,9 @@ namespace {
 /// Writes keys with their values. Texts are made UTF-8, so the result always is.
 class Writer {
 public:
-    explicit Writer(std::string& out) : json_(out, {true, false}) {}
+    Writer(std::string& out, FiguresExtent extent) : json_(out, {true, false}), extent_(extent) {}
+
+    [[nodiscard]] bool hasAll() const { return extent_ == FiguresExtent::all; }
 
     void text(std::string_view key, std::string_view value) {
         json_.key(key);
@@ -69,8 +71,10 @@ public:
     }
 
     void nothing(std::string_view key) {
-        json_.key(key);
-        json_.null();
+        if (hasAll()) {
+            json_.key(key);
+            json_.null();
+        }
     }
 
     template <class Write>
@@ -108,6 +112,7 @@ public:
 
 private:
     JSONWriter json_;
+    FiguresExtent extent_;
 };
 
 void writeLines(Writer& json, const std::vector<FigureLine>& lines) {
@@ -182,6 +187,10 @@ void writePatches(Writer& json, const SeriesFigures& series) {
 void writeMode(Writer& json, const ModeFigures& mode, const KnownUnits& known) {
     json.text("index", mode.index);
     json.text("name", mode.name);
+    if (!json.hasAll()) {
+        writeLines(json, figureLines(mode, known));
+        return;
+    }
     json.text("type", mode.type);
     json.text("calibrated_time", mode.calibratedTime);
     writeTarget(json, mode);
@@ -198,10 +207,12 @@ void writeMode(Writer& json, const ModeFigures& mode, const KnownUnits& known) {
 
 void writeMap(Writer& json, const MapFigures& map) {
     json.object(snakeCase(map.name), [&] {
-        json.text("updated_at", map.updatedAt);
-        json.count("grid_width", map.gridWidth);
-        json.numbers("values", map.values, digits::mapEntry);
-        json.numbers("against_centre", map.againstCentre, digits::againstCentre);
+        if (json.hasAll()) {
+            json.text("updated_at", map.updatedAt);
+            json.count("grid_width", map.gridWidth);
+            json.numbers("values", map.values, digits::mapEntry);
+            json.numbers("against_centre", map.againstCentre, digits::againstCentre);
+        }
         writeLines(json, figureLines(map));
     });
 }
@@ -216,9 +227,9 @@ void writeIdentity(Writer& json, const MonitorFigures& monitor) {
 
 }  // namespace
 
-std::string figuresJSON(const MonitorFigures& monitor) {
+std::string figuresJSON(const MonitorFigures& monitor, FiguresExtent extent) {
     std::string text;
-    Writer json(text);
+    Writer json(text, extent);
     json.object([&] {
         json.object("monitor", [&] { writeIdentity(json, monitor); });
         json.textOrNull("y_unit", monitor.known.yUnit);

@@ -32,16 +32,21 @@ struct Wash {
     Chromaticity opposite;
 };
 
-/// A faint fill with the colours of the diagram, roughly.
-void addWash(Diagram& diagram, const std::vector<Point>& locus) {
+/// The id of something in the background of one of the two diagrams.
+std::string idOf(const Diagram& diagram, std::string_view part) {
+    return diagram.picture.idOf(diagram.plane == colour::Plane::xy ? "xy-" : "uv-") + std::string(part);
+}
+
+/// A faint fill with the colours of the diagram, roughly, of the shape with the id.
+void addWash(Diagram& diagram, const std::string& shape) {
     constexpr std::array<Wash, 3> washes{{{"red", {0.70, 0.29}, {0.12, 0.44}},
                                           {"green", {0.14, 0.80}, {0.43, 0.17}},
                                           {"blue", {0.16, 0.02}, {0.38, 0.56}}}};
-    svg::SVGWriter& svg = diagram.picture.svg();
+    svg::SVGWriter& svg = diagram.svg;
     for (const Wash& wash : washes) {
         const Point from = diagram.panel.at(placeOf(wash.corner, diagram.plane).value_or(Point{}));
         const Point to = diagram.panel.at(placeOf(wash.opposite, diagram.plane).value_or(Point{}));
-        const std::string id = diagram.picture.idOf(wash.name);
+        const std::string id = idOf(diagram, wash.name);
         const std::string stop = "lv-wash-" + std::string(wash.name);
         svg.open("linearGradient", {{"id", id},
                                     {"gradientUnits", "userSpaceOnUse"},
@@ -52,9 +57,7 @@ void addWash(Diagram& diagram, const std::vector<Point>& locus) {
         svg.empty("stop", {{"class", stop}, {"offset", "0"}, {"stop-opacity", "0.3"}});
         svg.empty("stop", {{"class", stop}, {"offset", "1"}, {"stop-opacity", "0"}});
         svg.close();
-        svg.open("g", {{"fill", "url(#" + id + ")"}});
-        svg::addPolygon(svg, locus, {});
-        svg.close();
+        svg.empty("use", {{"href", '#' + shape}, {"fill", "url(#" + id + ")"}});
     }
 }
 
@@ -97,13 +100,18 @@ std::optional<Point> placeOf(const Chromaticity& chromaticity, colour::Plane pla
 
 void addSpectrumLocus(Diagram& diagram) {
     const std::vector<Point> locus = diagram.panel.inside(locusOf(diagram.plane));
-    addWash(diagram, locus);
-    svg::addPolygon(diagram.picture.svg(), locus,
-                    {"lv-locus", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
+    const std::string shape = idOf(diagram, "locus");
+    diagram.svg.open("defs");
+    diagram.svg.open("g", {{"id", shape}});
+    svg::addPolygon(diagram.svg, locus, {"", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
+    diagram.svg.close();
+    diagram.svg.close();
+    addWash(diagram, shape);
+    diagram.svg.empty("use", {{"href", '#' + shape}, {"class", "lv-locus"}});
     for (std::size_t index = 1; index + 1 < locus.size(); ++index) {
         const int wavelength = colour::spectrumLocus()[index].wavelength;
         if (wavelength >= 460 && wavelength <= 620 && wavelength % 20 == 0) {
-            addWavelength(diagram.picture.svg(), locus, index);
+            addWavelength(diagram.svg, locus, index);
         }
     }
 }
@@ -113,8 +121,7 @@ void addPlanckianLocus(Diagram& diagram) {
     for (double kelvin = 1500; kelvin <= 25000; kelvin *= 1.1) {
         add(points, colour::planckian(kelvin), diagram.plane);
     }
-    svg::addPolyline(diagram.picture.svg(), diagram.panel.inside(points),
-                     {"lv-planck", "Planckian locus, 1500 K to 25,000 K"});
+    svg::addPolyline(diagram.svg, diagram.panel.inside(points), {"lv-planck", "Planckian locus, 1500 K to 25,000 K"});
     diagram.legend.push_back({"Planckian locus", "lv-planck", "", std::nullopt});
 }
 

@@ -27,6 +27,7 @@ struct PlaneForm {
 /// A chromaticity diagram under work.
 struct Diagram {
     Picture& picture;                        ///< What it is drawn into.
+    svg::SVGWriter& svg;                     ///< What is drawn with: the picture, or its background.
     const svg::Panel& panel;                 ///< Its place.
     colour::Plane plane;                     ///< Which one it is.
     std::vector<svg::LegendEntry> legend{};  ///< What was drawn so far.

@@ -34,22 +34,25 @@ std::vector<std::string> wrapped(const std::string& text, double width) {
 
 }  // namespace
 
-Picture::Picture(const PictureForm& form, double height, const PictureTexts& texts) : id_(form.id) {
+Picture::Picture(const PictureForm& form, double height, const PictureTexts& texts)
+    : svg_(form.shared),
+      id_(form.shared == nullptr ? form.id : "lv") {
     const std::string size = svg::coordinateText(pictureWidth) + ' ' + svg::coordinateText(height);
     svg_.open("svg", {{"xmlns", "http://www.w3.org/2000/svg"},
-                      {"class", "lv-picture " + id_},
+                      {"class", "lv-picture " + form.id},
                       {"role", "img"},
-                      {"aria-labelledby", idOf("title") + ' ' + idOf("desc")},
                       {"viewBox", "0 0 " + size},
                       {"width", pictureWidth},
                       {"height", height}});
     const std::string subtitle = svg::cleaned(texts.subtitle);
-    svg_.text("title", {{"id", idOf("title")}}, texts.title + (subtitle.empty() ? "" : ": " + subtitle));
-    svg_.text("desc", {{"id", idOf("desc")}}, svg::cleaned(texts.description));
+    svg_.text("title", {}, texts.title + (subtitle.empty() ? "" : ": " + subtitle));
+    svg_.text("desc", {}, svg::cleaned(texts.description));
     if (form.hasStyle) {
         svg_.style(pictureStyle());
     }
-    svg_.empty("rect", {{"class", "lv-paper"}, {"width", pictureWidth}, {"height", height}});
+    if (form.shared == nullptr) {
+        svg_.empty("rect", {{"class", "lv-paper"}, {"width", pictureWidth}, {"height", height}});
+    }
     const double width = pictureWidth - 2 * margin;
     const std::string shownTitle = svg::shortened(texts.title, width, titleFontSize);
     svg::addText(svg_, {margin, titleLine}, "lv-title", svg::Anchor::start, shownTitle);

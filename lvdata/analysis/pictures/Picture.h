@@ -42,7 +42,7 @@ public:
 
     [[nodiscard]] svg::SVGWriter& svg() { return svg_; }  ///< What draws into it.
 
-    /// The id of a part, which begins with that of the picture.
+    /// The id of a part, which begins with that of the picture, or is the same in all pictures of a page.
     [[nodiscard]] std::string idOf(std::string_view part) const;
 
     /// Ends the picture, and is what it has become.

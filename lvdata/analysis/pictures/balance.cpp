@@ -10,26 +10,43 @@ constexpr svg::Box box{panelLeft, panelTop, pictureWidth - panelLeft - rightMarg
 constexpr double height = box.top + box.height + 52;
 constexpr double firstTelling = 0.2;  // the signal from which on the balance says something
 
-/// A channel's difference from balance at each step that has one, in per cent.
-StepSeries seriesOf(const ToneFigures& tone, std::size_t channel) {
-    StepSeries series;
+using Values = std::vector<svg::Point>;
+using Channels = std::array<Values, 3>;
+
+/// A channel's difference from balance, in per cent.
+double differenceOf(const ToneStep& step, std::size_t channel) {
+    return 100 * ((*step.balance)[channel] - 1);
+}
+
+/// That of each step that has one.
+Values valuesOf(const ToneFigures& tone, std::size_t channel) {
+    Values values;
     for (const ToneStep& step : tone.steps) {
         if (step.balance) {
-            const double difference = 100 * ((*step.balance)[channel] - 1);
-            series.values.push_back({step.signal, difference});
-            series.titles.push_back("Signal " + percent(step.signal, 1) + ": " +
-                                    std::string(channelLooks[channel].name) + ' ' + svg::valueText(difference, 2) +
-                                    " %");
+            values.push_back({step.signal, differenceOf(step, channel)});
         }
     }
-    return series;
+    return values;
+}
+
+/// "50.2 %: red 0.12 %, green -0.03 %, blue -0.09 %"
+std::vector<HoverText> textsOf(const ToneFigures& tone) {
+    std::vector<HoverText> texts;
+    for (const ToneStep& step : tone.steps) {
+        if (step.balance) {
+            texts.push_back(stepText(step.signal, "red " + svg::valueText(differenceOf(step, 0), 2) + " %, green " +
+                                                      svg::valueText(differenceOf(step, 1), 2) + " %, blue " +
+                                                      svg::valueText(differenceOf(step, 2), 2) + " %"));
+        }
+    }
+    return texts;
 }
 
 /// As far down as up.
-svg::TickedRange rangeOf(const std::array<StepSeries, 3>& channels) {
+svg::TickedRange rangeOf(const Channels& channels) {
     std::vector<svg::Point> values;
-    for (const StepSeries& series : channels) {
-        for (const svg::Point& value : series.values) {
+    for (const Values& channel : channels) {
+        for (const svg::Point& value : channel) {
             values.push_back(value);
             values.push_back({value.x, -value.y});
         }
@@ -53,7 +70,7 @@ std::string descriptionOf(const ToneFigures& tone) {
     return text;
 }
 
-void draw(svg::SVGWriter& svg, const std::array<StepSeries, 3>& channels) {
+void draw(svg::SVGWriter& svg, const Channels& channels) {
     const svg::TickedRange scale = rangeOf(channels);
     const svg::Panel panel(box, {0, 1}, scale.range);
     const svg::Axis vertical{scale.ticks, "Difference from the mean in %", true};
@@ -76,13 +93,14 @@ std::string balancePicture(const ModeFigures& mode, const PictureForm& form) {
     if (mode.tone.steps.empty()) {
         return emptyPicture(form, texts, reasonOf(mode.tone.greatestImbalance, "no grey patches were measured"));
     }
-    const std::array<StepSeries, 3> channels{seriesOf(mode.tone, 0), seriesOf(mode.tone, 1), seriesOf(mode.tone, 2)};
-    if (channels[0].values.empty()) {
+    const Channels channels{valuesOf(mode.tone, 0), valuesOf(mode.tone, 1), valuesOf(mode.tone, 2)};
+    if (channels[0].empty()) {
         return emptyPicture(form, texts,
                             reasonOf(mode.tone.greatestImbalance, "the measured white and primaries are needed"));
     }
     Picture picture(form, height, texts);
     draw(picture.svg(), channels);
+    addHoverColumns(picture.svg(), box, nearestTexts(box, textsOf(mode.tone)));
     return picture.finished();
 }
 

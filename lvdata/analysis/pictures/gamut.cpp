@@ -36,7 +36,7 @@ bool addTriangle(Diagram& diagram, const Corners& corners, const svg::Look& look
         return false;
     }
     const std::vector<Point> part = svg::clipped(points, diagram.panel);
-    svg::addPolygon(diagram.picture.svg(), diagram.panel.inside(part), look);
+    svg::addPolygon(diagram.svg, diagram.panel.inside(part), look);
     return true;
 }
 
@@ -57,7 +57,7 @@ void addPoint(Diagram& diagram, const std::optional<Chromaticity>& chromaticity,
     const auto place = chromaticity ? placeOf(*chromaticity, diagram.plane) : std::nullopt;
     if (place && diagram.panel.holds(*place)) {
         const std::string title = name + ": " + coordinates(*chromaticity, diagram.plane);
-        svg::addSymbol(diagram.picture.svg(), diagram.panel.at(*place), symbol, {classes, title});
+        svg::addSymbol(diagram.svg, diagram.panel.at(*place), symbol, {classes, title});
     }
 }
 
@@ -95,6 +95,26 @@ void addWhites(Diagram& diagram, const ModeFigures& mode) {
         addPoint(diagram, mode.measuredChromaticity, svg::Symbol::cross, "lv-stroke lv-measured", "Measured white");
         diagram.legend.push_back({"Measured white", "", "lv-stroke lv-measured", svg::Symbol::cross});
     }
+}
+
+/// What was drawn last matters most.
+void addLegend(Diagram& diagram, const Point& at) {
+    std::reverse(diagram.legend.begin(), diagram.legend.end());
+    svg::addLegendColumn(diagram.svg, at, pictureWidth - at.x - 8, diagram.legend);
+}
+
+/// All that is the same in each diagram of a plane.
+void addBackground(Picture& picture, const svg::Panel& panel, Plane plane, const Point& legend) {
+    const PlaneForm form = formOf(plane);
+    svg::SVGWriter part;
+    svg::addAxes(part, panel, {svg::ticksOf(form.horizontal, 9), std::string(form.horizontalName)},
+                 {svg::ticksOf(form.vertical, 9), std::string(form.verticalName)});
+    Diagram diagram{picture, part, panel, plane};
+    addSpectrumLocus(diagram);
+    addPlanckianLocus(diagram);
+    addReferenceSpaces(diagram);
+    addLegend(diagram, legend);
+    picture.svg().share(part);
 }
 
 /// "White at x 0.3127, y 0.3290.", or what is not so.
@@ -142,18 +162,13 @@ std::string gamutPicture(const ModeFigures& mode, Plane plane, const PictureForm
                        planeForm.pixels * planeForm.vertical.last};
     Picture picture(form, box.bottom() + 52, texts);
     const svg::Panel panel(box, planeForm.horizontal, planeForm.vertical);
-    svg::addAxes(picture.svg(), panel, {svg::ticksOf(planeForm.horizontal, 9), std::string(planeForm.horizontalName)},
-                 {svg::ticksOf(planeForm.vertical, 9), std::string(planeForm.verticalName)});
-    Diagram diagram{picture, panel, plane};
-    addSpectrumLocus(diagram);
-    addPlanckianLocus(diagram);
-    addReferenceSpaces(diagram);
+    const double left = box.right() + 20;
+    addBackground(picture, panel, plane, {left, box.top + 8 + 4 * 20});
+    Diagram diagram{picture, picture.svg(), panel, plane};
     addTarget(diagram, mode);
     addMeasured(diagram, mode);
     addWhites(diagram, mode);
-    std::reverse(diagram.legend.begin(), diagram.legend.end());  // what matters most was drawn last
-    const double left = box.right() + 20;
-    svg::addLegendColumn(picture.svg(), {left, box.top + 8}, pictureWidth - left - 8, diagram.legend);
+    addLegend(diagram, {left, box.top + 8});
     return picture.finished();
 }
 

@@ -86,7 +86,11 @@ svg::TickedRange rangeOf(const HistorySeries& series, const FigureLimit* limit) 
         extent.add(limit->maximum.value_or(extent.range().first));
     }
     const double leastWidth = 4 * std::pow(10, -std::clamp(series.decimals, 0, 6));
-    return svg::toTicks(svg::widened(extent.range(), 0.08, leastWidth), 6);
+    svg::Range range = svg::widened(extent.range(), 0.08, leastWidth);
+    if (extent.range().first >= 0) {
+        range.first = std::max(range.first, 0.0);  // most figures cannot be negative
+    }
+    return svg::toTicks(range, 6);
 }
 
 /// Where values pass.
@@ -177,7 +181,7 @@ svg::Range rangeOfTimes(const Times& times) {
 }  // namespace
 
 std::string historyPicture(const HistorySeries& series, const FigureLimit* limit, const PictureForm& form) {
-    const PictureTexts texts{svg::quotable(series.label) + " over time", "", descriptionOf(series, limit)};
+    const PictureTexts texts{"Over time: " + svg::quotable(series.label), "", descriptionOf(series, limit)};
     if (std::none_of(series.points.begin(), series.points.end(), hasValue)) {
         const Figure last = series.points.empty() ? Figure() : series.points.back().figure;
         return emptyPicture(form, texts, reasonOf(last, "no document has this figure"));

@@ -1,7 +1,9 @@
+#include <lvdata/analysis/pictures/hover.h>
 #include <lvdata/analysis/pictures/level_lines.h>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lv::analysis {
 namespace {
@@ -51,38 +53,59 @@ std::string nameOf(const PatchFigures& patch) {
     return text;
 }
 
-/// Patches that one bar stands for; its height is the greatest of theirs.
-struct Bar {
-    const PatchFigures* greatest = nullptr;  ///< The patch with the greatest difference; null when none has one.
-    std::string title{};                     ///< For hover.
+/// The first and the last index of patches that stand side by side.
+struct Run {
+    std::size_t first;
+    std::size_t last;
 };
 
-Bar barOf(const std::vector<PatchFigures>& patches, std::size_t first, std::size_t last) {
-    Bar bar;
-    for (std::size_t index = first; index <= last; ++index) {
-        const auto value = differenceOf(patches[index]);
-        if (value && (bar.greatest == nullptr || *value > *differenceOf(*bar.greatest))) {
-            bar.greatest = &patches[index];
-        }
+/// Equally many patches in each run, and at most so many runs.
+std::vector<Run> runsOf(std::size_t patches, std::size_t most) {
+    const std::size_t count = std::min(patches, most);
+    std::vector<Run> runs;
+    for (std::size_t index = 0; index < count; ++index) {
+        runs.push_back({index * patches / count, (index + 1) * patches / count - 1});
     }
-    if (bar.greatest != nullptr) {
-        const std::string value = svg::valueText(*differenceOf(*bar.greatest), 2);
-        bar.title = first == last ? "Patch " + nameOf(*bar.greatest) + ": ΔE00 " + value
-                                  : "Patches " + std::to_string(patches[first].number) + " to " +
-                                        std::to_string(patches[last].number) + ": greatest ΔE00 " + value + ", patch " +
-                                        nameOf(*bar.greatest);
-    }
-    return bar;
+    return runs;
 }
 
-/// As many bars as can be told apart, each of equally many patches.
-std::vector<Bar> barsOf(const std::vector<PatchFigures>& patches) {
-    const std::size_t each = (patches.size() + mostBars - 1) / mostBars;
-    std::vector<Bar> bars;
-    for (std::size_t first = 0; first < patches.size(); first += each) {
-        bars.push_back(barOf(patches, first, std::min(first + each, patches.size()) - 1));
+/// The patch of a run with the greatest difference; null when none has one.
+const PatchFigures* greatestOf(const std::vector<PatchFigures>& patches, const Run& run) {
+    const PatchFigures* greatest = nullptr;
+    for (std::size_t index = run.first; index <= run.last; ++index) {
+        const auto value = differenceOf(patches[index]);
+        if (value && (greatest == nullptr || *value > *differenceOf(*greatest))) {
+            greatest = &patches[index];
+        }
     }
-    return bars;
+    return greatest;
+}
+
+std::string differenceText(const PatchFigures& patch) {
+    const auto value = differenceOf(patch);
+    return value ? svg::valueText(*value, 2) : "n/a";
+}
+
+/// For hover: each difference of a short run, the greatest of a long one.
+std::string textOf(const std::vector<PatchFigures>& patches, const Run& run) {
+    constexpr std::size_t mostListed = 6;
+    const PatchFigures* const greatest = greatestOf(patches, run);
+    if (greatest == nullptr) {
+        return "";
+    }
+    if (run.first == run.last) {
+        return "Patch " + nameOf(*greatest) + ": ΔE00 " + differenceText(*greatest);
+    }
+    std::string text = "Patches " + std::to_string(patches[run.first].number) + " to " +
+                       std::to_string(patches[run.last].number) + ": ";
+    if (run.last - run.first >= mostListed) {
+        return text + "greatest ΔE00 " + differenceText(*greatest) + ", patch " + nameOf(*greatest);
+    }
+    text += "ΔE00";
+    for (std::size_t index = run.first; index <= run.last; ++index) {
+        text += (index == run.first ? " " : ", ") + differenceText(patches[index]);
+    }
+    return text;
 }
 
 svg::TickedRange rangeOf(const SeriesFigures& series, const PatchLimits& limits) {
@@ -97,21 +120,36 @@ svg::TickedRange rangeOf(const SeriesFigures& series, const PatchLimits& limits)
     return svg::toTicks({0, greatest}, 6);
 }
 
-void addBars(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<Bar>& bars, const PatchLimits& limits) {
-    const double step = box.width / static_cast<double>(bars.size());
-    const double width = std::min(step * 0.8, 40.0);
+/// Bars are lines of one path, those above the limit of another.
+void addBars(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<PatchFigures>& patches,
+             const PatchLimits& limits) {
+    const std::vector<Run> runs = runsOf(patches.size(), mostBars);
+    const double step = box.width / static_cast<double>(runs.size());
     const auto allowed = greatestAllowed(limits.maximum);
-    svg.open("g", {{"class", "lv-bar lv-measured"}});
-    for (std::size_t index = 0; index < bars.size(); ++index) {
-        if (bars[index].greatest != nullptr) {
-            const double value = *differenceOf(*bars[index].greatest);
-            const double top = panel.vertical().at(value);
-            const double left = box.left + (static_cast<double>(index) + 0.5) * step - width / 2;
-            const std::string_view classes = allowed && value > *allowed ? "lv-bar lv-over" : "";
-            svg::addBox(svg, {left, top, width, box.bottom() - top}, {classes, bars[index].title});
+    std::string within;
+    std::string over;
+    for (std::size_t index = 0; index < runs.size(); ++index) {
+        if (const PatchFigures* const greatest = greatestOf(patches, runs[index])) {
+            const double value = *differenceOf(*greatest);
+            const std::string x = svg::coordinateText(box.left + (static_cast<double>(index) + 0.5) * step);
+            (allowed && value > *allowed ? over : within) += 'M' + x + ' ' + svg::coordinateText(box.bottom()) + 'V' +
+                                                             svg::coordinateText(panel.vertical().at(value));
         }
     }
-    svg.close();
+    const double width = std::min(step * 0.8, 40.0);
+    for (const auto& [classes, path] : {std::pair("lv-bars lv-measured", within), std::pair("lv-bars lv-over", over)}) {
+        if (!path.empty()) {
+            svg.empty("path", {{"class", classes}, {"stroke-width", width}, {"d", path}});
+        }
+    }
+}
+
+void addHoverTexts(svg::SVGWriter& svg, const std::vector<PatchFigures>& patches) {
+    std::vector<std::string> texts;
+    for (const Run& run : runsOf(patches.size(), hoverColumns(box))) {
+        texts.push_back(textOf(patches, run));
+    }
+    addHoverColumns(svg, box, texts);
 }
 
 /// Ticks at patch numbers; each lies in the middle of its bar.
@@ -169,13 +207,13 @@ std::string patchesPicture(const ModeFigures& mode, const LimitSet* limitSet, co
     if (std::none_of(series.patches.begin(), series.patches.end(), hasValue)) {
         return emptyPicture(form, texts, reasonOf(series.maximum, "no patches were measured"));
     }
-    const std::vector<Bar> bars = barsOf(series.patches);
     Picture picture(form, height, texts);
     const svg::TickedRange scale = rangeOf(series, limits);
     const svg::Panel panel(box, {0, 1}, scale.range);
     svg::addAxes(picture.svg(), panel, {numberTicks(series.patches), "Patch", true}, {scale.ticks, "ΔE00", true});
-    addBars(picture.svg(), panel, bars, limits);
+    addBars(picture.svg(), panel, series.patches, limits);
     addLevelLines(picture.svg(), panel, linesOf(series, limits));
+    addHoverTexts(picture.svg(), series.patches);
     return picture.finished();
 }
 

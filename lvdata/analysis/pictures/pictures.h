@@ -4,6 +4,7 @@
 #include <lvdata/analysis/figures/History.h>
 #include <lvdata/analysis/figures/LimitSet.h>
 #include <lvdata/analysis/figures/MonitorFigures.h>
+#include <lvdata/analysis/pictures/svg/SharedParts.h>
 
 #include <optional>
 #include <string>
@@ -23,6 +24,10 @@ struct PictureForm {
 
     /// Whether the picture brings its own style sheet. A page that holds several brings `pictureStyle()` once.
     bool hasStyle = true;
+
+    /// Where parts go that other pictures of the page have, too; null: the picture is complete. Must outlive the call.
+    /// The page holds `SharedParts::definitions()` and `pictureStyle()`.
+    svg::SharedParts* shared = nullptr;
 };
 
 /// The style sheet that pictures without one need.

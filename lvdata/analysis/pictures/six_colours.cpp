@@ -31,6 +31,21 @@ std::vector<Group> groupsOf(const std::vector<SixColours>& all) {
     return groups;
 }
 
+/// "Hue of the monitor: Red 2, Yellow 0, ..."
+std::string listed(const SixColours& colours) {
+    std::string text = std::string(colours.name) + " of the " + std::string(colours.place) + ':';
+    for (std::size_t colour = 0; colour < colourNames.size(); ++colour) {
+        text += (colour == 0 ? " " : ", ") + std::string(colourNames[colour]) + ' ' +
+                std::to_string(colours.values[colour]);
+    }
+    return text;
+}
+
+double barWidth(const svg::Panel& panel, const Group& group) {
+    const double cell = panel.box().width / static_cast<double>(colourNames.size());
+    return std::min(34.0, cell * 0.8 / static_cast<double>(group.size()));
+}
+
 std::string_view looksOf(const SixColours& colours) {
     return colours.place == "target" ? "lv-open lv-target" : "lv-bar lv-measured";
 }
@@ -47,30 +62,44 @@ svg::TickedRange rangeOf(const std::vector<SixColours>& all) {
     return svg::toTicks(svg::widened(extent.range(), 0.1, 4), 4);
 }
 
-void addBar(svg::SVGWriter& svg, const svg::Panel& panel, double centre, double width, const SixColours& colours,
-            std::size_t colour) {
-    const double value = colours.values[colour];
+double centreOf(const svg::Panel& panel, const Group& group, std::size_t member, std::size_t colour) {
+    const double cell = panel.box().width / static_cast<double>(colourNames.size());
+    const double shift = static_cast<double>(member) - (static_cast<double>(group.size()) - 1) / 2;
+    return panel.box().left + (static_cast<double>(colour) + 0.5) * cell + shift * (barWidth(panel, group) + 4);
+}
+
+/// The bars of one kind from one place, which are one path.
+void addBars(svg::SVGWriter& svg, const svg::Panel& panel, const Group& group, std::size_t member) {
+    const double width = barWidth(panel, group);
     const double zero = panel.vertical().at(0);
-    const double end = panel.vertical().at(value);
-    const svg::Box bar{centre - width / 2, std::min(zero, end), width, std::abs(end - zero)};
-    const std::string text = svg::valueText(value, 0);
-    const std::string title = std::string(colourNames[colour]) + ", " + std::string(colours.name) + " (" +
-                              std::string(colours.place) + "): " + text;
-    svg::addBox(svg, bar, {looksOf(colours), title});
-    const double place = value < 0 ? end + 13 : end - 5;
-    svg::addText(svg, {centre, place}, "lv-value lv-halo", svg::Anchor::middle, text);
+    std::string path;
+    for (std::size_t colour = 0; colour < colourNames.size(); ++colour) {
+        const double end = panel.vertical().at(group[member]->values[colour]);
+        const double left = centreOf(panel, group, member, colour) - width / 2;
+        path += 'M' + svg::coordinateText(left) + ' ' + svg::coordinateText(zero) + 'V' + svg::coordinateText(end) +
+                'h' + svg::coordinateText(width) + 'V' + svg::coordinateText(zero) + 'z';
+    }
+    svg.titled("path", {{"class", looksOf(*group[member])}, {"d", path}}, listed(*group[member]));
+}
+
+void addValues(svg::SVGWriter& svg, const svg::Panel& panel, const Group& group) {
+    svg.open("g", {{"class", "lv-value lv-halo"}, {"text-anchor", "middle"}});
+    for (std::size_t member = 0; member < group.size(); ++member) {
+        for (std::size_t colour = 0; colour < colourNames.size(); ++colour) {
+            const int value = group[member]->values[colour];
+            const double end = panel.vertical().at(value);
+            svg::addText(svg, {centreOf(panel, group, member, colour), value < 0 ? end + 13 : end - 5}, "",
+                         svg::Anchor::start, std::to_string(value));
+        }
+    }
+    svg.close();
 }
 
 void addGroup(svg::SVGWriter& svg, const svg::Panel& panel, const Group& group) {
-    const double cell = panel.box().width / static_cast<double>(colourNames.size());
-    const double width = std::min(34.0, cell * 0.8 / static_cast<double>(group.size()));
-    for (std::size_t colour = 0; colour < colourNames.size(); ++colour) {
-        for (std::size_t member = 0; member < group.size(); ++member) {
-            const double shift = static_cast<double>(member) - (static_cast<double>(group.size()) - 1) / 2;
-            const double centre = panel.box().left + (static_cast<double>(colour) + 0.5) * cell + shift * (width + 4);
-            addBar(svg, panel, centre, width, *group[member], colour);
-        }
+    for (std::size_t member = 0; member < group.size(); ++member) {
+        addBars(svg, panel, group, member);
     }
+    addValues(svg, panel, group);
 }
 
 svg::Axis colourAxis() {
@@ -112,12 +141,7 @@ std::vector<svg::LegendEntry> legendOf(const std::vector<SixColours>& all) {
 std::string descriptionOf(const std::vector<SixColours>& all) {
     std::string text = "Adjustments in steps of the monitor.";
     for (const SixColours& colours : all) {
-        text += ' ' + std::string(colours.name) + " of the " + std::string(colours.place) + ':';
-        for (std::size_t colour = 0; colour < colourNames.size(); ++colour) {
-            text += (colour == 0 ? " " : ", ") + std::string(colourNames[colour]) + ' ' +
-                    std::to_string(colours.values[colour]);
-        }
-        text += '.';
+        text += ' ' + listed(colours) + '.';
     }
     return text;
 }

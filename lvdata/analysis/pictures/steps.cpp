@@ -18,21 +18,23 @@ svg::TickedRange rangeOfTypical(const std::vector<svg::Point>& values, svg::Rang
     return svg::toTicks(svg::widened(range, 0.3, leastWidth), 4);
 }
 
-std::size_t countOutside(const svg::Panel& panel, const StepSeries& series) {
-    return series.values.size() - panel.inside(series.values).size();
+std::size_t countOutside(const svg::Panel& panel, const std::vector<svg::Point>& values) {
+    return values.size() - panel.inside(values).size();
 }
 
-void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const StepSeries& series, std::string_view lineClasses,
-              std::string_view markClasses, svg::Symbol symbol) {
+void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<svg::Point>& values,
+              std::string_view lineClasses, std::string_view markClasses, svg::Symbol symbol) {
     constexpr std::size_t mostSymbols = 64;
-    svg::addPolyline(svg, panel.inside(series.values), {lineClasses, ""});
-    svg.open("g", {{"class", markClasses}});
-    for (const std::size_t index : svg::spreadIndices(series.values.size(), mostSymbols)) {
-        if (panel.holds(series.values[index])) {
-            svg::addSymbol(svg, panel.at(series.values[index]), symbol, {"", series.titles[index]});
-        }
+    svg::addPolyline(svg, panel.inside(values), {lineClasses, ""});
+    std::vector<svg::Point> marked;
+    for (const std::size_t index : svg::spreadIndices(values.size(), mostSymbols)) {
+        marked.push_back(values[index]);
     }
-    svg.close();
+    svg::addSymbols(svg, panel.inside(marked), symbol, markClasses);
+}
+
+HoverText stepText(double signal, const std::string& text) {
+    return {signal, percent(signal, 1) + ": " + text};
 }
 
 void addOutsideNote(svg::SVGWriter& svg, const svg::Panel& panel, std::size_t count) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lvdata/analysis/pictures/Picture.h>
+#include <lvdata/analysis/pictures/hover.h>
 
 #include <cstddef>
 #include <string>
@@ -9,23 +10,20 @@
 /// What pictures of grey steps share.
 namespace lv::analysis {
 
-/// A value at each of some steps, in the values of a panel.
-struct StepSeries {
-    std::vector<svg::Point> values{};   ///< Of the steps that have one.
-    std::vector<std::string> titles{};  ///< Of each value, for hover.
-};
-
 /// A range for values whose extremes at the dark end say little: that of the typical ones, made wider. Values outside
 /// are left out of the picture.
 [[nodiscard]] svg::TickedRange rangeOfTypical(const std::vector<svg::Point>& values, svg::Range typicalSteps,
                                               double leastWidth);
 
 /// How many values do not lie in the panel.
-[[nodiscard]] std::size_t countOutside(const svg::Panel& panel, const StepSeries& series);
+[[nodiscard]] std::size_t countOutside(const svg::Panel& panel, const std::vector<svg::Point>& values);
 
 /// A line with a symbol at each value that lies in the panel. Of very many steps, some have symbols.
-void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const StepSeries& series, std::string_view lineClasses,
-              std::string_view markClasses, svg::Symbol symbol);
+void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<svg::Point>& values,
+              std::string_view lineClasses, std::string_view markClasses, svg::Symbol symbol);
+
+/// "50.2 %: " with the text, for hover.
+[[nodiscard]] HoverText stepText(double signal, const std::string& text);
 
 /// A note inside a panel about values that are left out; nothing when there are none.
 void addOutsideNote(svg::SVGWriter& svg, const svg::Panel& panel, std::size_t count);

@@ -37,13 +37,13 @@ constexpr std::array<std::string_view, 9> ramp{"#08306b", "#08519c", "#2171b5", 
 constexpr std::size_t firstLightStep = 3;  // from here on black letters have more contrast than white ones
 
 constexpr std::string_view rules = R"(
-.lv-picture{font-family:system-ui,-apple-system,"Segoe UI",Roboto,"Helvetica Neue",Arial,sans-serif;font-size:12px}
-.lv-picture text{fill:@ink}
+.lv-picture{fill:@ink;font-family:system-ui,-apple-system,"Segoe UI",Roboto,"Helvetica Neue",Arial,sans-serif;font-size:12px}
+.lv-parts{position:absolute}
 .lv-paper{fill:@paper}
 .lv-title{font-size:15px;font-weight:600}
-.lv-picture .lv-sub,.lv-picture .lv-note,.lv-picture .lv-tick text{fill:@muted}
+.lv-sub,.lv-note,.lv-tick{fill:@muted}
 .lv-tick,.lv-note,.lv-value{font-size:11px}
-.lv-picture .lv-label,.lv-reason,.lv-key{font-size:12px}
+.lv-label,.lv-reason,.lv-key{font-size:12px}
 .lv-grid{fill:none;stroke:@grid;stroke-width:1}
 .lv-frame{fill:none;stroke:@axis;stroke-width:1}
 .lv-zero{stroke:@axis;stroke-width:1.5}
@@ -52,12 +52,14 @@ constexpr std::string_view rules = R"(
 .lv-cells rect{stroke:@paper;stroke-width:1}
 .lv-quiet,.lv-cells text{pointer-events:none}
 .lv-under{stroke:@paper;stroke-width:3.5}
-.lv-hover{fill:#000;fill-opacity:0}
+.lv-hover{stroke:#000;stroke-opacity:0}
 .lv-line{fill:none;stroke:currentColor;stroke-width:2;stroke-linejoin:round}
 .lv-thin{stroke-width:1.5}
 .lv-stroke{fill:none;stroke:currentColor;stroke-width:2.5}
 .lv-mark{fill:currentColor;stroke:@paper;stroke-width:1}
+.lv-mark.lv-dots{stroke:currentColor;stroke-width:7;stroke-linecap:round}
 .lv-bar{fill:currentColor}
+.lv-bars{fill:none;stroke:currentColor}
 .lv-open{fill:@paper;stroke:currentColor;stroke-width:2}
 .lv-ink{color:@ink}
 .lv-muted{color:@muted}
@@ -128,7 +130,7 @@ std::string rampRules() {
     for (std::size_t step = 0; step < ramp.size(); ++step) {
         const std::string name = ".lv-r" + std::string(1, static_cast<char>('0' + step));
         const std::string letters = step < firstLightStep ? "#ffffff" : "#000000";
-        text += name + "{fill:" + std::string(ramp[step]) + "}.lv-picture text" + name + "t{fill:" + letters + "}\n";
+        text += name + "{fill:" + std::string(ramp[step]) + "}" + name + "t{fill:" + letters + "}\n";
     }
     return text;
 }

@@ -62,9 +62,9 @@ void addCurves(svg::SVGWriter& svg, const svg::Panel& panel, const Tables& table
     }
 }
 
-/// "Input 50.0 %: red 0.4980, green ..."
+/// "50.0 %: red 0.4980, green ..."
 std::string titleAt(const Tables& tables, double place) {
-    std::string title = "Input " + percent(place, 1) + ':';
+    std::string title = percent(place, 1) + ':';
     for (std::size_t channel = 0; channel < tables.size(); ++channel) {
         const std::vector<double>& table = tables[channel];
         if (!table.empty()) {
@@ -75,18 +75,14 @@ std::string titleAt(const Tables& tables, double place) {
     return title;
 }
 
-/// Unseen columns over both panels that show the values on hover.
-void addHoverColumns(svg::SVGWriter& svg, const Tables& tables) {
-    constexpr std::size_t columns = 50;
-    const double width = tableBox.width / columns;
-    svg.open("g", {{"class", "lv-hover"}});
-    for (std::size_t column = 0; column < columns; ++column) {
-        const double place = static_cast<double>(column) / (columns - 1);
-        const svg::Box box{tableBox.left + static_cast<double>(column) * width, tableBox.top, width,
-                           deviationBox.bottom() - tableBox.top};
-        svg::addBox(svg, box, {"", titleAt(tables, place)});
+/// Columns over both panels that show the values on hover.
+void addHoverTexts(svg::SVGWriter& svg, const Tables& tables) {
+    const svg::Box both{tableBox.left, tableBox.top, tableBox.width, deviationBox.bottom() - tableBox.top};
+    std::vector<std::string> texts(hoverColumns(both));
+    for (std::size_t column = 0; column < texts.size(); ++column) {
+        texts[column] = titleAt(tables, placeOf(column, texts.size()));
     }
-    svg.close();
+    addHoverColumns(svg, both, texts);
 }
 
 std::vector<svg::LegendEntry> legendOf(const Tables& tables) {
@@ -148,7 +144,7 @@ std::string tablesPicture(const ModeFigures& mode, const PictureForm& form) {
     svg::addLegendRow(picture.svg(), {panelLeft, legendTop}, tableBox.width, legendOf(mode.tables));
     addTablePanel(picture.svg(), mode.tables);
     addDeviationPanel(picture.svg(), mode.tables);
-    addHoverColumns(picture.svg(), mode.tables);
+    addHoverTexts(picture.svg(), mode.tables);
     return picture.finished();
 }
 

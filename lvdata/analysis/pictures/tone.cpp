@@ -13,29 +13,33 @@ constexpr std::string_view measuredLine = "lv-line lv-measured";
 constexpr std::string_view measuredMark = "lv-mark lv-measured";
 constexpr std::string_view targetLine = "lv-line lv-target lv-quiet";
 
-std::string signalText(const ToneStep& step) {
-    return "Signal " + percent(step.signal, 1);
-}
-
-StepSeries lightOf(const ToneFigures& tone) {
-    StepSeries series;
+std::vector<svg::Point> lightOf(const ToneFigures& tone) {
+    std::vector<svg::Point> values;
     for (const ToneStep& step : tone.steps) {
-        series.values.push_back({step.signal, step.light});
-        const std::string target = step.target.value ? ", target " + percent(*step.target.value, 2) : "";
-        series.titles.push_back(signalText(step) + ": light " + percent(step.light, 2) + target);
+        values.push_back({step.signal, step.light});
     }
-    return series;
+    return values;
 }
 
-StepSeries gammaOf(const ToneFigures& tone) {
-    StepSeries series;
+std::vector<svg::Point> gammaOf(const ToneFigures& tone) {
+    std::vector<svg::Point> values;
     for (const ToneStep& step : tone.steps) {
         if (step.gamma.value) {
-            series.values.push_back({step.signal, *step.gamma.value});
-            series.titles.push_back(signalText(step) + ": gamma " + svg::valueText(*step.gamma.value, 2));
+            values.push_back({step.signal, *step.gamma.value});
         }
     }
-    return series;
+    return values;
+}
+
+/// What each step has: "50.2 %: light 21.90 %, target 21.95 %, gamma 2.20".
+std::vector<HoverText> textsOf(const ToneFigures& tone) {
+    std::vector<HoverText> texts;
+    for (const ToneStep& step : tone.steps) {
+        const std::string target = step.target.value ? ", target " + percent(*step.target.value, 2) : "";
+        const std::string gamma = step.gamma.value ? ", gamma " + svg::valueText(*step.gamma.value, 2) : "";
+        texts.push_back(stepText(step.signal, "light " + percent(step.light, 2) + target + gamma));
+    }
+    return texts;
 }
 
 std::vector<svg::Point> targetLight(const ToneFigures& tone) {
@@ -66,7 +70,7 @@ svg::Axis lightAxis() {
 
 void addResponse(svg::SVGWriter& svg, const ToneFigures& tone) {
     const svg::Panel panel(responseBox, {0, 1}, {0, 1});
-    const StepSeries light = lightOf(tone);
+    const std::vector<svg::Point> light = lightOf(tone);
     svg::addAxes(svg, panel, signalAxis(false), lightAxis());
     addSteps(svg, panel, light, measuredLine, measuredMark, svg::Symbol::circle);
     svg::addPolyline(svg, panel.inside(targetLight(tone)), {targetLine, ""});
@@ -74,9 +78,9 @@ void addResponse(svg::SVGWriter& svg, const ToneFigures& tone) {
 }
 
 void addGamma(svg::SVGWriter& svg, const ToneFigures& tone) {
-    const StepSeries gamma = gammaOf(tone);
+    const std::vector<svg::Point> gamma = gammaOf(tone);
     const std::vector<svg::Point> target = targetGamma(tone);
-    std::vector<svg::Point> both = gamma.values;
+    std::vector<svg::Point> both = gamma;
     both.insert(both.end(), target.begin(), target.end());
     const svg::TickedRange scale = rangeOfTypical(both, {0.1, 0.9}, 0.4);
     const svg::Panel panel(gammaBox, {0, 1}, scale.range);
@@ -121,6 +125,8 @@ std::string tonePicture(const ModeFigures& mode, const PictureForm& form) {
     svg::addLegendRow(picture.svg(), {panelLeft, legendTop}, responseBox.width, legendOf(mode.tone));
     addResponse(picture.svg(), mode.tone);
     addGamma(picture.svg(), mode.tone);
+    const svg::Box both{responseBox.left, responseBox.top, responseBox.width, gammaBox.bottom() - responseBox.top};
+    addHoverColumns(picture.svg(), both, nearestTexts(both, textsOf(mode.tone)));
     return picture.finished();
 }
 

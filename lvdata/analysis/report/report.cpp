@@ -30,18 +30,23 @@ View viewOf(const ReportContents& contents) {
         {"head_section", headView(contents)},
         {"summary_section", summaryView(contents)},
         {"modes", modesOf(contents)},
-        {"uniformity_section", uniformityView(contents.latest().snapshot.figures, contents.limits())},
+        {"uniformity_section", uniformityView(contents)},
         {"history_section", historyView(contents)},
         {"quality_section", qualityView(contents.latest().findings)},
         {"data_section", dataView(contents)},
+        {"picture_parts", contents.parts.definitions()},  // after all pictures
     };
 }
 
 }  // namespace
 
 std::string reportPage(const std::vector<ReportedDocument>& documents, const ReportForm& form) {
-    ReportContents contents{documents, form, {}};
+    svg::SharedParts parts;
+    ReportContents contents{documents, form, parts, {}};
     contents.judged = judgedMonitor(contents.latest().snapshot.figures, contents.limits(), form.mode);
+    for (ReportedMode& mode : contents.judged.calibrated) {
+        mode.parts = &parts;
+    }
     return inUTF8(filled("report", viewOf(contents)));
 }
 

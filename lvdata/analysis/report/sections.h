@@ -1,5 +1,6 @@
 #pragma once
 
+#include <lvdata/analysis/pictures/pictures.h>
 #include <lvdata/analysis/report/View.h>
 #include <lvdata/analysis/report/report.h>
 
@@ -16,6 +17,10 @@ struct ReportedMode {
     std::string id{};                      ///< What ids of its elements begin with, such as "mode-1".
     std::vector<JudgedLine> lines{};       ///< All its figures.
     Verdict verdict{};                     ///< How it does as a whole.
+    svg::SharedParts* parts = nullptr;     ///< What its pictures share with others of the page. Not null.
+
+    /// How its picture of that name is made.
+    [[nodiscard]] PictureForm formOf(const std::string& name) const { return {id + '-' + name, false, parts}; }
 };
 
 /// A monitor, judged.
@@ -34,6 +39,7 @@ struct JudgedMonitor {
 struct ReportContents {
     const std::vector<ReportedDocument>& documents;  ///< All documents, at least one.
     const ReportForm& form;                          ///< How the page is made.
+    svg::SharedParts& parts;                         ///< What pictures share.
     JudgedMonitor judged{};                          ///< The monitor of the latest document.
 
     /// The document that is told in full.
@@ -87,7 +93,7 @@ inline constexpr std::string_view patchesMeanKey = "patches_delta_e2000_mean";
 [[nodiscard]] View toneView(const ReportedMode& mode);
 [[nodiscard]] View patchesView(const ReportedMode& mode, const LimitSet& limits);
 [[nodiscard]] View tablesView(const ReportedMode& mode);
-[[nodiscard]] View uniformityView(const MonitorFigures& monitor, const LimitSet& limits);
+[[nodiscard]] View uniformityView(const ReportContents& contents);
 [[nodiscard]] View historyView(const ReportContents& contents);
 [[nodiscard]] View qualityView(const Findings& findings);
 [[nodiscard]] View dataView(const ReportContents& contents);

@@ -78,7 +78,7 @@ std::vector<double> numbersOf(const std::string& text) {
 std::vector<Point> startsOf(const std::string& path) {
     std::vector<Point> points;
     for (std::size_t at = path.find('M'); at != std::string::npos; at = path.find('M', at + 1)) {
-        const std::vector<double> numbers = numbersOf(path.substr(at, path.find_first_of("lhvm", at) - at));
+        const std::vector<double> numbers = numbersOf(path.substr(at, path.find_first_of("lhvmV", at) - at));
         points.push_back({numbers.at(0), numbers.at(1)});
     }
     return points;

@@ -135,9 +135,9 @@ TEST(Pictures, HaveTitleAndDescriptionForScreenReaders) {
     for (const NamedPicture& picture : everyPicture(lv::test::sampleFigures(), {"part-7", true})) {
         const ParsedPicture parsed(picture.text);
         EXPECT_EQ(parsed.root().attributes.at("role"), "img");
-        EXPECT_EQ(parsed.root().attributes.at("aria-labelledby"), "part-7-title part-7-desc");
-        EXPECT_EQ(parsed.all("title").front().attributes.at("id"), "part-7-title");
-        EXPECT_EQ(parsed.only("desc").attributes.at("id"), "part-7-desc");
+        EXPECT_EQ(parsed.elements()[1].name, "title");  // the first child is the name, by SVG-AAM
+        EXPECT_NE(parsed.elements()[1].text, "");
+        EXPECT_EQ(parsed.elements()[2].name, "desc");
         EXPECT_THAT(parsed.only("desc").text, testing::ContainsRegex("[0-9]")) << picture.name;
     }
 }
@@ -153,7 +153,6 @@ TEST(Pictures, HaveIdsThatBeginWithTheirsAndEachOnce) {
                 EXPECT_TRUE(ids.insert(id->second).second) << id->second;
             }
         }
-        EXPECT_GE(ids.size(), 2U);
     }
 }
 
@@ -174,13 +173,13 @@ TEST(Pictures, HaveTheSizeOfTheirViewBox) {
     }
 }
 
-TEST(Pictures, HaveNoCoordinateWithMoreThanTwoDigits) {
+TEST(Pictures, HaveNoCoordinateWithMoreThanOneDigit) {
     for (const NamedPicture& picture : everyPicture(lv::test::sampleFigures())) {
         const ParsedPicture parsed(picture.text);
         for (const Element& element : parsed.elements()) {
             for (const std::string attribute : {"x", "y", "width", "height", "points", "d", "cx", "cy"}) {
                 const auto found = element.attributes.find(attribute);
-                EXPECT_LE(found == element.attributes.end() ? 0U : mostDigits(found->second), 2U) << picture.name;
+                EXPECT_LE(found == element.attributes.end() ? 0U : mostDigits(found->second), 1U) << picture.name;
             }
         }
     }

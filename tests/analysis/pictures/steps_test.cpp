@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 // The pictures of grey steps: tone and balance.
 
 using lv::analysis::balancePicture;
@@ -24,32 +26,34 @@ ModeFigures halfAndFull() {
     return mode;
 }
 
-std::vector<Element> marks(const ParsedPicture& picture, const std::string& name, const std::string& className) {
-    std::vector<Element> found;
-    for (const Element& element : picture.all(name, className)) {
-        if (!element.title.empty()) {
-            found.push_back(element);
-        }
+/// The texts that are shown on hover.
+std::vector<std::string> hoverTexts(const ParsedPicture& picture) {
+    std::vector<std::string> texts;
+    for (const Element& column : picture.all("path", "lv-hover")) {
+        texts.push_back(column.title);
     }
-    return found;
+    return texts;
 }
 
 }  // namespace
 
 TEST(TonePicture, HasEachStepInBothPanels) {
     const ParsedPicture picture(tonePicture(halfAndFull()));
-    const auto found = marks(picture, "circle", "lv-measured");
-    ASSERT_EQ(found.size(), 3U);  // two of light, one of gamma
-    EXPECT_EQ(found[0].title, "Signal 50.0 %: light 25.00 %, target 21.76 %");
-    EXPECT_EQ(found[2].title, "Signal 50.0 %: gamma 2.00");
+    const auto found = picture.all("path", "lv-dots");
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0].points().size(), 2U);  // of light
+    EXPECT_EQ(found[1].points().size(), 1U);  // of gamma
+    const std::vector<std::string> texts{"50.0 %: light 25.00 %, target 21.76 %, gamma 2.00",
+                                         "100.0 %: light 100.00 %, target 100.00 %"};
+    EXPECT_EQ(hoverTexts(picture), texts);
 }
 
 TEST(TonePicture, HasStepsWhereTheyBelong) {
     const ParsedPicture picture(tonePicture(halfAndFull()));
     const Element frame = picture.all("rect", "lv-frame").front();
-    const Element half = marks(picture, "circle", "lv-measured").front();
-    EXPECT_NEAR(half.number("cx"), frame.number("x") + frame.number("width") / 2, 0.01);
-    EXPECT_NEAR(half.number("cy"), frame.number("y") + frame.number("height") * 0.75, 0.01);
+    const auto half = picture.all("path", "lv-dots").front().points().front();
+    EXPECT_NEAR(half.x, frame.number("x") + frame.number("width") / 2, 0.06);
+    EXPECT_NEAR(half.y, frame.number("y") + frame.number("height") * 0.75, 0.06);
 }
 
 TEST(TonePicture, HasTheTargetInBothPanels) {
@@ -83,10 +87,15 @@ TEST(TonePicture, SaysWhyThereIsNothing) {
 
 TEST(BalancePicture, HasEachChannelWithAnOwnLook) {
     const ParsedPicture picture(balancePicture(halfAndFull()));
-    ASSERT_EQ(marks(picture, "path", "lv-red").size(), 2U);
-    EXPECT_EQ(marks(picture, "path", "lv-red")[0].title, "Signal 50.0 %: Red 2.00 %");
-    EXPECT_EQ(marks(picture, "circle", "lv-green").size(), 2U);
-    EXPECT_EQ(marks(picture, "path", "lv-blue")[0].title, "Signal 50.0 %: Blue -2.00 %");
+    for (const std::string name : {"lv-red", "lv-green", "lv-blue"}) {
+        const auto paths = picture.all("path", name);
+        const auto hasBoth = [](const Element& path) {
+            return path.points().size() == 2;
+        };
+        EXPECT_TRUE(std::any_of(paths.begin(), paths.end(), hasBoth)) << name;
+    }
+    ASSERT_EQ(hoverTexts(picture).size(), 2U);
+    EXPECT_EQ(hoverTexts(picture)[0], "50.0 %: red 2.00 %, green 0.00 %, blue -2.00 %");
 }
 
 TEST(BalancePicture, HasBalanceInTheMiddle) {
@@ -94,7 +103,7 @@ TEST(BalancePicture, HasBalanceInTheMiddle) {
     const Element frame = picture.only("rect", "lv-frame");
     const double middle = frame.number("y") + frame.number("height") / 2;
     EXPECT_NEAR(picture.only("line", "lv-zero").number("y1"), middle, 0.01);
-    EXPECT_NEAR(marks(picture, "circle", "lv-green")[0].number("cy"), middle, 0.01);
+    EXPECT_NEAR(picture.only("path", "lv-dots").points()[0].y, middle, 0.06);
 }
 
 TEST(BalancePicture, SaysWhatItNeeds) {

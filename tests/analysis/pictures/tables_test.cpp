@@ -33,8 +33,8 @@ TEST(TablesPicture, HasEntriesWhereTheyBelong) {
     const Element frame = picture.all("rect", "lv-frame").front();
     const auto points = picture.all("polyline", "lv-red").front().points();
     ASSERT_EQ(points.size(), 3U);
-    EXPECT_NEAR(points[1].x, frame.number("x") + frame.number("width") / 2, 0.01);
-    EXPECT_NEAR(points[1].y, frame.number("y") + frame.number("height") / 4, 0.01);
+    EXPECT_NEAR(points[1].x, frame.number("x") + frame.number("width") / 2, 0.06);
+    EXPECT_NEAR(points[1].y, frame.number("y") + frame.number("height") / 4, 0.06);
     EXPECT_TRUE(picture.says("greatest deviation from the diagonal 25.00 % at 50.0 % of the input"));
 }
 
@@ -46,8 +46,8 @@ TEST(TablesPicture, ShowsOnlyTheTablesThatThereAre) {
 }
 
 TEST(TablesPicture, ShowsValuesOnHover) {
-    const auto columns = ParsedPicture(tablesPicture(modeWith({0, 0.75, 1}))).all("rect", "lv-hover");
-    ASSERT_EQ(columns.size(), 50U);
-    EXPECT_EQ(columns.front().title, "Input 0.0 %: Red 0.0000");
-    EXPECT_EQ(columns.back().title, "Input 100.0 %: Red 1.0000");
+    const auto columns = ParsedPicture(tablesPicture(modeWith({0, 0.75, 1}))).all("path", "lv-hover");
+    ASSERT_EQ(columns.size(), 26U);
+    EXPECT_EQ(columns.front().title, "0.0 %: Red 0.0000");
+    EXPECT_EQ(columns.back().title, "100.0 %: Red 1.0000");
 }

@@ -210,7 +210,8 @@ TEST(Report, HoldsTheRecordAndItsFiguresAsJSON) {
     const auto data = nlohmann::json::parse(studioPage().text("//script[@id='data']"));
     EXPECT_EQ(data, nlohmann::json::parse(studio().json));
     const auto figures = nlohmann::json::parse(studioPage().text("//script[@id='figures']"));
-    EXPECT_EQ(figures, nlohmann::json::parse(lv::analysis::figuresJSON(studio().snapshot.figures)));
+    EXPECT_EQ(figures, nlohmann::json::parse(
+                           lv::analysis::figuresJSON(studio().snapshot.figures, lv::analysis::FiguresExtent::lines)));
 }
 
 TEST(Report, BringsTheStyleOfPicturesOnce) {

@@ -40,21 +40,25 @@ double addEntry(SVGWriter& svg, const Point& at, double width, const LegendEntry
 }  // namespace
 
 void addLegendColumn(SVGWriter& svg, const Point& at, double width, const std::vector<LegendEntry>& entries) {
+    SVGWriter part;
     double y = at.y;
     for (const LegendEntry& entry : entries) {
-        addEntry(svg, {at.x, y}, width, entry);
+        addEntry(part, {at.x, y}, width, entry);
         y += rowHeight;
     }
+    svg.share(part);
 }
 
 void addLegendRow(SVGWriter& svg, const Point& at, double width, const std::vector<LegendEntry>& entries) {
+    SVGWriter part;
     double x = at.x;
     for (const LegendEntry& entry : entries) {
         const double left = at.x + width - x;
         if (left > 2 * sampleWidth) {
-            x += addEntry(svg, {x, at.y}, left, entry) + 2 * gap;
+            x += addEntry(part, {x, at.y}, left, entry) + 2 * gap;
         }
     }
+    svg.share(part);
 }
 
 }  // namespace lv::analysis::svg

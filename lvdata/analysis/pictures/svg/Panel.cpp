@@ -79,12 +79,14 @@ std::vector<Point> Panel::inside(const std::vector<Point>& values) const {
 }
 
 void addAxes(SVGWriter& svg, const Panel& panel, const Axis& horizontal, const Axis& vertical) {
-    addGrid(svg, panel, horizontal, vertical);
-    addBox(svg, panel.box(), {"lv-frame", ""});
-    svg.open("g", {{"class", "lv-tick"}});
-    addHorizontalTexts(svg, panel, horizontal);
-    addVerticalTexts(svg, panel, vertical);
-    svg.close();
+    SVGWriter part;
+    addGrid(part, panel, horizontal, vertical);
+    addBox(part, panel.box(), {"lv-frame", ""});
+    part.open("g", {{"class", "lv-tick"}});
+    addHorizontalTexts(part, panel, horizontal);
+    addVerticalTexts(part, panel, vertical);
+    part.close();
+    svg.share(part);
 }
 
 void addLevel(SVGWriter& svg, const Panel& panel, double value, std::string_view classes) {

@@ -57,6 +57,10 @@ void SVGWriter::titled(std::string_view name, const Attributes& attributes, std:
     document_ += ">\n";
 }
 
+void SVGWriter::share(const SVGWriter& part) {
+    document_ += shared_ == nullptr ? part.document_ : shared_->use(part.document_);
+}
+
 void SVGWriter::style(std::string_view sheet) {
     document_ += "<style>";
     document_ += sheet;

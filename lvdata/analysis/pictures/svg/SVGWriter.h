@@ -1,5 +1,7 @@
 #pragma once
 
+#include <lvdata/analysis/pictures/svg/SharedParts.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +27,9 @@ using Attributes = std::vector<Attribute>;
 /// markup needs is escaped.
 class SVGWriter {
 public:
+    /// Writes a part, or a whole document; `shared` has the parts of a page and must outlive it. Null: there are none.
+    explicit SVGWriter(SharedParts* shared = nullptr) : shared_(shared) {}
+
     /// The start of an element that holds others.
     void open(std::string_view name, const Attributes& attributes = {});
 
@@ -41,6 +46,9 @@ public:
     /// element.
     void titled(std::string_view name, const Attributes& attributes, std::string_view title);
 
+    /// What another writer has written, as a part that other pictures of the page may have, too.
+    void share(const SVGWriter& part);
+
     /// A style sheet.
     void style(std::string_view sheet);
 
@@ -50,6 +58,7 @@ public:
 private:
     void start(std::string_view name, const Attributes& attributes);
 
+    SharedParts* shared_;
     std::string document_;
     std::vector<std::string_view> open_;
 };

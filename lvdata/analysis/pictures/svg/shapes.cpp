@@ -26,10 +26,23 @@ std::string joined(const std::vector<Point>& points) {
     return text;
 }
 
-/// A path that begins at a point and goes on relative to it.
-void addPath(SVGWriter& svg, const Point& start, std::string_view steps, const Look& look) {
-    const std::string path = 'M' + coordinateText(start.x) + ' ' + coordinateText(start.y) + std::string(steps);
-    addShape(svg, "path", {{"d", path}}, look);
+std::string startingAt(const Point& start, std::string_view steps) {
+    return 'M' + coordinateText(start.x) + ' ' + coordinateText(start.y) + std::string(steps);
+}
+
+/// The path of a symbol. That of a circle is a point, which a round cap of the class "lv-dots" makes one.
+std::string pathOf(const Point& at, Symbol symbol) {
+    switch (symbol) {
+    case Symbol::cross:
+        return startingAt({at.x - radius, at.y - radius}, "l8 8m0-8l-8 8");
+    case Symbol::square:
+        return startingAt({at.x - radius, at.y - radius}, "h8v8h-8z");
+    case Symbol::diamond:
+        return startingAt({at.x, at.y - radius - 1}, "l5 5l-5 5l-5-5z");
+    case Symbol::circle:
+        break;
+    }
+    return startingAt(at, "h0");
 }
 
 }  // namespace
@@ -55,19 +68,21 @@ void addBox(SVGWriter& svg, const Box& box, const Look& look) {
 }
 
 void addSymbol(SVGWriter& svg, const Point& at, Symbol symbol, const Look& look) {
-    switch (symbol) {
-    case Symbol::circle:
+    if (symbol == Symbol::circle) {
         addShape(svg, "circle", {{"cx", at.x}, {"cy", at.y}, {"r", radius}}, look);
-        break;
-    case Symbol::cross:
-        addPath(svg, {at.x - radius, at.y - radius}, "l8 8m0-8l-8 8", look);
-        break;
-    case Symbol::square:
-        addPath(svg, {at.x - radius, at.y - radius}, "h8v8h-8z", look);
-        break;
-    case Symbol::diamond:
-        addPath(svg, {at.x, at.y - radius - 1}, "l5 5l-5 5l-5-5z", look);
-        break;
+    } else {
+        addShape(svg, "path", {{"d", pathOf(at, symbol)}}, look);
+    }
+}
+
+void addSymbols(SVGWriter& svg, const std::vector<Point>& points, Symbol symbol, std::string_view classes) {
+    std::string path;
+    for (const Point& point : points) {
+        path += pathOf(point, symbol);
+    }
+    if (!path.empty()) {
+        const std::string_view more = symbol == Symbol::circle ? "lv-dots " : "";
+        svg.empty("path", {{"class", std::string(more) + std::string(classes)}, {"d", path}});
     }
 }
 

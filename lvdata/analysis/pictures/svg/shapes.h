@@ -36,6 +36,9 @@ void addBox(SVGWriter& svg, const Box& box, const Look& look);
 /// A symbol around a point.
 void addSymbol(SVGWriter& svg, const Point& at, Symbol symbol, const Look& look);
 
+/// The same symbol around each of several points, as one path.
+void addSymbols(SVGWriter& svg, const std::vector<Point>& points, Symbol symbol, std::string_view classes);
+
 /// A text. It is not shortened: see `shortened`.
 void addText(SVGWriter& svg, const Point& at, std::string_view classes, Anchor anchor, std::string_view text);
 

@@ -70,7 +70,7 @@ double relativeWidth(std::string_view character) {
 
 std::string coordinateText(double value) {
     const double number = std::isnan(value) ? 0 : std::clamp(value, -greatestCoordinate, greatestCoordinate);
-    return withoutZerosAtEnd(fixedText(number, 2));
+    return withoutZerosAtEnd(fixedText(number, 1));
 }
 
 std::string valueText(double value, int decimals) {

@@ -48,11 +48,9 @@ View spacesOf(const ReportedMode& mode) {
 }  // namespace
 
 View gamutView(const ReportedMode& mode) {
-    const PictureForm xy = {mode.id + "-xy", false};
-    const PictureForm uv = {mode.id + "-uv", false};
     return View::Members{
-        {"picture_xy", gamutPicture(*mode.figures, colour::Plane::xy, xy)},
-        {"picture_uv", gamutPicture(*mode.figures, colour::Plane::uv, uv)},
+        {"picture_xy", gamutPicture(*mode.figures, colour::Plane::xy, mode.formOf("xy"))},
+        {"picture_uv", gamutPicture(*mode.figures, colour::Plane::uv, mode.formOf("uv"))},
         {"primaries", View::Items{primaryOf(mode, "Red", "primary_red"), primaryOf(mode, "Green", "primary_green"),
                                   primaryOf(mode, "Blue", "primary_blue")}},
         {"spaces", spacesOf(mode)},

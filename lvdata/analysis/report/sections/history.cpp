@@ -32,8 +32,9 @@ std::vector<Snapshot> snapshotsOf(const std::vector<ReportedDocument>& documents
     return snapshots;
 }
 
-View pictureOf(const HistorySeries& series, const JudgedLine& judged, const std::string& id) {
-    return View::Members{{"picture_history", historyPicture(series, judged.limit, {id, false})}};
+View pictureOf(const HistorySeries& series, const JudgedLine& judged, const ReportedMode& mode) {
+    return View::Members{
+        {"picture_history", historyPicture(series, judged.limit, mode.formOf("history-" + judged.line.key))}};
 }
 
 View rowOf(const std::vector<HistorySeries>& all, std::size_t point) {
@@ -75,7 +76,7 @@ void addHistory(View::Items& modes, const std::vector<Snapshot>& snapshots, cons
         HistorySeries series = toldSeries(snapshots, mode, judged);
         if (series.points.size() > 1 && hasValue(series)) {
             if (isDrawn(judged)) {
-                pictures.push_back(pictureOf(series, judged, mode.id + "-history-" + judged.line.key));
+                pictures.push_back(pictureOf(series, judged, mode));
             }
             told.push_back(std::move(series));
         }

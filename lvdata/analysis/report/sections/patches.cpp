@@ -57,7 +57,7 @@ View patchesView(const ReportedMode& mode, const LimitSet& limits) {
         rows.push_back(patchOf(patch));
     }
     return View::Members{
-        {"picture_patches", patchesPicture(*mode.figures, &limits, {mode.id + "-patches", false})},
+        {"picture_patches", patchesPicture(*mode.figures, &limits, mode.formOf("patches"))},
         {"reference", textView(series.reference, "nothing: the record has no target for the patches")},
         {"mean", series.mean.text(2)},
         {"percentile", series.percentile95.text(2)},

@@ -27,11 +27,9 @@ View tablesView(const ReportedMode& mode) {
         adjustments.push_back(adjustmentOf(adjustment));
     }
     const bool hasSixColours = !adjustments.empty();
-    const PictureForm tables = {mode.id + "-tables", false};
-    const PictureForm sixColours = {mode.id + "-six", false};
     return View::Members{
-        {"picture_tables", hasTables(figures) ? tablesPicture(figures, tables) : ""},
-        {"picture_six", hasSixColours ? sixColoursPicture(figures, sixColours) : ""},
+        {"picture_tables", hasTables(figures) ? tablesPicture(figures, mode.formOf("tables")) : ""},
+        {"picture_six", hasSixColours ? sixColoursPicture(figures, mode.formOf("six")) : ""},
         {"adjustments", std::move(adjustments)},
     };
 }

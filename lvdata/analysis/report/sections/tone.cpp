@@ -28,8 +28,8 @@ View toneView(const ReportedMode& mode) {
         steps.push_back(stepOf(step));
     }
     return View::Members{
-        {"picture_tone", tonePicture(*mode.figures, {mode.id + "-tone", false})},
-        {"picture_balance", balancePicture(*mode.figures, {mode.id + "-balance", false})},
+        {"picture_tone", tonePicture(*mode.figures, mode.formOf("tone"))},
+        {"picture_balance", balancePicture(*mode.figures, mode.formOf("balance"))},
         {"step_count", counted(steps.size(), "grey step")},
         {"has_steps", !steps.empty()},
         {"steps", std::move(steps)},

@@ -15,11 +15,11 @@ const double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
 
-TEST(CoordinateText, HasTwoDigitsAndNoZerosAtItsEnd) {
-    EXPECT_EQ(coordinateText(1.236), "1.24");
+TEST(CoordinateText, HasOneDigitAndNoZeroAtItsEnd) {
+    EXPECT_EQ(coordinateText(1.26), "1.3");
     EXPECT_EQ(coordinateText(1.2), "1.2");
     EXPECT_EQ(coordinateText(100), "100");
-    EXPECT_EQ(coordinateText(-0.001), "0");
+    EXPECT_EQ(coordinateText(-0.01), "0");
     EXPECT_EQ(coordinateText(-2.5), "-2.5");
 }
 

@@ -1,0 +1,21 @@
+#include <lvdata/analysis/pictures/svg/SharedParts.h>
+
+namespace lv::analysis::svg {
+
+std::string SharedParts::use(const std::string& part) {
+    const auto [entry, isNew] = ids_.emplace(part, "lv-" + std::to_string(ids_.size() + 1));
+    if (isNew) {
+        definitions_ += "<g id=\"" + entry->second + "\">\n" + part + "</g>\n";
+    }
+    return "<use href=\"#" + entry->second + "\"/>\n";
+}
+
+std::string SharedParts::definitions() const {
+    // Not display:none, which would switch off its gradients.
+    return definitions_.empty() ? ""
+                                : "<svg class=\"lv-picture lv-parts\" width=\"0\" height=\"0\" aria-hidden=\"true\">\n"
+                                  "<defs>\n" +
+                                      definitions_ + "</defs>\n</svg>\n";
+}
+
+}  // namespace lv::analysis::svg

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+namespace lv::analysis::svg {
+
+/// Parts that several pictures of one page have in common. Each picture refers to them, and the page holds them once.
+class SharedParts {
+public:
+    /// The element "use" for a part, which is remembered.
+    [[nodiscard]] std::string use(const std::string& part);
+
+    /// An unseen picture with all parts, for the page; empty without any.
+    [[nodiscard]] std::string definitions() const;
+
+private:
+    std::map<std::string, std::string> ids_{};
+    std::string definitions_{};
+};
+
+}  // namespace lv::analysis::svg
