@@ -98,6 +98,16 @@ TEST_F(Report, FailsOnLimitsOnRequest) {
     EXPECT_EQ(run({"report", studio, "--limits", "lax.json", "-o", "out/", "--fail-on-limits"}), done());
 }
 
+/// Modes without a result are not judged on the page, so they do not fail.
+TEST_F(Report, FailsOnLimitsOfItsPageOnly) {
+    const std::string limit = R"({"figure": "patches_count", "minimum": 1})";
+    write("own.json", R"({"name": "own", "title": "Own", "notice": "", "limits": [)" + limit + "]}");
+    write("in.xml", monitor());
+    EXPECT_EQ(run({"report", studio, "--limits", "own.json", "-o", "out.html", "--fail-on-limits"}), done());
+    EXPECT_TRUE(has(read("out.html"), "3 of 3 figures within the limits"));
+    EXPECT_EQ(run({"report", "in.xml", "--limits", "own.json", "-o", "out.html", "--fail-on-limits"}).exitCode, 1);
+}
+
 TEST_F(Report, SaysWhatIsWrongWithAFileOfLimits) {
     write("limits.json", "{\n\"name\": 1\n}");
     const Outcome outcome = run({"report", studio, "--limits", "limits.json", "-o", "out.html"});
@@ -122,7 +132,18 @@ TEST_F(Report, HasTheHistoryOfOneMonitor) {
         EXPECT_TRUE(has(page, text)) << text;
     }
     EXPECT_TRUE(made({"report", "old.xml", "new.xml"}) == page);
-    EXPECT_TRUE(made({"report", "."}).size() == made({"report", "./new.xml", "./old.xml"}).size());
+    EXPECT_TRUE(made({"report", "."}) == page);
+}
+
+/// A page is the same on every machine, and tells nothing of its folders.
+TEST_F(Report, NamesDocumentsWithoutTheirFolders) {
+    fs::create_directory(path("secret"));
+    write("in.xml", monitor());
+    write("secret/in.xml", monitor());
+    EXPECT_FALSE(has(made({"report", "secret/in.xml"}), "secret"));
+    EXPECT_TRUE(made({"report", path("secret/in.xml")}) == made({"report", "in.xml"}));
+    EXPECT_EQ(run({"report", "secret/in.xml", "--mode", "9"}),
+              failed("secret/in.xml: error: no colour mode has the index 9; there are 2"));
 }
 
 TEST_F(Report, KnowsAMonitorByItsSerialNumberAndModel) {
@@ -216,136 +237,6 @@ TEST_F(Report, LeavesTheFileWhenItFails) {
     EXPECT_EQ(run({"report", studio, "--mode", "9", "-o", "out.html"}).exitCode, 2);
     EXPECT_EQ(read("out.html"), "before");
     EXPECT_EQ(names(), Arguments{"out.html"});
-}
-
-// Folders.
-
-class ReportFolder : public MonitorTest {
-protected:
-    ReportFolder() {
-        fs::create_directory(path("in"));
-        write("in/a.xml", monitor({"Wall", "1", "u-1"}));
-        write("in/b.xml", monitor({"Desk", "2", "u-2"}));
-        write("in/c.xml", monitor({"Wall", "1", "u-1", "2023-05-02"}));
-    }
-
-    /// The bytes of all pages.
-    [[nodiscard]] std::string contentsOf(const std::string& folder) const {
-        std::string all;
-        for (const std::string& name : namesIn(folder)) {
-            all += name + '\n' + read(folder + '/' + name);
-        }
-        return all;
-    }
-};
-
-TEST_F(ReportFolder, HasAPageForEachMonitorAndATable) {
-    EXPECT_EQ(run({"report", "in", "-o", "out/"}), done());
-    EXPECT_THAT(namesIn("out"), ElementsAre("Desk-2.html", "Wall-1.html", "index.html"));
-    const std::string index = read("out/index.html");
-    EXPECT_TRUE(has(index, "Desk-2.html"));
-    EXPECT_TRUE(has(index, "Wall-1.html"));
-    EXPECT_LT(index.find("Desk-2.html"), index.find("Wall-1.html"));
-    const std::string page = read("out/Wall-1.html");
-    EXPECT_TRUE(has(page, "in/a.xml"));
-    EXPECT_TRUE(has(page, "in/c.xml"));
-    EXPECT_FALSE(has(page, "in/b.xml"));
-}
-
-TEST_F(ReportFolder, GivesTheHeadingToTheTable) {
-    EXPECT_EQ(run({"report", "in", "-o", "out/", "--title", "Spring"}), done());
-    EXPECT_TRUE(has(read("out/index.html"), "<title>Spring"));
-    EXPECT_TRUE(has(read("out/Wall-1.html"), "<title>Wall"));
-}
-
-TEST_F(ReportFolder, IsMadeAgainInTheSamePlace) {
-    fs::create_directory(path("out"));
-    EXPECT_EQ(run({"report", "in", "-o", "out", "--jobs", "1"}), done());
-    const std::string before = contentsOf("out");
-    EXPECT_EQ(run({"report", "in", "-o", "out", "--jobs", "2"}), done());
-    EXPECT_EQ(contentsOf("out"), before);
-    EXPECT_EQ(run({"report", "in/c.xml", "in/b.xml", "in/a.xml", "-o", "other/"}), done());
-    EXPECT_EQ(contentsOf("other"), before);
-}
-
-TEST_F(ReportFolder, KeepsFilesOfOthers) {
-    fs::create_directory(path("out"));
-    write("out/Wall-1.html", "mine");
-    EXPECT_EQ(run({"report", "in", "-o", "out"}),
-              failed("out/Wall-1.html: error: not overwritten, since it is not a page that lvdata made"));
-    EXPECT_EQ(read("out/Wall-1.html"), "mine");
-    EXPECT_EQ(fs::exists(path("out/index.html")), false);
-}
-
-TEST_F(ReportFolder, IsNotMadeForNothing) {
-    EXPECT_EQ(run({"report", "none.xml", "-o", "out/"}), failed("none.xml: error: No such file or directory"));
-    EXPECT_EQ(names(), Arguments{"in"});
-}
-
-TEST_F(ReportFolder, LeavesOutAMonitorWithoutTheMode) {
-    write("in/b.xml", "<MonitorInfo><UUID>u-2</UUID></MonitorInfo>");
-    EXPECT_EQ(run({"report", "in", "-o", "out/", "--mode", "2"}),
-              failed("in/b.xml: error: no colour mode has the index 2; there are none"));
-    EXPECT_THAT(namesIn("out"), ElementsAre("Wall-1.html", "index.html"));
-    EXPECT_FALSE(has(read("out/index.html"), "u-2"));
-}
-
-TEST_F(ReportFolder, TakesListsOfDocuments) {
-    EXPECT_EQ(runBash("find in -name '*.xml' | sort | lvdata report --files-from - -o out/"), done());
-    EXPECT_EQ(run({"report", "in", "-o", "other/"}), done());
-    EXPECT_EQ(contentsOf("out"), contentsOf("other"));
-}
-
-TEST_F(ReportFolder, KeepsStandardInputForTheSecondReading) {
-    EXPECT_EQ(run({"report", "-", "in/b.xml", "-o", "out/"}, {monitor({"Stream", "9", "u-9"})}), done());
-    EXPECT_THAT(namesIn("out"), ElementsAre("Desk-2.html", "Stream-9.html", "index.html"));
-}
-
-TEST_F(ReportFolder, SaysWhenItCannotBeMade) {
-    EXPECT_EQ(run({"report", "in", "-o", "in/a.xml/"}), failed("in/a.xml/: error: it is not a folder"));
-    const Outcome outcome = run({"report", "in", "-o", "/proc/none/"});
-    EXPECT_EQ(outcome.exitCode, 2);
-    EXPECT_THAT(outcome.error, StartsWith("/proc/none/: error: "));
-}
-
-// Names of pages.
-
-/// The names that the pages of monitors with these names and serial numbers have.
-class PageNames : public MonitorTest {
-protected:
-    std::vector<std::string> pagesOf(const std::vector<MonitorText>& monitors) const {
-        std::vector<std::string> arguments{"report", "-o", "out/"};
-        for (std::size_t index = 0; index < monitors.size(); ++index) {
-            const std::string name = std::to_string(index) + ".xml";
-            write(name, monitor(monitors[index]));
-            arguments.push_back(name);
-        }
-        EXPECT_EQ(run(arguments), done());
-        std::vector<std::string> pages = namesIn("out");
-        pages.erase(std::remove(pages.begin(), pages.end(), "index.html"), pages.end());
-        fs::remove_all(path("out"));
-        return pages;
-    }
-};
-
-TEST_F(PageNames, HaveLettersAndDigitsOnly) {
-    EXPECT_THAT(pagesOf({{"../../etc/passwd", "..", "u"}}), ElementsAre("etc-passwd.html"));
-    EXPECT_THAT(pagesOf({{"B\xC3\xBCro &lt;b&gt; &amp;\n", "-o", "u"}}), ElementsAre("B-ro-b-o.html"));
-    EXPECT_THAT(pagesOf({{"/", ".", "u-7"}}), ElementsAre("u-7.html"));
-    EXPECT_THAT(pagesOf({{"", "", "..."}}), ElementsAre("monitor.html"));
-    EXPECT_THAT(pagesOf({{std::string(10000, 'x'), std::string(10000, 'y'), "u"}}),
-                ElementsAre(std::string(60, 'x') + '-' + std::string(60, 'y') + ".html"));
-}
-
-TEST_F(PageNames, AreDifferent) {
-    EXPECT_THAT(pagesOf({{"A", "1", "u-1"}, {"A", "1", "u-2"}}), ElementsAre("A-1-u-1.html", "A-1-u-2.html"));
-    EXPECT_THAT(pagesOf({{"A", "1", "u-1"}, {"a", "1", "u-2"}}), ElementsAre("A-1-u-1.html", "a-1-u-2.html"));
-    EXPECT_THAT(pagesOf({{"A", "1", "u 1"}, {"A", "1", "u+1"}, {"A", "1", "u-1-2"}}),
-                ElementsAre("A-1-u-1-2-2.html", "A-1-u-1-2.html", "A-1-u-1.html"));
-}
-
-TEST_F(PageNames, LeaveTheIndexItsName) {
-    EXPECT_THAT(pagesOf({{"Index", "", "u-1"}}), ElementsAre("Index-2.html"));
 }
 
 }  // namespace
