@@ -1,5 +1,7 @@
 #include "MonitorTest.h"
 
+// Reports of many monitors: a page for each in a folder, and a table of all.
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -88,3 +88,12 @@ TEST(HistoryPicture, SaysWhyThereIsNothing) {
     series.points = {{"", {{}, "no calibration result"}}};
     EXPECT_TRUE(ParsedPicture(historyPicture(series, nullptr)).says("no calibration result"));
 }
+
+TEST(HistoryPicture, HasPointsWhereTheirDatesBelong) {
+    HistorySeries series = sampleSeries();
+    series.points = {{"2024-01-01", {1, ""}}, {"2024-01-11", {1, ""}}, {"2024-01-31", {1, ""}}};
+    const auto points = ParsedPicture(historyPicture(series, nullptr)).all("circle", "lv-measured");
+    ASSERT_EQ(points.size(), 3U);
+    const double step = points[1].number("cx") - points[0].number("cx");
+    EXPECT_NEAR(points[2].number("cx") - points[1].number("cx"), 2 * step, 0.03);
+}
