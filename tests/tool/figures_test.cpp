@@ -236,10 +236,11 @@ TEST(Summaries, HaveTheSameLines) {
     for (std::size_t index = 0; index < whole.modes.size(); ++index) {
         EXPECT_EQ(texts(figureLines(summary.modes[index], summary.known)),
                   texts(figureLines(whole.modes[index], whole.known)));
-        EXPECT_TRUE(summary.modes[index].series.patches.empty());
+        EXPECT_EQ(summary.modes[index].series.patches.capacity(), 0U);
+        EXPECT_EQ(summary.modes[index].tone.steps.capacity(), 0U);
     }
     EXPECT_EQ(texts(figureLines(summary.uniformity)), texts(figureLines(whole.uniformity)));
-    EXPECT_TRUE(summary.uniformity.values.empty());
+    EXPECT_EQ(summary.uniformity.values.capacity(), 0U);
 }
 
 }  // namespace

@@ -35,9 +35,36 @@ TEST_F(ReportFolder, HasAPageForEachMonitorAndATable) {
     EXPECT_TRUE(has(index, "Wall-1.html"));
     EXPECT_LT(index.find("Desk-2.html"), index.find("Wall-1.html"));
     const std::string page = read("out/Wall-1.html");
-    EXPECT_TRUE(has(page, "in/a.xml"));
-    EXPECT_TRUE(has(page, "in/c.xml"));
-    EXPECT_FALSE(has(page, "in/b.xml"));
+    EXPECT_TRUE(has(page, "a.xml"));
+    EXPECT_TRUE(has(page, "c.xml"));
+    EXPECT_FALSE(has(page, "b.xml"));
+}
+
+/// A set with one limit.
+std::string limitsWith(const std::string& limit) {
+    return R"({"name": "own", "title": "Own", "notice": "", "limits": [{"figure": )" + limit + "}]}";
+}
+
+TEST_F(ReportFolder, HasTheVerdictsOfMaps) {
+    write("map.json", limitsWith(R"("brightness_mean", "maximum": 0)"));
+    EXPECT_EQ(run({"report", studio, "--limits", "map.json", "-o", "maps/"}), done());
+    EXPECT_TRUE(has(read("maps/Studio-wall-27W-000417.html"), "1 outside"));
+    EXPECT_TRUE(has(read("maps/index.html"), "</span> Fail</span>"));
+}
+
+/// The table of a calibration is a result, too.
+TEST_F(ReportFolder, HasTheVerdictsOfModesWithTables) {
+    std::string table = "0";
+    for (int entry = 1; entry < 256; ++entry) {
+        table += '|' + std::to_string(entry);
+    }
+    write("lut.xml", "<MonitorInfo><UUID>u</UUID><CalibrationModeResult><ColorMode><Index>1</Index><MonitorParameter>"
+                     "<RedLUT>" +
+                         table + "</RedLUT></MonitorParameter></ColorMode></CalibrationModeResult></MonitorInfo>");
+    write("white.json", limitsWith(R"("white_delta_uv", "maximum": 1)"));
+    EXPECT_EQ(run({"report", "lut.xml", "--limits", "white.json", "-o", "tables/"}), done());
+    EXPECT_TRUE(has(read("tables/u.html"), "</span> Incomplete</span>"));
+    EXPECT_TRUE(has(read("tables/index.html"), "</span> Incomplete</span>"));
 }
 
 TEST_F(ReportFolder, GivesTheHeadingToTheTable) {

@@ -98,6 +98,16 @@ TEST_F(Report, FailsOnLimitsOnRequest) {
     EXPECT_EQ(run({"report", studio, "--limits", "lax.json", "-o", "out/", "--fail-on-limits"}), done());
 }
 
+/// Modes without a result are not judged on the page, so they do not fail.
+TEST_F(Report, FailsOnLimitsOfItsPageOnly) {
+    const std::string limit = R"({"figure": "patches_count", "minimum": 1})";
+    write("own.json", R"({"name": "own", "title": "Own", "notice": "", "limits": [)" + limit + "]}");
+    write("in.xml", monitor());
+    EXPECT_EQ(run({"report", studio, "--limits", "own.json", "-o", "out.html", "--fail-on-limits"}), done());
+    EXPECT_TRUE(has(read("out.html"), "3 of 3 figures within the limits"));
+    EXPECT_EQ(run({"report", "in.xml", "--limits", "own.json", "-o", "out.html", "--fail-on-limits"}).exitCode, 1);
+}
+
 TEST_F(Report, SaysWhatIsWrongWithAFileOfLimits) {
     write("limits.json", "{\n\"name\": 1\n}");
     const Outcome outcome = run({"report", studio, "--limits", "limits.json", "-o", "out.html"});
@@ -122,7 +132,18 @@ TEST_F(Report, HasTheHistoryOfOneMonitor) {
         EXPECT_TRUE(has(page, text)) << text;
     }
     EXPECT_TRUE(made({"report", "old.xml", "new.xml"}) == page);
-    EXPECT_TRUE(made({"report", "."}).size() == made({"report", "./new.xml", "./old.xml"}).size());
+    EXPECT_TRUE(made({"report", "."}) == page);
+}
+
+/// A page is the same on every machine, and tells nothing of its folders.
+TEST_F(Report, NamesDocumentsWithoutTheirFolders) {
+    fs::create_directory(path("secret"));
+    write("in.xml", monitor());
+    write("secret/in.xml", monitor());
+    EXPECT_FALSE(has(made({"report", "secret/in.xml"}), "secret"));
+    EXPECT_TRUE(made({"report", path("secret/in.xml")}) == made({"report", "in.xml"}));
+    EXPECT_EQ(run({"report", "secret/in.xml", "--mode", "9"}),
+              failed("secret/in.xml: error: no colour mode has the index 9; there are 2"));
 }
 
 TEST_F(Report, KnowsAMonitorByItsSerialNumberAndModel) {

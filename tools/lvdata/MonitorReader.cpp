@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 namespace tool {
 namespace {
@@ -25,28 +26,22 @@ bool canBeReadAgain(const std::string& file) {
     return file != standardStream && std::filesystem::is_regular_file(file, ignored);
 }
 
-/// The latest time of a calibration.
-std::string latestTime(const MonitorFigures& figures) {
-    std::string latest;
-    for (const ModeFigures& mode : figures.modes) {
-        const std::string& time = mode.calibratedTime;
-        if (!time.empty() && (latest.empty() || lv::analysis::daysOf(latest) < lv::analysis::daysOf(time))) {
-            latest = time;
-        }
-    }
-    return latest;
+/// Frees the memory, too.
+template <class Item>
+void drop(std::vector<Item>& items) {
+    std::vector<Item>().swap(items);
 }
 
 void dropData(MapFigures& map) {
-    map.values = {};
-    map.againstCentre = {};
+    drop(map.values);
+    drop(map.againstCentre);
 }
 
 void dropData(ModeFigures& mode) {
     mode.tables = {};
-    mode.tone.steps = {};
-    mode.series.patches = {};
-    mode.series.worst = {};
+    drop(mode.tone.steps);
+    drop(mode.series.patches);
+    drop(mode.series.worst);
 }
 
 }  // namespace
@@ -83,7 +78,7 @@ MonitorDocument MonitorReader::monitorIn(const Document& document, const std::st
     MonitorDocument read{file, {}, lv::analysis::identityOf(*monitor), {}};
     read.snapshot.document = inputName(file);
     read.snapshot.figures = lv::analysis::monitorFigures(*monitor, units_);
-    read.snapshot.when = latestTime(read.snapshot.figures);
+    read.snapshot.when = latestTimeOf(read.snapshot.figures);
     return read;
 }
 

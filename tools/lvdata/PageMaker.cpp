@@ -2,35 +2,26 @@
 
 #include "mode_option.h"
 
-#include <algorithm>
+#include <filesystem>
 #include <optional>
-#include <utility>
+#include <string>
 #include <vector>
 
 namespace tool {
 namespace {
 
-using lv::analysis::FigureLine;
-using lv::analysis::LimitSet;
-using lv::analysis::MapFigures;
-using lv::analysis::ModeFigures;
-using lv::analysis::MonitorFigures;
 using lv::analysis::ReportedDocument;
+using lv::analysis::Snapshot;
 
-bool passes(const std::vector<FigureLine>& lines, const LimitSet& limits) {
-    return verdictOf(judge(lines, limits)).failed == 0;
+void refuseUnlessMode(const Snapshot& snapshot, const std::optional<std::string>& index) {
+    if (index) {
+        static_cast<void>(modesOfIndex(snapshot.figures.modes, *index, snapshot.document));
+    }
 }
 
-/// The modes of that index, or all. Throws `Failure` when there is none of it.
-std::vector<ModeFigures> modesOf(const lv::analysis::Snapshot& snapshot, const std::optional<std::string>& index) {
-    const std::vector<ModeFigures>& modes = snapshot.figures.modes;
-    return index ? modesOfIndex(modes, *index, snapshot.document) : modes;
-}
-
-bool isWithin(const LimitSet& limits, const MonitorFigures& monitor, const std::vector<ModeFigures>& modes) {
-    return std::all_of(modes.begin(), modes.end(),
-                       [&](const ModeFigures& mode) { return passes(figureLines(mode, monitor.known), limits); }) &&
-           passes(figureLines(monitor.uniformity), limits) && passes(figureLines(monitor.brightness), limits);
+/// Without the folder, which differs between machines.
+void shortenName(Snapshot& snapshot) {
+    snapshot.document = std::filesystem::path(snapshot.document).filename();
 }
 
 }  // namespace
@@ -41,12 +32,11 @@ MonitorPage PageMaker::pageOf(const MonitorDocuments& documents) const {
         const bool isLatest = &document == &latestOf(documents);
         reported.push_back(isLatest ? reader_.readWhole(document) : ReportedDocument{document.snapshot, {}, {}});
     }
-    ReportedDocument& latest = reported.back();
-    const auto modes = modesOf(latest.snapshot, form_.mode);
-    MonitorPage page{reportPage(reported, form_), {}, isWithin(*form_.limits, latest.snapshot.figures, modes)};
-    dropData(latest.snapshot.figures);
-    page.entry = {"", std::move(latest.snapshot), documents.size(), std::move(latest.findings)};
-    return page;
+    refuseUnlessMode(reported.back().snapshot, form_.mode);
+    for (ReportedDocument& document : reported) {
+        shortenName(document.snapshot);
+    }
+    return {reportPage(reported, form_), fleetEntry(reported, form_)};
 }
 
 }  // namespace tool

@@ -12,7 +12,9 @@ namespace tool {
 struct MonitorPage {
     std::string text;
     lv::analysis::FleetEntry entry;  // without the name of the page
-    bool isWithinLimits = true;      // no figure of the page is beyond its limit
+
+    /// Whether no figure of the page is beyond its limit.
+    [[nodiscard]] bool isWithinLimits() const { return entry.verdict.failed == 0; }
 };
 
 /// Makes pages. Any number of threads may use one.

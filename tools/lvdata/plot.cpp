@@ -92,10 +92,6 @@ MonitorDocuments readMonitor(const Options& options, InputFiles& inputs, ExitSta
     return monitors.empty() ? MonitorDocuments{} : std::move(monitors.front());
 }
 
-bool hasResult(const ModeFigures& mode) {
-    return mode.measuredWhite || mode.measurements > 0 || !mode.calibratedTime.empty();
-}
-
 /// The mode that was asked for, or else the first one with a calibration result, or the first one.
 ModeFigures modeOf(const Snapshot& snapshot, const std::string& index) {
     const std::vector<ModeFigures>& modes = snapshot.figures.modes;
@@ -105,7 +101,7 @@ ModeFigures modeOf(const Snapshot& snapshot, const std::string& index) {
     if (modes.empty()) {
         throw Failure(snapshot.document, "there are no colour modes");
     }
-    const auto found = std::find_if(modes.begin(), modes.end(), hasResult);
+    const auto found = std::find_if(modes.begin(), modes.end(), &lv::analysis::hasResult);
     return found == modes.end() ? modes.front() : *found;
 }
 

@@ -76,7 +76,7 @@ ExitStatus readFleet(const Options& options, const MonitorReader& reader, InputF
 ExitStatus writePage(const Options& options, const MonitorPage& page, const InputFiles& inputs) {
     inputs.refuseToOverwrite(options.output);
     writeResult(options.output, page.text);
-    return options.failsOnLimits && !page.isWithinLimits ? ExitStatus::found : ExitStatus::done;
+    return options.failsOnLimits && !page.isWithinLimits() ? ExitStatus::found : ExitStatus::done;
 }
 
 ExitStatus report(const Options& options) {

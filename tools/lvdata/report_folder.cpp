@@ -100,7 +100,7 @@ ExitStatus writeReportFolder(const ReportFolder& report, const std::vector<Monit
         }
         MonitorPage& page = std::get<MonitorPage>(made);
         writer.write(name, page.text);
-        if (report.failsOnLimits && !page.isWithinLimits) {
+        if (report.failsOnLimits && !page.isWithinLimits()) {
             status = worst(status, ExitStatus::found);
         }
         page.entry.page = name;

@@ -110,4 +110,10 @@ std::vector<ModeFigures> modeFigures(const ColorModeSettings& settings, const Ca
     return figures;
 }
 
+bool hasResult(const ModeFigures& mode) {
+    const bool hasTables = !mode.tables[0].empty() || !mode.tables[1].empty() || !mode.tables[2].empty();
+    return !mode.calibratedTime.empty() || mode.measuredWhite || mode.measuredChromaticity || mode.measuredBlack ||
+           mode.measurements > 0 || hasTables;
+}
+
 }  // namespace lv::analysis

@@ -152,4 +152,7 @@ struct ModeFigures {
 [[nodiscard]] std::vector<ModeFigures> modeFigures(const ColorModeSettings& settings,
                                                    const CalibrationModeResult& results, const KnownUnits& known = {});
 
+/// Whether anything of a calibration or measurement of the mode is known.
+[[nodiscard]] bool hasResult(const ModeFigures& mode);
+
 }  // namespace lv::analysis

@@ -41,19 +41,17 @@ std::string addressOf(std::string_view page) {
     return address;
 }
 
-View entryOf(const FleetEntry& entry, const ReportForm& form) {
-    const MonitorFigures& monitor = entry.latest.figures;
-    const JudgedMonitor judged = judgedMonitor(monitor, *form.limits, form.mode);
+View entryOf(const FleetEntry& entry) {
     return View::Members{
         {"address", addressOf(entry.page)},
-        {"name", shortened(monitor.name.empty() ? "Monitor without a name" : monitor.name)},
-        {"serial", textView(monitor.serial)},
-        {"model", textView(monitor.model)},
-        {"when", textView(entry.latest.when)},
-        {"mark", verdictMarkView(judged.verdict.mark())},
-        {"failed", std::to_string(judged.verdict.failed)},
-        {"worst_mean", worstMeanOf(judged)},
-        {"finding_count", std::to_string(entry.findings.count())},
+        {"name", shortened(entry.name.empty() ? "Monitor without a name" : entry.name)},
+        {"serial", textView(entry.serial)},
+        {"model", textView(entry.model)},
+        {"when", textView(entry.when)},
+        {"mark", verdictMarkView(entry.verdict.mark())},
+        {"failed", std::to_string(entry.verdict.failed)},
+        {"worst_mean", entry.worstMean},
+        {"finding_count", std::to_string(entry.findings)},
         {"document_count", std::to_string(entry.documents)},
     };
 }
@@ -61,7 +59,7 @@ View entryOf(const FleetEntry& entry, const ReportForm& form) {
 View viewOf(const std::vector<FleetEntry>& entries, const ReportForm& form) {
     View::Items rows;
     for (const FleetEntry& entry : entries) {
-        rows.push_back(entryOf(entry, form));
+        rows.push_back(entryOf(entry));
     }
     const LimitSet& limits = *form.limits;
     return View::Members{
@@ -75,6 +73,22 @@ View viewOf(const std::vector<FleetEntry>& entries, const ReportForm& form) {
 }
 
 }  // namespace
+
+FleetEntry fleetEntry(const std::vector<ReportedDocument>& documents, const ReportForm& form) {
+    const ReportedDocument& latest = documents.back();
+    const MonitorFigures& monitor = latest.snapshot.figures;
+    const JudgedMonitor judged = judgedMonitor(monitor, *form.limits, form.mode);
+    FleetEntry entry;
+    entry.name = monitor.name;
+    entry.serial = monitor.serial;
+    entry.model = monitor.model;
+    entry.when = latest.snapshot.when;
+    entry.verdict = judged.verdict;
+    entry.worstMean = worstMeanOf(judged);
+    entry.findings = latest.findings.count();
+    entry.documents = documents.size();
+    return entry;
+}
 
 std::string fleetPage(const std::vector<FleetEntry>& entries, const ReportForm& form) {
     return inUTF8(filled("fleet", viewOf(entries, form)));

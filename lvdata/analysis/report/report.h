@@ -18,8 +18,8 @@ namespace lv::analysis {
 /// A document of the monitor that a page is about.
 struct ReportedDocument {
     Snapshot snapshot{};  ///< Its name and its figures.
-    Findings findings{};  ///< What `check` finds in it, with what printing it again would lose.
-    std::string json{};   ///< The record as JSON text.
+    Findings findings{};  ///< What `check` finds in it, with what printing it again would lose. Of the latest alone.
+    std::string json{};   ///< The record as JSON text. Of the latest alone.
 };
 
 /// How a page is made.
@@ -34,13 +34,21 @@ struct ReportForm {
 /// `documents` is in the order of time and not empty.
 [[nodiscard]] std::string reportPage(const std::vector<ReportedDocument>& documents, const ReportForm& form);
 
-/// One line of the index of a fleet.
+/// One line of the index of a fleet: a page in short.
 struct FleetEntry {
-    std::string page{};         ///< The file name of the monitor's page, relative to the index.
-    Snapshot latest{};          ///< The latest document.
-    std::size_t documents = 0;  ///< How many documents of it there are.
-    Findings findings{};        ///< Of the latest document.
+    std::string page{};         ///< The file name of the page, relative to the index.
+    std::string name{};         ///< The name of the monitor.
+    std::string serial{};       ///< Its serial number.
+    std::string model{};        ///< Its model.
+    std::string when{};         ///< The time of its latest document.
+    Verdict verdict{};          ///< As on the page.
+    std::string worstMean{};    ///< The greatest mean ΔE00 of the modes on the page, or why there is none.
+    std::size_t findings = 0;   ///< How many there are in the latest document.
+    std::size_t documents = 0;  ///< How many documents the page is made of.
 };
+
+/// The line of the page that `reportPage` makes of these. The name of the page is not known here.
+[[nodiscard]] FleetEntry fleetEntry(const std::vector<ReportedDocument>& documents, const ReportForm& form);
 
 /// The page with a table of all monitors, in the given order, and how each does.
 [[nodiscard]] std::string fleetPage(const std::vector<FleetEntry>& entries, const ReportForm& form);

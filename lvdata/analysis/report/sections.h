@@ -49,9 +49,6 @@ struct ReportContents {
     [[nodiscard]] const LimitSet& limits() const { return *form.limits; }
 };
 
-/// Whether anything of a calibration or measurement of the mode is known.
-[[nodiscard]] bool hasResult(const ModeFigures& mode);
-
 /// The key of the mean ΔE00 of all patches.
 inline constexpr std::string_view patchesMeanKey = "patches_delta_e2000_mean";
 

@@ -8,24 +8,28 @@
 namespace {
 
 using lv::analysis::FleetEntry;
+using lv::analysis::ReportedDocument;
 using lv::test::HTMLPage;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-FleetEntry entryOf(const std::string& page, const lv::MonitorInfo& monitor, std::size_t documents) {
-    const lv::analysis::ReportedDocument document = lv::test::reportedDocument(monitor, "monitor.xml");
-    return {page, document.snapshot, documents, document.findings};
+FleetEntry entryOf(const std::string& page, const lv::MonitorInfo& monitor, std::size_t documents,
+                   const lv::analysis::ReportForm& form = lv::test::defaultForm()) {
+    const std::vector<ReportedDocument> same(documents, lv::test::reportedDocument(monitor, "monitor.xml"));
+    FleetEntry entry = fleetEntry(same, form);
+    entry.page = page;
+    return entry;
 }
 
 HTMLPage fleetOf(const std::vector<FleetEntry>& entries) {
     return HTMLPage(lv::analysis::fleetPage(entries, lv::test::defaultForm()));
 }
 
-/// A mean that is worse than all of the example.
-FleetEntry worseEntry() {
-    FleetEntry entry = entryOf("worse.html", lv::test::studioMonitor(), 2);
-    entry.latest.figures.modes.at(3).series.mean.value = 87.25;
-    return entry;
+/// The example with a mean that is worse than all others.
+ReportedDocument worseDocument() {
+    ReportedDocument document = lv::test::reportedDocument(lv::test::studioMonitor(), "worse.xml");
+    document.snapshot.figures.modes.at(3).series.mean.value = 87.25;
+    return document;
 }
 
 }  // namespace
@@ -40,7 +44,7 @@ TEST(Fleet, HasALineForEachMonitorInTheGivenOrder) {
 }
 
 TEST(Fleet, TellsTheWorstMeanOfAllModes) {
-    EXPECT_EQ(fleetOf({worseEntry()}).text("//tbody/tr/td[6]"), "87.25");
+    EXPECT_EQ(fleetOf({fleetEntry({worseDocument()}, lv::test::defaultForm())}).text("//tbody/tr/td[6]"), "87.25");
     EXPECT_EQ(fleetOf({entryOf("a.html", {}, 1)}).text("//tbody/tr/td[6]"), "n/a (nothing measured)");
 }
 
@@ -49,7 +53,7 @@ TEST(Fleet, CountsFailedLimits) {
     limits.limits = {{"patches_count", {}, 90, ""}};
     lv::analysis::ReportForm form;
     form.limits = &limits;
-    const HTMLPage page(lv::analysis::fleetPage({worseEntry()}, form));
+    const HTMLPage page(lv::analysis::fleetPage({entryOf("a.html", lv::test::studioMonitor(), 1, form)}, form));
     EXPECT_EQ(page.text("//tbody/tr/td[4]"), "✗ Fail");
     EXPECT_EQ(page.text("//tbody/tr/td[5]"), "2");
 }

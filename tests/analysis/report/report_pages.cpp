@@ -22,14 +22,6 @@ const std::string& studioText() {
     return text;
 }
 
-std::string timeOf(const analysis::MonitorFigures& figures) {
-    std::string latest;
-    for (const analysis::ModeFigures& mode : figures.modes) {
-        latest = std::max(latest, mode.calibratedTime);
-    }
-    return latest;
-}
-
 /// Gives each element of that name another text.
 void replaceTexts(std::string& document, const std::string& element, const std::string& text) {
     const std::string start = "<" + element + ">";
@@ -72,16 +64,18 @@ ReportedDocument ofYear(unsigned int year) {
     return reportedDocument(monitor, "studio-" + std::to_string(year) + ".xml");
 }
 
-analysis::FleetEntry entryOf(const std::string& page, const ReportedDocument& document, std::size_t documents) {
-    return {page, document.snapshot, documents, document.findings};
+analysis::FleetEntry entryOf(const std::string& page, const std::vector<ReportedDocument>& documents) {
+    analysis::FleetEntry entry = analysis::fleetEntry(documents, defaultForm());
+    entry.page = page;
+    return entry;
 }
 
 std::string fleetOfFour() {
     const ReportedDocument bare = reportedDocument(MonitorInfo(), "bare.xml");
     const ReportedDocument evil = reportedDocument(monitorNamed("</td><script>alert(1)</script>"), "evil.xml");
     const ReportedDocument studio = reportedDocument(studioMonitor(), "studio.xml");
-    return analysis::fleetPage({entryOf("studio.html", studio, 1), entryOf("three-years.html", threeYears().back(), 3),
-                                entryOf("evil.html", evil, 1), entryOf("bare.html", bare, 1)},
+    return analysis::fleetPage({entryOf("studio.html", {studio}), entryOf("three-years.html", threeYears()),
+                                entryOf("evil.html", {evil}), entryOf("bare.html", {bare})},
                                defaultForm());
 }
 
@@ -93,7 +87,7 @@ ReportedDocument reportedDocument(const std::string& text, const std::string& na
     EXPECT_EQ(document.refusal(), nullptr);
     reported.snapshot.document = name;
     reported.snapshot.figures = analysis::monitorFigures(analysis::monitorOf(document.record()).value());
-    reported.snapshot.when = timeOf(reported.snapshot.figures);
+    reported.snapshot.when = latestTimeOf(reported.snapshot.figures);
     reported.findings = analysis::checkDocument(document);
     reported.json = analysis::toJSON(document.record(), catalogue(), {true, false}).text;
     return reported;

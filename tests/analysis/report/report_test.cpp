@@ -3,6 +3,7 @@
 
 #include <tests/support/golden.h>
 
+#include <lvdata/analysis/check/check.h>
 #include <lvdata/analysis/pictures/pictures.h>
 #include <lvdata/analysis/report/report.h>
 
@@ -46,6 +47,10 @@ const ModeFigures& photo() {
 
 HTMLPage pageWith(const ReportedDocument& document, const lv::analysis::ReportForm& form) {
     return HTMLPage(lv::analysis::reportPage({document}, form));
+}
+
+bool has(const std::string& page, const std::string& text) {
+    return page.find(text) != std::string::npos;
 }
 
 /// The page of the example, judged by one limit of the figure.
@@ -109,6 +114,20 @@ TEST(Report, SaysThatNothingIsCalibrated) {
     EXPECT_EQ(page.count("//section[@class='mode']"), 0U);
     EXPECT_THAT(page.texts("//section[@id='summary']/p"), Contains("No colour mode has a calibration result."));
     EXPECT_THAT(page.texts("//section[@id='uniformity']/p"), SizeIs(1));
+}
+
+/// The verdict of the maps does not need a mode.
+TEST(Report, HasAVerdictOfMapsAlone) {
+    lv::MonitorInfo monitor = lv::test::studioMonitor();
+    monitor.calibrationModeResult = {};
+    const ReportedDocument document = reportedDocument(monitor, "maps.xml");
+    lv::analysis::LimitSet limits;
+    limits.limits = {{"brightness_mean", {}, 0, ""}};
+    lv::analysis::ReportForm form;
+    form.limits = &limits;
+    const HTMLPage page = pageWith(document, form);
+    EXPECT_THAT(page.texts("//section[@id='summary']//*[contains(@class, 'overall')]/span[1]"), ElementsAre("✗ Fail"));
+    EXPECT_THAT(page.text("//section[@id='summary']"), HasSubstr("No colour mode has a calibration result."));
 }
 
 TEST(Report, LeadsToEverySection) {
@@ -204,6 +223,22 @@ TEST(Report, HasTheHistoryOfSeveralDocuments) {
     EXPECT_GE(page.count("//section[@id='history']//svg"), 3U);
     EXPECT_THAT(page.texts("//section[@id='record']//tbody//th"),
                 ElementsAre("studio-2022.xml", "studio-2023.xml", "studio-2024.xml"));
+}
+
+/// Findings of documents before the latest are not looked for, so nothing is said of them.
+TEST(Report, TellsTheFindingsOfTheLatestDocumentAlone) {
+    const HTMLPage page(lv::analysis::reportPage(lv::test::threeYears(), lv::test::defaultForm()));
+    EXPECT_THAT(page.texts("//section[@id='record']//thead//th"), ElementsAre("Document", "Last calibration"));
+    EXPECT_THAT(page.texts("//section[@id='record']//tbody/tr[1]/td"), ElementsAre("2022-05-02T10:07:00"));
+}
+
+TEST(Report, DoesNotCallADocumentLosslessWhenFindingsAreNotListed) {
+    ReportedDocument document = studio();
+    const lv::analysis::Rule* const kept = lv::analysis::findRule(*lv::analysis::lossOptions().ignored.begin());
+    document.findings = {{{kept, lv::analysis::Severity::info, 1, "/", "kept"}}, 0, 0, 1};
+    EXPECT_TRUE(has(pageOf(document), "would lose nothing"));
+    document.findings.infos = 2;
+    EXPECT_FALSE(has(pageOf(document), "would lose nothing"));
 }
 
 TEST(Report, HoldsTheRecordAndItsFiguresAsJSON) {

@@ -8,9 +8,6 @@ View documentOf(const ReportedDocument& document) {
     return View::Members{
         {"name", textView(document.snapshot.document, "(unnamed)")},
         {"when", textView(document.snapshot.when)},
-        {"errors", std::to_string(document.findings.errors)},
-        {"warnings", std::to_string(document.findings.warnings)},
-        {"infos", std::to_string(document.findings.infos)},
     };
 }
 

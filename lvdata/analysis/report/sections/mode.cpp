@@ -56,12 +56,6 @@ View::Items measurementOf(const ModeFigures& mode) {
 
 }  // namespace
 
-bool hasResult(const ModeFigures& mode) {
-    const bool hasTables = !mode.tables[0].empty() || !mode.tables[1].empty() || !mode.tables[2].empty();
-    return !mode.calibratedTime.empty() || mode.measuredWhite || mode.measuredChromaticity || mode.measuredBlack ||
-           mode.measurements > 0 || hasTables;
-}
-
 View modeView(const ReportContents& contents, const ReportedMode& mode) {
     View::Members members = {
         {"mode_id", mode.id},

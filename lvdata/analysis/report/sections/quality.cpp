@@ -40,7 +40,7 @@ View qualityView(const Findings& findings) {
                                counted(findings.infos, "remark")},
         {"left_out", isWhole ? "" : std::to_string(findings.count() - findings.listed.size())},
         {"has_findings", findings.count() > 0},
-        {"is_lossless", std::none_of(findings.listed.begin(), findings.listed.end(), &isLoss)},
+        {"is_lossless", isWhole && std::none_of(findings.listed.begin(), findings.listed.end(), &isLoss)},
         {"findings", listOf(findings)},
     };
 }

@@ -32,7 +32,7 @@ View mapsCardOf(const Verdict& verdict) {
     };
 }
 
-View cardsOf(const JudgedMonitor& judged) {
+View::Items cardsOf(const JudgedMonitor& judged) {
     View::Items cards;
     for (const ReportedMode& mode : judged.calibrated) {
         cards.push_back(cardOf(mode));
@@ -55,12 +55,14 @@ View othersOf(const std::vector<const ModeFigures*>& modes) {
 
 View summaryView(const ReportContents& contents) {
     const LimitSet& limits = contents.limits();
+    View::Items cards = cardsOf(contents.judged);
     return View::Members{
-        {"has_cards", !contents.judged.calibrated.empty()},
+        {"has_results", !contents.judged.calibrated.empty()},
+        {"has_cards", !cards.empty()},
         {"has_others", !contents.judged.others.empty()},
         {"overall_mark", verdictMarkView(contents.judged.verdict.mark())},
         {"overall_counts", countsText(contents.judged.verdict)},
-        {"cards", cardsOf(contents.judged)},
+        {"cards", std::move(cards)},
         {"others", othersOf(contents.judged.others)},
         {"limits_title", limits.title.empty() ? limits.name : limits.title},
         {"limits_notice", limits.notice},
