@@ -192,7 +192,7 @@ void expectWhole(const ModeFigures& mode, const KnownUnits& known) {
 
 TEST(HostileRecords, HaveFiguresAndJSON) {
     Source source(1);
-    for (int count = 0; count < 500; ++count) {
+    for (int count = 0; count < 300; ++count) {
         const KnownUnits known = unitsOf(source);
         const MonitorFigures figures = monitorFigures(monitorOf(source), known);
         for (const ModeFigures& mode : figures.modes) {
