@@ -29,22 +29,30 @@ bool isFinite(const colour::Tristimulus& values) {
     return std::isfinite(values[0]) && std::isfinite(values[1]) && std::isfinite(values[2]);
 }
 
+/// How much of each column makes the white; no value unless some of each does.
+std::optional<std::array<double, 3>> factorsOf(const colour::Matrix& channels, const colour::Tristimulus& white) {
+    const auto inverted = colour::inverse(channels);
+    const auto factors = inverted ? colour::product(*inverted, white) : std::array<double, 3>();
+    const bool canMakeWhite = isFinite(factors) && factors[0] > 0 && factors[1] > 0 && factors[2] > 0;
+    return canMakeWhite ? std::optional(factors) : std::nullopt;
+}
+
 }  // namespace
 
-std::optional<colour::Matrix> channelsOf(const MeasuredSet& set) {
+Channels channelsOf(const MeasuredSet& set) {
     if (!set.red || !set.green || !set.blue || !set.white) {
-        return std::nullopt;
+        return {{}, "no complete set of primaries and white was measured"};
     }
     const colour::Tristimulus black = set.black.value_or(colour::Tristimulus());
+    const colour::Tristimulus white = difference(*set.white, black);
+    if (!(white[1] > 0)) {
+        return {{}, "the measured white is not brighter than the measured black"};
+    }
     const colour::Matrix channels =
         colour::fromColumns(difference(*set.red, black), difference(*set.green, black), difference(*set.blue, black));
-    const auto inverted = colour::inverse(channels);
-    if (!inverted) {
-        return std::nullopt;
-    }
-    const auto factors = colour::product(*inverted, difference(*set.white, black));
-    const bool canMakeWhite = isFinite(factors) && factors[0] > 0 && factors[1] > 0 && factors[2] > 0;
-    return canMakeWhite ? std::optional(scaled(channels, factors)) : std::nullopt;
+    const auto factors = factorsOf(channels, white);
+    return factors ? Channels{scaled(channels, *factors), ""}
+                   : Channels{{}, "the measured primaries cannot make the measured white"};
 }
 
 DisplayModel::DisplayModel(const colour::Matrix& channels, const colour::Tristimulus& black,

@@ -10,9 +10,15 @@
 
 namespace lv::analysis {
 
-/// The columns of the result are what full red, green and blue add to black, scaled so that all three make the white.
-/// No value where a colour is missing or the primaries cannot make the white. A missing black counts as 0.
-[[nodiscard]] std::optional<colour::Matrix> channelsOf(const MeasuredSet& set);
+/// The columns of the matrix are what full red, green and blue add to black, scaled so that all three make the white.
+struct Channels {
+    std::optional<colour::Matrix> matrix{};
+    std::string reason{};  ///< Why there is no matrix; otherwise empty.
+};
+
+/// No matrix where a colour is missing, the primaries cannot make the white, or that is not brighter than black. A
+/// missing black counts as 0.
+[[nodiscard]] Channels channelsOf(const MeasuredSet& set);
 
 /// A display without errors: what it would show.
 class DisplayModel {

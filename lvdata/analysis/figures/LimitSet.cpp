@@ -9,14 +9,12 @@
 namespace lv::analysis {
 namespace {
 
-/// Without zeros at the end of the digits after the point.
-std::string shortest(double value, int decimals) {
-    std::string text = fixedText(value, decimals);
-    if (text.find('.') == std::string::npos) {
-        return text;
-    }
-    text.erase(text.find_last_not_of('0') + 1);
-    return text.back() == '.' ? text.substr(0, text.size() - 1) : text;
+/// The fewest digits that tell the number.
+std::string shortest(double value) {
+    std::array<char, 400> text{};  // room for the longest
+    char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));
+    const double withoutSign = value == 0 ? 0 : value;  // not "-0"
+    return {text.data(), std::to_chars(text.data(), end, withoutSign, std::chars_format::fixed).ptr};
 }
 
 /// The number that the text of a figure shows.
@@ -52,11 +50,11 @@ std::vector<LimitSet> readKnownSets() {
 
 }  // namespace
 
-std::string FigureLimit::text(int decimals) const {
+std::string FigureLimit::text() const {
     if (minimum && maximum) {
-        return shortest(*minimum, decimals) + " to " + shortest(*maximum, decimals);
+        return shortest(*minimum) + " to " + shortest(*maximum);
     }
-    return maximum ? "\u2264 " + shortest(*maximum, decimals) : minimum ? "\u2265 " + shortest(*minimum, decimals) : "";
+    return maximum ? "\u2264 " + shortest(*maximum) : minimum ? "\u2265 " + shortest(*minimum) : "";
 }
 
 const FigureLimit* LimitSet::limitOf(std::string_view key) const {

@@ -16,8 +16,8 @@ struct FigureLimit {
     std::optional<double> maximum{};  ///< The greatest value that passes.
     std::string source{};             ///< Where the limit is from; may be empty.
 
-    /// "≤ 0.005", "100 to 200", with the digits that the limit was given with at most `decimals`.
-    [[nodiscard]] std::string text(int decimals) const;
+    /// "≤ 0.005", "100 to 200": with all the digits that the limit was given with.
+    [[nodiscard]] std::string text() const;
 };
 
 /// A named set of limits, from a file.

@@ -26,11 +26,14 @@ void missAll(MapFigures& figures, const std::string& reason) {
 }
 
 /// Why the map has no entry in the middle; empty when it has one.
-std::string complaintOnCentre(const MapFigures& figures) {
+std::string complaintOnCentre(const MapFigures& figures, std::size_t knownWidth) {
+    const std::size_t count = figures.values.size();
     if (figures.gridWidth == 0) {
-        return "the shape of the map is not known";
+        const std::string entries = std::to_string(count) + (count == 1 ? " entry does" : " entries do");
+        return knownWidth == 0 ? "the shape of the map is not known"
+                               : entries + " not fill rows of " + std::to_string(knownWidth);
     }
-    const std::size_t rows = figures.values.size() / figures.gridWidth;
+    const std::size_t rows = count / figures.gridWidth;
     return figures.gridWidth % 2 == 0 || rows % 2 == 0 ? "a map of an even number of rows or columns has no centre"
                                                        : "";
 }
@@ -48,8 +51,8 @@ void takeDeviations(MapFigures& figures, double centre) {
     figures.greatestDeviation = computed(greatest);
 }
 
-void takeCentre(MapFigures& figures) {
-    const std::string complaint = complaintOnCentre(figures);
+void takeCentre(MapFigures& figures, std::size_t knownWidth) {
+    const std::string complaint = complaintOnCentre(figures, knownWidth);
     if (!complaint.empty()) {
         figures.centre = figures.greatestDeviation = missing(complaint);
         return;
@@ -59,13 +62,13 @@ void takeCentre(MapFigures& figures) {
     takeDeviations(figures, centre);
 }
 
-void takeValues(MapFigures& figures) {
+void takeValues(MapFigures& figures, std::size_t knownWidth) {
     const auto [least, greatest] = std::minmax_element(figures.values.begin(), figures.values.end());
     const double sum = std::accumulate(figures.values.begin(), figures.values.end(), 0.0);
     figures.minimum = computed(*least);
     figures.maximum = computed(*greatest);
     figures.mean = computed(sum / static_cast<double>(figures.values.size()));
-    takeCentre(figures);
+    takeCentre(figures, knownWidth);
 }
 
 }  // namespace
@@ -82,7 +85,7 @@ MapFigures mapFigures(std::string_view name, const CandelaMapEntry& map, const K
     figures.values.assign(map.values.begin(), map.values.end());
     const bool isWhole = known.gridWidth > 0 && figures.values.size() % known.gridWidth == 0;
     figures.gridWidth = isWhole ? known.gridWidth : 0;
-    takeValues(figures);
+    takeValues(figures, known.gridWidth);
     return figures;
 }
 

@@ -50,9 +50,9 @@ FigureLine percentLine(const Name& name, const Figure& fraction) {
 void addSpace(std::vector<FigureLine>& lines, const std::string& key, const GamutFigures& gamut) {
     const std::string space(gamut.space);
     lines.push_back(percentLine({key + "_coverage_xy", "Coverage of " + space + " in x, y"}, gamut.coverageXY));
-    lines.push_back(percentLine({key + "_area_xy", "Area over " + space + " in x, y"}, gamut.areaXY));
+    lines.push_back(percentLine({key + "_area_xy", "Area ratio to " + space + " in x, y"}, gamut.areaXY));
     lines.push_back(percentLine({key + "_coverage_uv", "Coverage of " + space + " in u', v'"}, gamut.coverageUV));
-    lines.push_back(percentLine({key + "_area_uv", "Area over " + space + " in u', v'"}, gamut.areaUV));
+    lines.push_back(percentLine({key + "_area_uv", "Area ratio to " + space + " in u', v'"}, gamut.areaUV));
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include <lvdata/analysis/figures/lines.h>
 
-#include <lvdata/analysis/colour/temperature.h>
 #include <lvdata/analysis/figures/gamut_lines.h>
 #include <lvdata/analysis/figures/line_parts.h>
+#include <lvdata/analysis/figures/white_figures.h>
 
 #include <array>
 
@@ -68,13 +68,11 @@ Figure vOf(const colour::Chromaticity& white) {
 }
 
 Figure kelvinOf(const colour::Chromaticity& white) {
-    const auto temperature = colour::correlatedTemperature(white);
-    return temperature ? computed(temperature->kelvin) : missing("too far from the Planckian locus");
+    return temperatureFiguresOf(white).kelvin;
 }
 
 Figure duvOf(const colour::Chromaticity& white) {
-    const auto temperature = colour::correlatedTemperature(white);
-    return temperature ? computed(temperature->duv) : missing("too far from the Planckian locus");
+    return temperatureFiguresOf(white).duv;
 }
 
 /// In per cent.
@@ -136,7 +134,8 @@ constexpr std::array whiteAndBlack = {
              [](const Mode& mode) {
                  return mode.measuredY;
              }},
-    LineForm{"white_tristimulus_y_deviation", "White", "White Y over target", "%", 1, nullptr, deviationOfY},
+    LineForm{"white_tristimulus_y_deviation", "White", "White Y, deviation from the target", "%", 1, nullptr,
+             deviationOfY},
     LineForm{"black_tristimulus_y", "Black", "Black Y", unitOfY, 4,
              [](const Mode& mode) {
                  return Aim{{}, mode.targetBlack};
@@ -174,7 +173,7 @@ constexpr std::array toneAndPatches = {
              [](const Mode& mode) {
                  return mode.series.mean;
              }},
-    LineForm{"patches_delta_e2000_percentile_95", "Patches", "95 % of ΔE00 up to", "", 2, nullptr,
+    LineForm{"patches_delta_e2000_percentile_95", "Patches", "95th percentile of ΔE00", "", 2, nullptr,
              [](const Mode& mode) {
                  return mode.series.percentile95;
              }},

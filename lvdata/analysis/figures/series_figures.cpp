@@ -41,12 +41,12 @@ std::optional<colour::Matrix> targetChannels(const ModeFigures& mode, const Targ
 }
 
 Reference profileReference(const MeasuredSet& set, const TargetCurves& curves, bool isAbsolute) {
-    const auto channels = channelsOf(set);
-    if (!channels) {
-        return {{}, "", "no complete set of primaries and white was measured"};
+    const Channels channels = channelsOf(set);
+    if (!channels.matrix) {
+        return {{}, "", channels.reason};
     }
     const std::string black = set.black ? "measured primaries, white and black" : "measured primaries and white";
-    return {DisplayModel(*channels, set.black.value_or(colour::Tristimulus()), *curves.curves, isAbsolute),
+    return {DisplayModel(*channels.matrix, set.black.value_or(colour::Tristimulus()), *curves.curves, isAbsolute),
             "profile: " + black + ", tone curve " + curves.label, ""};
 }
 
@@ -74,15 +74,15 @@ std::optional<std::array<unsigned int, Count>> shown(const std::vector<unsigned 
 }
 
 DisplayModel::Prediction predicted(const PatchFigures& patch, const Reference& reference) {
-    constexpr double fullScale = 255;
     if (!reference.model) {
         return {{}, reference.reason};
     }
     if (!patch.RGB) {
         return {{}, "no R, G and B were shown"};
     }
-    const std::array<double, 3> signals = {(*patch.RGB)[0] / fullScale, (*patch.RGB)[1] / fullScale,
-                                           (*patch.RGB)[2] / fullScale};
+    const std::array<double, 3> signals = {natural((*patch.RGB)[0], quantities::codeValue),
+                                           natural((*patch.RGB)[1], quantities::codeValue),
+                                           natural((*patch.RGB)[2], quantities::codeValue)};
     if (signals[0] > 1 || signals[1] > 1 || signals[2] > 1) {
         return {{}, "a code value above 255"};
     }

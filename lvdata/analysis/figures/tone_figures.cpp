@@ -9,7 +9,7 @@
 namespace lv::analysis {
 namespace {
 
-constexpr unsigned int fullScale = 255;
+constexpr unsigned int fullScale = quantities::codeValue.factor;
 
 /// The mean of the patches of one code value.
 class Mean {
@@ -58,9 +58,13 @@ std::string complaintOf(const Greys& greys) {
 class Balance {
 public:
     explicit Balance(const MeasuredSet& set) : black_(set.black.value_or(colour::Tristimulus())) {
-        const auto channels = channelsOf(set);
-        toLights_ = channels ? colour::inverse(*channels) : std::nullopt;
+        const Channels channels = channelsOf(set);
+        toLights_ = channels.matrix ? colour::inverse(*channels.matrix) : std::nullopt;
+        reason_ = channels.reason;
     }
+
+    /// Why there is no balance at all; otherwise empty.
+    [[nodiscard]] const std::string& reason() const { return reason_; }
 
     /// R, G and B over their mean; no value where that is not above 0.
     [[nodiscard]] std::optional<std::array<double, 3>> of(const colour::Tristimulus& XYZ) const {
@@ -78,6 +82,7 @@ public:
 private:
     colour::Tristimulus black_;
     std::optional<colour::Matrix> toLights_;
+    std::string reason_;
 };
 
 Figure gammaOf(double signal, double light) {
@@ -93,7 +98,7 @@ std::vector<ToneStep> stepsOf(const Greys& greys, const Balance& balance) {
     std::vector<ToneStep> steps;
     for (const auto& [code, mean] : greys) {
         ToneStep step;
-        step.signal = static_cast<double>(code) / fullScale;
+        step.signal = natural(code, quantities::codeValue);
         step.light = (mean.value()[1] - black) / (white - black);
         step.gamma = gammaOf(step.signal, step.light);
         step.balance = code > 0 ? balance.of(mean.value()) : std::nullopt;
@@ -108,6 +113,10 @@ void setTargets(std::vector<ToneStep>& steps, const TargetCurves& target, const 
     }
 }
 
+std::string noneBright(const std::string& range) {
+    return "no grey patch " + range + " of the signal is brighter than black";
+}
+
 Figure meanGammaOf(const std::vector<ToneStep>& steps) {
     double sum = 0;
     double count = 0;
@@ -117,7 +126,7 @@ Figure meanGammaOf(const std::vector<ToneStep>& steps) {
             ++count;
         }
     }
-    return count > 0 ? computed(sum / count) : missing("no grey patch from 10 % to 90 % of the signal");
+    return count > 0 ? computed(sum / count) : missing(noneBright("from 10 % to 90 %"));
 }
 
 Figure greatestDeviationOf(const std::vector<ToneStep>& steps) {
@@ -131,8 +140,8 @@ Figure greatestDeviationOf(const std::vector<ToneStep>& steps) {
     return greatest;
 }
 
-Figure greatestImbalanceOf(const std::vector<ToneStep>& steps) {
-    Figure greatest = missing("no complete set of primaries, white and grey patches");
+Figure greatestImbalanceOf(const std::vector<ToneStep>& steps, const Balance& balance) {
+    Figure greatest = missing(balance.reason().empty() ? noneBright("from 20 %") : balance.reason());
     for (const ToneStep& step : steps) {
         if (step.signal < 0.2 || !step.balance) {
             continue;
@@ -171,11 +180,12 @@ ToneFigures toneFiguresOf(const CalibrationModeResultObject& result, const Targe
     ToneFigures tone;
     tone.targetCurve = target.label;
     tone.targetGamma = target.exponent();
-    tone.steps = stepsOf(greys, Balance(measuredSetOf(result)));
+    const Balance balance(measuredSetOf(result));
+    tone.steps = stepsOf(greys, balance);
     setTargets(tone.steps, target, {greys.at(fullScale).value()[1], greys.at(0).value()[1], isAbsolute(known)});
     tone.meanGamma = meanGammaOf(tone.steps);
     tone.greatestDeviation = greatestDeviationOf(tone.steps);
-    tone.greatestImbalance = greatestImbalanceOf(tone.steps);
+    tone.greatestImbalance = greatestImbalanceOf(tone.steps, balance);
     return tone;
 }
 

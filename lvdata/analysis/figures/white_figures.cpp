@@ -58,17 +58,21 @@ std::optional<colour::Tristimulus> measuredWhiteOf(const Result& result, const M
 }
 
 void takeTemperature(ModeFigures& figures) {
-    if (!figures.measuredChromaticity) {
-        figures.temperature = figures.duv = missing("X, Y and Z of the white are 0");
-    } else if (const auto temperature = colour::correlatedTemperature(*figures.measuredChromaticity)) {
-        figures.temperature = computed(temperature->kelvin);
-        figures.duv = computed(temperature->duv);
-    } else {
-        figures.temperature = figures.duv = missing("too far from the Planckian locus");
-    }
+    const Figure none = missing("X, Y and Z of the white are 0");
+    const auto& white = figures.measuredChromaticity;
+    const TemperatureFigures temperature = white ? temperatureFiguresOf(*white) : TemperatureFigures{none, none};
+    figures.temperature = temperature.kelvin;
+    figures.duv = temperature.duv;
 }
 
 }  // namespace
+
+TemperatureFigures temperatureFiguresOf(const colour::Chromaticity& white) {
+    const auto temperature = colour::correlatedTemperature(white);
+    const Figure none = missing("not within 0.05 of the Planckian locus from 1000 K to 100,000 K");
+    return temperature ? TemperatureFigures{computed(temperature->kelvin), computed(temperature->duv)}
+                       : TemperatureFigures{none, none};
+}
 
 void missWhite(ModeFigures& figures, const std::string& reason) {
     figures.measuredY = figures.blackY = figures.contrast = missing(reason);

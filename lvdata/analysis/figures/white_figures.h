@@ -7,6 +7,13 @@ namespace lv::analysis {
 /// White and black that were reached, against the target that `figures` already has.
 void takeWhite(ModeFigures& figures, const CalibrationModeResultObject& result);
 
+/// The CCT of a white in K, and its Δuv.
+struct TemperatureFigures {
+    Figure kelvin{};
+    Figure duv{};
+};
+[[nodiscard]] TemperatureFigures temperatureFiguresOf(const colour::Chromaticity& white);
+
 /// Sets every figure of white and black to n/a.
 void missWhite(ModeFigures& figures, const std::string& reason);
 

@@ -55,12 +55,20 @@ std::string complaintOf(const std::string& text) {
 using testing::HasSubstr;
 
 TEST(FigureLimit, HasAText) {
-    EXPECT_EQ((FigureLimit{"", {}, 0.005, ""}.text(4)), "≤ 0.005");
-    EXPECT_EQ((FigureLimit{"", 2000, {}, ""}.text(0)), "≥ 2000");
-    EXPECT_EQ((FigureLimit{"", 100, 200, ""}.text(2)), "100 to 200");
-    EXPECT_EQ((FigureLimit{"", 2.3, 2.5, ""}.text(2)), "2.3 to 2.5");
-    EXPECT_EQ((FigureLimit{"", -10, 10, ""}.text(1)), "-10 to 10");
-    EXPECT_EQ((FigureLimit{"", {}, {}, ""}.text(1)), "");
+    EXPECT_EQ((FigureLimit{"", {}, 0.005, ""}.text()), "≤ 0.005");
+    EXPECT_EQ((FigureLimit{"", 2000, {}, ""}.text()), "≥ 2000");
+    EXPECT_EQ((FigureLimit{"", 100, 200, ""}.text()), "100 to 200");
+    EXPECT_EQ((FigureLimit{"", 2.3, 2.5, ""}.text()), "2.3 to 2.5");
+    EXPECT_EQ((FigureLimit{"", -10, 10, ""}.text()), "-10 to 10");
+    EXPECT_EQ((FigureLimit{"", -0.0, {}, ""}.text()), "≥ 0");
+    EXPECT_EQ((FigureLimit{"", {}, {}, ""}.text()), "");
+}
+
+// Rounded to the digits of its figure, a limit could be told as a number that fails it.
+TEST(FigureLimit, HasAllDigitsThatItWasGivenWith) {
+    EXPECT_EQ((FigureLimit{"", {}, 0.00506, ""}.text()), "≤ 0.00506");
+    EXPECT_EQ((FigureLimit{"", 0.4, {}, ""}.text()), "≥ 0.4");
+    EXPECT_EQ((FigureLimit{"", 1e21, {}, ""}.text()), "≥ 1000000000000000000000");
 }
 
 TEST(Limits, AreInclusive) {
@@ -185,6 +193,17 @@ TEST(KnownLimitSets, AreAll) {
         names.push_back(set.name);
     }
     EXPECT_THAT(names, testing::ElementsAre("default", "iso14861", "ebu3320-g1"));
+}
+
+TEST(KnownLimitSets, SayThatTheStandardsThemselvesWereNotRead) {
+    for (const LimitSet& set : knownLimitSets()) {
+        const bool isOfStandard = set.name != "default";
+        EXPECT_EQ(set.notice.find("were not read in the original") != std::string::npos, isOfStandard) << set.name;
+        for (const FigureLimit& limit : set.limits) {
+            const bool isSecondHand = limit.source.find("as a summary or an excerpt has it") != std::string::npos;
+            EXPECT_EQ(isSecondHand, isOfStandard) << set.name << ' ' << limit.key;
+        }
+    }
 }
 
 TEST(KnownLimitSets, SayThatTheyAreNoTest) {

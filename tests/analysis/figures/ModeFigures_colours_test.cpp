@@ -64,7 +64,9 @@ TEST(WhiteFigures, HaveTheTemperatureOfTheMeasuredWhite) {
     EXPECT_NEAR(*mode.temperature.value, 6504, 5);  // D65
     EXPECT_NEAR(*mode.duv.value, 0.0032, 0.0001);
     EXPECT_EQ(figuresOf(settingWithWhite("D65"), sRGBResult({1, 100, 1})).temperature.text(0),
-              "n/a (too far from the Planckian locus)");
+              "n/a (not within 0.05 of the Planckian locus from 1000 K to 100,000 K)");
+    EXPECT_EQ(figuresOf(settingWithWhite("D65"), sRGBResult({24, 23, 53})).duv.text(4),  // bluer than any radiator
+              "n/a (not within 0.05 of the Planckian locus from 1000 K to 100,000 K)");
     EXPECT_EQ(figuresOf(settingWithWhite("D65"), sRGBResult({0, 0, 0})).duv.text(0),
               "n/a (X, Y and Z of the white are 0)");
 }

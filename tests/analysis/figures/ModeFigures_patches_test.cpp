@@ -157,10 +157,22 @@ TEST(SeriesFigures, NeedPrimariesThatCanMakeTheWhite) {
     const ColorModeSettingsObject setting = settingWithGamma(200);
     CalibrationModeResultObject line = measuredResult({{1, 1, 1}, {2, 2, 2}, {3, 3, 3}, {4, 4, 4}, {0, 0, 0}});
     addRow(line, {0, 0, 0}, {1, 1, 1});
-    EXPECT_FALSE(seriesOf(line, setting).mean.value);
+    EXPECT_EQ(seriesOf(line, setting).mean.text(2), "n/a (the measured primaries cannot make the measured white)");
     CalibrationModeResultObject dark = measuredResult({{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {4, 4, 0}, {0, 0, 0}});
     addRow(dark, {0, 0, 0}, {1, 1, 1});
     EXPECT_EQ(seriesOf(dark, setting).reference, "");
+}
+
+TEST(SeriesFigures, NeedAWhiteBrighterThanBlack) {
+    // Each channel takes light away, and all three make a white below black.
+    CalibrationModeResultObject result = measuredResult({{9, 9, 10}, {10, 8, 10}, {10, 9, 9}, {9, 6, 9}, {10, 10, 10}});
+    addRow(result, {128, 128, 128}, {9, 9, 9});
+    ColorModeSettingsObject setting = settingOf(types::colorMode::calibration);
+    setting.targetSetting.value.gammaV7.set({types::targetStandard::standard, "PQ"});
+    KnownUnits known;
+    known.yUnit = "cd/m²";
+    EXPECT_EQ(figuresOf(setting, result, known).series.mean.text(2),
+              "n/a (the measured white is not brighter than the measured black)");
 }
 
 TEST(SeriesFigures, KeepWhatWasShownAndMeasured) {

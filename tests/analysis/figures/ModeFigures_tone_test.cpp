@@ -111,12 +111,15 @@ TEST(ToneFigures, NeedBlackAndWhite) {
     addGrey(result, 255, 1);
     EXPECT_EQ(toneOf(result).greatestDeviation.text(2), "n/a (the white patch is not brighter than the black patch)");
     addGrey(result, 255, 100);
-    EXPECT_EQ(toneOf(result).meanGamma.text(2), "n/a (no grey patch from 10 % to 90 % of the signal)");
+    EXPECT_EQ(toneOf(result).meanGamma.text(2),
+              "n/a (no grey patch from 10 % to 90 % of the signal is brighter than black)");
     EXPECT_TRUE(toneOf(greys(5, 5, 5)).steps.empty());
 }
 
 TEST(ToneFigures, OfStepsThatAreNotBrighterThanBlackHaveNoGamma) {
     EXPECT_EQ(toneOf(greys(10, 10, 110)).steps.at(1).gamma.text(2), "n/a (not brighter than black)");
+    EXPECT_EQ(toneOf(greys(10, 10, 110)).meanGamma.text(2),
+              "n/a (no grey patch from 10 % to 90 % of the signal is brighter than black)");
     EXPECT_EQ(toneOf(greys(10, -50, 110)).steps.at(1).gamma.text(2), "n/a (not brighter than black)");
 }
 
@@ -225,5 +228,17 @@ TEST(ToneFigures, TakeTheBlackOffTheBalance) {
 TEST(ToneFigures, HaveNoBalanceWithoutPrimaries) {
     EXPECT_FALSE(toneOf(greys(0, 4, 100)).steps.at(1).balance);
     EXPECT_EQ(toneOf(greys(0, 4, 100)).greatestImbalance.text(1),
-              "n/a (no complete set of primaries, white and grey patches)");
+              "n/a (no complete set of primaries and white was measured)");
+    CalibrationModeResultObject line = measuredResult({{1, 1, 1}, {2, 2, 2}, {3, 3, 3}, {4, 4, 4}, {0, 0, 0}});
+    addRow(line, {0, 0, 0}, {0, 0, 0});
+    addRow(line, {255, 255, 255}, {4, 4, 4});
+    EXPECT_EQ(toneOf(line).greatestImbalance.text(1), "n/a (the measured primaries cannot make the measured white)");
+}
+
+TEST(ToneFigures, HaveNoBalanceOfPatchesWithoutLight) {
+    CalibrationModeResultObject result = measuredResult({{21, 1, 1}, {1, 31, 1}, {1, 1, 41}, {21, 31, 41}, {1, 1, 1}});
+    addRow(result, {0, 0, 0}, {0, 0, 0});
+    addRow(result, {255, 255, 255}, {0, 0.5, 0});
+    EXPECT_EQ(toneOf(result).greatestImbalance.text(1),
+              "n/a (no grey patch from 20 % of the signal is brighter than black)");
 }

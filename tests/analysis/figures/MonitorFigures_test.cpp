@@ -64,7 +64,8 @@ TEST(MapFigures, HaveNoCentreOtherwise) {
     EXPECT_EQ(mapOf({1, 2, 3, 4}, 2).centre.text(0), even);
     EXPECT_EQ(mapOf({1, 2, 3, 4}, 4).greatestDeviation.text(0), even);
     EXPECT_EQ(mapOf({1, 2, 3, 4, 5, 6}, 3).centre.text(0), even);
-    EXPECT_EQ(mapOf({1, 2, 3, 4}, 3).centre.text(0), "n/a (the shape of the map is not known)");
+    EXPECT_EQ(mapOf({1, 2, 3, 4}, 3).centre.text(0), "n/a (4 entries do not fill rows of 3)");
+    EXPECT_EQ(mapOf({7}, 2).greatestDeviation.text(0), "n/a (1 entry does not fill rows of 2)");
     EXPECT_EQ(mapOf({1, 2, 3, 4}, 3).gridWidth, 0U);
     EXPECT_EQ(mapOf({1, 0, 3}, 3).greatestDeviation.text(0), "n/a (the centre is 0)");
     EXPECT_EQ(mapOf({1, 0, 3}, 3).centre.text(0), "0");

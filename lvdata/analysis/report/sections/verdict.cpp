@@ -18,7 +18,7 @@ View rowOf(const JudgedLine& judged) {
         {"target", textView(targetOf(line))},
         {"measured", line.text(line.measured)},
         {"difference", line.text(line.difference)},
-        {"limit", judged.limit == nullptr ? "" : judged.limit->text(line.decimals)},
+        {"limit", judged.limit == nullptr ? "" : judged.limit->text()},
         {"mark", markView(judged.mark)},
     };
 }
