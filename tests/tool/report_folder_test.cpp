@@ -49,7 +49,7 @@ TEST_F(ReportFolder, HasTheVerdictsOfMaps) {
     write("map.json", limitsWith(R"("brightness_mean", "maximum": 0)"));
     EXPECT_EQ(run({"report", studio, "--limits", "map.json", "-o", "maps/"}), done());
     EXPECT_TRUE(has(read("maps/Studio-wall-27W-000417.html"), "1 outside"));
-    EXPECT_TRUE(has(read("maps/index.html"), "</span> Fail</span>"));
+    EXPECT_TRUE(has(read("maps/index.html"), "✗ Fail</span>"));
 }
 
 /// The table of a calibration is a result, too.
@@ -63,8 +63,8 @@ TEST_F(ReportFolder, HasTheVerdictsOfModesWithTables) {
                          table + "</RedLUT></MonitorParameter></ColorMode></CalibrationModeResult></MonitorInfo>");
     write("white.json", limitsWith(R"("white_delta_uv", "maximum": 1)"));
     EXPECT_EQ(run({"report", "lut.xml", "--limits", "white.json", "-o", "tables/"}), done());
-    EXPECT_TRUE(has(read("tables/u.html"), "</span> Incomplete</span>"));
-    EXPECT_TRUE(has(read("tables/index.html"), "</span> Incomplete</span>"));
+    EXPECT_TRUE(has(read("tables/u.html"), " Incomplete</span>"));
+    EXPECT_TRUE(has(read("tables/index.html"), " Incomplete</span>"));
 }
 
 TEST_F(ReportFolder, GivesTheHeadingToTheTable) {

@@ -13,9 +13,7 @@ namespace {
 /// Writes keys with their values. Texts are made UTF-8, so the result always is.
 class Writer {
 public:
-    Writer(std::string& out, FiguresExtent extent) : json_(out, {true, false}), extent_(extent) {}
-
-    [[nodiscard]] bool hasAll() const { return extent_ == FiguresExtent::all; }
+    explicit Writer(std::string& out) : json_(out, {true, false}) {}
 
     void text(std::string_view key, std::string_view value) {
         json_.key(key);
@@ -71,10 +69,8 @@ public:
     }
 
     void nothing(std::string_view key) {
-        if (hasAll()) {
-            json_.key(key);
-            json_.null();
-        }
+        json_.key(key);
+        json_.null();
     }
 
     template <class Write>
@@ -112,7 +108,6 @@ public:
 
 private:
     JSONWriter json_;
-    FiguresExtent extent_;
 };
 
 void writeLines(Writer& json, const std::vector<FigureLine>& lines) {
@@ -187,10 +182,6 @@ void writePatches(Writer& json, const SeriesFigures& series) {
 void writeMode(Writer& json, const ModeFigures& mode, const KnownUnits& known) {
     json.text("index", mode.index);
     json.text("name", mode.name);
-    if (!json.hasAll()) {
-        writeLines(json, figureLines(mode, known));
-        return;
-    }
     json.text("type", mode.type);
     json.text("calibrated_time", mode.calibratedTime);
     writeTarget(json, mode);
@@ -207,12 +198,10 @@ void writeMode(Writer& json, const ModeFigures& mode, const KnownUnits& known) {
 
 void writeMap(Writer& json, const MapFigures& map) {
     json.object(snakeCase(map.name), [&] {
-        if (json.hasAll()) {
-            json.text("updated_at", map.updatedAt);
-            json.count("grid_width", map.gridWidth);
-            json.numbers("values", map.values, digits::mapEntry);
-            json.numbers("against_centre", map.againstCentre, digits::againstCentre);
-        }
+        json.text("updated_at", map.updatedAt);
+        json.count("grid_width", map.gridWidth);
+        json.numbers("values", map.values, digits::mapEntry);
+        json.numbers("against_centre", map.againstCentre, digits::againstCentre);
         writeLines(json, figureLines(map));
     });
 }
@@ -227,9 +216,9 @@ void writeIdentity(Writer& json, const MonitorFigures& monitor) {
 
 }  // namespace
 
-std::string figuresJSON(const MonitorFigures& monitor, FiguresExtent extent) {
+std::string figuresJSON(const MonitorFigures& monitor) {
     std::string text;
-    Writer json(text, extent);
+    Writer json(text);
     json.object([&] {
         json.object("monitor", [&] { writeIdentity(json, monitor); });
         json.textOrNull("y_unit", monitor.known.yUnit);

@@ -33,13 +33,7 @@ struct FigureLine {
 /// The keys of all figures that there are: of modes and of both maps.
 [[nodiscard]] const std::vector<std::string>& figureKeys();
 
-/// How much `figuresJSON` tells.
-enum class FiguresExtent {
-    all,   ///< Everything, also each patch, grey step and entry of a map.
-    lines  ///< Only what `figureLines` has, without members that are null.
-};
-
-/// The figures of a monitor as JSON text, numbers with the digits of the lines: docs/figures.md.
-[[nodiscard]] std::string figuresJSON(const MonitorFigures& monitor, FiguresExtent extent = FiguresExtent::all);
+/// All figures of a monitor as JSON text, numbers with the digits of the lines: docs/figures.md.
+[[nodiscard]] std::string figuresJSON(const MonitorFigures& monitor);
 
 }  // namespace lv::analysis

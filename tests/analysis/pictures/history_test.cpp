@@ -15,6 +15,7 @@ using lv::test::sampleSeries;
 namespace {
 
 const FigureLimit atMost{"", {}, 1.5, ""};
+constexpr double roundedTwice = 0.11;  // places in a picture have one digit after the point
 const FigureLimit between{"", 0.5, 1.5, ""};
 
 }  // namespace
@@ -49,8 +50,8 @@ TEST(HistoryPicture, WithoutDatesIsEven) {
     const auto points = ParsedPicture(historyPicture(series, nullptr)).all("circle", "lv-measured");
     ASSERT_EQ(points.size(), 4U);
     const double step = points[1].number("cx") - points[0].number("cx");
-    EXPECT_NEAR(points[2].number("cx") - points[1].number("cx"), step, 0.02);
-    EXPECT_NEAR(points[3].number("cx") - points[2].number("cx"), step, 0.02);
+    EXPECT_NEAR(points[2].number("cx") - points[1].number("cx"), step, roundedTwice);
+    EXPECT_NEAR(points[3].number("cx") - points[2].number("cx"), step, roundedTwice);
 }
 
 TEST(HistoryPicture, HasNoPointWithoutAValue) {
@@ -95,5 +96,5 @@ TEST(HistoryPicture, HasPointsWhereTheirDatesBelong) {
     const auto points = ParsedPicture(historyPicture(series, nullptr)).all("circle", "lv-measured");
     ASSERT_EQ(points.size(), 3U);
     const double step = points[1].number("cx") - points[0].number("cx");
-    EXPECT_NEAR(points[2].number("cx") - points[1].number("cx"), 2 * step, 0.03);
+    EXPECT_NEAR(points[2].number("cx") - points[1].number("cx"), 2 * step, 3 * roundedTwice / 2);
 }

@@ -21,7 +21,6 @@ View dataView(const ReportContents& contents) {
     return View::Members{
         {"documents", std::move(documents)},
         {"data_json", escapedForScript(contents.latest().json)},
-        {"figures_json", escapedForScript(figuresJSON(contents.latest().snapshot.figures, FiguresExtent::lines))},
     };
 }
 
