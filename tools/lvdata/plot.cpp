@@ -27,7 +27,7 @@
 namespace tool {
 namespace {
 
-using lv::analysis::FigureLine;
+using lv::analysis::HistorySeries;
 using lv::analysis::LimitSet;
 using lv::analysis::ModeFigures;
 using lv::analysis::Snapshot;
@@ -105,13 +105,10 @@ ModeFigures modeOf(const Snapshot& snapshot, const std::string& index) {
     return found == modes.end() ? modes.front() : *found;
 }
 
-void refuseUnknownFigure(const ModeFigures& mode, const std::string& key) {
+[[noreturn]] void refuseUnknownFigure(const std::vector<HistorySeries>& history, const std::string& key) {
     std::string known;
-    for (const FigureLine& line : figureLines(mode)) {
-        if (line.key == key) {
-            return;
-        }
-        known += (known.empty() ? "" : ", ") + line.key;
+    for (const HistorySeries& series : history) {
+        known += (known.empty() ? "" : ", ") + series.key;
     }
     throw Failure(program, "there is no figure '" + key + "'; there are " + known);
 }
@@ -121,11 +118,13 @@ std::string historyOf(const MonitorDocuments& documents, const Options& options,
     for (const MonitorDocument& document : documents) {
         snapshots.push_back(document.snapshot);
     }
-    const ModeFigures mode = modeOf(snapshots.back(), options.mode);
     const std::string key = options.figure.empty() ? "white_delta_uv" : options.figure;
-    refuseUnknownFigure(mode, key);
-    const auto series = lv::analysis::historyOf(snapshots, mode.index, key);
-    return historyPicture(series, limits == nullptr ? nullptr : limits->limitOf(key));
+    const auto history = lv::analysis::historyOf(snapshots, modeOf(snapshots.back(), options.mode).index);
+    const HistorySeries* const series = seriesOf(history, key);
+    if (series == nullptr) {
+        refuseUnknownFigure(history, key);
+    }
+    return historyPicture(*series, limits == nullptr ? nullptr : limits->limitOf(key));
 }
 
 std::string pictureOf(const MonitorDocuments& documents, const Options& options, const LimitSet* limits) {

@@ -15,12 +15,13 @@ const ModeFigures* modeOf(const MonitorFigures& figures, const std::string& inde
     return found != figures.modes.end() ? &*found : nullptr;
 }
 
-/// Names the series by a line and adds what was measured.
-void addPoint(HistorySeries& series, const FigureLine& line, const std::string& when) {
-    series.label = line.label;
-    series.unit = line.unit;
-    series.decimals = line.decimals;
-    series.points.push_back({when, line.measured});
+/// A series without points for each line.
+std::vector<HistorySeries> seriesFor(const std::vector<FigureLine>& lines) {
+    std::vector<HistorySeries> history;
+    for (const FigureLine& line : lines) {
+        history.push_back({line.key, line.label, line.unit, line.decimals, {}});
+    }
+    return history;
 }
 
 }  // namespace
@@ -42,21 +43,28 @@ void sortByTime(std::vector<Snapshot>& snapshots) {
     }
 }
 
-HistorySeries historyOf(const std::vector<Snapshot>& snapshots, const std::string& modeIndex, const std::string& key) {
-    HistorySeries series;
-    series.key = key;
+std::vector<HistorySeries> historyOf(const std::vector<Snapshot>& snapshots, const std::string& modeIndex) {
+    std::vector<HistorySeries> history;
     for (const Snapshot& snapshot : snapshots) {
         const ModeFigures* const mode = modeOf(snapshot.figures, modeIndex);
         if (mode == nullptr) {
             continue;
         }
-        for (const FigureLine& line : figureLines(*mode, snapshot.figures.known)) {
-            if (line.key == key) {
-                addPoint(series, line, mode->calibratedTime);
-            }
+        const std::vector<FigureLine> lines = figureLines(*mode, snapshot.figures.known);
+        if (history.empty()) {
+            history = seriesFor(lines);
+        }
+        for (std::size_t index = 0; index < lines.size(); ++index) {
+            history[index].points.push_back({mode->calibratedTime, lines[index].measured});
         }
     }
-    return series;
+    return history;
+}
+
+const HistorySeries* seriesOf(const std::vector<HistorySeries>& history, std::string_view key) {
+    const auto found =
+        std::find_if(history.begin(), history.end(), [&](const HistorySeries& series) { return series.key == key; });
+    return found != history.end() ? &*found : nullptr;
 }
 
 std::string latestTimeOf(const MonitorFigures& figures) {

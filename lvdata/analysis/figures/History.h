@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lv::analysis {
@@ -42,9 +43,13 @@ struct HistorySeries {
 /// `isDate` takes it), otherwise the given order stays.
 void sortByTime(std::vector<Snapshot>& snapshots);
 
-/// The series of one figure of a mode (by its index) over all documents.
-[[nodiscard]] HistorySeries historyOf(const std::vector<Snapshot>& snapshots, const std::string& modeIndex,
-                                      const std::string& key);
+/// The series of all figures of a mode (by its index) over all documents, in the order of `figureLines`. Empty when no
+/// document has the mode.
+[[nodiscard]] std::vector<HistorySeries> historyOf(const std::vector<Snapshot>& snapshots,
+                                                   const std::string& modeIndex);
+
+/// The series of a figure; null when there is none.
+[[nodiscard]] const HistorySeries* seriesOf(const std::vector<HistorySeries>& history, std::string_view key);
 
 /// A date (see `daysSince1970`) as days since 1970-01-01 and parts of a day; no value when it is not a date.
 [[nodiscard]] std::optional<double> daysOf(const std::string& when);

@@ -85,7 +85,9 @@ TEST(History, HasAPointForEachDocumentWithTheMode) {
         snapshotOf("b", "", {modeOf("1", "t3", 3)}),
         snapshotOf("c", "", {modeOf("2", "t4", 900), modeOf("2", "ignored", 5)}),
     };
-    const HistorySeries series = historyOf(snapshots, "2", "contrast");
+    const auto history = historyOf(snapshots, "2");
+    ASSERT_NE(seriesOf(history, "contrast"), nullptr);
+    const HistorySeries& series = *seriesOf(history, "contrast");
     EXPECT_EQ(series.key, "contrast");
     EXPECT_EQ(series.label, "Contrast");
     EXPECT_EQ(series.decimals, 0);
@@ -96,11 +98,11 @@ TEST(History, HasAPointForEachDocumentWithTheMode) {
     EXPECT_EQ(series.points[1].figure.text(0), "900");
 }
 
-TEST(History, OfAnUnknownFigureIsEmpty) {
+TEST(History, OfAnUnknownFigureOrModeIsEmpty) {
     const std::vector<Snapshot> snapshots = {snapshotOf("a", "", {modeOf("1", "", 1)})};
-    EXPECT_TRUE(historyOf(snapshots, "1", "nothing").points.empty());
-    EXPECT_TRUE(historyOf(snapshots, "9", "contrast").points.empty());
-    EXPECT_TRUE(historyOf({}, "1", "contrast").points.empty());
+    EXPECT_EQ(seriesOf(historyOf(snapshots, "1"), "nothing"), nullptr);
+    EXPECT_TRUE(historyOf(snapshots, "9").empty());
+    EXPECT_TRUE(historyOf({}, "1").empty());
 }
 
 TEST(History, HasTheLatestTime) {

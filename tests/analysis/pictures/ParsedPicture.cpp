@@ -151,6 +151,14 @@ Element ParsedPicture::only(const std::string& name, const std::string& withClas
     return found.empty() ? Element() : found.front();
 }
 
+std::vector<std::string> ParsedPicture::hoverTexts() const {
+    std::vector<std::string> texts;
+    for (const Element& column : all("path", "lv-hover")) {
+        texts.push_back(column.title);
+    }
+    return texts;
+}
+
 bool ParsedPicture::says(const std::string& text) const {
     for (const Element& element : elements_) {
         if ((element.name == "text" || element.name == "title" || element.name == "desc") &&

@@ -44,6 +44,9 @@ public:
     /// The only one; fails the test where there is another number of them.
     [[nodiscard]] Element only(const std::string& name, const std::string& withClass = "") const;
 
+    /// The texts that are shown on hover, from left to right.
+    [[nodiscard]] std::vector<std::string> hoverTexts() const;
+
     /// Whether a text element, `title` or `desc` holds that text.
     [[nodiscard]] bool says(const std::string& text) const;
 

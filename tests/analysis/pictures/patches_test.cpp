@@ -42,22 +42,14 @@ std::vector<double> heightsOf(const ParsedPicture& picture, const std::string& c
     return heights;
 }
 
-std::vector<std::string> hoverTexts(const ParsedPicture& picture) {
-    std::vector<std::string> texts;
-    for (const Element& column : picture.all("path", "lv-hover")) {
-        texts.push_back(column.title);
-    }
-    return texts;
-}
-
 }  // namespace
 
 TEST(PatchesPicture, HasABarForEachPatch) {
     const ParsedPicture picture(patchesPicture(sampleMode(), nullptr));
     EXPECT_EQ(heightsOf(picture).size(), 48U);
-    EXPECT_EQ(hoverTexts(picture).size(), 22U);
-    EXPECT_EQ(hoverTexts(ParsedPicture(patchesPicture(modeWith({1, 2}), nullptr)))[1], "Patch 2: ΔE00 2.00");
-    EXPECT_EQ(hoverTexts(picture)[0].rfind("Patches 1 to 2: ΔE00 ", 0), 0U) << hoverTexts(picture)[0];
+    EXPECT_EQ(picture.hoverTexts().size(), 22U);
+    EXPECT_EQ(ParsedPicture(patchesPicture(modeWith({1, 2}), nullptr)).hoverTexts()[1], "Patch 2: ΔE00 2.00");
+    EXPECT_EQ(picture.hoverTexts()[0].rfind("Patches 1 to 2: ΔE00 ", 0), 0U) << picture.hoverTexts()[0];
 }
 
 TEST(PatchesPicture, HasBarsAsHighAsTheDifferences) {
@@ -89,7 +81,7 @@ TEST(PatchesPicture, HasNoBarWithoutADifference) {
     mode.series.patches[0].deltaE2000 = {{}, "no white"};
     const ParsedPicture picture(patchesPicture(mode, nullptr));
     EXPECT_EQ(heightsOf(picture).size(), 1U);
-    EXPECT_EQ(hoverTexts(picture), std::vector<std::string>{"Patch 2: ΔE00 2.00"});
+    EXPECT_EQ(picture.hoverTexts(), std::vector<std::string>{"Patch 2: ΔE00 2.00"});
 }
 
 TEST(PatchesPicture, HasLinesForMeanAndLimits) {

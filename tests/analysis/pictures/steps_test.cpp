@@ -26,15 +26,6 @@ ModeFigures halfAndFull() {
     return mode;
 }
 
-/// The texts that are shown on hover.
-std::vector<std::string> hoverTexts(const ParsedPicture& picture) {
-    std::vector<std::string> texts;
-    for (const Element& column : picture.all("path", "lv-hover")) {
-        texts.push_back(column.title);
-    }
-    return texts;
-}
-
 }  // namespace
 
 TEST(TonePicture, HasEachStepInBothPanels) {
@@ -45,7 +36,7 @@ TEST(TonePicture, HasEachStepInBothPanels) {
     EXPECT_EQ(found[1].points().size(), 1U);  // of gamma
     const std::vector<std::string> texts{"50.0 %: light 25.00 %, target 21.76 %, gamma 2.00",
                                          "100.0 %: light 100.00 %, target 100.00 %"};
-    EXPECT_EQ(hoverTexts(picture), texts);
+    EXPECT_EQ(picture.hoverTexts(), texts);
 }
 
 TEST(TonePicture, HasStepsWhereTheyBelong) {
@@ -94,8 +85,8 @@ TEST(BalancePicture, HasEachChannelWithAnOwnLook) {
         };
         EXPECT_TRUE(std::any_of(paths.begin(), paths.end(), hasBoth)) << name;
     }
-    ASSERT_EQ(hoverTexts(picture).size(), 2U);
-    EXPECT_EQ(hoverTexts(picture)[0], "50.0 %: red 2.00 %, green 0.00 %, blue -2.00 %");
+    ASSERT_EQ(picture.hoverTexts().size(), 2U);
+    EXPECT_EQ(picture.hoverTexts()[0], "50.0 %: red 2.00 %, green 0.00 %, blue -2.00 %");
 }
 
 TEST(BalancePicture, HasBalanceInTheMiddle) {

@@ -63,23 +63,20 @@ View tableOf(const std::vector<HistorySeries>& all) {
     return View::Members{{"columns", std::move(columns)}, {"rows", std::move(rows)}};
 }
 
-/// The series of a figure; empty when its history is not told.
-HistorySeries toldSeries(const std::vector<Snapshot>& snapshots, const ReportedMode& mode, const JudgedLine& judged) {
-    return isTold(judged) ? historyOf(snapshots, mode.figures->index, judged.line.key) : HistorySeries{};
-}
-
 /// Adds the history of a mode, if there is one.
 void addHistory(View::Items& modes, const std::vector<Snapshot>& snapshots, const ReportedMode& mode) {
+    const std::vector<HistorySeries> history = historyOf(snapshots, mode.figures->index);
     std::vector<HistorySeries> told;
     View::Items pictures;
     for (const JudgedLine& judged : mode.lines) {
-        HistorySeries series = toldSeries(snapshots, mode, judged);
-        if (series.points.size() > 1 && hasValue(series)) {
-            if (isDrawn(judged)) {
-                pictures.push_back(pictureOf(series, judged, mode));
-            }
-            told.push_back(std::move(series));
+        const HistorySeries* const series = seriesOf(history, judged.line.key);
+        if (series == nullptr || !isTold(judged) || series->points.size() < 2 || !hasValue(*series)) {
+            continue;
         }
+        if (isDrawn(judged)) {
+            pictures.push_back(pictureOf(*series, judged, mode));
+        }
+        told.push_back(*series);
     }
     if (!told.empty()) {
         modes.push_back(View::Members{{"history_name", shortened(mode.figures->name)},
