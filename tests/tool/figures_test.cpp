@@ -205,7 +205,7 @@ TEST_F(FiguresOfSample, AreInThePage) {
 
 TEST_F(FiguresOfSample, OfMapsAreInThePage) {
     std::vector<Row> rows;
-    for (const PageRow& row : pageRows("//section[not(@class='mode')]")) {
+    for (const PageRow& row : pageRows("//section[@id='uniformity']")) {
         if (row.key.rfind("uniformity_", 0) == 0 || row.key.rfind("brightness_", 0) == 0) {
             ASSERT_FALSE(row.cells.empty());
             rows.push_back({row.key, "", row.cells[0], ""});

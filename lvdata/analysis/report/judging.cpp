@@ -11,7 +11,9 @@ void add(Verdict& sum, const Verdict& verdict) {
 
 void addMap(JudgedMonitor& judged, const MapFigures& map, const LimitSet& limits) {
     if (!map.values.empty()) {
-        add(judged.maps, verdictOf(judge(figureLines(map), limits)));
+        const std::vector<JudgedLine> lines = judge(figureLines(map), limits);
+        judged.mapLines.insert(judged.mapLines.end(), lines.begin(), lines.end());
+        add(judged.maps, verdictOf(lines));
     }
 }
 

@@ -27,6 +27,7 @@ struct ReportedMode {
 struct JudgedMonitor {
     std::vector<ReportedMode> calibrated{};    ///< Modes with a result.
     std::vector<const ModeFigures*> others{};  ///< Modes without one.
+    std::vector<JudgedLine> mapLines{};        ///< The figures of the maps that there are.
     Verdict maps{};                            ///< Of the maps.
     Verdict verdict{};                         ///< Of all modes with a result, and of the maps.
 };

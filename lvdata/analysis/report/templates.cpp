@@ -7,23 +7,15 @@ namespace lv::analysis {
 const std::vector<std::pair<std::string_view, std::string_view>>& templates() {
     using namespace embedded::report_templates;
     static const std::vector<std::pair<std::string_view, std::string_view>> all = {
-        {"contents.html", contents_html},
-        {"data.html", data_html},
-        {"fleet.html", fleet_html},
-        {"gamut.html", gamut_html},
-        {"head.html", head_html},
-        {"history.html", history_html},
-        {"mark.html", mark_html},
-        {"mode.html", mode_html},
-        {"patches.html", patches_html},
-        {"quality.html", quality_html},
-        {"report.html", report_html},
-        {"summary.html", summary_html},
-        {"tables.html", tables_html},
-        {"text.html", text_html},
-        {"tone.html", tone_html},
-        {"top.html", top_html},
-        {"uniformity.html", uniformity_html},
+        {"contents.html", contents_html}, {"data.html", data_html},
+        {"fleet.html", fleet_html},       {"figure_groups.html", figure_groups_html},
+        {"gamut.html", gamut_html},       {"head.html", head_html},
+        {"history.html", history_html},   {"mark.html", mark_html},
+        {"mode.html", mode_html},         {"patches.html", patches_html},
+        {"quality.html", quality_html},   {"report.html", report_html},
+        {"summary.html", summary_html},   {"tables.html", tables_html},
+        {"text.html", text_html},         {"tone.html", tone_html},
+        {"top.html", top_html},           {"uniformity.html", uniformity_html},
         {"verdict.html", verdict_html},
     };
     return all;

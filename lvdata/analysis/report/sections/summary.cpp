@@ -43,6 +43,25 @@ View::Items cardsOf(const JudgedMonitor& judged) {
     return cards;
 }
 
+/// Adds the figures that do not pass, under a heading of their own.
+void addNotPassing(std::vector<JudgedLine>& found, const std::vector<JudgedLine>& lines, const std::string& heading) {
+    for (const JudgedLine& judged : lines) {
+        if (judged.mark == Mark::fails || judged.mark == Mark::notAvailable) {
+            found.push_back(judged);
+            found.back().line.group = heading;
+        }
+    }
+}
+
+std::vector<JudgedLine> notPassing(const JudgedMonitor& judged) {
+    std::vector<JudgedLine> found;
+    for (const ReportedMode& mode : judged.calibrated) {
+        addNotPassing(found, mode.lines, shortened(mode.figures->name));
+    }
+    addNotPassing(found, judged.mapLines, "Uniformity");
+    return found;
+}
+
 View othersOf(const std::vector<const ModeFigures*>& modes) {
     View::Items rows;
     for (const ModeFigures* mode : modes) {
@@ -56,6 +75,7 @@ View othersOf(const std::vector<const ModeFigures*>& modes) {
 View summaryView(const ReportContents& contents) {
     const LimitSet& limits = contents.limits();
     View::Items cards = cardsOf(contents.judged);
+    const std::vector<JudgedLine> found = notPassing(contents.judged);
     return View::Members{
         {"has_results", !contents.judged.calibrated.empty()},
         {"has_cards", !cards.empty()},
@@ -64,6 +84,8 @@ View summaryView(const ReportContents& contents) {
         {"overall_counts", countsText(contents.judged.verdict)},
         {"cards", std::move(cards)},
         {"others", othersOf(contents.judged.others)},
+        {"has_not_passing", !found.empty()},
+        {"groups", figureGroupsView(found)},
         {"limits_title", limits.title.empty() ? limits.name : limits.title},
         {"limits_notice", limits.notice},
     };
