@@ -64,4 +64,10 @@ std::vector<MonitorDocuments> Fleet::take() {
     return monitors;
 }
 
+std::string whySecondMonitor(const std::string& identity) {
+    return identity.empty() ? "has no UUID and no serial number, so nothing says that it is of the same monitor as the "
+                              "documents before it"
+                            : "is of another monitor than the documents before it";
+}
+
 }  // namespace tool

@@ -33,4 +33,7 @@ private:
     std::map<std::string, std::size_t> places_;  // in `monitors_`, by identity
 };
 
+/// Why a document starts a second monitor, as a message says it.
+[[nodiscard]] std::string whySecondMonitor(const std::string& identity);
+
 }  // namespace tool

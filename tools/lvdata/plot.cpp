@@ -78,9 +78,10 @@ MonitorDocuments readMonitor(const Options& options, InputFiles& inputs, ExitSta
     };
     const auto deliver = [&](MonitorDocument&& document) {
         const std::string name = document.snapshot.document;
+        const std::string why = whySecondMonitor(document.identity);
         fleet.add(std::move(document));
         if (fleet.size() > 1 && isHistory) {
-            throw Failure(name, "is of another monitor than the documents before it");
+            throw Failure(name, why);
         }
         if (++count > 1 && !isHistory) {
             throw Failure(program, "all pictures but history take one document");

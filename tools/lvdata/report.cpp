@@ -63,10 +63,10 @@ ExitStatus readFleet(const Options& options, const MonitorReader& reader, InputF
     };
     const auto deliver = [&](MonitorDocument&& document) {
         const std::string name = document.snapshot.document;
+        const std::string why = whySecondMonitor(document.identity);
         fleet.add(std::move(document));
         if (isForOne && fleet.size() > 1) {
-            throw Failure(name, "is of another monitor than the documents before it; with -o FOLDER/ there is a page "
-                                "for each monitor");
+            throw Failure(name, why + "; with -o FOLDER/ there is a page for each monitor");
         }
         return ExitStatus::done;
     };
