@@ -86,6 +86,12 @@ std::vector<Point> startsOf(const std::string& path) {
 
 }  // namespace
 
+double leadingNumber(std::string_view text) {
+    double value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
 double Element::number(const std::string& attribute) const {
     const auto found = attributes.find(attribute);
     EXPECT_NE(found, attributes.end()) << name << " has no " << attribute;

@@ -4,9 +4,13 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lv::test {
+
+/// The number that a text begins with, whatever the locale; 0 when there is none.
+[[nodiscard]] double leadingNumber(std::string_view text);
 
 /// An element of a picture.
 struct Element {

@@ -36,7 +36,8 @@ std::vector<double> heightsOf(const ParsedPicture& picture, const std::string& c
         std::string path = bars.attributes.at("d");
         for (std::size_t at = path.find('V'); at != std::string::npos; at = path.find('V', at + 1)) {
             const std::size_t blank = path.rfind(' ', at);
-            heights.push_back(std::stod(path.substr(blank + 1)) - std::stod(path.substr(at + 1)));
+            heights.push_back(lv::test::leadingNumber(path.substr(blank + 1)) -
+                              lv::test::leadingNumber(path.substr(at + 1)));
         }
     }
     return heights;

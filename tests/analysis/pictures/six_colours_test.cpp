@@ -32,7 +32,7 @@ TEST(SixColoursPicture, HasBarsUpAndDownFromZero) {
         for (std::size_t skipped = 0; skipped < bar; ++skipped) {
             path.erase(0, path.find('z') + 1);
         }
-        return zero - std::stod(path.substr(path.find('V') + 1));
+        return zero - lv::test::leadingNumber(path.substr(path.find('V') + 1));
     };
     EXPECT_NEAR(bars.points()[0].y, zero, 0.06);
     EXPECT_GT(heightOf(0), 0);
