@@ -8,6 +8,7 @@
 
 #include <tools/lvdata/MonitorReader.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -97,7 +98,10 @@ public:
 
     bool number_integer(std::int64_t number) { return add(std::to_string(number)); }
     bool number_unsigned(std::uint64_t number) { return add(std::to_string(number)); }
-    bool number_float(double /*number*/, const std::string& text) { return add(text); }
+    bool number_float(double /*number*/, std::string text) {
+        std::replace(text.begin(), text.end(), ',', '.');  // the parser hands on the decimal sign of the locale
+        return add(text);
+    }
 
 private:
     bool add(std::string text) { return string(text); }
