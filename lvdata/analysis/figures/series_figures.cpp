@@ -115,6 +115,10 @@ PatchFigures patchOf(const MeasurementDataObject& row, std::size_t number, const
     return patch;
 }
 
+void setMissing(SeriesFigures& series, const std::string& reason) {
+    series.mean = series.percentile95 = series.maximum = missing(reason);
+}
+
 /// The patches that have a ΔE00, the greatest first; of equal ones the first first.
 std::vector<std::size_t> byDifference(const std::vector<PatchFigures>& patches) {
     std::vector<std::size_t> indices;
@@ -134,8 +138,7 @@ void summarize(SeriesFigures& series) {
     constexpr std::size_t mostWorst = 5;
     const std::vector<std::size_t> falling = byDifference(series.patches);
     if (falling.empty()) {
-        const std::string reason = series.patches.empty() ? "no measurements" : series.patches[0].deltaE2000.reason;
-        series.mean = series.percentile95 = series.maximum = missing(reason);
+        setMissing(series, series.patches.empty() ? "no measurements" : series.patches[0].deltaE2000.reason);
         return;
     }
     const auto valueAt = [&](std::size_t index) {
@@ -154,7 +157,7 @@ void summarize(SeriesFigures& series) {
 
 SeriesFigures missingSeries(const std::string& reason) {
     SeriesFigures series;
-    series.mean = series.percentile95 = series.maximum = missing(reason);
+    setMissing(series, reason);
     return series;
 }
 

@@ -65,6 +65,9 @@ inline constexpr std::string_view patchesMeanKey = "patches_delta_e2000_mean";
 /// The text, cut to that many characters when it is longer, with "…" at the end.
 [[nodiscard]] std::string shortened(std::string_view text, std::size_t most = 80);
 
+/// Adds a text of a document with its label to a list of facts; nothing when the text is empty.
+void addFact(View::Items& facts, const char* label, std::string_view text);
+
 /// "symbol", "word" and "class" of a mark on a single figure.
 [[nodiscard]] View markView(Mark mark);
 

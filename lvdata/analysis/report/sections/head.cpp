@@ -3,12 +3,6 @@
 namespace lv::analysis {
 namespace {
 
-void addFact(View::Items& facts, const char* label, std::string_view text) {
-    if (!text.empty()) {
-        facts.push_back(View::Members{{"label", label}, {"value", textView(text)}});
-    }
-}
-
 View factsOf(const ReportContents& contents) {
     const MonitorFigures& monitor = contents.latest().snapshot.figures;
     View::Items facts;

@@ -9,49 +9,35 @@ std::string deviceText(const std::string& name, const std::string& serial) {
     return name + (name.empty() || number.empty() ? "" : ", ") + number;
 }
 
-class Facts {
-public:
-    void add(const char* label, std::string_view text) {
-        if (!text.empty()) {
-            items_.push_back(View::Members{{"label", label}, {"value", textView(text)}});
-        }
-    }
-
-    [[nodiscard]] View::Items take() && { return std::move(items_); }
-
-private:
-    View::Items items_{};
-};
-
 void addList(View::Members& members, const std::string& name, View::Items items) {
     members.push_back({"has_" + name, !items.empty()});
     members.push_back({name, std::move(items)});
 }
 
 View::Items targetsOf(const ModeFigures& mode) {
-    Facts facts;
-    facts.add("Brightness", mode.targetBrightness);
-    facts.add("Black", mode.targetBlack);
-    facts.add("White", mode.targetWhite);
-    facts.add("White by standard", mode.targetWhiteStandard);
-    facts.add("Tone curve", mode.targetGamma);
-    facts.add("Gamut", mode.targetGamut);
-    return std::move(facts).take();
+    View::Items facts;
+    addFact(facts, "Brightness", mode.targetBrightness);
+    addFact(facts, "Black", mode.targetBlack);
+    addFact(facts, "White", mode.targetWhite);
+    addFact(facts, "White by standard", mode.targetWhiteStandard);
+    addFact(facts, "Tone curve", mode.targetGamma);
+    addFact(facts, "Gamut", mode.targetGamut);
+    return facts;
 }
 
 View::Items measurementOf(const ModeFigures& mode) {
     const MeasuredBy& by = mode.measuredBy;
-    Facts facts;
-    facts.add("Calibrated", mode.calibratedTime);
-    facts.add("Sensor", deviceText(by.sensorName, by.sensorSerial));
-    facts.add("Correlated with", deviceText(by.referenceName, by.referenceSerial));
-    facts.add("Date of correlation", by.correlationDate);
-    facts.add("Software", by.software);
-    facts.add("Executed by", by.executor);
-    facts.add("Executed on", by.executedDate);
-    facts.add("Hours of use", by.usageHours);
-    facts.add("Measurements", mode.measurements == 0 ? "" : std::to_string(mode.measurements));
-    return std::move(facts).take();
+    View::Items facts;
+    addFact(facts, "Calibrated", mode.calibratedTime);
+    addFact(facts, "Sensor", deviceText(by.sensorName, by.sensorSerial));
+    addFact(facts, "Correlated with", deviceText(by.referenceName, by.referenceSerial));
+    addFact(facts, "Date of correlation", by.correlationDate);
+    addFact(facts, "Software", by.software);
+    addFact(facts, "Executed by", by.executor);
+    addFact(facts, "Executed on", by.executedDate);
+    addFact(facts, "Hours of use", by.usageHours);
+    addFact(facts, "Measurements", mode.measurements == 0 ? "" : std::to_string(mode.measurements));
+    return facts;
 }
 
 }  // namespace

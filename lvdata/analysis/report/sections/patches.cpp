@@ -1,3 +1,4 @@
+#include <lvdata/analysis/figures/digits.h>
 #include <lvdata/analysis/pictures/pictures.h>
 #include <lvdata/analysis/report/sections.h>
 
@@ -22,7 +23,7 @@ std::string shownText(const PatchFigures& patch) {
 }
 
 std::string componentOf(const std::optional<colour::Tristimulus>& XYZ, std::size_t component) {
-    return XYZ ? fixedText((*XYZ)[component], 4) : "n/a";
+    return XYZ ? fixedText((*XYZ)[component], digits::tristimulus) : "n/a";
 }
 
 View patchOf(const PatchFigures& patch) {
@@ -36,7 +37,7 @@ View patchOf(const PatchFigures& patch) {
         {"expected_X", componentOf(patch.expected, 0)},
         {"expected_Y", componentOf(patch.expected, 1)},
         {"expected_Z", componentOf(patch.expected, 2)},
-        {"delta_e", patch.deltaE2000.text(2)},
+        {"delta_e", patch.deltaE2000.text(digits::deltaE)},
     };
 }
 
@@ -59,9 +60,9 @@ View patchesView(const ReportedMode& mode, const LimitSet& limits) {
     return View::Members{
         {"picture_patches", patchesPicture(*mode.figures, &limits, mode.formOf("patches"))},
         {"reference", textView(series.reference, "nothing: the record has no target for the patches")},
-        {"mean", series.mean.text(2)},
-        {"percentile", series.percentile95.text(2)},
-        {"maximum", series.maximum.text(2)},
+        {"mean", series.mean.text(digits::deltaE)},
+        {"percentile", series.percentile95.text(digits::deltaE)},
+        {"maximum", series.maximum.text(digits::deltaE)},
         {"has_worst", !series.worst.empty()},
         {"worst", worstOf(series)},
         {"patch_count", counted(rows.size(), "patch measurement")},

@@ -36,6 +36,12 @@ View textView(std::string_view text, std::string_view otherwise) {
     return textView(text.empty() ? otherwise : text);
 }
 
+void addFact(View::Items& facts, const char* label, std::string_view text) {
+    if (!text.empty()) {
+        facts.push_back(View::Members{{"label", label}, {"value", textView(text)}});
+    }
+}
+
 View markView(Mark mark) {
     switch (mark) {
     case Mark::passes:

@@ -1,3 +1,4 @@
+#include <lvdata/analysis/figures/digits.h>
 #include <lvdata/analysis/pictures/pictures.h>
 #include <lvdata/analysis/report/sections.h>
 
@@ -5,15 +6,15 @@ namespace lv::analysis {
 namespace {
 
 std::string balanceOf(const ToneStep& step, std::size_t channel) {
-    return step.balance ? fixedText((*step.balance)[channel], 3) : "n/a";
+    return step.balance ? fixedText((*step.balance)[channel], digits::balance) : "n/a";
 }
 
 View stepOf(const ToneStep& step) {
     return View::Members{
         {"signal", fixedText(step.signal * 100, 1)},
-        {"light", fixedText(step.light, 4)},
-        {"target", step.target.text(4)},
-        {"gamma", step.gamma.text(2)},
+        {"light", fixedText(step.light, digits::light)},
+        {"target", step.target.text(digits::light)},
+        {"gamma", step.gamma.text(digits::gamma)},
         {"red", balanceOf(step, 0)},
         {"green", balanceOf(step, 1)},
         {"blue", balanceOf(step, 2)},
