@@ -1,0 +1,7 @@
+#include "shared.h"
+
+namespace lv::python {
+
+void addRecords(pybind11::module_& /*module*/) {}
+
+}  // namespace lv::python
