@@ -11,6 +11,7 @@ import math
 import sys
 from collections import defaultdict
 from datetime import datetime
+from operator import itemgetter
 from pathlib import Path
 from statistics import fmean
 from typing import Any
@@ -46,7 +47,7 @@ def date_of(text: str | None) -> datetime | None:
 
 def latest_of(monitors: list[Row]) -> list[Row]:
     latest: dict[str, Row] = {}
-    for row in sorted(monitors, key=lambda row: row["file"], reverse=True):
+    for row in sorted(monitors, key=itemgetter("file"), reverse=True):
         before = latest.get(row["uuid"])
         if before is None or (row["last_calibration"] or "") >= (before["last_calibration"] or ""):
             latest[row["uuid"]] = row
@@ -70,8 +71,8 @@ def drift_per_month(tables: dict[str, list[Row]]) -> list[list[Any]]:
     times = {row["file"]: date_of(row["last_calibration"]) for row in tables["monitors"]}
     first: dict[str, float] = {}
     months: dict[str, list[float]] = defaultdict(list)
-    whites = [(times[row["file"]], row) for row in whites_of(tables["patches"]) if times[row["file"]]]
-    for time, row in sorted(whites, key=lambda white: white[0]):
+    whites = [(time, row) for row in whites_of(tables["patches"]) if (time := times[row["file"]])]
+    for time, row in sorted(whites, key=itemgetter(0)):
         change = 100 * (row["xyz_y"] / first.setdefault(row["uuid"], row["xyz_y"]) - 1)
         months[f"{time:%Y-%m}"].append(change)
     return [[month, len(changes), fmean(changes), min(changes)] for month, changes in sorted(months.items())]
@@ -90,8 +91,8 @@ def overdue_calibrations(tables: dict[str, list[Row]]) -> list[list[Any]]:
         age = (TODAY - time).total_seconds() / 86400 if time else None
         if age is None or age > allowed_days_of(row):
             rows.append([row["serial"], row["model"], row["last_calibration"], age, allowed_days_of(row)])
-    return sorted(rows, key=lambda row: (row[3] is not None, row[4] - (row[3] or 0), row[0])
-                  if row[3] is not None else (False, 0, row[0]))
+    undated = sorted((row for row in rows if row[3] is None), key=itemgetter(0))
+    return undated + sorted((row for row in rows if row[3] is not None), key=lambda row: (row[4] - row[3], row[0]))
 
 
 def uniformity_by_model(tables: dict[str, list[Row]]) -> list[list[Any]]:
@@ -103,7 +104,7 @@ def uniformity_by_model(tables: dict[str, list[Row]]) -> list[list[Any]]:
     for row in latest_of(tables["monitors"]):
         models[row["model"]].append(100 * min(entries[row["file"]]) / max(entries[row["file"]]))
     rows = [[model, len(values), fmean(values), min(values)] for model, values in models.items()]
-    return sorted(rows, key=lambda row: row[2])
+    return sorted(rows, key=itemgetter(2))
 
 
 def sensors_that_disagree(tables: dict[str, list[Row]]) -> list[list[Any]]:
@@ -117,7 +118,7 @@ def sensors_that_disagree(tables: dict[str, list[Row]]) -> list[list[Any]]:
                 if one < other:
                     pairs[one, other].append(100 * (fmean(sensors[one]) / fmean(sensors[other]) - 1))
     rows = [[one, other, len(values), fmean(values)] for (one, other), values in pairs.items() if len(values) >= 3]
-    return sorted(rows, key=lambda row: -abs(row[3]))
+    return sorted(rows, key=lambda row: abs(float(row[3])), reverse=True)
 
 
 # Each with the digits that its statement rounds to.
@@ -150,8 +151,8 @@ def main() -> None:
         "tables": {name: {"rows": len(rows), "columns": {column: profile_of(rows, column) for column in rows[0]}}
                    for name, rows in tables.items()},
         "dates": {
-            "monitors.last_calibration": sum(date_of(row["last_calibration"]) is not None for row in tables["monitors"]),
-            "modes.calibrated_time": sum(date_of(row["calibrated_time"]) is not None for row in tables["modes"]),
+            f"{table}.{column}": sum(date_of(row[column]) is not None for row in tables[table])
+            for table, column in (("monitors", "last_calibration"), ("modes", "calibrated_time"))
         },
         "monitors": tables["monitors"],
         "answers": {question.__name__: {"digits": digits, "rows": answers[question.__name__]}

@@ -129,8 +129,7 @@ async function compare(connection, form) {
 async function compareFoundTypes() {
   const connection = await connect();
   for (const [table, { columns }] of Object.entries(expected.tables)) {
-    const found = await rowsOf(connection, `DESCRIBE FROM read_json('${table}.jsonl', convert_strings_to_integers = false,
-        sample_size = -1, dateformat = 'none', timestampformat = 'none')`);
+    const found = await rowsOf(connection, `DESCRIBE FROM '${table}.jsonl'`);
     for (const [column, type] of found) {
       const isNumber = type === "BIGINT" || type === "DOUBLE";
       if (columns[column].kind !== "none" && isNumber !== (columns[column].kind === "number")) {

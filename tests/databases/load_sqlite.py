@@ -40,13 +40,15 @@ def profile_of(database: sqlite3.Connection, table: str, column: str, kind: str)
     """As `profile_of` of expect.py."""
     value, filled = (f"length({column})", f"nullif({column}, '')") if kind == "text" else (column, column)
     keys = ("values", "empty", "sum", "least", "greatest")
-    statement = f"SELECT count({column}), count({column}) - count({filled}), total({value}), min({filled}), max({column})"
-    return dict(zip(keys, database.execute(f"{statement} FROM {table}").fetchone()), kind=kind)
+    found = database.execute(f"""SELECT count({column}), count({column}) - count({filled}), total({value}),
+                                min({filled}), max({column}) FROM {table}""").fetchone()
+    return dict(zip(keys, found), kind=kind)
 
 
 def without_empty_texts(profile: dict[str, Any]) -> dict[str, Any]:
     """CSV has none: they are null there."""
-    return profile | {"values": profile["values"] - profile["empty"], "empty": 0, "greatest": profile["greatest"] or None}
+    greatest = profile["greatest"] or None
+    return profile | {"values": profile["values"] - profile["empty"], "empty": 0, "greatest": greatest}
 
 
 def is_near(found: Any, wanted: Any, tolerance: float) -> bool:
@@ -94,7 +96,8 @@ def compare_answers(database: sqlite3.Connection, sql: Path, expected: dict[str,
 
 def compare_database(database: sqlite3.Connection, sql: Path, expected: dict[str, Any], is_csv: bool) -> list[str]:
     faults = compare_tables(database, expected, is_csv) + compare_monitors(database, expected, is_csv)
-    return [("CSV, " if is_csv else "JSON Lines, ") + fault for fault in faults + compare_answers(database, sql, expected)]
+    faults += compare_answers(database, sql, expected)
+    return [("CSV, " if is_csv else "JSON Lines, ") + fault for fault in faults]
 
 
 def try_pandas(sql: Path, expected: dict[str, Any]) -> tuple[str, list[str]]:
@@ -104,7 +107,8 @@ def try_pandas(sql: Path, expected: dict[str, Any]) -> tuple[str, list[str]]:
         names = runpy.run_path(str(sql / "pandas_tables.py"))
     faults = []
     for column, profile in expected["tables"]["modes"]["columns"].items():
-        for frame, wanted in ((names["modes"], profile["values"] - profile["empty"]), (names["again"], profile["values"])):
+        filled = profile["values"] - profile["empty"]
+        for frame, wanted in ((names["modes"], filled), (names["again"], profile["values"])):
             values = frame[column].dropna()
             is_text = values.dtype == object
             total = values.str.len().sum() if is_text else values.sum()
@@ -119,7 +123,8 @@ def table_of(names: list[str], rows: list[tuple[Any, ...]]) -> str:
     numbers = [any(isinstance(row[place], (int, float)) for row in rows) for place in range(len(names))]
     lines = [names, ["--:" if is_number else "---" for is_number in numbers]]
     lines += [["null" if value is None else str(value) for value in row] for row in rows]
-    return "".join("| " + " | ".join(line) + " |\n" for line in lines).replace("| --- ", "|---").replace("| --: ", "|--:")
+    text = "".join("| " + " | ".join(line) + " |\n" for line in lines)
+    return text.replace("| --- ", "|---").replace("| --: ", "|--:")
 
 
 def block_of(file: Path) -> str:

@@ -1,6 +1,6 @@
 """make_fleet.py SAMPLE FOLDER: writes documents of a fleet of monitors, made of the sample document of one.
 
-The same on every run. Some monitors and a sensor are known to be out of line; the tests expect the queries to find them.
+The same on every run. Some monitors and a sensor are known to be out of line: the queries must find them.
 """
 
 from __future__ import annotations
