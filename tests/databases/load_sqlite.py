@@ -159,6 +159,15 @@ def compare_page(page: Path, blocks: dict[str, str], must_write: bool) -> list[s
     return [] if must_write or text == wanted else [f"{page.name}: {first}"]
 
 
+def compare_counts(page: Path, expected: dict[str, Any]) -> list[str]:
+    """What the page says of the fleet."""
+    text = " ".join(page.read_text(encoding="utf-8").split())
+    monitors, rows = expected["monitors"], sum(table["rows"] for table in expected["tables"].values())
+    uuids = {monitor["uuid"] for monitor in monitors}
+    said = f"fleet of {len(uuids)} monitors with {len(monitors)} documents, {rows:,} rows in all"
+    return [] if said in text else [f"{page.name}: it does not say: {said}"]
+
+
 def main() -> None:
     sql, page = Path(sys.argv[1]).resolve(), Path(sys.argv[-1]).resolve()
     os.chdir(sys.argv[2])
@@ -168,7 +177,8 @@ def main() -> None:
     csv, lines = fill_by_csv(sql), fill_by_json_lines(sql)
     faults = compare_database(csv, sql, expected, True) + compare_database(lines, sql, expected, False)
     printed, faults_of_pandas = try_pandas(sql, expected)
-    faults += faults_of_pandas + compare_page(page, blocks_of_page(lines, sql, printed), "--write" in sys.argv)
+    faults += faults_of_pandas + compare_counts(page, expected)
+    faults += compare_page(page, blocks_of_page(lines, sql, printed), "--write" in sys.argv)
     print("\n".join(faults + [f"databases: SQLite, pandas and the page, {len(faults)} failures"]))
     sys.exit(1 if faults else 0)
 
