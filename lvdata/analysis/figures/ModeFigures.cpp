@@ -110,6 +110,11 @@ std::vector<ModeFigures> modeFigures(const ColorModeSettings& settings, const Ca
     return figures;
 }
 
+ModeFigures figuresOfMode(const ColorModeSettingsObject* settings, const CalibrationModeResultObject* result,
+                          const KnownUnits& known) {
+    return figuresOf({settings, result}, known);
+}
+
 bool hasResult(const ModeFigures& mode) {
     const bool hasTables = !mode.tables[0].empty() || !mode.tables[1].empty() || !mode.tables[2].empty();
     return !mode.calibratedTime.empty() || mode.measuredWhite || mode.measuredChromaticity || mode.measuredBlack ||

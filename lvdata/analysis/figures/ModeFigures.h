@@ -152,6 +152,10 @@ struct ModeFigures {
 [[nodiscard]] std::vector<ModeFigures> modeFigures(const ColorModeSettings& settings,
                                                    const CalibrationModeResult& results, const KnownUnits& known = {});
 
+/// The figures of one mode: what is set up, and its result. One of the two may be null, but not both.
+[[nodiscard]] ModeFigures figuresOfMode(const ColorModeSettingsObject* settings,
+                                        const CalibrationModeResultObject* result, const KnownUnits& known = {});
+
 /// Whether anything of a calibration or measurement of the mode is known.
 [[nodiscard]] bool hasResult(const ModeFigures& mode);
 

@@ -1,6 +1,8 @@
+#include <lvdata/analysis/figures/lines.h>
 #include <lvdata/analysis/tables/table_rows.h>
 #include <lvdata/core/quantities.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -18,6 +20,7 @@ struct ModeRow {
     const TargetSetting* target = nullptr;
     const ParameterSetting* parameters = nullptr;
     const BasicData* basic = nullptr;
+    std::vector<FigureLine> figures{};  // empty without a result
 };
 
 /// The texts that both lists of modes have: that of the settings, or else of the result.
@@ -124,6 +127,15 @@ void giveNumber(const ModeRow& row, Cell& cell) {
     }
 }
 
+/// What was measured, with the digits that the figure has everywhere.
+void giveFigure(const ModeRow& row, Cell& cell, std::string_view key) {
+    const auto line =
+        std::find_if(row.figures.begin(), row.figures.end(), [&](const FigureLine& each) { return each.key == key; });
+    if (line != row.figures.end()) {
+        cell.figure(line->measured, line->decimals);
+    }
+}
+
 const std::vector<ColumnOf<ModeRow>>& columns() {
     static const std::vector<ColumnOf<ModeRow>> all = withOrigin<ModeRow>({
         {{"type", "", "type of the mode"}, &giveType},
@@ -148,6 +160,30 @@ const std::vector<ColumnOf<ModeRow>>& columns() {
          &giveNumber<&BasicData::colorSensorCorrelationID>},
         {{"correlation_date", "", "date of the sensor's correlation, as it stands"},
          &giveText<&BasicData::colorSensorCorrelationDate>},
+        {{"white_tristimulus_y", notRecorded, "CIE Y of the measured white"},
+         [](const ModeRow& row, Cell& cell) {
+             giveFigure(row, cell, "white_tristimulus_y");
+         }},
+        {{"white_cct", "K", "correlated colour temperature of the measured white"},
+         [](const ModeRow& row, Cell& cell) {
+             giveFigure(row, cell, "white_cct");
+         }},
+        {{"white_delta_uv", "", "Δu'v' of the white to be reached and the measured one"},
+         [](const ModeRow& row, Cell& cell) {
+             giveFigure(row, cell, "white_delta_uv");
+         }},
+        {{"white_delta_e2000", "", "ΔE00 of these two"},
+         [](const ModeRow& row, Cell& cell) {
+             giveFigure(row, cell, "white_delta_e2000");
+         }},
+        {{"patches_delta_e2000_mean", "", "mean ΔE00 of the measurements and what they should be"},
+         [](const ModeRow& row, Cell& cell) {
+             giveFigure(row, cell, "patches_delta_e2000_mean");
+         }},
+        {{"patches_delta_e2000_maximum", "", "the greatest of these ΔE00"},
+         [](const ModeRow& row, Cell& cell) {
+             giveFigure(row, cell, "patches_delta_e2000_maximum");
+         }},
     });
     return all;
 }
@@ -204,6 +240,9 @@ void addMode(const Parts& parts, const ModeSettings* settings, const ModeResult*
         row.parameters = isForTarget ? nullptr : valueOf(settings->parameterSetting);
     }
     row.basic = result != nullptr && result->hasBasicData ? &result->basicData : nullptr;
+    if (result != nullptr) {
+        row.figures = figureLines(figuresOfMode(settings, result));
+    }
     addRow(columns(), row, sink);
 }
 

@@ -1,5 +1,6 @@
 #include <lvdata/analysis/tables/table_rows.h>
 #include <lvdata/core/quantities.h>
+#include <lvdata/records/types.h>
 
 #include <algorithm>
 
@@ -25,6 +26,19 @@ void giveAsset(const MonitorRow& row, Cell& cell) {
     if (row.parts.assets != nullptr) {
         cell.text(row.parts.assets->*Member);
     }
+}
+
+/// An interval of the schedule, when it is of that kind: what belongs to another kind is not written.
+template <unsigned int Kind, property<unsigned int> SelfCalibrationSchedule::*Interval>
+void giveInterval(const MonitorRow& row, Cell& cell) {
+    if (row.parts.schedule != nullptr && row.parts.schedule->type.value == Kind) {
+        cell.index(row.parts.schedule->*Interval);
+    }
+}
+
+void giveHours(const MonitorRow& row, Cell& cell) {
+    giveInterval<types::schedule::everySomeHours, &SelfCalibrationSchedule::intervalHour>(row, cell);
+    giveInterval<types::schedule::everySomeHours1F, &SelfCalibrationSchedule::intervalHour>(row, cell);
 }
 
 bool isCalibrated(const CalibrationModeResultObject& mode) {
@@ -60,6 +74,11 @@ const std::vector<ColumnOf<MonitorRow>>& columns() {
                  cell.index(row.parts.schedule->type);
              }
          }},
+        {{"schedule_interval_months", "months", "every how many months, where that is the kind of the schedule"},
+         &giveInterval<types::schedule::everySomeMonths, &SelfCalibrationSchedule::intervalMonth>},
+        {{"schedule_interval_weeks", "weeks", "every how many weeks, likewise"},
+         &giveInterval<types::schedule::everySomeWeeks, &SelfCalibrationSchedule::intervalWeek>},
+        {{"schedule_interval_hours", "hours", "every how many hours, likewise"}, &giveHours},
         {{"asset1", "", "first text of the inventory; what it is for is not recorded"}, &giveAsset<&AssetInfo::asset1>},
         {{"asset2", "", "second text of the inventory"}, &giveAsset<&AssetInfo::asset2>},
         {{"asset3", "", "third text of the inventory"}, &giveAsset<&AssetInfo::asset3>},

@@ -70,6 +70,12 @@ const std::vector<ColumnOf<PatchRow>>& columns() {
         {{"pqr_p", notRecorded, "P, defined by the application"}, &givePQR<0>},
         {{"pqr_q", notRecorded, "Q, defined by the application"}, &givePQR<1>},
         {{"pqr_r", notRecorded, "R, defined by the application"}, &givePQR<2>},
+        {{"sensor_serial", "", "serial number of the colour sensor"},
+         [](const PatchRow& row, Cell& cell) {
+             if (row.parts.basicData != nullptr) {
+                 cell.text(row.parts.basicData->colorSensorSerial);
+             }
+         }},
     });
     return all;
 }
@@ -80,12 +86,23 @@ void addPatches(const Parts& parts, std::string_view source, const MeasurementDa
     }
 }
 
+void addModePatches(const Parts& parts, const CalibrationModeResultObject& mode, Sink& sink) {
+    Parts ofMode = parts;
+    ofMode.modeIndex = &mode.index;
+    ofMode.basicData = mode.hasBasicData ? &mode.basicData : nullptr;
+    if (mode.hasMeasurementData) {
+        addPatches(ofMode, "calibration_mode_result", mode.measurementData, sink);
+    }
+}
+
 void addStandardPatches(const Parts& parts, const StandardModeResult& result, Sink& sink) {
+    Parts ofResult = parts;
+    ofResult.basicData = result.hasBasicData ? &result.basicData : nullptr;
     if (result.hasMeasurementData) {
-        addPatches(parts, "standard_mode_result", result.measurementData, sink);
+        addPatches(ofResult, "standard_mode_result", result.measurementData, sink);
     }
     if (result.hasMeasurementDataSecondary) {
-        addPatches(parts, "standard_mode_result_secondary", result.measurementDataSecondary, sink);
+        addPatches(ofResult, "standard_mode_result_secondary", result.measurementDataSecondary, sink);
     }
 }
 
@@ -101,11 +118,7 @@ void addPatchRows(const Parts& parts, Sink& sink) {
     }
     if (parts.results != nullptr) {
         for (const CalibrationModeResultObject& mode : parts.results->objects) {
-            Parts ofMode = parts;
-            ofMode.modeIndex = &mode.index;
-            if (mode.hasMeasurementData) {
-                addPatches(ofMode, "calibration_mode_result", mode.measurementData, sink);
-            }
+            addModePatches(parts, mode, sink);
         }
     }
     if (parts.standardResult != nullptr) {

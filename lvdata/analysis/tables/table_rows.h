@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lvdata/analysis/decimal.h>
+#include <lvdata/analysis/figures/Figure.h>
 #include <lvdata/analysis/tables/tables.h>
 
 #include <lvdata/core/Quantity.h>
@@ -27,7 +28,7 @@ struct Parts {
     const StandardModeResult* standardResult = nullptr;
     const AssetInfo* assets = nullptr;
     const CandelaMap* maps = nullptr;
-    const BasicData* basicData = nullptr;                // of a document of its own
+    const BasicData* basicData = nullptr;                // of a document of its own, or of the row's measurements
     const TargetSetting* target = nullptr;               // of a document of its own
     const ParameterSetting* parameterSetting = nullptr;  // of a document of its own
     const MonitorParameter* parameter = nullptr;         // of a document of its own
@@ -47,6 +48,7 @@ public:
     void count(std::size_t value);
     void index(const property<unsigned int>& value);
     void truth(const property<bool>& value);
+    void figure(const Figure& figure, int decimals);
 
     /// Null when no value was given.
     void end();

@@ -86,6 +86,13 @@ void Cell::truth(const property<bool>& value) {
     }
 }
 
+void Cell::figure(const Figure& figure, int decimals) {
+    if (figure.value) {
+        sink_.number(fixedText(*figure.value, decimals), Sink::NumberKind::fraction);
+        isGiven_ = true;
+    }
+}
+
 void Cell::end() {
     if (!isGiven_) {
         sink_.null();

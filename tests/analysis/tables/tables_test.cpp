@@ -3,6 +3,7 @@
 #include <tests/support/golden.h>
 
 #include <lvdata/analysis/Document.h>
+#include <lvdata/analysis/figures/lines.h>
 #include <lvdata/analysis/json/JSONWriter.h>
 #include <lvdata/analysis/tables/CSVWriter.h>
 #include <lvdata/analysis/tables/tables.h>
@@ -181,6 +182,55 @@ TEST(Tables, HaveARowForEachEntryOfAMap) {
     EXPECT_EQ(rows[1]["entry"], 1);
     EXPECT_EQ(rows[1]["value"], 6);
     EXPECT_EQ(rows[2]["updated_at"], "now");
+}
+
+TEST(Tables, HaveTheFiguresOfAModeWithTheirDigits) {
+    const auto rows = rowsOf(Table::modes, studio());
+    const json figures = json::parse(analysis::figuresJSON(
+        analysis::monitorFigures(*analysis::monitorOf(analysis::Document(studio(), catalogue()).record()))));
+    ASSERT_EQ(rows.size(), figures["modes"].size());
+    for (std::size_t mode = 0; mode < rows.size(); ++mode) {
+        for (const char* const key : {"white_tristimulus_y", "white_cct", "white_delta_uv", "white_delta_e2000",
+                                      "patches_delta_e2000_mean", "patches_delta_e2000_maximum"}) {
+            EXPECT_EQ(rows[mode][key], figures["modes"][mode]["figures"][key]["measured"]) << mode << ' ' << key;
+        }
+    }
+    EXPECT_EQ(rows[0]["patches_delta_e2000_mean"], nullptr);
+    EXPECT_EQ(rows[4]["patches_delta_e2000_mean"], 1.10);
+    EXPECT_EQ(rows[4]["white_cct"], 6497);
+    EXPECT_THAT(csvOf(Table::modes, studio()), HasSubstr(",1000.6680,6497,0.0001,0.08,1.10,5.37\r\n"));
+}
+
+TEST(Tables, HaveTheIntervalOfTheKindOfTheSchedule) {
+    const auto intervals = [](const std::string& kind) {
+        const auto rows = rowsOf(Table::monitors, "<MonitorConfiguration><SelfCalibrationSchedule><Type Type='" + kind +
+                                                      "'><IntervalMonth>3</IntervalMonth><IntervalWeek>5</IntervalWeek>"
+                                                      "<IntervalHour>7</IntervalHour></Type></SelfCalibrationSchedule>"
+                                                      "</MonitorConfiguration>");
+        return json::array({rows[0]["schedule_interval_months"], rows[0]["schedule_interval_weeks"],
+                            rows[0]["schedule_interval_hours"]});
+    };
+    EXPECT_EQ(intervals("1"), json::parse("[3, null, null]"));
+    EXPECT_EQ(intervals("2"), json::parse("[null, 5, null]"));
+    EXPECT_EQ(intervals("3"), json::parse("[null, null, 7]"));
+    EXPECT_EQ(intervals("31"), json::parse("[null, null, 7]"));
+    EXPECT_EQ(intervals("32"), json::parse("[null, null, null]"));
+}
+
+TEST(Tables, SayWhichSensorMeasuredAPatch) {
+    const std::string series = "<MeasurementData><Measurements><RGB>1|2|3</RGB></Measurements></MeasurementData>";
+    const auto measuredBy = [&](const std::string& sensor) {
+        return "<BasicData><ColorSensorSerial>" + sensor + "</ColorSensorSerial></BasicData>" + series;
+    };
+    const auto rows = rowsOf(Table::patches, "<MonitorInfo><CalibrationModeResult><ColorMode>" + measuredBy("007") +
+                                                 "</ColorMode><ColorMode>" + series +
+                                                 "</ColorMode>"
+                                                 "</CalibrationModeResult><StandardModeResult>" +
+                                                 measuredBy("8") + "</StandardModeResult></MonitorInfo>");
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(rows[0]["sensor_serial"], "007");
+    EXPECT_EQ(rows[1]["sensor_serial"], nullptr);
+    EXPECT_EQ(rows[2]["sensor_serial"], "8");
 }
 
 TEST(Tables, HaveNoRowsOfDocumentsWithoutSuchThings) {

@@ -1,0 +1,5 @@
+\copy monitors FROM 'monitors.csv' WITH (FORMAT csv, HEADER)
+\copy modes FROM 'modes.csv' WITH (FORMAT csv, HEADER)
+\copy patches FROM 'patches.csv' WITH (FORMAT csv, HEADER)
+\copy curves FROM 'curves.csv' WITH (FORMAT csv, HEADER)
+\copy maps FROM 'maps.csv' WITH (FORMAT csv, HEADER)
