@@ -3,8 +3,7 @@
 #include <lvdata/analysis/colour/difference.h>
 #include <lvdata/analysis/colour/standards.h>
 #include <lvdata/analysis/figures/Figure.h>
-#include <lvdata/records/CalibrationModeResult.h>
-#include <lvdata/records/ColorModeSettings.h>
+#include <lvdata/analysis/figures/joined_modes.h>
 
 #include <array>
 #include <cstddef>
@@ -144,17 +143,15 @@ struct ModeFigures {
     return mode.targetChromaticity ? mode.targetChromaticity : mode.standardChromaticity;
 }
 
-/// The figures of all modes, in the order of the settings; results without settings come last. Settings and results
-/// belong together when they have the same index; where several have it, the first to the first, and so on.
+/// The figures of one mode.
 ///
 /// The measured white is "JustCalibratedWhite", or else the white of the profile data; black and primaries are those of
 /// the profile data. The set "Limited109" is not looked at.
+[[nodiscard]] ModeFigures modeFigures(const JoinedMode& mode, const KnownUnits& known = {});
+
+/// The figures of all modes, joined and ordered as `joinedModes` does it.
 [[nodiscard]] std::vector<ModeFigures> modeFigures(const ColorModeSettings& settings,
                                                    const CalibrationModeResult& results, const KnownUnits& known = {});
-
-/// The figures of one mode: what is set up, and its result. One of the two may be null, but not both.
-[[nodiscard]] ModeFigures figuresOfMode(const ColorModeSettingsObject* settings,
-                                        const CalibrationModeResultObject* result, const KnownUnits& known = {});
 
 /// Whether anything of a calibration or measurement of the mode is known.
 [[nodiscard]] bool hasResult(const ModeFigures& mode);

@@ -3,8 +3,6 @@
 #include <lvdata/core/quantities.h>
 
 #include <algorithm>
-#include <map>
-#include <set>
 
 namespace lv::analysis {
 namespace {
@@ -188,48 +186,8 @@ const std::vector<ColumnOf<ModeRow>>& columns() {
     return all;
 }
 
-/// The results by their index, each to be taken once: the rows of the settings come first, then the other results.
-class Results {
-public:
-    explicit Results(const CalibrationModeResult* results) {
-        if (results != nullptr) {
-            for (const ModeResult& each : results->objects) {
-                all_.push_back(&each);
-                if (each.index.hasValue) {
-                    byIndex_.emplace(each.index.value, &each);
-                }
-            }
-        }
-    }
-
-    const ModeResult* take(const property<unsigned int>& index) {
-        const auto found = index.hasValue ? byIndex_.find(index.value) : byIndex_.end();
-        if (found == byIndex_.end()) {
-            return nullptr;
-        }
-        const ModeResult* const result = found->second;
-        byIndex_.erase(found);
-        taken_.insert(result);
-        return result;
-    }
-
-    [[nodiscard]] std::vector<const ModeResult*> others() const {
-        std::vector<const ModeResult*> others;
-        for (const ModeResult* const each : all_) {
-            if (taken_.count(each) == 0) {
-                others.push_back(each);
-            }
-        }
-        return others;
-    }
-
-private:
-    std::vector<const ModeResult*> all_;
-    std::map<unsigned int, const ModeResult*> byIndex_;  // of those with the same index the first
-    std::set<const ModeResult*> taken_;
-};
-
-void addMode(const Parts& parts, const ModeSettings* settings, const ModeResult* result, Sink& sink) {
+void addMode(const Parts& parts, const JoinedMode& mode, Sink& sink) {
+    const auto& [settings, result] = mode;
     Parts ofMode = parts;
     const bool isSetUp = settings != nullptr && settings->index.hasValue;
     ofMode.modeIndex = isSetUp ? &settings->index : result != nullptr ? &result->index : nullptr;
@@ -241,7 +199,7 @@ void addMode(const Parts& parts, const ModeSettings* settings, const ModeResult*
     }
     row.basic = result != nullptr && result->hasBasicData ? &result->basicData : nullptr;
     if (result != nullptr) {
-        row.figures = figureLines(figuresOfMode(settings, result));
+        row.figures = figureLines(modeFigures(mode));
     }
     addRow(columns(), row, sink);
 }
@@ -253,14 +211,8 @@ std::vector<Column> modeColumns() {
 }
 
 void addModeRows(const Parts& parts, Sink& sink) {
-    Results results(parts.results);
-    if (parts.settings != nullptr) {
-        for (const ModeSettings& each : parts.settings->objects) {
-            addMode(parts, &each, results.take(each.index), sink);
-        }
-    }
-    for (const ModeResult* const each : results.others()) {
-        addMode(parts, nullptr, each, sink);
+    for (const JoinedMode& mode : joinedModes(parts.settings, parts.results)) {
+        addMode(parts, mode, sink);
     }
     if (parts.target != nullptr || parts.parameterSetting != nullptr || parts.basicData != nullptr) {
         addRow(columns(), {parts, nullptr, nullptr, parts.target, parts.parameterSetting, parts.basicData}, sink);

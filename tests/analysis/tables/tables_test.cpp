@@ -124,6 +124,24 @@ TEST(Tables, JoinSettingsAndResultsByTheirIndex) {
     EXPECT_EQ(rows[3]["mode_index"], nullptr);
 }
 
+TEST(Tables, JoinModesOfTheSameIndexInTheirOrder) {
+    const auto mode = [](const std::string& name) {
+        return "<ColorMode Type='S'><Index>2</Index><Name>" + name + "</Name></ColorMode>";
+    };
+    const auto result = [](const std::string& hours) {
+        return "<ColorMode><Index>2</Index><BasicData><UsageHours>" + hours + "</UsageHours></BasicData></ColorMode>";
+    };
+    const auto rows =
+        rowsOf(Table::modes, "<MonitorInfo><MonitorConfiguration><ColorModeSettings>" + mode("a") + mode("b") +
+                                 "</ColorModeSettings></MonitorConfiguration><CalibrationModeResult>" + result("7") +
+                                 result("8") + "</CalibrationModeResult></MonitorInfo>");
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_EQ(rows[0]["name"], "a");
+    EXPECT_EQ(rows[0]["usage_hours"], 7);
+    EXPECT_EQ(rows[1]["name"], "b");
+    EXPECT_EQ(rows[1]["usage_hours"], 8);
+}
+
 TEST(Tables, HaveARowForEachPatch) {
     const auto rows = rowsOf(Table::patches,
                              "<MeasurementData><Measurements><RGB>255|0|1</RGB><XYZ>-700000|0|12</XYZ></Measurements>"

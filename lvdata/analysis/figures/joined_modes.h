@@ -1,0 +1,22 @@
+#pragma once
+
+#include <lvdata/records/CalibrationModeResult.h>
+#include <lvdata/records/ColorModeSettings.h>
+
+#include <vector>
+
+namespace lv::analysis {
+
+/// A colour mode: what is set up, and its result. One of the two may be null, but not both. Points into the records.
+struct JoinedMode {
+    const ColorModeSettingsObject* setting = nullptr;     ///< What is set up.
+    const CalibrationModeResultObject* result = nullptr;  ///< What calibrating it gave.
+};
+
+/// All modes, in the order of the settings; results without settings come last. Settings and results belong together
+/// when they have the same index; where several have it, the first to the first, and so on. Either may be null: there
+/// are none of them.
+[[nodiscard]] std::vector<JoinedMode> joinedModes(const ColorModeSettings* settings,
+                                                  const CalibrationModeResult* results);
+
+}  // namespace lv::analysis
