@@ -28,7 +28,7 @@ folder = Path(sys.argv[3]) if len(sys.argv) > 3 else None
 
 # %% Everything that differs, in natural values
 for difference in lvdata.diff(before, after):
-    print(f"{difference.path}: {difference.before} -> {difference.after}")
+    print(difference)
 
 # %% Only what matters: chromaticities that moved by more than 0.001, colours by more than ΔE00 0.5
 tolerances = {"duv": 0.001, "chromaticity": 0.001, "de00": 0.5}

@@ -18,9 +18,9 @@ SAMPLES = Path(__file__).resolve().parents[2] / "examples" / "data"
 documents = Path(sys.argv[1]) if len(sys.argv) > 1 else SAMPLES
 folder = Path(sys.argv[2]) if len(sys.argv) > 2 else None
 
-bad: list[lvdata.ParseError] = []
+bad: list[lvdata.ParseError | OSError] = []
 modes = pandas.DataFrame(lvdata.scan([documents], table="modes", on_error=bad.append))
-print(f"{modes['file'].nunique()} documents with {len(modes)} colour modes, {len(bad)} cannot be read")
+print(f"colour modes: {len(modes)}; documents with them: {modes['file'].nunique()}; documents that cannot be read: {len(bad)}")
 
 # %% Which modes were calibrated, and when last?
 calibrated = modes[modes["calibrated_time"].fillna("") != ""]
@@ -59,7 +59,8 @@ print(drift[["serial", "mode", "time", "white_delta_uv", "drift"]].to_string(ind
 # %% What is wrong with the documents?
 for file in modes["file"].unique():
     for finding in lvdata.check(file):
-        print(f"{file}: {finding}")
+        if finding.severity != "info":
+            print(f"{file}: line {finding.line}: {finding.message}")
 for error in bad:
     print(error)
 

@@ -36,10 +36,10 @@ for mode_figures in figures["modes"]:
         print(f"{mode_figures['name']}: white ΔE00 {white}, patches ΔE00 {mean} on average")
 
 # %% Does anything in the document get lost when it is read and written?
-findings = lvdata.check(document)
+findings = [finding for finding in lvdata.check(document) if finding.severity != "info"]
 print(f"{len(findings)} findings")
 for finding in findings:
-    print(finding)
+    print(f"line {finding.line}: {finding.severity}: {finding.message}")
 
 # %% Change a value; the document itself stays as it is
 configuration.name = "Studio wall, left"

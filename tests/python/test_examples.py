@@ -93,8 +93,8 @@ def monitors(tmp_path: Path) -> Path:
 
 def test_fleet_makes_tables_of_all_documents(monitors: Path, tmp_path: Path) -> None:
     output = run("fleet", monitors, tmp_path / "out", folder=tmp_path)
-    assert "3 documents with 15 colour modes, 1 cannot be read" in output
-    assert "broken.xml" in output
+    assert "broken.xml: line 20: " in output, "the bad document, with its line"
+    assert "colour modes: 15; documents with them: 3; documents that cannot be read: 1" in output
     assert files_in(tmp_path / "out") == {"modes.csv", "drift.csv"}
     assert len((tmp_path / "out" / "modes.csv").read_text(encoding="utf-8").splitlines()) == 16
     drift = [line for line in (tmp_path / "out" / "drift.csv").read_text().splitlines() if "2025-05-02" in line]
