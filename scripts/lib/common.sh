@@ -23,7 +23,7 @@ heading() {
 
 # The C++ files of the project, relative to its root; one a line.
 cpp_files() {
-    find "$source_dir"/{lvdata,tools,examples,benchmarks,tests,fuzz} -name '*.h' -o -name '*.cpp' |
+    find "$source_dir"/{lvdata,tools,python,examples,benchmarks,tests,fuzz} -name '*.h' -o -name '*.cpp' |
         sed "s|^$source_dir/||" | LC_ALL=C sort
 }
 
