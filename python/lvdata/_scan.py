@@ -25,9 +25,12 @@ OnError = Callable[[Problem], object]
 _AHEAD = 8
 
 Result = TypeVar("Result")
+AnyProblem = TypeVar("AnyProblem", ParseError, OSError, Problem)
 
 
-def documents(paths: Path | Iterable[Path], *, on_error: OnError | None = None) -> list[str]:
+def documents(
+    paths: Path | Iterable[Path], *, on_error: Callable[[OSError], object] | None = None
+) -> list[str]:
     """The documents below some paths: files as they are, and of folders all files named *.xml at any depth.
 
     In a folder, files and folders are taken together in the order of the bytes of their names. Links to folders are
@@ -80,7 +83,7 @@ def _threads(jobs: int | None) -> int:
     return jobs
 
 
-def _report(problem: Problem, on_error: OnError | None) -> None:
+def _report(problem: AnyProblem, on_error: Callable[[AnyProblem], object] | None) -> None:
     if on_error is None:
         raise problem
     on_error(problem)

@@ -10,7 +10,7 @@ from pathlib import Path
 import lvdata
 import pytest
 from conftest import later
-from lvdata import _reports
+from lvdata import _lvdata, _reports
 
 Tool = Callable[..., bytes]
 
@@ -48,8 +48,11 @@ def test_several_documents_give_a_history(tool: Tool, history: list[Path]) -> No
 
 
 def test_options_have_the_meaning_of_the_tool(tool: Tool, studio: Path, tmp_path: Path) -> None:
-    page = lvdata.report(studio, limits="iso14861", mode=2, title="A & B", date="today", y_unit="cd", map_unit="%", grid=5)
-    options = ["--limits=iso14861", "--mode=2", "--title=A & B", "--date=today", "--y-unit=cd", "--map-unit=%", "--grid=5"]
+    page = lvdata.report(
+        studio, limits="iso14861", mode=2, title="A & B", date="today", y_unit="cd", map_unit="%", grid=5
+    )
+    options = ["--limits=iso14861", "--mode=2", "--title=A & B", "--date=today"]
+    options += ["--y-unit=cd", "--map-unit=%", "--grid=5"]
     assert page.html.encode() == tool("report", *options, studio)
     limits = tmp_path / "mine.json"
     limits.write_bytes((studio.parents[2] / "limits" / "iso14861.json").read_bytes())
@@ -89,11 +92,11 @@ def test_what_cannot_be_reported_is_refused(studio: Path, tmp_path: Path) -> Non
 
 def test_a_document_that_changes_while_it_is_read_is_refused(studio: Path) -> None:
     text = studio.read_bytes()
-    monitor = lvdata._lvdata.MonitorSources(("", "", 0), False)  # type: ignore[attr-defined]
+    monitor = _lvdata.MonitorSources(("", "", 0), False)
     monitor.add(text, b"a.xml")
-    form = lvdata._lvdata.ReportForm("", "", None, "default")  # type: ignore[attr-defined]
+    form = _lvdata.ReportForm("", "", None, "default")
     with pytest.raises(lvdata.ParseError, match="a.xml: changed while it was read"):
-        lvdata._lvdata.page(monitor, later(text, "2024-01-01"), form)  # type: ignore[attr-defined]
+        _lvdata.page(monitor, later(text, "2024-01-01"), form)
 
 
 def test_a_fleet_has_the_pages_of_the_tool(tool: Tool, studio: Path, history: list[Path], tmp_path: Path) -> None:
