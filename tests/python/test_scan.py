@@ -57,6 +57,8 @@ def test_rows_are_those_of_the_tool(tool: Tool, archive: Path, studio: Path, job
     for table in ("modes", "monitors", "maps"):
         expected = rows_of_tool(tool, table, archive, studio)
         assert list(lvdata.scan([archive, str(studio)], table, jobs=jobs)) == expected
+    many = [archive] * 6  # more than are read ahead
+    assert list(lvdata.scan(many, "monitors", jobs=jobs)) == rows_of_tool(tool, "monitors", *many)
     assert list(lvdata.scan(studio, "curves", jobs=jobs)) == lvdata.table(studio, "curves")
 
 
@@ -135,17 +137,16 @@ def test_a_scan_that_is_dropped_leaves_no_thread(archive: Path) -> None:
 
 def test_only_a_few_documents_are_read_ahead(archive: Path, monkeypatch: pytest.MonkeyPatch) -> None:
     begun = []
-    rows_of_file = _lvdata.rows_of_file
 
     def counted(file: bytes, table: str) -> str:
         begun.append(file)
-        return rows_of_file(file, table)
+        return "[{}]"
 
     monkeypatch.setattr(_lvdata, "rows_of_file", counted)
     rows = lvdata.scan([archive] * 100, "monitors", jobs=2)
     next(rows)
     time.sleep(0.2)
-    assert 1 <= len(begun) <= 17
+    assert 1 <= len(begun) <= 18
     rows.close()  # type: ignore[attr-defined]
 
 

@@ -27,7 +27,9 @@ TEST(FindLimitSet, ReadsFiles) {
     EXPECT_NE(wrong.reason, "");
     folder.write("large.json", std::string(1'000'001, ' '));
     EXPECT_EQ(findLimitSet(folder.path("large.json")).reason, "more than 1000000 bytes, which no limits need");
-    folder.write("mine.json", R"({"name": "mine", "title": "Mine", "limits": [{"figure": "contrast", "minimum": 500}]})");
+    folder.write(
+        "mine.json",
+        R"({"name": "mine", "title": "Mine", "notice": "", "limits": [{"figure": "contrast", "minimum": 500}]})");
     const auto mine = findLimitSet(folder.path("mine.json"));
     ASSERT_TRUE(mine.set) << mine.reason;
     EXPECT_EQ(mine.set->name, "mine");

@@ -9,6 +9,7 @@ namespace {
 
 using lv::analysis::MonitorDocument;
 using lv::analysis::MonitorDocuments;
+using lv::analysis::pageNames;
 using testing::ElementsAre;
 
 MonitorDocuments monitor(const std::string& name, const std::string& serial, const std::string& uuid = "") {
