@@ -1,6 +1,40 @@
 """Records of a monitor-calibration application, and what can be told of them."""
 
+from ._analysis import (
+    Column,
+    Diff,
+    Difference,
+    Finding,
+    TableDescription,
+    check,
+    diff,
+    figures,
+    table,
+    tables,
+)
 from ._errors import ParseError
 from ._lvdata import version as __version__
+from ._pictures import Picture, plot
+from ._reports import Report, report
+from ._scan import documents, scan
 
-__all__ = ["ParseError", "__version__"]
+__all__ = [
+    "Column",
+    "Diff",
+    "Difference",
+    "Finding",
+    "ParseError",
+    "Picture",
+    "Report",
+    "TableDescription",
+    "__version__",
+    "check",
+    "diff",
+    "documents",
+    "figures",
+    "plot",
+    "report",
+    "scan",
+    "table",
+    "tables",
+]

@@ -5,8 +5,7 @@
 #include <lvdata/analysis/Catalogue.h>
 #include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/figures/lines.h>
-
-#include <tools/lvdata/MonitorReader.h>
+#include <lvdata/analysis/monitors/MonitorDocument.h>
 
 #include <algorithm>
 #include <fstream>
@@ -228,7 +227,7 @@ TEST(Summaries, HaveTheSameLines) {
     ASSERT_TRUE(monitor);
     const auto whole = lv::analysis::monitorFigures(*monitor, {"cd/m²", "cd/m²", 5});
     auto summary = whole;
-    tool::dropData(summary);
+    lv::analysis::dropData(summary);
     const auto texts = [](const std::vector<FigureLine>& lines) {
         std::vector<Row> rows;
         for (const FigureLine& line : lines) {

@@ -3,96 +3,24 @@
 #include "Failure.h"
 #include "files.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <string_view>
-#include <system_error>
 #include <utility>
 
 namespace tool {
-namespace {
-
-namespace fs = std::filesystem;
-
-bool isDocumentName(std::string_view name) {
-    constexpr std::string_view ending = ".xml";
-    return name.size() >= ending.size() && name.substr(name.size() - ending.size()) == ending;
-}
-
-/// A folder, but not a link to one.
-bool isFolder(const fs::directory_entry& entry) {
-    std::error_code ignored;
-    return !entry.is_symlink(ignored) && entry.is_directory(ignored);
-}
-
-/// Also a file that cannot be opened, so that reading it tells why.
-bool isDocument(const fs::directory_entry& entry) {
-    std::error_code ignored;
-    return isDocumentName(entry.path().filename().native()) && !entry.is_directory(ignored) && !entry.is_other(ignored);
-}
-
-}  // namespace
 
 std::optional<Input> InputWalk::next() {
     while (true) {
-        if (auto found = nextInFolder()) {
-            emptyFolder_.clear();
-            return found;
-        }
-        if (!emptyFolder_.empty()) {
-            throw Failure(std::exchange(emptyFolder_, {}), "folder without files named *.xml");
+        if (auto found = walk_.next()) {
+            if (!found->reason.empty()) {
+                throw Failure(found->path, found->reason);
+            }
+            return Input{std::move(found->path)};
         }
         const auto path = nextPath();
-        std::error_code ignored;
-        if (!path) {
-            return std::nullopt;
+        if (!path || *path == standardStream) {
+            return path ? std::optional(Input{*path}) : std::nullopt;
         }
-        if (*path == standardStream || !fs::is_directory(*path, ignored)) {
-            return Input{*path};
-        }
-        enter(*path);
-        emptyFolder_ = *path;
+        walk_.start(*path);
     }
-}
-
-std::optional<Input> InputWalk::nextInFolder() {
-    while (!levels_.empty()) {
-        Level& level = levels_.back();
-        if (level.entries.empty()) {
-            levels_.pop_back();
-            continue;
-        }
-        const Entry entry = std::move(level.entries.back());
-        level.entries.pop_back();
-        std::string path = fs::path(level.folder) / entry.name;
-        if (!entry.isFolder) {
-            return Input{std::move(path)};
-        }
-        enter(path);
-    }
-    return std::nullopt;
-}
-
-void InputWalk::enter(const std::string& folder) {
-    try {
-        levels_.push_back(readFolder(folder));
-    } catch (const fs::filesystem_error& error) {
-        emptyFolder_.clear();  // one message is enough
-        throw Failure(folder, error.code().message());
-    }
-}
-
-InputWalk::Level InputWalk::readFolder(const std::string& folder) {
-    Level level{folder, {}};
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-        const bool folderInside = isFolder(entry);
-        if (folderInside || isDocument(entry)) {
-            level.entries.push_back({entry.path().filename(), folderInside});
-        }
-    }
-    std::sort(level.entries.begin(), level.entries.end(),
-              [](const Entry& left, const Entry& right) { return left.name > right.name; });
-    return level;
 }
 
 std::optional<std::string> InputWalk::nextPath() {

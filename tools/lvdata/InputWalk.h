@@ -3,10 +3,11 @@
 #include "InputOptions.h"
 #include "NameList.h"
 
+#include <lvdata/analysis/files/DocumentWalk.h>
+
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace tool {
 
@@ -15,12 +16,9 @@ struct Input {
     std::string file;  // as `readInput` takes it
 };
 
-/// Finds the inputs of a command one after the other. It holds the names of the folders that it is in, and not more, so
-/// that the number of files does not matter.
+/// Finds the inputs of a command one after the other, so that the number of files does not matter.
 ///
-/// PATHs come in their given order, then those of the lists. In a folder, files and folders are taken together in the
-/// order of the bytes of their names. Symbolic links to folders are followed where they are PATHs themselves, and
-/// ignored inside a folder; so are devices and pipes.
+/// PATHs come in their given order, then those of the lists; folders are walked as `DocumentWalk` does.
 class InputWalk {
 public:
     /// The options must outlive the walk.
@@ -31,20 +29,6 @@ public:
     std::optional<Input> next();
 
 private:
-    struct Entry {
-        std::string name;
-        bool isFolder;
-    };
-
-    /// A folder that is being walked.
-    struct Level {
-        std::string folder;
-        std::vector<Entry> entries;  // in descending order: the last one is next
-    };
-
-    static Level readFolder(const std::string& folder);
-    void enter(const std::string& folder);
-    std::optional<Input> nextInFolder();
     std::optional<std::string> nextPath();
     std::optional<std::string> nextListedPath();
 
@@ -52,8 +36,7 @@ private:
     std::size_t pathsTaken_ = 0;
     std::size_t listsTaken_ = 0;
     std::optional<NameList> list_;
-    std::vector<Level> levels_;  // from the PATH down to the current folder
-    std::string emptyFolder_;    // the PATH that is being walked, until something is found in it
+    lv::analysis::DocumentWalk walk_;
 };
 
 }  // namespace tool

@@ -4,20 +4,15 @@
 #include "documents.h"
 #include "files.h"
 
-#include <lvdata/analysis/check/check.h>
-#include <lvdata/analysis/json/JSON.h>
-
 #include <filesystem>
 #include <system_error>
-#include <vector>
+#include <utility>
 
 namespace tool {
 namespace {
 
 using lv::analysis::Document;
-using lv::analysis::MapFigures;
-using lv::analysis::ModeFigures;
-using lv::analysis::MonitorFigures;
+using lv::analysis::MonitorDocument;
 using lv::analysis::ReportedDocument;
 
 /// Not a pipe, and not standard input.
@@ -26,33 +21,7 @@ bool canBeReadAgain(const std::string& file) {
     return file != standardStream && std::filesystem::is_regular_file(file, ignored);
 }
 
-/// Frees the memory, too.
-template <class Item>
-void drop(std::vector<Item>& items) {
-    std::vector<Item>().swap(items);
-}
-
-void dropData(MapFigures& map) {
-    drop(map.values);
-    drop(map.againstCentre);
-}
-
-void dropData(ModeFigures& mode) {
-    mode.tables = {};
-    drop(mode.tone.steps);
-    drop(mode.series.patches);
-    drop(mode.series.worst);
-}
-
 }  // namespace
-
-void dropData(MonitorFigures& figures) {
-    for (ModeFigures& mode : figures.modes) {
-        dropData(mode);
-    }
-    dropData(figures.uniformity);
-    dropData(figures.brightness);
-}
 
 MonitorDocument MonitorReader::read(const std::string& file) const {
     const std::string text = readInput(file, limits_.bytes);
@@ -70,16 +39,12 @@ MonitorDocument MonitorReader::readSummary(const std::string& file) const {
 }
 
 MonitorDocument MonitorReader::monitorIn(const Document& document, const std::string& file) const {
-    const auto monitor = lv::analysis::monitorOf(document.record());
-    if (!monitor) {
-        throw Failure(inputName(file),
-                      "a document of " + document.entry().shape->facts().name + " is not of a monitor");
+    auto read = monitorDocument(document, inputName(file), units_);
+    if (!read) {
+        throw Failure(inputName(file), whyNoMonitor(document));
     }
-    MonitorDocument read{file, {}, lv::analysis::identityOf(*monitor), {}};
-    read.snapshot.document = inputName(file);
-    read.snapshot.figures = lv::analysis::monitorFigures(*monitor, units_);
-    read.snapshot.when = latestTimeOf(read.snapshot.figures);
-    return read;
+    read->file = file;
+    return std::move(*read);
 }
 
 ReportedDocument MonitorReader::readWhole(const MonitorDocument& document) const {
@@ -87,10 +52,10 @@ ReportedDocument MonitorReader::readWhole(const MonitorDocument& document) const
     const Document again =
         documentOf(document.text ? *document.text : readInput(document.file, limits_.bytes), name, limits_, catalogue_);
     MonitorDocument read = monitorIn(again, document.file);
-    if (read.identity != document.identity || read.snapshot.when != document.snapshot.when) {
+    if (!isSameDocument(read, document)) {
         throw Failure(name, "changed while it was read");
     }
-    return {std::move(read.snapshot), checkDocument(again), toJSON(again.record(), catalogue_, {true}).text};
+    return wholeDocument(std::move(read.snapshot), again, catalogue_);
 }
 
 }  // namespace tool

@@ -2,9 +2,7 @@
 
 #include "Failure.h"
 
-#include <algorithm>
-#include <cstddef>
-#include <iterator>
+#include <lvdata/analysis/figures/choice_of_mode.h>
 
 namespace tool {
 namespace {
@@ -16,19 +14,6 @@ std::string complaintIfNoIndex(const std::string& text) {
     return isIndex ? "" : "'" + text + "' is not an index";
 }
 
-/// "there are 0, 1, 2", so that the user can choose.
-std::string indicesOf(const std::vector<ModeFigures>& modes) {
-    constexpr std::size_t most = 20;
-    std::string text;
-    std::size_t count = 0;
-    for (const ModeFigures& mode : modes) {
-        count += mode.index.empty() ? 0 : 1;
-        const std::string index = count <= most ? mode.index : count == most + 1 ? "..." : "";
-        text += index.empty() ? "" : (text.empty() ? "there are " : ", ") + index;
-    }
-    return text.empty() ? "there are none" : text;
-}
-
 }  // namespace
 
 void addModeOption(CLI::App& command, std::string& mode, const std::string& help) {
@@ -37,11 +22,9 @@ void addModeOption(CLI::App& command, std::string& mode, const std::string& help
 
 std::vector<ModeFigures> modesOfIndex(const std::vector<ModeFigures>& modes, const std::string& index,
                                       const std::string& name) {
-    std::vector<ModeFigures> found;
-    std::copy_if(modes.begin(), modes.end(), std::back_inserter(found),
-                 [&index](const ModeFigures& mode) { return mode.index == index; });
+    std::vector<ModeFigures> found = lv::analysis::modesOfIndex(modes, index);
     if (found.empty()) {
-        throw Failure(name, "no colour mode has the index " + index + "; " + indicesOf(modes));
+        throw Failure(name, whyNoModeOfIndex(modes, index));
     }
     return found;
 }

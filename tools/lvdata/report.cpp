@@ -2,7 +2,6 @@
 
 #include "CommandLine.h"
 #include "Failure.h"
-#include "Fleet.h"
 #include "InputFiles.h"
 #include "MonitorReader.h"
 #include "Output.h"
@@ -17,6 +16,8 @@
 #include "report_folder.h"
 #include "unit_options.h"
 
+#include <lvdata/analysis/monitors/Fleet.h>
+
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -27,7 +28,10 @@
 namespace tool {
 namespace {
 
+using lv::analysis::Fleet;
 using lv::analysis::LimitSet;
+using lv::analysis::MonitorDocument;
+using lv::analysis::MonitorPage;
 using lv::analysis::ReportForm;
 
 struct Options {
@@ -63,7 +67,7 @@ ExitStatus readFleet(const Options& options, const MonitorReader& reader, InputF
     };
     const auto deliver = [&](MonitorDocument&& document) {
         const std::string name = document.snapshot.document;
-        const std::string why = whySecondMonitor(document.identity);
+        const std::string why = lv::analysis::whySecondMonitor(document.identity);
         fleet.add(std::move(document));
         if (isForOne && fleet.size() > 1) {
             throw Failure(name, why + "; with -o FOLDER/ there is a page for each monitor");

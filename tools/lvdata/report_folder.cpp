@@ -4,10 +4,10 @@
 #include "OrderedWork.h"
 #include "Output.h"
 #include "messages.h"
-#include "page_names.h"
 
 #include <lvdata/analysis/files/HeldSignals.h>
 #include <lvdata/analysis/files/files.h>
+#include <lvdata/analysis/monitors/page_names.h>
 
 #include <filesystem>
 #include <functional>
@@ -20,6 +20,9 @@ namespace tool {
 namespace {
 
 namespace fs = std::filesystem;
+
+using lv::analysis::MonitorDocuments;
+using lv::analysis::MonitorPage;
 
 /// A page, or the message why there is none.
 using Made = std::variant<MonitorPage, std::string>;

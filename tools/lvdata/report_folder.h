@@ -1,9 +1,10 @@
 #pragma once
 
 #include "ExitStatus.h"
-#include "Fleet.h"
 #include "InputFiles.h"
 #include "PageMaker.h"
+
+#include <lvdata/analysis/monitors/Fleet.h>
 
 #include <cstddef>
 #include <string>
@@ -21,7 +22,7 @@ struct ReportFolder {
 
 /// Writes a page for each monitor and then "index.html" with the table of all. A monitor whose page cannot be made is
 /// left out, with a message; the status is then `failed`. Throws `Failure` when a page cannot be written.
-ExitStatus writeReportFolder(const ReportFolder& report, const std::vector<MonitorDocuments>& monitors,
+ExitStatus writeReportFolder(const ReportFolder& report, const std::vector<lv::analysis::MonitorDocuments>& monitors,
                              const PageMaker& maker, const InputFiles& inputs);
 
 }  // namespace tool

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "MonitorReader.h"
+#include <lvdata/analysis/monitors/MonitorDocument.h>
 
 #include <cstddef>
 #include <map>
 #include <string>
 #include <vector>
 
-namespace tool {
+namespace lv::analysis {
 
 /// The documents of one monitor, not empty, in the order of time.
 using MonitorDocuments = std::vector<MonitorDocument>;
@@ -36,4 +36,4 @@ private:
 /// Why a document starts a second monitor, as a message says it.
 [[nodiscard]] std::string whySecondMonitor(const std::string& identity);
 
-}  // namespace tool
+}  // namespace lv::analysis

@@ -1,14 +1,11 @@
-#include "Fleet.h"
+#include <lvdata/analysis/monitors/Fleet.h>
 
 #include <algorithm>
 #include <tuple>
 #include <utility>
 
-namespace tool {
+namespace lv::analysis {
 namespace {
-
-using lv::analysis::MonitorFigures;
-using lv::analysis::Snapshot;
 
 const MonitorFigures& figuresOf(const MonitorDocuments& documents) {
     return latestOf(documents).snapshot.figures;
@@ -27,7 +24,7 @@ MonitorDocuments sorted(MonitorDocuments documents) {
     for (std::size_t index = 0; index < documents.size(); ++index) {
         places.push_back({std::to_string(index), documents[index].snapshot.when, {}});
     }
-    lv::analysis::sortByTime(places);
+    sortByTime(places);
     MonitorDocuments result;
     for (const Snapshot& place : places) {
         result.push_back(std::move(documents[std::stoul(place.document)]));
@@ -70,4 +67,4 @@ std::string whySecondMonitor(const std::string& identity) {
                             : "is of another monitor than the documents before it";
 }
 
-}  // namespace tool
+}  // namespace lv::analysis

@@ -1,4 +1,4 @@
-#include "page_names.h"
+#include <lvdata/analysis/monitors/page_names.h>
 
 #include <lvdata/analysis/figures/MonitorFigures.h>
 
@@ -6,10 +6,8 @@
 #include <set>
 #include <string_view>
 
-namespace tool {
+namespace lv::analysis {
 namespace {
-
-using lv::analysis::MonitorFigures;
 
 bool isLetterOrDigit(char character) {
     return ('a' <= character && character <= 'z') || ('A' <= character && character <= 'Z') ||
@@ -92,4 +90,4 @@ std::vector<std::string> pageNames(const std::vector<MonitorDocuments>& monitors
     return result;
 }
 
-}  // namespace tool
+}  // namespace lv::analysis

@@ -1,0 +1,14 @@
+#include <lvdata/analysis/monitors/MonitorPage.h>
+
+#include <filesystem>
+
+namespace lv::analysis {
+
+MonitorPage monitorPage(std::vector<ReportedDocument> documents, const ReportForm& form) {
+    for (ReportedDocument& document : documents) {
+        document.snapshot.document = std::filesystem::path(document.snapshot.document).filename();
+    }
+    return {reportPage(documents, form), fleetEntry(documents, form)};
+}
+
+}  // namespace lv::analysis

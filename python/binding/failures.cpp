@@ -1,0 +1,62 @@
+#include "failures.h"
+
+#include <exception>
+
+namespace py = pybind11;
+
+namespace lv::python {
+namespace {
+
+py::object orNone(const py::object& value, bool isGiven) {
+    return isGiven ? value : py::object(py::none());
+}
+
+void raise(const ParseFailure& failure) {
+    const py::object type = py::module_::import("lvdata._errors").attr("ParseError");
+    const py::object line = orNone(py::int_(failure.line), failure.line != 0);
+    const py::object file = orNone(asText(failure.file), !failure.file.empty());
+    PyErr_SetObject(type.ptr(), type(asText(failure.reason), line, file).ptr());
+}
+
+void raise(const FileFailure& failure) {
+    const py::object type = py::module_::import("builtins").attr("OSError");
+    const py::object error = type(failure.error.value(), asText(failure.reason), asText(failure.file));
+    PyErr_SetObject(reinterpret_cast<PyObject*>(Py_TYPE(error.ptr())), error.ptr());  // NOLINT(*-reinterpret-cast)
+}
+
+void translate(std::exception_ptr pointer) {  // NOLINT(performance-unnecessary-value-param): as pybind11 has it
+    try {
+        if (pointer) {
+            std::rethrow_exception(pointer);
+        }
+    } catch (const ParseFailure& failure) {
+        raise(failure);
+    } catch (const FileFailure& failure) {
+        raise(failure);
+    }
+}
+
+}  // namespace
+
+void addFailures(py::module_& /*module*/) {
+    py::register_exception_translator(&translate);
+}
+
+py::str asText(const std::string& bytes) {
+    PyObject* const text =
+        PyUnicode_DecodeUTF8(bytes.data(), static_cast<Py_ssize_t>(bytes.size()), "surrogateescape");
+    if (text == nullptr) {
+        throw py::error_already_set();
+    }
+    return py::reinterpret_steal<py::str>(text);
+}
+
+std::string asBytes(const py::str& text) {
+    PyObject* const bytes = PyUnicode_AsEncodedString(text.ptr(), "utf-8", "surrogateescape");
+    if (bytes == nullptr) {
+        throw py::error_already_set();
+    }
+    return py::reinterpret_steal<py::bytes>(bytes);
+}
+
+}  // namespace lv::python

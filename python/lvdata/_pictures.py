@@ -1,0 +1,68 @@
+"""Pictures of monitors, as SVG."""
+
+from __future__ import annotations
+
+import os
+from collections.abc import Iterable
+
+from . import _lvdata
+from ._saved import Saved
+from ._sources import Source, _Record, limits_name, mode_text, text_of, units_of
+
+
+class Picture(Saved):
+    """A picture as SVG. Notebooks show it."""
+
+    __slots__ = ()
+
+    @property
+    def svg(self) -> str:
+        """The whole document."""
+        return self._text
+
+    def _repr_svg_(self) -> str:
+        return self._text
+
+
+def listed(sources: Source | Iterable[Source]) -> list[Source]:
+    """One source, or several, as a list."""
+    if isinstance(sources, (str, bytes, os.PathLike, _Record)):
+        return [sources]
+    return list(sources)
+
+
+def plot(
+    sources: Source | Iterable[Source],
+    picture: str = "gamut",
+    *,
+    plane: str | None = None,
+    mode: int | None = None,
+    limits: str | os.PathLike[str] | None = None,
+    figure: str | None = None,
+    y_unit: str = "",
+    map_unit: str = "",
+    grid: int = 0,
+) -> Picture:
+    """Draws a picture of a monitor: the same as `lvdata plot`.
+
+    :param sources: a document; for "history" several of one monitor
+    :param picture: "gamut", "tone", "balance", "lut", "uniformity", "brightness", "six-colours", "patches", "history"
+    :param plane: of gamut: "xy" or "uv" (default)
+    :param mode: the index of the colour mode; None: the first with a calibration result
+    :param limits: of patches and history: the name or the file of the limits to draw
+    :param figure: of history: the key of the figure; None: "white_delta_uv"
+    :param y_unit: the unit of Y, which the records do not say
+    :param map_unit: the unit of the entries of candela maps
+    :param grid: the entries in a row of a candela map; 0: not known
+    :raises ValueError: for anything that there is not; the message says what there is
+    :raises ParseError: for a document that cannot be read, is not of a monitor, or is of another monitor
+    """
+    name = None if limits is None else limits_name(limits)
+    request = _lvdata.PictureRequest(picture, mode_text(mode), plane, name, figure)
+    documents = listed(sources)
+    if len(documents) != 1 and not request.is_history:
+        raise ValueError("all pictures but history take one document")
+    monitor = _lvdata.MonitorSources(units_of(y_unit, map_unit, grid), not request.is_history)
+    for each in documents:
+        monitor.add(*text_of(each))
+    return Picture(monitor.picture(request))

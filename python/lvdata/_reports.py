@@ -1,0 +1,157 @@
+"""Pages of HTML about monitors."""
+
+from __future__ import annotations
+
+import os
+from collections.abc import Iterable, Sequence
+from html import escape
+from typing import NamedTuple, TypedDict
+
+from . import _lvdata
+from ._pictures import listed
+from ._saved import Saved
+from ._sources import Source, file_name, limits_name, mode_text, text_of, units_of
+
+
+class PageEntry(TypedDict):
+    """The line of a monitor in the index of a fleet."""
+
+    page: str  #: The file name of its page.
+    name: str
+    serial: str
+    model: str
+    when: str  #: The time of its latest document.
+    passed: int  #: Figures within their limits,
+    failed: int  #: figures that are not,
+    not_available: int  #: and limits without a figure.
+    worst_mean: str  #: The greatest mean ΔE00 of the modes, or why there is none.
+    findings: int  #: How many there are in the latest document.
+    documents: int  #: How many documents the page is made of.
+
+
+class Report(Saved):
+    """A page of HTML. Notebooks show it in a frame of its own."""
+
+    __slots__ = ()
+
+    @property
+    def html(self) -> str:
+        """The whole document."""
+        return self._text
+
+    def _repr_html_(self) -> str:
+        return (
+            f'<iframe srcdoc="{escape(self._text)}" sandbox="allow-scripts" '
+            'style="width: 100%; height: 40em; border: 0"></iframe>'
+        )
+
+
+def report(
+    sources: Source | Iterable[Source],
+    *,
+    limits: str | os.PathLike[str] = "default",
+    mode: int | None = None,
+    title: str = "",
+    date: str = "",
+    y_unit: str = "",
+    map_unit: str = "",
+    grid: int = 0,
+) -> Report:
+    """The page of a monitor: the same as `lvdata report`. The latest document is told in full; several give a history.
+
+    :param sources: documents of one monitor, in any order
+    :param limits: what figures are judged by: the name of a limit set, or a file
+    :param mode: the index of the only colour mode to tell of; None: all
+    :param title: the heading; empty: the name of the monitor
+    :param date: a date to print; empty: none
+    :param y_unit: the unit of Y, which the records do not say
+    :param map_unit: the unit of the entries of candela maps
+    :param grid: the entries in a row of a candela map; 0: not known
+    :raises ValueError: for limits or a mode that there are not, and without any document
+    :raises ParseError: for a document that cannot be read, is not of a monitor, or is of another monitor
+    """
+    form = _lvdata.ReportForm(title, date, mode_text(mode), limits_name(limits))
+    return Report(_page(listed(sources), form, units_of(y_unit, map_unit, grid))[0])
+
+
+def _page(sources: Sequence[Source], form: _lvdata.ReportForm, units: tuple[str, str, int]) -> tuple[str, PageEntry]:
+    """The page, and its entry without the name of the page. The latest document is read twice."""
+    monitor = _lvdata.MonitorSources(units, False)
+    for each in sources:
+        monitor.add(*text_of(each))
+    return _lvdata.page(monitor, text_of(sources[monitor.latest()]).text if sources else b"", form)
+
+
+# What fleets are reported by. All results can be pickled.
+
+
+class MonitorKey(NamedTuple):
+    """What a document says of its monitor: enough to put the documents of a fleet together."""
+
+    identity: str  #: Tells monitors apart; empty: not known.
+    when: str  #: The time of the latest calibration, as the record has it.
+    name: str
+    serial: str
+    uuid: str
+
+
+class MonitorFiles(NamedTuple):
+    """The documents of one monitor."""
+
+    page: str  #: The file name of its page, "ed24-1234.html".
+    files: list[str]  #: In the order of time.
+
+
+class Page(NamedTuple):
+    """The page of one monitor."""
+
+    html: str
+    entry: PageEntry  #: Its line in the index.
+
+
+def monitor_key(file: str | os.PathLike[str]) -> MonitorKey:
+    """Reads a document and tells whose it is. Raises OSError and ParseError."""
+    text, name = text_of(file)
+    return MonitorKey(*_lvdata.monitor_key(text, name))
+
+
+def monitors(keys: Sequence[tuple[str, MonitorKey]]) -> list[MonitorFiles]:
+    """Puts documents together by their monitors, in the order of the index.
+
+    :param keys: files with their keys, in the order of the documents
+    """
+    groups = _lvdata.monitor_groups([tuple(key) for _, key in keys])
+    return [MonitorFiles(page, [keys[place][0] for place in places]) for page, places in groups]
+
+
+def page_of(
+    files: Sequence[str],
+    page: str = "",
+    *,
+    limits: str | os.PathLike[str] = "default",
+    mode: int | None = None,
+    date: str = "",
+    y_unit: str = "",
+    map_unit: str = "",
+    grid: int = 0,
+) -> Page:
+    """The page of one monitor and its entry in the index, as `report` and `lvdata report -o FOLDER/` make them.
+
+    :param page: the file name of the page
+    """
+    form = _lvdata.ReportForm("", date, mode_text(mode), limits_name(limits))
+    text, entry = _page([os.fsdecode(file_name(each)) for each in files], form, units_of(y_unit, map_unit, grid))
+    entry["page"] = page
+    return Page(text, entry)
+
+
+def index_page(
+    entries: Sequence[PageEntry],
+    *,
+    limits: str | os.PathLike[str] = "default",
+    mode: int | None = None,
+    title: str = "",
+    date: str = "",
+) -> str:
+    """The page with a table of all monitors, in the order of the entries."""
+    return _lvdata.index_page(list(entries), _lvdata.ReportForm(title, date, mode_text(mode), limits_name(limits)))
