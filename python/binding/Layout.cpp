@@ -15,6 +15,15 @@ using Place = Description::Place;
 using Repetition = Description::Repetition;
 using Layouts = std::vector<std::unique_ptr<Layout>>;
 
+/// The name of a class in Python begins with a capital, so that it differs from that of the attribute.
+std::string classNameOf(const Shape& shape) {
+    std::string name = shape.facts().name;
+    if (!name.empty() && name.front() >= 'a' && name.front() <= 'z') {
+        name.front() = static_cast<char>(name.front() - 'a' + 'A');
+    }
+    return name;
+}
+
 /// Makes the layouts: the records first, since others refer to them.
 class Maker {
 public:
@@ -35,7 +44,8 @@ private:
         layout.shape = &shape;
         layout.parent = parent;
         layout.id = made_.size() - 1;
-        layout.name = (parent == nullptr ? "" : parent->name + '.') + shape.facts().name;
+        layout.className = classNameOf(shape);
+        layout.name = (parent == nullptr ? "" : parent->name + '.') + layout.className;
         return layout;
     }
 

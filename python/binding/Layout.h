@@ -43,7 +43,8 @@ struct Layout {
     const analysis::Catalogue::Entry* entry = nullptr;  ///< The record class; null for anything else.
     const Layout* parent = nullptr;                   ///< Of the element that it is described in; null for a record.
     std::size_t id = 0;                               ///< Its index among all layouts.
-    std::string name{};                               ///< "ColorModeSettings.ColorMode".
+    std::string className{};                          ///< The name of the class in Python: "ColorMode".
+    std::string name{};                               ///< The same within its record: "ColorModeSettings.ColorMode".
     std::vector<Member> members{};                    ///< One for each child of the shape, in their order.
 
     /// The same, with the name of a member: "ColorModeSettings.ColorMode.type".

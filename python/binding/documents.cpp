@@ -37,11 +37,11 @@ py::object loadedBy(const std::string& path, Load load) {
 }  // namespace
 
 py::object loads(const std::string& text) {
-    return loadedBy("", [&] { return analysis::loadText(text); });
+    return loadedBy("", [&] { return analysis::loadText(text, catalogue()); });
 }
 
 py::object load(const std::string& path) {
-    return loadedBy(path, [&] { return analysis::load(path); });
+    return loadedBy(path, [&] { return analysis::load(path, catalogue()); });
 }
 
 py::tuple fromJSON(const std::string& text) {

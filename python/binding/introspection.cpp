@@ -73,7 +73,7 @@ py::dict classOf(const Layout& layout) {
         }
     }
     py::dict description;
-    description["name"] = layout.shape->facts().name;
+    description["name"] = layout.className;
     description["qualified_name"] = layout.name;
     description["parent"] = layout.parent == nullptr ? py::object(py::none()) : py::int_(layout.parent->id);
     description["fields"] = fields;

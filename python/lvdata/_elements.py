@@ -6,7 +6,7 @@ import os
 from collections.abc import Mapping
 
 from . import _fields, _lvdata
-from ._show import as_plain, shown_element
+from ._show import as_plain, is_set, shown_element
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -42,8 +42,8 @@ class Named:
 
     def to_dict(self) -> dict[str, Any]:
         """What is set, as dicts, lists and plain values; arrays become lists. The way back: `Class(**values)`."""
-        values = {name: as_plain(getattr(self, name)) for name in self._names}
-        return {name: value for name, value in values.items() if value is not None and value != [] and value != {}}
+        values = ((name, getattr(self, name)) for name in self._names)
+        return {name: as_plain(value) for name, value in values if is_set(value)}
 
 
 class Element(Named, _lvdata.Element):

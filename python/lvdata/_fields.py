@@ -28,9 +28,8 @@ class Field:
         self.nested: int | None = description["nested"]
         self.class_id = class_id
 
-    # What help() shows. Made when it is asked for, since importing the module would take longer.
-    @property
-    def __doc__(self) -> str:  # type: ignore[override]
+    def meaning(self) -> str:
+        """What help() shows of it. Made when it is asked for, since importing the module would take longer."""
         return _lvdata.meaning(self.class_id, self.index)
 
     def __delete__(self, owner: Any) -> None:
@@ -40,10 +39,10 @@ class Field:
         raise NotImplementedError
 
 
+# A text, a number or an array, natural.
 class ValueField(Field):
-    """A text, a number or an array, natural."""
-
     __slots__ = ()
+    __doc__ = property(Field.meaning)  # type: ignore[assignment]
 
     def __get__(self, owner: Element | None, _: type | None = None) -> Any:
         return self if owner is None else owner._value(self.index, False)
@@ -52,10 +51,10 @@ class ValueField(Field):
         owner._set_value(self.index, value, False)
 
 
+# The same, seen through a raw view or a group.
 class ViewField(Field):
-    """The same, seen through a raw view or a group."""
-
     __slots__ = ()
+    __doc__ = property(Field.meaning)  # type: ignore[assignment]
 
     def __get__(self, owner: RawView | Group | None, _: type | None = None) -> Any:
         return self if owner is None else owner._element._value(self.index, owner._raw)
@@ -64,10 +63,10 @@ class ViewField(Field):
         owner._element._set_value(self.index, value, owner._raw)
 
 
+# An element inside an element, or inside the raw view of one.
 class ChildField(Field):
-    """An element inside an element, or inside the raw view of one."""
-
     __slots__ = ()
+    __doc__ = property(Field.meaning)  # type: ignore[assignment]
 
     def __get__(self, owner: Element | RawView | None, _: type | None = None) -> Any:
         if owner is None:
@@ -83,10 +82,10 @@ class ChildField(Field):
             owner._element._set_child(self.index, element_of(value, self.nested, place, owner._raw))
 
 
+# The rows of an element, or of the raw view of one.
 class RowsField(Field):
-    """The rows of an element, or of the raw view of one."""
-
     __slots__ = ()
+    __doc__ = property(Field.meaning)  # type: ignore[assignment]
 
     def __get__(self, owner: Element | RawView | None, _: type | None = None) -> Any:
         return self if owner is None else rows_class(owner._element._rows(self.index), owner._raw)
@@ -96,9 +95,8 @@ class RowsField(Field):
         rows[:] = () if value is None else value
 
 
+# The elements that have the same name and different keys, as one object.
 class GroupField:
-    """The elements that have the same name and different keys, as one object."""
-
     __slots__ = ("name", "group", "members")
 
     kind = "group"
