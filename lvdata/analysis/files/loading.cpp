@@ -40,13 +40,12 @@ LoadResult resultOf(const ParseResult& parsed) {
 
 /// Whether the document has an element that the switch governs. Without a catalogue, the description is made for it.
 bool hasGoverned(ParsedDocument& document, const RecordClass& recordClass, const Catalogue* catalogue) {
-    const Tree tree(document.view());
     const Catalogue::Entry* const entry = catalogue == nullptr ? nullptr : catalogue->find(recordClass.name);
     if (entry != nullptr) {
-        return hasHLGSystemGamma(tree, *entry->shape);
+        return hasHLGSystemGamma(document.view(), *entry->shape);
     }
     const Description facts = recordClass.describe();
-    return hasHLGSystemGamma(tree, Shape(facts));
+    return hasHLGSystemGamma(document.view(), Shape(facts));
 }
 
 /// Saving the record is to keep what the document has.
