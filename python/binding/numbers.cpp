@@ -46,17 +46,25 @@ bool hasFloat(const py::handle& value) {
     return methods != nullptr && methods->nb_float != nullptr;
 }
 
-std::int64_t storedOfIndex(const py::handle& number, const NumberForm& form) {
-    const py::object whole = py::reinterpret_steal<py::object>(PyNumber_Index(number.ptr()));
-    if (!whole) {
-        throw py::error_already_set();
-    }
+std::int64_t storedOfWhole(const py::object& whole, const NumberForm& form) {
     int overflow = 0;
     const long long value = PyLong_AsLongLongAndOverflow(whole.ptr(), &overflow);
     if (overflow != 0) {
         refuse(form, "such a large one");
     }
     return storedOf(static_cast<std::int64_t>(value), form);
+}
+
+/// The number as an integer of Python; null when it is none. Arrays of NumPy say only when asked.
+py::object wholeOf(const py::handle& number) {
+    PyObject* const whole = PyIndex_Check(number.ptr()) != 0 ? PyNumber_Index(number.ptr()) : nullptr;
+    if (whole == nullptr && PyErr_Occurred() != nullptr) {
+        if (PyErr_ExceptionMatches(PyExc_TypeError) == 0) {
+            throw py::error_already_set();
+        }
+        PyErr_Clear();
+    }
+    return py::reinterpret_steal<py::object>(whole);
 }
 
 template <class Number>
@@ -145,8 +153,8 @@ std::int64_t storedOf(const py::handle& number, const NumberForm& form) {
     if (PyFloat_Check(number.ptr()) != 0) {
         return storedOf(PyFloat_AS_DOUBLE(number.ptr()), form);
     }
-    if (PyIndex_Check(number.ptr()) != 0) {
-        return storedOfIndex(number, form);
+    if (const py::object whole = wholeOf(number)) {
+        return storedOfWhole(whole, form);
     }
     if (!hasFloat(number)) {
         refuseType(form, number);

@@ -24,18 +24,20 @@ class Named:
     _element: Element
     _raw: bool
 
-    def __getattr__(self, name: str) -> Any:
-        if name.startswith("_"):
-            raise AttributeError(f"{type(self).__qualname__} has no {name!r}")
-        raise AttributeError(_fields.unknown(type(self), name))
+    if not TYPE_CHECKING:  # since for mypy there are no other names
 
-    def __setattr__(self, name: str, value: object) -> None:
-        try:
-            super().__setattr__(name, value)
-        except AttributeError:
-            if name in self._names or name.startswith("_") or hasattr(type(self), name):
-                raise
-            raise AttributeError(_fields.unknown(type(self), name)) from None
+        def __getattr__(self, name: str) -> Any:
+            if name.startswith("_"):
+                raise AttributeError(f"{type(self).__qualname__} has no {name!r}")
+            raise AttributeError(_fields.unknown(type(self), name))
+
+        def __setattr__(self, name: str, value: object) -> None:
+            try:
+                super().__setattr__(name, value)
+            except AttributeError:
+                if name in self._names or name.startswith("_") or hasattr(type(self), name):
+                    raise
+                raise AttributeError(_fields.unknown(type(self), name)) from None
 
     def __repr__(self) -> str:
         return shown_element(self)
@@ -88,7 +90,9 @@ class Element(Named, _lvdata.Element):
         return restored, (type(self), self._state())
 
     def __eq__(self, other: object) -> bool:
-        return self._equals(other) if isinstance(other, Element) else NotImplemented
+        if isinstance(other, Element):
+            return self._equals(other)
+        return NotImplemented
 
     __hash__ = None  # type: ignore[assignment]
 
@@ -122,7 +126,9 @@ class RawView(Named):
         object.__setattr__(self, "_element", element)
 
     def __eq__(self, other: object) -> bool:
-        return self._element == other._element if isinstance(other, RawView) else NotImplemented
+        if isinstance(other, RawView):
+            return self._element == other._element
+        return NotImplemented
 
     __hash__ = None  # type: ignore[assignment]
 

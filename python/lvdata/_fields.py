@@ -8,12 +8,49 @@ from . import _lvdata
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any
+    from typing import Any, Generic, TypeVar, overload
 
-    from ._elements import Element, Group, RawView
+    from typing_extensions import Self
+
+    from ._elements import Group
+
+    Got = TypeVar("Got", covariant=True)
+    Given = TypeVar("Given", contravariant=True)
+else:
+
+    class Generic:  # importing the module typing takes too long
+        __slots__ = ()
+        __class_getitem__ = classmethod(lambda cls, _: cls)
+
+    Any = Got = Given = None
 
 
-class Field:
+class Attribute(Generic[Got, Given]):
+    """An attribute of an element: what reading it gives, and what can be assigned."""
+
+    __slots__ = ()
+
+    if TYPE_CHECKING:
+
+        @overload
+        def __get__(self, owner: None, _: type | None = None) -> Self:
+            ...
+
+        @overload
+        def __get__(self, owner: Any, _: type | None = None) -> Got:
+            ...
+
+        def __get__(self, owner: Any, _: type | None = None) -> Any:
+            ...
+
+    def __set__(self, owner: Any, value: Given) -> None:
+        raise NotImplementedError
+
+    def __delete__(self, owner: Any) -> None:
+        self.__set__(owner, None)  # type: ignore[arg-type]
+
+
+class Field(Attribute[Any, Any]):
     """An attribute that stands for one place of an element."""
 
     __slots__ = ("name", "index", "kind", "has_decimals", "is_signed", "lengths", "nested", "class_id")
@@ -32,22 +69,16 @@ class Field:
         """What help() shows of it. Made when it is asked for, since importing the module would take longer."""
         return _lvdata.meaning(self.class_id, self.index)
 
-    def __delete__(self, owner: Any) -> None:
-        self.__set__(owner, None)
-
-    def __set__(self, owner: Any, value: Any) -> None:
-        raise NotImplementedError
-
 
 # A text, a number or an array, natural.
 class ValueField(Field):
     __slots__ = ()
     __doc__ = property(Field.meaning)  # type: ignore[assignment]
 
-    def __get__(self, owner: Element | None, _: type | None = None) -> Any:
+    def __get__(self, owner: Any, _: type | None = None) -> Any:
         return self if owner is None else owner._value(self.index, False)
 
-    def __set__(self, owner: Element, value: Any) -> None:
+    def __set__(self, owner: Any, value: Any) -> None:
         owner._set_value(self.index, value, False)
 
 
@@ -56,10 +87,10 @@ class ViewField(Field):
     __slots__ = ()
     __doc__ = property(Field.meaning)  # type: ignore[assignment]
 
-    def __get__(self, owner: RawView | Group | None, _: type | None = None) -> Any:
+    def __get__(self, owner: Any, _: type | None = None) -> Any:
         return self if owner is None else owner._element._value(self.index, owner._raw)
 
-    def __set__(self, owner: RawView | Group, value: Any) -> None:
+    def __set__(self, owner: Any, value: Any) -> None:
         owner._element._set_value(self.index, value, owner._raw)
 
 
@@ -68,13 +99,13 @@ class ChildField(Field):
     __slots__ = ()
     __doc__ = property(Field.meaning)  # type: ignore[assignment]
 
-    def __get__(self, owner: Element | RawView | None, _: type | None = None) -> Any:
+    def __get__(self, owner: Any, _: type | None = None) -> Any:
         if owner is None:
             return self
         child = owner._element._child(self.index)
         return child.raw if owner._raw and child is not None else child
 
-    def __set__(self, owner: Element | RawView, value: Any) -> None:
+    def __set__(self, owner: Any, value: Any) -> None:
         if value is None:
             owner._element._clear(self.index)
         else:
@@ -87,16 +118,16 @@ class RowsField(Field):
     __slots__ = ()
     __doc__ = property(Field.meaning)  # type: ignore[assignment]
 
-    def __get__(self, owner: Element | RawView | None, _: type | None = None) -> Any:
+    def __get__(self, owner: Any, _: type | None = None) -> Any:
         return self if owner is None else rows_class(owner._element._rows(self.index), owner._raw)
 
-    def __set__(self, owner: Element | RawView, value: Any) -> None:
+    def __set__(self, owner: Any, value: Any) -> None:
         rows = self.__get__(owner)
         rows[:] = () if value is None else value
 
 
 # The elements that have the same name and different keys, as one object.
-class GroupField:
+class GroupField(Attribute[Any, Any]):
     __slots__ = ("name", "group", "members")
 
     kind = "group"
@@ -110,10 +141,10 @@ class GroupField:
     def __doc__(self) -> str:  # type: ignore[override]
         return f"{', '.join(member.name for member in self.members)}: the elements of this name, by their keys."
 
-    def __get__(self, owner: Element | RawView | None, _: type | None = None) -> Any:
+    def __get__(self, owner: Any, _: type | None = None) -> Any:
         return self if owner is None else self.group._of(owner._element, owner._raw)
 
-    def __set__(self, owner: Element | RawView, value: Any) -> None:
+    def __set__(self, owner: Any, value: Any) -> None:
         group = self.__get__(owner)
         if value is None:
             for member in self.members:
@@ -124,9 +155,6 @@ class GroupField:
             group._copy_from(self.group._of_values(value, owner._raw))
         else:
             raise TypeError(f"{self.group.__qualname__} or a mapping expected, not {type(value).__name__}")
-
-    def __delete__(self, owner: Element | RawView) -> None:
-        self.__set__(owner, None)
 
 
 #: The class of elements of each layout, and the class of rows; filled by the modules that make them.

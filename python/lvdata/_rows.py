@@ -9,12 +9,14 @@ from ._show import shown_rows
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any
+    from typing import Any, TypeVar, overload
 
     from typing_extensions import Self
 
+    Row = TypeVar("Row")
 
-class Rows(MutableSequence):  # type: ignore[type-arg]
+
+class Rows(MutableSequence["Row"]):
     """The rows of an element. They behave like a list, and changing them changes the element.
 
     Rows are objects of one class, or mappings of which objects are made. `numpy.asarray(rows)` gives all of them as a
@@ -28,17 +30,32 @@ class Rows(MutableSequence):  # type: ignore[type-arg]
         self._raw = raw
 
     @property
-    def raw(self) -> Rows:
+    def raw(self) -> Rows[Any]:
         """The same rows with numbers as they are stored."""
         return Rows(self._rows, True)
 
     def __len__(self) -> int:
         return len(self._rows)
 
-    def __getitem__(self, index: Any) -> Any:
-        if isinstance(index, slice):
-            return [self._at(each) for each in range(*index.indices(len(self)))]
-        return self._at(self._position(index))
+    if TYPE_CHECKING:
+
+        @overload
+        def __getitem__(self, index: int) -> Row:
+            ...
+
+        @overload
+        def __getitem__(self, index: slice) -> list[Row]:
+            ...
+
+        def __getitem__(self, index: Any) -> Any:
+            ...
+
+    else:
+
+        def __getitem__(self, index: Any) -> Any:
+            if isinstance(index, slice):
+                return [self._at(each) for each in range(*index.indices(len(self)))]
+            return self._at(self._position(index))
 
     def __setitem__(self, index: Any, value: Any) -> None:
         if isinstance(index, slice):
@@ -71,7 +88,7 @@ class Rows(MutableSequence):  # type: ignore[type-arg]
     def copy(self) -> Self:
         """The same rows as copies that share nothing with these."""
         copied = _lvdata.new_rows(self._rows.id())
-        copied.replace(0, 0, [row._element.copy() for row in self])
+        copied.replace(0, 0, [element.copy() for element in self._elements()])
         return type(self)(copied, self._raw)
 
     def __copy__(self) -> Self:
@@ -81,12 +98,14 @@ class Rows(MutableSequence):  # type: ignore[type-arg]
         return self.copy()
 
     def __reduce__(self) -> tuple[Any, ...]:
-        return restored_rows, (_fields.classes[self._rows.id()], [row._element for row in self], self._raw)
+        return restored_rows, (_fields.classes[self._rows.id()], self._elements(), self._raw)
 
     def __eq__(self, other: object) -> bool:
         if isinstance(other, Rows):
             return self._rows.id() == other._rows.id() and self._rows.equals(other._rows)
-        return list(self) == other if isinstance(other, list) else NotImplemented
+        if isinstance(other, list):
+            return list(self) == other
+        return NotImplemented
 
     __hash__ = None  # type: ignore[assignment]
 
@@ -106,6 +125,9 @@ class Rows(MutableSequence):  # type: ignore[type-arg]
     def __array__(self, dtype: Any = None) -> Any:
         array = self.to_numpy()
         return array if dtype is None else array.astype(dtype)
+
+    def _elements(self) -> list[Any]:
+        return [self._rows.at(position) for position in range(len(self))]
 
     def _at(self, position: int) -> Any:
         row = self._rows.at(position)
@@ -134,7 +156,7 @@ class Rows(MutableSequence):  # type: ignore[type-arg]
             self._rows.replace(position, position + 1, [element])
 
 
-def restored_rows(cls: Any, elements: list[Any], raw: bool) -> Rows:
+def restored_rows(cls: Any, elements: list[Any], raw: bool) -> Rows[Any]:
     """Rows of a pickle."""
     rows = _lvdata.new_rows(cls._id)
     rows.replace(0, 0, elements)

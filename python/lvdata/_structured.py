@@ -28,7 +28,8 @@ def is_numeric(field: Any) -> bool:
 
 
 def length_of(field: Any) -> int:
-    return field.lengths[0] if field.kind == "array" else 1
+    length: int = field.lengths[0] if field.kind == "array" else 1
+    return length
 
 
 def entry(field: Any, raw: bool) -> tuple[Any, ...]:

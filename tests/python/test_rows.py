@@ -147,12 +147,15 @@ def test_rows_are_one_array() -> None:
     assert array.shape == (len(rows),) and len(rows) > 10
     assert array.dtype["rgb"].subdtype == (numpy.dtype("f8"), (3,))
     raw = rows.raw.to_numpy()
-    assert raw.dtype["cielab"].base == numpy.int32 and raw.dtype["xyz"].base == numpy.uint32
+    assert raw.dtype["cielab"].base == numpy.int32 and raw.dtype["rgb"].base == numpy.uint32
     for index, row in enumerate(rows):
         for name in Row._names:
             value, stored = getattr(row, name), getattr(row.raw, name)
-            assert array[name][index].tolist() == value.tolist() if value is not None else numpy.isnan(array[name][index]).all()
-            assert raw[name][index].tolist() == stored.tolist() if stored is not None else not raw[name][index].any()
+            if value is None:
+                assert numpy.isnan(array[name][index]).all() and not raw[name][index].any()
+            else:
+                assert array[name][index].tolist() == value.tolist()
+                assert raw[name][index].tolist() == stored.tolist()
     assert numpy.asarray(lvdata.MeasurementData().measurements).shape == (0,)
     with pytest.raises((TypeError, ValueError)):
         numpy.asarray(rows, dtype="f8")

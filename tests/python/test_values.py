@@ -116,8 +116,9 @@ def test_rounding_is_that_of_the_digits() -> None:
     ]:
         record.red_gain = value
         assert record.raw.red_gain == stored, value
-        record.emulation_matrix = [value] * 9
-        assert record.raw.emulation_matrix.tolist() == [stored] * 9 if value < 2000 else True
+        if stored < 2**31:
+            record.emulation_matrix = [value] * 9
+            assert record.raw.emulation_matrix.tolist() == [stored] * 9, value
         text = json.dumps({"monitor_parameter": {"red_gain": value}})
         assert lvdata.from_json(text).raw.red_gain == stored, value
 
@@ -187,7 +188,7 @@ def test_arrays_of_any_form_are_taken(form: str) -> None:
         [0] * 1025,
         [],
     ],
-    ids=str,
+    ids=range(10),
 )
 def test_arrays_with_wrong_numbers_are_refused(numbers: Any) -> None:
     record = parameter(red_lut=[1] * 256)

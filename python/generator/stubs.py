@@ -15,38 +15,25 @@ HEAD = '''\
 # Made by stubs.py of what the library says of its records. Do not edit.
 import os
 from collections.abc import Iterable, Mapping
-from typing import Any, ClassVar, Generic, TypeVar, overload
+from typing import Any
 
 import numpy
 from numpy.typing import ArrayLike, NDArray
-from typing_extensions import Self
 
 from ._elements import Element as Element, Group as Group, RawView as RawView, Record as Record
+from ._fields import Attribute
 from ._rows import Rows as Rows
 
-_Got = TypeVar("_Got", covariant=True)
-_Given = TypeVar("_Given", contravariant=True)
-_Row = TypeVar("_Row")
-_View = TypeVar("_View")
-
-class _Attribute(Generic[_Got, _Given]):
-    @overload
-    def __get__(self, owner: None, _: type | None = ...) -> Self: ...
-    @overload
-    def __get__(self, owner: object, _: type | None = ...) -> _Got: ...
-    def __set__(self, owner: Any, value: _Given) -> None: ...
-    def __delete__(self, owner: Any) -> None: ...
-
 _Values = Mapping[str, Any]
-_Text = _Attribute[str | None, str | None]
-_Boolean = _Attribute[bool | None, bool | None]
-_Integer = _Attribute[int | None, int | None]
-_Number = _Attribute[float | None, float | None]
+_Text = Attribute[str | None, str | None]
+_Boolean = Attribute[bool | None, bool | None]
+_Integer = Attribute[int | None, int | None]
+_Number = Attribute[float | None, float | None]
 _Several = ArrayLike | Iterable[float]
-_Array = _Attribute[NDArray[numpy.float64] | None, _Several | None]
-_UnsignedArray = _Attribute[NDArray[numpy.uint32] | None, _Several | None]
-_SignedArray = _Attribute[NDArray[numpy.int32] | None, _Several | None]
-_NumberOrArray = _Attribute[Any, _Several | None]
+_Array = Attribute[NDArray[numpy.float64] | None, _Several | None]
+_UnsignedArray = Attribute[NDArray[numpy.uint32] | None, _Several | None]
+_SignedArray = Attribute[NDArray[numpy.int32] | None, _Several | None]
+_NumberOrArray = Attribute[Any, _Several | None]
 '''
 
 TAIL = '''
@@ -74,12 +61,12 @@ def class_of(class_id: int) -> str:
 
 def rows_type(name: str, raw: bool) -> str:
     view = f"{name}.Raw" if raw else name
-    return f"_Attribute[Rows[{view}], Iterable[{name} | {name}.Raw | _Values] | None]"
+    return f"Attribute[Rows[{view}], Iterable[{name} | {name}.Raw | _Values] | None]"
 
 
 def child_type(name: str, raw: bool) -> str:
     view = f"{name}.Raw" if raw else name
-    return f"_Attribute[{view} | None, {name} | {name}.Raw | _Values | None]"
+    return f"Attribute[{view} | None, {name} | {name}.Raw | _Values | None]"
 
 
 def type_of(field: Any, raw: bool) -> str:
@@ -89,7 +76,7 @@ def type_of(field: Any, raw: bool) -> str:
     if field.kind == "rows":
         return rows_type(class_of(field.nested), raw)
     if field.kind == "group":
-        return f"_Attribute[{field.group.__qualname__}, {field.group.__qualname__} | _Values | None]"
+        return f"Attribute[{field.group.__qualname__}, {field.group.__qualname__} | _Values | None]"
     if field.kind == "number":
         return "_Number" if field.has_decimals and not raw else "_Integer"
     if field.kind == "array":
@@ -127,7 +114,7 @@ def lines_of_group(group: Any) -> list[str]:
     """The class of the elements of one name; raw numbers are read with the same attributes."""
     fields = dict(group.__dict__)
     names = list(group._names)
-    shared = [f"{name}: _Attribute[NDArray[Any] | None, _Several | None]" for name in names]
+    shared = [f"{name}: Attribute[NDArray[Any] | None, _Several | None]" for name in names]
     return [f"class {group.__name__}(Group):", *indented([constructor(names, fields), *shared])]
 
 
