@@ -13,11 +13,11 @@ bool looksLikeJSON(std::string_view text) {
 }
 
 /// Whether the element holds one that the switch governs, at any depth that descriptions have.
-bool holdsGoverned(const Node& element, const Shape& shape) {
+bool holdsGoverned(const XMLView& element, const Shape& shape) {
     const Shape* previous = nullptr;
-    for (const Node& child : childrenOf(element)) {
-        const Shape* const found =
-            child.kind == Node::Kind::element ? shape.firstElement(child.name, previous) : nullptr;
+    for (XMLView child = element.firstChild(); child.isValid(); child = child.next()) {
+        const bool isElement = child.kind() == XMLView::Kind::element;
+        const Shape* const found = isElement ? shape.firstElement(child.value(), previous) : nullptr;
         if (found != nullptr && (isGovernedByHLGSwitch(*found) || holdsGoverned(child, *found))) {
             return true;
         }
@@ -70,7 +70,7 @@ void Document::readRecord(const std::string& text, const Catalogue& catalogue) {
     }
     source_.emplace(parsed_->view());
     const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents need no closer look
-    record_->writeHLGSystemGamma = isNamed && hasHLGSystemGamma(*source_, *entry_->shape);
+    record_->writeHLGSystemGamma = isNamed && hasHLGSystemGamma(parsed_->view(), *entry_->shape);
 }
 
 void Document::refuse(Refusal::Kind kind, int line, std::string reason) {
@@ -87,8 +87,12 @@ bool isGovernedByHLGSwitch(const Shape& shape) {
                        [](const Condition& condition) { return condition.kind == Condition::Kind::hlgSwitch; });
 }
 
-bool hasHLGSystemGamma(const Tree& document, const Shape& root) {
-    return holdsGoverned(*document.root(), root);
+bool hasHLGSystemGamma(const XMLView& document, const Shape& root) {
+    XMLView child = document.firstChild();
+    while (child.isValid() && child.kind() != XMLView::Kind::element) {
+        child = child.next();
+    }
+    return child.isValid() && holdsGoverned(child, root);
 }
 
 std::string unknownRootElement(std::string_view name) {

@@ -5,6 +5,7 @@
 #include <lvdata/analysis/well_formed.h>
 #include <lvdata/core/DataObject.h>
 #include <lvdata/core/ParsedDocument.h>
+#include <lvdata/xml/XMLView.h>
 
 #include <memory>
 #include <optional>
@@ -74,7 +75,7 @@ private:
 [[nodiscard]] bool isGovernedByHLGSwitch(const Shape& shape);
 
 /// Whether a document has an element "HLGSystemGamma" that the switch governs.
-[[nodiscard]] bool hasHLGSystemGamma(const Tree& document, const Shape& root);
+[[nodiscard]] bool hasHLGSystemGamma(const XMLView& document, const Shape& root);
 
 /// `unknown root element "Asset", known are: AssetInfo, BasicData, ...`
 [[nodiscard]] std::string unknownRootElement(std::string_view name);

@@ -17,7 +17,7 @@ std::unique_ptr<DataObject> recordOf(const std::string& text) {
     analysis::LoadedRecord loaded;
     {
         const py::gil_scoped_release others;
-        loaded = analysis::loadText(text);
+        loaded = analysis::loadText(text, catalogue());
     }
     if (!loaded) {
         raiseParseError(loaded.result.reason, loaded.result.line);

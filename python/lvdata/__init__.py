@@ -1,5 +1,6 @@
 """Records of a monitor-calibration application, and what can be told of them."""
 
+from . import _records
 from ._analysis import (
     Column,
     Diff,
@@ -15,6 +16,7 @@ from ._analysis import (
 from ._errors import ParseError
 from ._lvdata import version as __version__
 from ._pictures import Picture, plot
+from ._records import *
 from ._reports import Report, report
 from ._scan import documents, scan
 
@@ -38,3 +40,4 @@ __all__ = [
     "table",
     "tables",
 ]
+__all__ += _records.__all__

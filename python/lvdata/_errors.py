@@ -6,17 +6,19 @@ from __future__ import annotations
 class ParseError(ValueError):
     """A document that cannot be read: what is wrong with it, and where."""
 
-    def __init__(self, reason: str, line: int | None = None, file: str | None = None) -> None:
-        super().__init__(reason, line, file)
+    def __init__(self, reason: str, line: int | None = None, file: str | None = None, path: str | None = None) -> None:
+        super().__init__(reason, line, file, path)
         self.reason = reason  #: What is wrong, in a few words.
         self.line = line  #: Where that was noticed, counted from 1; None when no line applies.
         self.file = file  #: The name of the file; None for a text.
+        self.path = path  #: The place in a JSON text, "asset_info.asset1"; None for XML.
 
     def __str__(self) -> str:
         file = "" if self.file is None else f"{self.file}: "
         line = "" if self.line is None else f"line {self.line}: "
-        return f"{file}{line}{self.reason}"
+        path = "" if self.path is None else f"{self.path}: "
+        return f"{file}{line}{path}{self.reason}"
 
     def in_file(self, file: str) -> ParseError:
         """The same error with the name of the file."""
-        return ParseError(self.reason, self.line, file)
+        return ParseError(self.reason, self.line, file, self.path)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <lvdata/analysis/Catalogue.h>
 #include <lvdata/core/DataObject.h>
 #include <lvdata/records/RecordClass.h>
 #include <lvdata/xml/Limits.h>
@@ -98,6 +99,12 @@ struct LoadedRecord {
 
 /// As `load`, from a text.
 [[nodiscard]] LoadedRecord loadText(const std::string& text, const Limits& limits = {});
+
+/// The same for those who load many documents and have a catalogue: what a record class can contain is then not worked
+/// out again for documents with an element "HLGSystemGamma". The catalogue is not needed afterwards.
+[[nodiscard]] LoadedRecord load(const std::filesystem::path& path, const Catalogue& catalogue,
+                                const Limits& limits = {});
+[[nodiscard]] LoadedRecord loadText(const std::string& text, const Catalogue& catalogue, const Limits& limits = {});
 
 /// As `load`, from a text into a record that you have.
 [[nodiscard]] LoadResult loadText(const std::string& text, DataObject& record, const Limits& limits = {});

@@ -38,25 +38,36 @@ LoadResult resultOf(const ParseResult& parsed) {
     }
 }
 
+/// Whether the document has an element that the switch governs. Without a catalogue, the description is made for it.
+bool hasGoverned(ParsedDocument& document, const RecordClass& recordClass, const Catalogue* catalogue) {
+    const Catalogue::Entry* const entry = catalogue == nullptr ? nullptr : catalogue->find(recordClass.name);
+    if (entry != nullptr) {
+        return hasHLGSystemGamma(document.view(), *entry->shape);
+    }
+    const Description facts = recordClass.describe();
+    return hasHLGSystemGamma(document.view(), Shape(facts));
+}
+
 /// Saving the record is to keep what the document has.
-void keepHLGSystemGamma(const std::string& text, ParsedDocument& document, DataObject& record) {
+void keepHLGSystemGamma(const std::string& text, ParsedDocument& document, DataObject& record,
+                        const Catalogue* catalogue) {
     const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents need no closer look
     const RecordClass* const found = isNamed ? recordClass(document.rootElementName()) : nullptr;
     if (found != nullptr) {
-        const Description facts = found->describe();
-        record.writeHLGSystemGamma = hasHLGSystemGamma(Tree(document.view()), Shape(facts));
+        record.writeHLGSystemGamma = hasGoverned(document, *found, catalogue);
     }
 }
 
-LoadResult readInto(DataObject& record, const std::string& text, ParsedDocument& document) {
+LoadResult readInto(DataObject& record, const std::string& text, ParsedDocument& document,
+                    const Catalogue* catalogue) {
     LoadResult result = resultOf(document.read(record));
     if (result) {
-        keepHLGSystemGamma(text, document, record);
+        keepHLGSystemGamma(text, document, record, catalogue);
     }
     return result;
 }
 
-LoadedRecord loaded(const std::string& text) {
+LoadedRecord loaded(const std::string& text, const Catalogue* catalogue) {
     ParsedDocument document(text);
     if (!document.parseResult()) {
         return {nullptr, resultOf(document.parseResult())};
@@ -67,7 +78,7 @@ LoadedRecord loaded(const std::string& text) {
         return {nullptr, {Outcome::rootElementRefused, unknownRootElement(root), 0, {}, {}}};
     }
     LoadedRecord loaded{found->make(), {}, found};
-    loaded.result = readInto(*loaded.record, text, document);
+    loaded.result = readInto(*loaded.record, text, document, catalogue);
     return loaded;
 }
 
@@ -97,9 +108,19 @@ LoadResult load(const std::filesystem::path& path, DataObject& record, const Lim
     return content ? loadText(content.text, record, limits) : notReadable(content.error);
 }
 
+LoadedRecord load(const std::filesystem::path& path, const Catalogue& catalogue, const Limits& limits) {
+    const FileContent content = readWithin(path, limits);
+    return content ? loadText(content.text, catalogue, limits) : LoadedRecord{nullptr, notReadable(content.error)};
+}
+
 LoadedRecord loadText(const std::string& text, const Limits& limits) {
     LoadResult result = checkedText(text, limits);
-    return result ? loaded(text) : LoadedRecord{nullptr, std::move(result)};
+    return result ? loaded(text, nullptr) : LoadedRecord{nullptr, std::move(result)};
+}
+
+LoadedRecord loadText(const std::string& text, const Catalogue& catalogue, const Limits& limits) {
+    LoadResult result = checkedText(text, limits);
+    return result ? loaded(text, &catalogue) : LoadedRecord{nullptr, std::move(result)};
 }
 
 LoadResult loadText(const std::string& text, DataObject& record, const Limits& limits) {
@@ -108,7 +129,7 @@ LoadResult loadText(const std::string& text, DataObject& record, const Limits& l
         return result;
     }
     ParsedDocument document(text);
-    return readInto(record, text, document);
+    return readInto(record, text, document, nullptr);
 }
 
 }  // namespace lv::analysis
