@@ -1,3 +1,4 @@
+#include "errors.h"
 #include "shared.h"
 
 #include <lvdata/analysis/json/JSONWriter.h>
@@ -27,24 +28,29 @@ py::bytes rowsText(const std::string& text, const std::string& file, const std::
     const TableDescription& description = tableOf(table);
     const std::unique_ptr<DataObject> record = recordOf(text);
     std::string rows;
+    bool isUTF8 = true;
     {
         const py::gil_scoped_release others;
         if (asJSON) {
             analysis::JSONWriter writer(rows, {true, true});
             addRows(description.table, *record, file, writer);
+            isUTF8 = writer.isUTF8();
         } else {
             analysis::CSVWriter writer(rows);
             addRows(description.table, *record, file, writer);
         }
     }
+    if (!isUTF8) {
+        raiseParseError("JSON cannot carry bytes that are not UTF-8", 0);
+    }
     return rows;
 }
 
-/// The columns of a table: name, unit and meaning of each.
+/// The columns of a table: name, unit, meaning and values of each.
 py::list columnsOf(const std::string& table) {
     py::list columns;
     for (const analysis::Column& each : tableOf(table).columns) {
-        columns.append(py::make_tuple(each.name, each.unit, each.meaning));
+        columns.append(py::make_tuple(each.name, each.unit, each.meaning, nameOf(each.values)));
     }
     return columns;
 }

@@ -1,67 +1,44 @@
 #include "Fleet.h"
 
 #include <algorithm>
-#include <tuple>
+#include <iterator>
 #include <utility>
 
 namespace tool {
-namespace {
 
+using lv::analysis::FleetDocument;
 using lv::analysis::MonitorFigures;
-using lv::analysis::Snapshot;
-
-const MonitorFigures& figuresOf(const MonitorDocuments& documents) {
-    return latestOf(documents).snapshot.figures;
-}
-
-bool isBefore(const MonitorDocuments& left, const MonitorDocuments& right) {
-    const auto key = [](const MonitorFigures& figures) {
-        return std::tie(figures.name, figures.serial, figures.uuid);
-    };
-    return key(figuresOf(left)) < key(figuresOf(right));
-}
-
-/// The documents in the order that their times have.
-MonitorDocuments sorted(MonitorDocuments documents) {
-    std::vector<Snapshot> places;
-    for (std::size_t index = 0; index < documents.size(); ++index) {
-        places.push_back({std::to_string(index), documents[index].snapshot.when, {}});
-    }
-    lv::analysis::sortByTime(places);
-    MonitorDocuments result;
-    for (const Snapshot& place : places) {
-        result.push_back(std::move(documents[std::stoul(place.document)]));
-    }
-    return result;
-}
-
-}  // namespace
 
 const MonitorDocument& latestOf(const MonitorDocuments& documents) {
     return documents.back();
 }
 
 void Fleet::add(MonitorDocument&& document) {
-    const std::string identity = document.identity;
-    const auto known = identity.empty() ? places_.end() : places_.find(identity);
-    if (known != places_.end()) {
-        monitors_[known->second].push_back(std::move(document));
-        return;
+    if (document.identity.empty()) {
+        ++unknown_;
+    } else {
+        known_.insert(document.identity);
     }
-    if (!identity.empty()) {
-        places_[identity] = monitors_.size();
-    }
-    monitors_.emplace_back().push_back(std::move(document));
+    documents_.push_back(std::move(document));
 }
 
 std::vector<MonitorDocuments> Fleet::take() {
-    places_.clear();
-    std::vector<MonitorDocuments> monitors = std::exchange(monitors_, {});
-    for (MonitorDocuments& documents : monitors) {
-        documents = sorted(std::move(documents));
+    std::vector<FleetDocument> places;
+    std::transform(documents_.begin(), documents_.end(), std::back_inserter(places), &placeOf);
+    std::vector<MonitorDocuments> monitors;
+    for (const std::vector<std::size_t>& each : lv::analysis::monitorsOf(places)) {
+        MonitorDocuments& documents = monitors.emplace_back();
+        for (const std::size_t position : each) {
+            documents.push_back(std::move(documents_[position]));
+        }
     }
-    std::stable_sort(monitors.begin(), monitors.end(), isBefore);
+    *this = Fleet();
     return monitors;
+}
+
+FleetDocument placeOf(const MonitorDocument& document) {
+    const MonitorFigures& figures = document.snapshot.figures;
+    return {document.identity, document.snapshot.when, figures.name, figures.serial, figures.uuid};
 }
 
 std::string whySecondMonitor(const std::string& identity) {

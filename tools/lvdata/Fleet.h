@@ -2,8 +2,10 @@
 
 #include "MonitorReader.h"
 
+#include <lvdata/analysis/report/fleet_order.h>
+
 #include <cstddef>
-#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -22,16 +24,19 @@ public:
     void add(MonitorDocument&& document);
 
     /// How many monitors there are so far.
-    [[nodiscard]] std::size_t size() const { return monitors_.size(); }
+    [[nodiscard]] std::size_t size() const { return known_.size() + unknown_; }
 
-    /// All monitors, by name, serial number and UUID, and in the order of the documents where these are the same.
-    /// Leaves the fleet empty.
+    /// All monitors, in the order of `lv::analysis::monitorsOf`. Leaves the fleet empty.
     [[nodiscard]] std::vector<MonitorDocuments> take();
 
 private:
-    std::vector<MonitorDocuments> monitors_;
-    std::map<std::string, std::size_t> places_;  // in `monitors_`, by identity
+    MonitorDocuments documents_;
+    std::set<std::string> known_;  // the identities of monitors
+    std::size_t unknown_ = 0;      // documents whose monitor is not known
 };
+
+/// What decides the place of the document in a report.
+[[nodiscard]] lv::analysis::FleetDocument placeOf(const MonitorDocument& document);
 
 /// Why a document starts a second monitor, as a message says it.
 [[nodiscard]] std::string whySecondMonitor(const std::string& identity);

@@ -4,7 +4,6 @@
 #include "OrderedWork.h"
 #include "Output.h"
 #include "messages.h"
-#include "page_names.h"
 
 #include <lvdata/analysis/files/HeldSignals.h>
 #include <lvdata/analysis/files/files.h>
@@ -32,6 +31,14 @@ Made make(const PageMaker& maker, const MonitorDocuments& documents) {
     } catch (const std::bad_alloc&) {
         return std::string(Failure(latestOf(documents).snapshot.document, "out of memory").what());
     }
+}
+
+std::vector<std::string> namesOf(const std::vector<MonitorDocuments>& monitors) {
+    std::vector<lv::analysis::FleetDocument> latest;
+    for (const MonitorDocuments& documents : monitors) {
+        latest.push_back(placeOf(latestOf(documents)));
+    }
+    return lv::analysis::pageNames(latest);
 }
 
 /// Calls `take` with each page, in order and on this thread; the pages are made by as many threads as there are jobs.
@@ -86,7 +93,7 @@ private:
 
 ExitStatus writeReportFolder(const ReportFolder& report, const std::vector<MonitorDocuments>& monitors,
                              const PageMaker& maker, const InputFiles& inputs) {
-    const std::vector<std::string> names = pageNames(monitors);
+    const std::vector<std::string> names = namesOf(monitors);
     const FolderWriter writer(report.folder, inputs);
     std::vector<lv::analysis::FleetEntry> entries;
     ExitStatus status = ExitStatus::done;

@@ -54,7 +54,7 @@ const std::vector<ColumnOf<MonitorRow>>& columns() {
     static const std::vector<ColumnOf<MonitorRow>> all = withOrigin<MonitorRow>({
         {{"name", "", "name of the monitor"}, &giveConfiguration<&MonitorConfiguration::name>},
         {{"model", "", "model of the monitor"}, &giveConfiguration<&MonitorConfiguration::model>},
-        {{"schedule_type", "", "kind of the schedule of self-calibration, as a number"},
+        {{"schedule_type", "", "kind of the schedule of self-calibration, as a number", Values::integer},
          [](const MonitorRow& row, Cell& cell) {
              if (row.parts.schedule != nullptr) {
                  cell.index(row.parts.schedule->type);
@@ -68,13 +68,14 @@ const std::vector<ColumnOf<MonitorRow>>& columns() {
         {{"asset6", "", "sixth text of the inventory"}, &giveAsset<&AssetInfo::asset6>},
         {{"asset7", "", "seventh text of the inventory"}, &giveAsset<&AssetInfo::asset7>},
         {{"asset8", "", "eighth text of the inventory"}, &giveAsset<&AssetInfo::asset8>},
-        {{"modes", "", "number of colour modes that are set up"},
+        {{"modes", "", "number of colour modes that are set up", Values::integer},
          [](const MonitorRow& row, Cell& cell) {
              if (row.parts.settings != nullptr) {
                  cell.count(row.parts.settings->objects.size());
              }
          }},
-        {{"calibrated_modes", "", "number of results with a time of calibration"}, &giveCalibratedModes},
+        {{"calibrated_modes", "", "number of results with a time of calibration", Values::integer},
+         &giveCalibratedModes},
         {{"last_calibration", "",
           "the greatest of these times as text, which is the latest when all are like 2024-05-02T09:31:00"},
          &giveLastCalibration},

@@ -50,26 +50,26 @@ const std::vector<ColumnOf<PatchRow>>& columns() {
          [](const PatchRow& row, Cell& cell) {
              cell.text(row.source);
          }},
-        {{"patch", "", "which measurement, counted from 0 in its list"},
+        {{"patch", "", "which measurement, counted from 0 in its list", Values::integer},
          [](const PatchRow& row, Cell& cell) {
              cell.count(row.index);
          }},
-        {{"rgb_r", "of 255", "red code value"}, &giveRGB<0>},
-        {{"rgb_g", "of 255", "green code value"}, &giveRGB<1>},
-        {{"rgb_b", "of 255", "blue code value"}, &giveRGB<2>},
-        {{"cmyk_c", "", "cyan as a fraction"}, &giveCMYK<0>},
-        {{"cmyk_m", "", "magenta as a fraction"}, &giveCMYK<1>},
-        {{"cmyk_y", "", "yellow as a fraction"}, &giveCMYK<2>},
-        {{"cmyk_k", "", "black as a fraction"}, &giveCMYK<3>},
-        {{"xyz_x", notRecorded, "CIE X"}, &giveXYZ<0>},
-        {{"xyz_y", notRecorded, "CIE Y"}, &giveXYZ<1>},
-        {{"xyz_z", notRecorded, "CIE Z"}, &giveXYZ<2>},
-        {{"lab_l", "", "CIELAB L*"}, &giveCIELAB<0>},
-        {{"lab_a", "", "CIELAB a*"}, &giveCIELAB<1>},
-        {{"lab_b", "", "CIELAB b*"}, &giveCIELAB<2>},
-        {{"pqr_p", notRecorded, "P, defined by the application"}, &givePQR<0>},
-        {{"pqr_q", notRecorded, "Q, defined by the application"}, &givePQR<1>},
-        {{"pqr_r", notRecorded, "R, defined by the application"}, &givePQR<2>},
+        {{"rgb_r", "of 255", "red code value", Values::integer}, &giveRGB<0>},
+        {{"rgb_g", "of 255", "green code value", Values::integer}, &giveRGB<1>},
+        {{"rgb_b", "of 255", "blue code value", Values::integer}, &giveRGB<2>},
+        {{"cmyk_c", "", "cyan as a fraction", Values::fraction}, &giveCMYK<0>},
+        {{"cmyk_m", "", "magenta as a fraction", Values::fraction}, &giveCMYK<1>},
+        {{"cmyk_y", "", "yellow as a fraction", Values::fraction}, &giveCMYK<2>},
+        {{"cmyk_k", "", "black as a fraction", Values::fraction}, &giveCMYK<3>},
+        {{"xyz_x", notRecorded, "CIE X", Values::fraction}, &giveXYZ<0>},
+        {{"xyz_y", notRecorded, "CIE Y", Values::fraction}, &giveXYZ<1>},
+        {{"xyz_z", notRecorded, "CIE Z", Values::fraction}, &giveXYZ<2>},
+        {{"lab_l", "", "CIELAB L*", Values::fraction}, &giveCIELAB<0>},
+        {{"lab_a", "", "CIELAB a*", Values::fraction}, &giveCIELAB<1>},
+        {{"lab_b", "", "CIELAB b*", Values::fraction}, &giveCIELAB<2>},
+        {{"pqr_p", notRecorded, "P, defined by the application", Values::fraction}, &givePQR<0>},
+        {{"pqr_q", notRecorded, "Q, defined by the application", Values::fraction}, &givePQR<1>},
+        {{"pqr_r", notRecorded, "R, defined by the application", Values::fraction}, &givePQR<2>},
     });
     return all;
 }

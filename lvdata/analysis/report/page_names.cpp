@@ -1,15 +1,11 @@
-#include "page_names.h"
-
-#include <lvdata/analysis/figures/MonitorFigures.h>
+#include <lvdata/analysis/report/fleet_order.h>
 
 #include <map>
 #include <set>
 #include <string_view>
 
-namespace tool {
+namespace lv::analysis {
 namespace {
-
-using lv::analysis::MonitorFigures;
 
 bool isLetterOrDigit(char character) {
     return ('a' <= character && character <= 'z') || ('A' <= character && character <= 'Z') ||
@@ -45,14 +41,14 @@ std::string joined(const std::string& left, const std::string& right) {
 }
 
 /// The name and the serial number, or else what there is.
-std::string shortName(const MonitorFigures& monitor) {
+std::string shortName(const FleetDocument& monitor) {
     const std::string name = joined(safe(monitor.name), safe(monitor.serial));
     const std::string other = name.empty() ? safe(monitor.uuid) : name;
     return other.empty() ? "monitor" : other;
 }
 
 /// With the UUID, for monitors whose names are not enough.
-std::string longName(const MonitorFigures& monitor) {
+std::string longName(const FleetDocument& monitor) {
     const std::string name = shortName(monitor);
     const std::string uuid = safe(monitor.uuid);
     return name == uuid ? name : joined(name, uuid);
@@ -77,19 +73,18 @@ private:
 
 }  // namespace
 
-std::vector<std::string> pageNames(const std::vector<MonitorDocuments>& monitors) {
+std::vector<std::string> pageNames(const std::vector<FleetDocument>& latest) {
     std::map<std::string, std::size_t> counts;
-    for (const MonitorDocuments& documents : monitors) {
-        ++counts[lowerCase(shortName(latestOf(documents).snapshot.figures))];
+    for (const FleetDocument& monitor : latest) {
+        ++counts[lowerCase(shortName(monitor))];
     }
     UniqueNames names;
     std::vector<std::string> result;
-    for (const MonitorDocuments& documents : monitors) {
-        const MonitorFigures& monitor = latestOf(documents).snapshot.figures;
+    for (const FleetDocument& monitor : latest) {
         const bool isEnough = counts[lowerCase(shortName(monitor))] == 1;
         result.push_back(names.unique(isEnough ? shortName(monitor) : longName(monitor)) + ".html");
     }
     return result;
 }
 
-}  // namespace tool
+}  // namespace lv::analysis
