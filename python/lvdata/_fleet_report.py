@@ -105,25 +105,30 @@ class Reported(NamedTuple):
 
 
 def report(
-    paths: Paths, folder: str | os.PathLike[str], *, limits: str | os.PathLike[str] = "default", title: str | None = None,
-    date: str | None = None, mode: int | None = None, y_unit: str | None = None, map_unit: str | None = None,
+    paths: Paths, folder: str | os.PathLike[str], *, limits: str | os.PathLike[str] = "default",
+    title: str | None = None, date: str | None = None, mode: int | None = None, y_unit: str | None = None, map_unit: str | None = None,
     grid: int | None = None, errors: Literal["raise", "collect"] = "raise", client: Any = None,
     documents_per_task: int = DOCUMENTS_PER_TASK,
 ) -> Reported:
     """Writes a page of each monitor and an index into a folder: the same files as `lvdata report -o FOLDER/`.
 
-    The workers write the pages, the caller writes the index: all must see the folder under this name. It is made when it
-    is not there; a file of another kind is not overwritten (`FileExistsError`). Without any good document nothing is
-    written.
+    The workers write the pages, the caller writes the index: all must see the folder under this name. It is made when
+    it is not there; a file of another kind is not overwritten (`FileExistsError`). Without any good document nothing
+    is written.
 
-    The options are those of the command: `limits` is the name of a limit set or a file, `title` the heading of the index,
-    `date` a text to print, `mode` the index of the only colour mode to tell of; `y_unit`, `map_unit` and `grid` are
-    what you know and the records do not say.
+    The options are those of the command: `limits` is the name of a limit set or a file, `title` the heading of the
+    index, `date` a text to print, `mode` the index of the only colour mode to tell of; `y_unit`, `map_unit` and `grid`
+    are what you know and the records do not say.
     """
     collects(errors)
-    form = PageForm(title or "", date or "", None if mode is None else str(mode), os.fspath(limits), _limits_text(limits),
-                    y_unit or "", map_unit or "", grid or 0)
-    index = form.maker()
+    form = PageForm(
+        title or "", date or "", None if mode is None else str(mode), os.fspath(limits), _limits_text(limits),
+        y_unit or "", map_unit or "", grid or 0,
+    )
+    try:
+        index = form.maker()
+    except ParseError as error:
+        raise error.in_file(os.fspath(limits)) from None
     facts, bad = _all_facts(paths, documents_per_task, client)
     if not facts:
         return handed_over(Reported([], bad), bad, errors)

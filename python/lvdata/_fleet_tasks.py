@@ -1,7 +1,7 @@
 """What workers do for `lvdata.fleet`: functions of a job, which holds names of files and says what is to be made.
 
-They depend on nothing but the job and the files, so that a job can be done again when a worker died. A job is one object
-and not a list, so that Dask does not search its names for keys of other tasks.
+They depend on nothing but the job and the files, so that a job can be done again when a worker died. A job is one
+object and not a list, so that Dask does not search its names for keys of other tasks.
 """
 
 from __future__ import annotations

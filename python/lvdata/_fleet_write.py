@@ -40,7 +40,7 @@ def write(
     paths: Paths, table: str, target: str | os.PathLike[str], *, form: Literal["csv", "jsonl"] = "csv",
     errors: Literal["raise", "collect"] = "raise", client: Any = None, documents_per_task: int = DOCUMENTS_PER_TASK,
 ) -> Written:
-    """Writes the rows of a table into a file, or into a folder of parts: one that is there, or a name that ends with "/".
+    """Writes the rows of a table into a file, or into a folder of parts: one that is there, or a name that ends in "/".
 
     A file is written by the caller, who gets the parts one after the other: it holds what `lvdata convert` prints, and
     no machine has all of it in memory. It gets its name when it is complete; until then, and when writing fails, a

@@ -11,7 +11,7 @@ how to arrange that, what a task costs, and when not to use a cluster.
 `paths` is a path or several: documents, and folders with documents named *.xml at any depth. The order is that of the
 command `lvdata`, and results keep it.
 
-Bad documents stop nobody who does not want it, and are never lost in silence:
+Bad documents stop nobody who says so, and are never lost in silence:
 
 - `text`, `rows` and `table` raise `ParseError` for the first one when they are computed. With `errors="collect"` they
   return two collections: the data of all good documents, and the bad ones. Compute both at once, and documents are read
@@ -20,9 +20,9 @@ Bad documents stop nobody who does not want it, and are never lost in silence:
   `errors="collect"` all bad ones are in what they return.
 - `check` has a row for each.
 
-`client` is a client of `distributed`. When they are given one, `text`, `rows`, `table` and `check` start to read at once
-and keep the result in the memory of its workers. Without one they are lazy, like everything of Dask: computed by the
-current client, or else by Dask's default scheduler. `write` and `report` always work at once.
+`client` is a client of `distributed`. When they are given one, `text`, `rows`, `table` and `check` start to read at
+once and keep the result in the memory of its workers. Without one they are lazy, like everything of Dask: computed by
+the current client, or else by Dask's default scheduler. `write` and `report` always work at once.
 
 `documents_per_task` is how many documents a worker reads in one task.
 """
@@ -145,8 +145,8 @@ def check(
 ) -> DataFrame:
     """The findings of `lvdata check` as a Dask DataFrame, in the order of the documents and their lines.
 
-    The columns are those of `lvdata check --format json`: file, id, severity, line, path, message. A document that cannot
-    be read is a row with the id "unreadable" and the severity "error". `ignore` has ids of rules that are not
+    The columns are those of `lvdata check --format json`: file, id, severity, line, path, message. A document that
+    cannot be read is a row with the id "unreadable" and the severity "error". `ignore` has ids of rules that are not
     looked for; with `roundtrip` it is also a finding that `lvdata format` would change the document.
     """
     tasks.refuse_unknown_rules(ignore)
