@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""fleet_dask.py LVDATA DOCUMENT [COUNT]: makes COUNT (4,000) monitors of the document, which must have an UUID, and reads
-the table "modes" of them by `lvdata.fleet` with one worker process and with two; prints the time, the rate and the ratio.
-`lvdata convert` on one thread is beside it. Each is the median of three runs, after one that counts for nothing."""
+"""fleet_dask.py LVDATA DOCUMENT [COUNT]: makes COUNT (2,000) monitors of the document, which must have an UUID, and reads
+the table "modes" of them by `lvdata convert` on one thread and by `lvdata.fleet` with one worker process and with two.
+They take turns, and the least time of each is printed, since other programs can only add to it. Then what a task costs.
+Needs the module lvdata on PYTHONPATH."""
 
+import contextlib
 import os
-import statistics
 import subprocess
 import sys
 import tempfile
@@ -15,65 +16,91 @@ import distributed
 from fleet import make_monitors
 from lvdata import fleet as lvdata_fleet
 
-RUNS = 3
+TURNS = 9
 
 
-def seconds(work):
-    """The median time of the work, which gives its result each time: also the size of that."""
-    times = []
-    for _ in range(RUNS + 1):
-        begin = time.monotonic()
-        size = len(work())
-        times.append(time.monotonic() - begin)
-    return statistics.median(times[1:]), size
+@contextlib.contextmanager
+def workers(count):
+    """A function that runs work on so many worker processes of one thread."""
+    with distributed.LocalCluster(n_workers=count, threads_per_worker=1, dashboard_address=":0") as cluster:
+        with distributed.Client(cluster, set_as_default=False) as client:
+            client.run(lambda: __import__("lvdata.fleet"))
+            yield client
 
 
-def by_workers(workers, folder, **options):
-    with distributed.LocalCluster(n_workers=workers, threads_per_worker=1, dashboard_address=None) as cluster:
-        with distributed.Client(cluster):
-            return seconds(lambda: b"".join(lvdata_fleet.text(folder, "modes", **options).compute()))
+def processor_time(client):
+    return sum(client.run(time.process_time).values())
+
+
+def by_workers(client, folder, **options):
+    """Wall time in seconds, processor time of the workers, and the size of the result."""
+    before = processor_time(client)
+    begin = time.monotonic()
+    text = client.compute(lvdata_fleet.text(folder, "modes", **options), sync=True)
+    return time.monotonic() - begin, processor_time(client) - before, len(b"".join(text))
 
 
 def by_command(lvdata, folder):
+    before = os.times()
+    begin = time.monotonic()
     command = [lvdata, "convert", "--to", "csv", "--table", "modes", "--jobs", "1", folder]
-    return seconds(lambda: subprocess.run(command, stdout=subprocess.PIPE, check=False).stdout)
+    text = subprocess.run(command, stdout=subprocess.PIPE, check=False).stdout
+    after = os.times()
+    used = after.children_user + after.children_system - before.children_user - before.children_system
+    return time.monotonic() - begin, used, len(text)
 
 
-def overhead():
-    """Seconds of a task that does nothing, with one worker."""
+def turns(works):
+    """The results of each work, turn by turn."""
+    results = [[work() for work in works] for _ in range(TURNS)]
+    if len({size for turn in results for _, _, size in turn}) != 1:
+        sys.exit("the results differ")
+    return list(zip(*results))
+
+
+def compare(lvdata, folder, count):
+    with workers(1) as one, workers(2) as two:
+        works = [lambda: by_command(lvdata, folder), lambda: by_workers(one, folder), lambda: by_workers(two, folder)]
+        results = turns(works)
+    print("| Who | seconds | documents a second | documents a second of processor time | ratio to 1 worker |")
+    print("|---|--:|--:|--:|--:|")
+    for name, times in zip(["lvdata convert --jobs 1", "1 worker", "2 workers"], results):
+        wall, used = (min(each[index] for each in times) for index in (0, 1))
+        one = min(each[0] for each in results[1])
+        print(f"| {name} | {wall:.2f} | {count / wall:.0f} | {count / used:.0f} | {one / wall:.2f} |", flush=True)
+
+
+def sizes_of_tasks(folder):
+    sizes = [1, 10, 100, 1000]
+    with workers(2) as two:
+        works = [lambda size=size: by_workers(two, folder, documents_per_task=size) for size in sizes]
+        results = turns(works)
+    print("\n| Documents in a task | seconds of 2 workers |\n|--:|--:|")
+    for size, times in zip(sizes, results):
+        print(f"| {size} | {min(wall for wall, _, _ in times):.2f} |", flush=True)
+
+
+def cost_of_a_task():
     count = 1000
-    with distributed.LocalCluster(n_workers=1, threads_per_worker=1, dashboard_address=None) as cluster:
-        with distributed.Client(cluster):
-            return seconds(lambda: b"".join(lvdata_fleet.text([], "modes").compute()) * 0 + b"x")[0], seconds(
-                lambda: lvdata_fleet.rows(["/nowhere"] * count, "modes", errors="collect", documents_per_task=1)
-                .data.compute() or [0]
-            )[0] / count
-
-
-def line(what, wall, count, one):
-    print(f"| {what} | {wall:.2f} | {count / wall:.0f} | {one / wall:.2f} |", flush=True)
+    missing = ["/does/not/exist.xml"] * count
+    with workers(1) as one:
+        times = []
+        for _ in range(TURNS):
+            begin = time.monotonic()
+            rows, _ = lvdata_fleet.rows(missing, "modes", errors="collect", documents_per_task=1)
+            one.compute(rows, sync=True)
+            times.append(time.monotonic() - begin)
+    print(f"\nA task that reads nothing: {min(times) / count * 1000:.2f} ms")
 
 
 def main():
     lvdata, document = sys.argv[1:3]
-    count = int(sys.argv[3]) if len(sys.argv) > 3 else 4000
+    count = int(sys.argv[3]) if len(sys.argv) > 3 else 2000
     with tempfile.TemporaryDirectory() as folder:
         make_monitors(document, folder, count)
-        wall, size = by_command(lvdata, folder)
-        one, size_of_one = by_workers(1, folder)
-        print("| Who | seconds | documents a second | ratio to one worker |\n|---|--:|--:|--:|")
-        line("lvdata convert --jobs 1", wall, count, one)
-        line("1 worker", one, count, one)
-        two, size_of_two = by_workers(2, folder)
-        line("2 workers", two, count, one)
-        if not size == size_of_one == size_of_two:
-            sys.exit("the results differ")
-        print("\n| Documents in a task | seconds of 2 workers |\n|--:|--:|")
-        for documents_per_task in (1, 10, 100, 1000):
-            wall, _ = by_workers(2, folder, documents_per_task=documents_per_task)
-            print(f"| {documents_per_task} | {wall:.2f} |", flush=True)
-        fixed, each = overhead()
-        print(f"\nA task costs {each * 1000:.2f} ms, a computation {fixed * 1000:.0f} ms.")
+        compare(lvdata, folder, count)
+        sizes_of_tasks(folder)
+    cost_of_a_task()
 
 
 if __name__ == "__main__":

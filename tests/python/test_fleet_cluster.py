@@ -44,7 +44,7 @@ def cluster() -> Iterator[distributed.LocalCluster]:
     sys.warnoptions.append(OUTSIDE)  # the workers get these
     try:
         with distributed.LocalCluster(
-            n_workers=2, threads_per_worker=1, processes=True, dashboard_address=None
+            n_workers=2, threads_per_worker=1, processes=True, dashboard_address=":0"
         ) as cluster:
             yield cluster
     finally:
