@@ -19,10 +19,11 @@ STUDIO = Folder(os.environ["LVDATA_SAMPLES_DIR"]) / "studio.xml"
 
 MONITOR = """<MonitorInfo><UUID>{number:06}</UUID><MonitorConfiguration><Name>Wall, &quot;{number}&quot;</Name>
 <Serial>S{number:06}</Serial><ColorModeSettings><ColorMode Type="Calibration"><Index>{index}</Index><Name>Photo</Name>
-<Target><WhitePoint Type="Coordinate"><x>3127</x><y>3290</y></WhitePoint></Target></ColorMode></ColorModeSettings>
+<Target><TargetSetting><WhitePoint Type="Coordinate"><x>3127</x><y>3290</y></WhitePoint></TargetSetting></Target>
+</ColorMode></ColorModeSettings>
 </MonitorConfiguration><CalibrationModeResult><ColorMode Type="Calibration"><Index>{index}</Index>
-<CalibratedTime>2024-05-{day:02}</CalibratedTime><BasicData><UsageHours>{number}</UsageHours></BasicData><MeasurementData>
-<Measurements><RGB>255|0|{day}</RGB><XYZ>{number}|412400|0</XYZ></Measurements></MeasurementData></ColorMode>
+<CalibratedTime>2024-05-{day:02}</CalibratedTime><BasicData><UsageHours>{number}</UsageHours></BasicData>
+<MeasurementData><Measurements><RGB>255|0|{day}</RGB><XYZ>{number}|412400|0</XYZ></Measurements></MeasurementData></ColorMode>
 </CalibrationModeResult></MonitorInfo>"""
 CONFIGURATION = "<MonitorConfiguration><Serial>S{number:06}</Serial><Name>\u00e4 {index}</Name></MonitorConfiguration>"
 ASSETS = "<AssetInfo><Asset1>a;{number},b</Asset1></AssetInfo>"

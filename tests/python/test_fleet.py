@@ -165,7 +165,8 @@ def test_types_are_known_before_anything_is_read(table: str, few: Folder) -> Non
         assert list(frame.dtypes.items()) == list(lazy.dtypes.items())
         assert {str(kind) for kind in frame.dtypes} <= kinds
     assert len(frames[0]) > 0
-    assert here(fleet.rows(STUDIO, table)) == [json.loads(line) for line in printed(table, "jsonl", STUDIO).splitlines()]
+    lines = printed(table, "jsonl", STUDIO).splitlines()
+    assert here(fleet.rows(STUDIO, table)) == [json.loads(line) for line in lines]
 
 
 def test_numbers_are_those_of_the_text() -> None:

@@ -48,8 +48,9 @@ def test_a_report_has_the_files_of_the_command(monitors: Folder, tmp_path: Folde
 def test_a_report_takes_the_options_of_the_command(monitors: Folder, tmp_path: Folder) -> None:
     limits = tmp_path / "own.json"
     limits.write_text(json.dumps({"name": "own", "title": "Own", "notice": "ours", "limits": [LIMIT]}))
-    options = ["--title", "All", "--date", "2024", "--mode", "2", "--y-unit", "cd/m²", "--map-unit", "%", "--grid", "5"]
-    tool("report", monitors, "-o", f"{tmp_path}/command/", "--limits", limits, *options)
+    options = ["--limits", limits, "--title", "All", "--date", "2024", "--mode", "2", "--grid", "5"]
+    units = ["--y-unit", "cd/m²", "--map-unit", "%"]
+    tool("report", monitors, "-o", f"{tmp_path}/command/", *options, *units)
     with pytest.raises(lvdata.ParseError, match="no colour mode has the index 2"):
         fleet.report(monitors, tmp_path / "fleet", limits=limits, title="All", date="2024", mode=2, y_unit="cd/m²",
                      map_unit="%", grid=5)
