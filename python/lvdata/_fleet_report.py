@@ -107,8 +107,8 @@ class Reported(NamedTuple):
 def report(
     paths: Paths, folder: str | os.PathLike[str], *, limits: str | os.PathLike[str] = "default",
     title: str | None = None, date: str | None = None, mode: int | None = None, y_unit: str | None = None,
-    map_unit: str | None = None, grid: int | None = None, errors: Literal["raise", "collect"] = "raise", client: Any = None,
-    documents_per_task: int = DOCUMENTS_PER_TASK,
+    map_unit: str | None = None, grid: int | None = None, errors: Literal["raise", "collect"] = "raise",
+    client: Any = None, documents_per_task: int = DOCUMENTS_PER_TASK,
 ) -> Reported:
     """Writes a page of each monitor and an index into a folder: the same files as `lvdata report -o FOLDER/`.
 

@@ -23,8 +23,8 @@ MONITOR = """<MonitorInfo><UUID>{number:06}</UUID><MonitorConfiguration><Name>Wa
 </ColorMode></ColorModeSettings>
 </MonitorConfiguration><CalibrationModeResult><ColorMode Type="Calibration"><Index>{index}</Index>
 <CalibratedTime>2024-05-{day:02}</CalibratedTime><BasicData><UsageHours>{number}</UsageHours></BasicData>
-<MeasurementData><Measurements><RGB>255|0|{day}</RGB><XYZ>{number}|412400|0</XYZ></Measurements></MeasurementData></ColorMode>
-</CalibrationModeResult></MonitorInfo>"""
+<MeasurementData><Measurements><RGB>255|0|{day}</RGB><XYZ>{number}|412400|0</XYZ></Measurements></MeasurementData>
+</ColorMode></CalibrationModeResult></MonitorInfo>"""
 CONFIGURATION = "<MonitorConfiguration><Serial>S{number:06}</Serial><Name>\u00e4 {index}</Name></MonitorConfiguration>"
 ASSETS = "<AssetInfo><Asset1>a;{number},b</Asset1></AssetInfo>"
 BASES = [MONITOR, MONITOR, MONITOR, CONFIGURATION, ASSETS]

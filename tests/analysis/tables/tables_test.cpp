@@ -136,7 +136,8 @@ TEST(Tables, SayWhatTheValuesOfTheirColumnsAre) {
             ASSERT_EQ(document.refusal(), nullptr);
             analysis::addRows(table.table, document.record(), "a.xml", sink);
         }
-        EXPECT_THAT(sink.unseen(), testing::IsEmpty()) << table.name;
+        const std::vector<std::string> neverGiven = {"mode_index"};  // in tables whose rows are not of a mode
+        EXPECT_THAT(sink.unseen(), testing::IsSubsetOf(neverGiven)) << table.name;
     }
 }
 
