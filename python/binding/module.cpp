@@ -33,4 +33,5 @@ PYBIND11_MODULE(_lvdata, module) {
     lv::python::addRecords(module);
     lv::python::addTables(module);
     lv::python::addAnalysis(module);
+    lv::python::addFleet(module);
 }

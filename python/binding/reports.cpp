@@ -153,6 +153,7 @@ void addReports(py::module_& module) {
     py::class_<Form>(module, "ReportForm").def(py::init(&formOf), py::call_guard<py::gil_scoped_release>());
     module.def("page", &pageOf);
     module.def("index_page", &indexOf);
+    module.def("is_page", [](const std::string& text) { return analysis::isPage(text); });
     module.def("monitor_key", &keyOf);
     module.def("monitor_groups", &groupsOf);
 }

@@ -20,5 +20,6 @@ namespace lv::python {
 void addRecords(pybind11::module_& module);
 void addTables(pybind11::module_& module);
 void addAnalysis(pybind11::module_& module);
+void addFleet(pybind11::module_& module);
 
 }  // namespace lv::python

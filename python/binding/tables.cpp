@@ -90,11 +90,11 @@ std::string rowsOfFile(const std::string& file, const std::string& name) {
     return rowsArray(readDocument(file), file, table);
 }
 
-/// The columns of a table: name, unit and meaning of each.
+/// The columns of a table: name, unit, meaning and values of each.
 py::list columnsOf(const std::string& table) {
     py::list columns;
     for (const analysis::Column& each : tableOf(table).columns) {
-        columns.append(py::make_tuple(each.name, each.unit, each.meaning));
+        columns.append(py::make_tuple(each.name, each.unit, each.meaning, nameOf(each.values)));
     }
     return columns;
 }

@@ -3,6 +3,7 @@
 #include "sources.h"
 
 #include <lvdata/analysis/files/DocumentWalk.h>
+#include <lvdata/analysis/files/files.h>
 
 #include <optional>
 #include <string>
@@ -43,6 +44,14 @@ py::bytes contentOf(const std::string& file) {
     return text;
 }
 
+/// Replaces the file in one step, or leaves it as it was. Throws `FileFailure`.
+void writeFile(const std::string& file, const std::string& text) {
+    const analysis::SaveResult result = analysis::writeFile(file, text);
+    if (!result) {
+        throw FileFailure{result.error, result.reason, file};
+    }
+}
+
 }  // namespace
 
 void addWalk(py::module_& module) {
@@ -51,6 +60,7 @@ void addWalk(py::module_& module) {
         .def("start", &DocumentWalk::start, py::call_guard<py::gil_scoped_release>())
         .def("next", &next);
     module.def("read_document", &contentOf);
+    module.def("write_file", &writeFile, py::call_guard<py::gil_scoped_release>());
 }
 
 }  // namespace lv::python

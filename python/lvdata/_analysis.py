@@ -36,7 +36,7 @@ def check(
     :raises ValueError: for an id that no rule has
     :raises ParseError: for a document beyond the limits of hostile ones
     """
-    ignored = _known_rules(ignore)
+    ignored = known_rules(ignore)
     if most < 0:
         raise ValueError(f"most is a number from 0, not {most}")
     text, file = text_of(source)
@@ -44,7 +44,8 @@ def check(
     return [Finding(*each, name) for each in _lvdata.findings(text, file, ignored, roundtrip, most)]
 
 
-def _known_rules(ids: Iterable[str]) -> list[str]:
+def known_rules(ids: Iterable[str]) -> list[str]:
+    """The ids; ValueError for one that no rule has."""
     wanted = [ids] if isinstance(ids, str) else list(ids)
     known = _lvdata.rule_ids()
     for each in wanted:
@@ -164,6 +165,7 @@ class Column(NamedTuple):
     name: str  #: The key of the rows.
     unit: str  #: Empty for texts and ratios; "not recorded" where the records do not say.
     meaning: str  #: In a few words.
+    values: str  #: What stands in it: "text", "integer" or "fraction".
 
 
 class TableDescription(NamedTuple):

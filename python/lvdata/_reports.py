@@ -8,6 +8,7 @@ from html import escape
 from typing import NamedTuple, TypedDict
 
 from . import _lvdata
+from ._errors import ParseError
 from ._pictures import listed
 from ._saved import Saved
 from ._sources import Source, file_name, limits_name, mode_text, text_of, units_of
@@ -95,11 +96,15 @@ class MonitorKey(NamedTuple):
     uuid: str
 
 
-class MonitorFiles(NamedTuple):
-    """The documents of one monitor."""
+#: A file, and what it said when it was first read.
+KnownDocument = tuple[str, MonitorKey]
 
-    page: str  #: The file name of its page, "ed24-1234.html".
-    files: list[str]  #: In the order of time.
+
+class MonitorPage(NamedTuple):
+    """The page of one monitor, and what it is made of."""
+
+    page: str  #: Its file name, "ed24-1234.html".
+    documents: list[KnownDocument]  #: In the order of time.
 
 
 class Page(NamedTuple):
@@ -109,49 +114,54 @@ class Page(NamedTuple):
     entry: PageEntry  #: Its line in the index.
 
 
-def monitor_key(file: str | os.PathLike[str]) -> MonitorKey:
+class PageOptions(TypedDict, total=False):
+    """How the pages of a fleet are made: the arguments of `report` of the same names."""
+
+    limits: str | os.PathLike[str]
+    mode: int | None
+    date: str
+    y_unit: str
+    map_unit: str
+    grid: int
+
+
+def monitor_key(file: str) -> MonitorKey:
     """Reads a document and tells whose it is. Raises OSError and ParseError."""
-    text, name = text_of(file)
-    return MonitorKey(*_lvdata.monitor_key(text, name))
+    return MonitorKey(*_lvdata.monitor_key(*text_of(file)))
 
 
-def monitors(keys: Sequence[tuple[str, MonitorKey]]) -> list[MonitorFiles]:
-    """Puts documents together by their monitors, in the order of the index.
+def monitor_pages(documents: Sequence[KnownDocument]) -> list[MonitorPage]:
+    """Puts documents together by their monitors, in the order of the index."""
+    groups = _lvdata.monitor_groups([tuple(key) for _, key in documents])
+    return [MonitorPage(page, [documents[place] for place in places]) for page, places in groups]
 
-    :param keys: files with their keys, in the order of the documents
+
+def page_of(monitor: MonitorPage, options: PageOptions) -> Page:
+    """The page of one monitor and its entry in the index, as `lvdata report -o FOLDER/` makes them.
+
+    :raises ParseError: also for a document that says something else than when it was first read
     """
-    groups = _lvdata.monitor_groups([tuple(key) for _, key in keys])
-    return [MonitorFiles(page, [keys[place][0] for place in places]) for page, places in groups]
+    sources = _lvdata.MonitorSources(_units(options), False)
+    latest = b""
+    for file, key in monitor.documents:
+        latest, name = text_of(file)
+        if MonitorKey(*_lvdata.monitor_key(latest, name)) != key:
+            raise ParseError("changed while it was read", None, file)
+        sources.add(latest, name)
+    html, entry = _lvdata.page(sources, latest, _form(options, ""))
+    entry["page"] = monitor.page
+    return Page(html, entry)
 
 
-def page_of(
-    files: Sequence[str],
-    page: str = "",
-    *,
-    limits: str | os.PathLike[str] = "default",
-    mode: int | None = None,
-    date: str = "",
-    y_unit: str = "",
-    map_unit: str = "",
-    grid: int = 0,
-) -> Page:
-    """The page of one monitor and its entry in the index, as `report` and `lvdata report -o FOLDER/` make them.
-
-    :param page: the file name of the page
-    """
-    form = _lvdata.ReportForm("", date, mode_text(mode), limits_name(limits))
-    text, entry = _page([os.fsdecode(file_name(each)) for each in files], form, units_of(y_unit, map_unit, grid))
-    entry["page"] = page
-    return Page(text, entry)
-
-
-def index_page(
-    entries: Sequence[PageEntry],
-    *,
-    limits: str | os.PathLike[str] = "default",
-    mode: int | None = None,
-    title: str = "",
-    date: str = "",
-) -> str:
+def index_page(entries: Sequence[PageEntry], options: PageOptions, title: str) -> str:
     """The page with a table of all monitors, in the order of the entries."""
-    return _lvdata.index_page(list(entries), _lvdata.ReportForm(title, date, mode_text(mode), limits_name(limits)))
+    return _lvdata.index_page(list(entries), _form(options, title))
+
+
+def _form(options: PageOptions, title: str) -> _lvdata.ReportForm:
+    limits = limits_name(options.get("limits", "default"))
+    return _lvdata.ReportForm(title, options.get("date", ""), mode_text(options.get("mode")), limits)
+
+
+def _units(options: PageOptions) -> tuple[str, str, int]:
+    return units_of(options.get("y_unit", ""), options.get("map_unit", ""), options.get("grid", 0))

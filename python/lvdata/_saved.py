@@ -4,6 +4,9 @@ from __future__ import annotations
 
 import os
 
+from . import _lvdata
+from ._sources import file_name
+
 
 class Saved:
     """A text that is a whole document, and can be written into a file."""
@@ -14,9 +17,8 @@ class Saved:
         self._text = text
 
     def save(self, path: str | os.PathLike[str]) -> None:
-        """Writes it into a file, in UTF-8."""
-        with open(path, "wb") as file:
-            file.write(self._text.encode())
+        """Writes it into a file, in UTF-8. A file that is there is replaced in one step, or left as it was."""
+        _lvdata.write_file(file_name(path), self._text.encode())
 
     def __str__(self) -> str:
         return self._text

@@ -40,7 +40,7 @@ def documents(
     :raises OSError: for such a folder, without `on_error`
     """
     found = []
-    for each in _walk(_path_names(paths)):
+    for each in walk(paths):
         if isinstance(each, bytes):
             found.append(os.fsdecode(each))
         else:
@@ -66,13 +66,9 @@ def scan(
     :raises ParseError: for a document that cannot be read, without `on_error`; OSError for a file or folder
     """
     _lvdata.table_columns(table)
-    files = _walk(_path_names(paths))
+    files = walk(paths)
     threads = _threads(jobs)
     return _rows(_results(files, lambda file: _lvdata.rows_of_file(file, table), threads), on_error)
-
-
-def _path_names(paths: Path | Iterable[Path]) -> list[bytes]:
-    return [file_name(each) for each in ([paths] if isinstance(paths, (str, os.PathLike)) else paths)]
 
 
 def _threads(jobs: int | None) -> int:
@@ -89,12 +85,16 @@ def _report(problem: AnyProblem, on_error: Callable[[AnyProblem], object] | None
     on_error(problem)
 
 
-def _walk(paths: list[bytes]) -> Iterator[bytes | OSError]:
+def walk(paths: Path | Iterable[Path]) -> Iterator[bytes | OSError]:
     """The names of files, and in their places why there is none."""
-    walk = _lvdata.DocumentWalk()
+    return _walk([file_name(each) for each in ([paths] if isinstance(paths, (str, os.PathLike)) else paths)])
+
+
+def _walk(paths: list[bytes]) -> Iterator[bytes | OSError]:
+    documents_of_paths = _lvdata.DocumentWalk()
     for path in paths:
-        walk.start(path)
-        while (found := _next(walk)) is not None:
+        documents_of_paths.start(path)
+        while (found := _next(documents_of_paths)) is not None:
             yield found
 
 

@@ -110,12 +110,12 @@ def test_a_fleet_has_the_pages_of_the_tool(tool: Tool, studio: Path, history: li
     keys = pickle.loads(pickle.dumps(keys))
     entries = []
     names = {"index.html"}
-    for group in pickle.loads(pickle.dumps(_reports.monitors(keys))):
-        page = pickle.loads(pickle.dumps(_reports.page_of(group.files, group.page)))
+    for group in pickle.loads(pickle.dumps(_reports.monitor_pages(keys))):
+        page = pickle.loads(pickle.dumps(_reports.page_of(group, {})))
         assert page.html.encode() == (tmp_path / "pages" / group.page).read_bytes()
         entries.append(page.entry)
         names.add(group.page)
-    index = _reports.index_page(entries, title="All")
+    index = _reports.index_page(entries, {}, "All")
     assert index.encode() == (tmp_path / "pages" / "index.html").read_bytes()
     assert names == {file.name for file in (tmp_path / "pages").iterdir()}
     assert [entry["documents"] for entry in entries] == [1, 3, 1]
@@ -125,6 +125,6 @@ def test_a_fleet_keeps_bytes_that_are_not_utf8(tool: Tool, studio: Path, tmp_pat
     file = tmp_path / "a.xml"
     file.write_bytes(studio.read_bytes().replace(b"Studio wall", b"Studio \xff wall"))
     tool("report", "-o", f"{tmp_path}/pages/", file)
-    [group] = _reports.monitors([(str(file), _reports.monitor_key(file))])
-    index = _reports.index_page([_reports.page_of(group.files, group.page).entry])
+    [group] = _reports.monitor_pages([(str(file), _reports.monitor_key(file))])
+    index = _reports.index_page([_reports.page_of(group, {}).entry], {}, "")
     assert index.encode() == (tmp_path / "pages" / "index.html").read_bytes()

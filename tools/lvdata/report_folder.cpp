@@ -76,7 +76,7 @@ private:
     static void refuseUnlessPage(const std::string& file) {
         constexpr std::size_t beginning = 4096;
         const auto content = lv::analysis::readFile(file, beginning);
-        if (content && content.text.find(R"(<meta name="generator" content="lvdata">)") == std::string::npos) {
+        if (content && !lv::analysis::isPage(content.text)) {
             throw Failure(file, "not overwritten, since it is not a page that lvdata made");
         }
     }

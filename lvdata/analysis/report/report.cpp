@@ -50,4 +50,8 @@ std::string reportPage(const std::vector<ReportedDocument>& documents, const Rep
     return inUTF8(filled("report", viewOf(contents)));
 }
 
+bool isPage(std::string_view text) {
+    return text.substr(0, 4096).find(R"(<meta name="generator" content="lvdata">)") != std::string_view::npos;
+}
+
 }  // namespace lv::analysis

@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Pages of HTML about monitors.
@@ -52,5 +53,8 @@ struct FleetEntry {
 
 /// The page with a table of all monitors, in the given order, and how each does.
 [[nodiscard]] std::string fleetPage(const std::vector<FleetEntry>& entries, const ReportForm& form);
+
+/// Whether a text begins as the pages above do, so that it may be replaced by another of them.
+[[nodiscard]] bool isPage(std::string_view text);
 
 }  // namespace lv::analysis

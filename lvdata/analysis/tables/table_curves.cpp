@@ -30,11 +30,11 @@ const std::vector<ColumnOf<CurveRow>>& columns() {
          [](const CurveRow& row, Cell& cell) {
              cell.text(row.channel);
          }},
-        {{"entry", "", "which entry, counted from 0; empty for the parameter of a formula"},
+        {{"entry", "", "which entry, counted from 0; empty for the parameter of a formula", Values::integer},
          [](const CurveRow& row, Cell& cell) {
              row.entry ? cell.count(*row.entry) : void();
          }},
-        {{"value", "", "the entry as a fraction, or the parameter, whose meaning is not recorded"},
+        {{"value", "", "the entry as a fraction, or the parameter, whose meaning is not recorded", Values::fraction},
          [](const CurveRow& row, Cell& cell) {
              cell.number(row.value, row.quantity);
          }},

@@ -17,11 +17,12 @@ const std::vector<ColumnOf<MapRow>>& columns() {
          [](const MapRow& row, Cell& cell) {
              cell.text(row.kind);
          }},
-        {{"entry", "", "which entry, counted from 0, in stored order; the shape of the grid is not recorded"},
+        {{"entry", "", "which entry, counted from 0, in stored order; the shape of the grid is not recorded",
+          Values::integer},
          [](const MapRow& row, Cell& cell) {
              cell.count(row.entry);
          }},
-        {{"value", notRecorded, "the entry"},
+        {{"value", notRecorded, "the entry", Values::integer},
          [](const MapRow& row, Cell& cell) {
              cell.number(row.map.values[row.entry], quantities::number);
          }},

@@ -139,10 +139,14 @@ const std::vector<ColumnOf<ModeRow>>& columns() {
         {{"type", "", "type of the mode"}, &giveType},
         {{"name", "", "name of the mode"}, &giveName},
         {{"brightness_type", "", "how the brightness to be reached is given"}, &giveBrightnessType},
-        {{"brightness", notRecorded, "the brightness to be reached; % when its type is Percent"}, &giveBrightness},
-        {{"white_x", "", "CIE 1931 x of the white to be reached"}, &giveWhite<&TargetSetting::white_point_t::x>},
-        {{"white_y", "", "CIE 1931 y of the white to be reached"}, &giveWhite<&TargetSetting::white_point_t::y>},
-        {{"white_temperature", notRecorded, "temperature of the white to be reached"}, &giveTemperature},
+        {{"brightness", notRecorded, "the brightness to be reached; % when its type is Percent", Values::integer},
+         &giveBrightness},
+        {{"white_x", "", "CIE 1931 x of the white to be reached", Values::fraction},
+         &giveWhite<&TargetSetting::white_point_t::x>},
+        {{"white_y", "", "CIE 1931 y of the white to be reached", Values::fraction},
+         &giveWhite<&TargetSetting::white_point_t::y>},
+        {{"white_temperature", notRecorded, "temperature of the white to be reached", Values::integer},
+         &giveTemperature},
         {{"gamma", "", "tone curve to be reached: a standard, a number, or the type"}, &giveGamma},
         {{"gamut", "", "gamut to be reached: a standard, or the type"}, &giveGamut},
         {{"calibrated_time", "", "when the mode was calibrated, as it stands; its form is not recorded"},
@@ -153,32 +157,33 @@ const std::vector<ColumnOf<ModeRow>>& columns() {
          }},
         {{"sensor_name", "", "name of the colour sensor"}, &giveText<&BasicData::colorSensorName>},
         {{"sensor_serial", "", "serial number of the colour sensor"}, &giveText<&BasicData::colorSensorSerial>},
-        {{"usage_hours", notRecorded, "hours of use, by the name of the element"}, &giveNumber<&BasicData::usageHours>},
-        {{"correlation_id", "", "identifier of the sensor's correlation"},
+        {{"usage_hours", notRecorded, "hours of use, by the name of the element", Values::integer},
+         &giveNumber<&BasicData::usageHours>},
+        {{"correlation_id", "", "identifier of the sensor's correlation", Values::integer},
          &giveNumber<&BasicData::colorSensorCorrelationID>},
         {{"correlation_date", "", "date of the sensor's correlation, as it stands"},
          &giveText<&BasicData::colorSensorCorrelationDate>},
-        {{"white_tristimulus_y", notRecorded, "CIE Y of the measured white"},
+        {{"white_tristimulus_y", notRecorded, "CIE Y of the measured white", Values::fraction},
          [](const ModeRow& row, Cell& cell) {
              giveFigure(row, cell, "white_tristimulus_y");
          }},
-        {{"white_cct", "K", "correlated colour temperature of the measured white"},
+        {{"white_cct", "K", "correlated colour temperature of the measured white", Values::fraction},
          [](const ModeRow& row, Cell& cell) {
              giveFigure(row, cell, "white_cct");
          }},
-        {{"white_delta_uv", "", "Δu'v' of the white to be reached and the measured one"},
+        {{"white_delta_uv", "", "Δu'v' of the white to be reached and the measured one", Values::fraction},
          [](const ModeRow& row, Cell& cell) {
              giveFigure(row, cell, "white_delta_uv");
          }},
-        {{"white_delta_e2000", "", "ΔE00 of these two"},
+        {{"white_delta_e2000", "", "ΔE00 of these two", Values::fraction},
          [](const ModeRow& row, Cell& cell) {
              giveFigure(row, cell, "white_delta_e2000");
          }},
-        {{"patches_delta_e2000_mean", "", "mean ΔE00 of the measurements and what they should be"},
+        {{"patches_delta_e2000_mean", "", "mean ΔE00 of the measurements and what they should be", Values::fraction},
          [](const ModeRow& row, Cell& cell) {
              giveFigure(row, cell, "patches_delta_e2000_mean");
          }},
-        {{"patches_delta_e2000_maximum", "", "the greatest of these ΔE00"},
+        {{"patches_delta_e2000_maximum", "", "the greatest of these ΔE00", Values::fraction},
          [](const ModeRow& row, Cell& cell) {
              giveFigure(row, cell, "patches_delta_e2000_maximum");
          }},

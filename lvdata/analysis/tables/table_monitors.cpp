@@ -68,17 +68,17 @@ const std::vector<ColumnOf<MonitorRow>>& columns() {
     static const std::vector<ColumnOf<MonitorRow>> all = withOrigin<MonitorRow>({
         {{"name", "", "name of the monitor"}, &giveConfiguration<&MonitorConfiguration::name>},
         {{"model", "", "model of the monitor"}, &giveConfiguration<&MonitorConfiguration::model>},
-        {{"schedule_type", "", "kind of the schedule of self-calibration, as a number"},
+        {{"schedule_type", "", "kind of the schedule of self-calibration, as a number", Values::integer},
          [](const MonitorRow& row, Cell& cell) {
              if (row.parts.schedule != nullptr) {
                  cell.index(row.parts.schedule->type);
              }
          }},
-        {{"schedule_interval_months", "months", "every how many months, where that is the kind of the schedule"},
+        {{"schedule_interval_months", "months", "every how many months, where that is the kind of the schedule", Values::integer},
          &giveInterval<types::schedule::everySomeMonths, &SelfCalibrationSchedule::intervalMonth>},
-        {{"schedule_interval_weeks", "weeks", "every how many weeks, likewise"},
+        {{"schedule_interval_weeks", "weeks", "every how many weeks, likewise", Values::integer},
          &giveInterval<types::schedule::everySomeWeeks, &SelfCalibrationSchedule::intervalWeek>},
-        {{"schedule_interval_hours", "hours", "every how many hours, likewise"}, &giveHours},
+        {{"schedule_interval_hours", "hours", "every how many hours, likewise", Values::integer}, &giveHours},
         {{"asset1", "", "first text of the inventory; what it is for is not recorded"}, &giveAsset<&AssetInfo::asset1>},
         {{"asset2", "", "second text of the inventory"}, &giveAsset<&AssetInfo::asset2>},
         {{"asset3", "", "third text of the inventory"}, &giveAsset<&AssetInfo::asset3>},
@@ -87,13 +87,14 @@ const std::vector<ColumnOf<MonitorRow>>& columns() {
         {{"asset6", "", "sixth text of the inventory"}, &giveAsset<&AssetInfo::asset6>},
         {{"asset7", "", "seventh text of the inventory"}, &giveAsset<&AssetInfo::asset7>},
         {{"asset8", "", "eighth text of the inventory"}, &giveAsset<&AssetInfo::asset8>},
-        {{"modes", "", "number of colour modes that are set up"},
+        {{"modes", "", "number of colour modes that are set up", Values::integer},
          [](const MonitorRow& row, Cell& cell) {
              if (row.parts.settings != nullptr) {
                  cell.count(row.parts.settings->objects.size());
              }
          }},
-        {{"calibrated_modes", "", "number of results with a time of calibration"}, &giveCalibratedModes},
+        {{"calibrated_modes", "", "number of results with a time of calibration", Values::integer},
+         &giveCalibratedModes},
         {{"last_calibration", "",
           "the greatest of these times as text, which is the latest when all are like 2024-05-02T09:31:00"},
          &giveLastCalibration},

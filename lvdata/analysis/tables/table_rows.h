@@ -106,7 +106,7 @@ std::vector<ColumnOf<Subject>> withOrigin(const std::vector<ColumnOf<Subject>>& 
                  cell.text(row.parts.configuration->serial);
              }
          }},
-        {{"mode_index", "", "index of the colour mode that the row belongs to"},
+        {{"mode_index", "", "index of the colour mode that the row belongs to", Values::integer},
          [](const Subject& row, Cell& cell) {
              if (row.parts.modeIndex != nullptr) {
                  cell.index(*row.parts.modeIndex);

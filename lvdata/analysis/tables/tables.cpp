@@ -99,6 +99,11 @@ void Cell::end() {
     }
 }
 
+std::string_view nameOf(Values values) {
+    constexpr std::array<std::string_view, 3> names = {"text", "integer", "fraction"};
+    return names.at(static_cast<std::size_t>(values));
+}
+
 const std::vector<TableDescription>& tables() {
     static const std::vector<TableDescription> all = {
         {Table::monitors, "monitors", "each document with a monitor, its configuration or its assets",

@@ -18,11 +18,22 @@ enum class Table {
     maps,      ///< A row for each entry of a map.
 };
 
+/// What the values of a column are, for programs that give their columns types. Any of them may be missing.
+enum class Values {
+    text,      ///< Texts.
+    integer,   ///< Numbers without a decimal point, in 64 bits.
+    fraction,  ///< Numbers with or without one.
+};
+
+/// "text", "integer" or "fraction".
+[[nodiscard]] std::string_view nameOf(Values values);
+
 /// A column of a table.
 struct Column {
-    std::string_view name;     ///< The header in CSV, the key in JSON.
-    std::string_view unit;     ///< Empty for texts and ratios; "not recorded" where the records do not say.
-    std::string_view meaning;  ///< In a few words.
+    std::string_view name;         ///< The header in CSV, the key in JSON.
+    std::string_view unit;         ///< Empty for texts and ratios; "not recorded" where the records do not say.
+    std::string_view meaning;      ///< In a few words.
+    Values values = Values::text;  ///< What stands in it.
 };
 
 /// What there is to know of a table.

@@ -48,13 +48,58 @@ std::string csvOf(Table table, const std::string& xml) {
     return text;
 }
 
+/// Notes of each value whether it is of the kind that its column is said to have.
+class KindsSink final : public analysis::Sink {
+public:
+    explicit KindsSink(const std::vector<analysis::Column>& columns) : columns_(columns) {}
+
+    void beginObject() override { next_ = 0; }
+    void key(std::string_view name) override { EXPECT_EQ(name, columns_[next_].name); }
+    void endObject() override {}
+    void beginArray(Entries /*entries*/) override {}
+    void endArray() override {}
+    void string(std::string_view /*text*/) override { note(Values::text); }
+    void number(std::string_view /*text*/, NumberKind kind) override {
+        note(kind == NumberKind::integer ? Values::integer : Values::fraction);
+    }
+    void boolean(bool /*value*/) override { FAIL(); }
+    void null() override { ++next_; }
+
+    /// Columns without a value that is exactly of their kind.
+    [[nodiscard]] std::vector<std::string> unseen() const {
+        std::vector<std::string> names;
+        for (const analysis::Column& column : columns_) {
+            if (seen_.count(column.name) == 0) {
+                names.emplace_back(column.name);
+            }
+        }
+        return names;
+    }
+
+private:
+    using Values = analysis::Values;
+
+    void note(Values kind) {
+        const analysis::Column& column = columns_[next_++];
+        EXPECT_TRUE(kind == column.values || (kind == Values::integer && column.values == Values::fraction))
+            << column.name;
+        if (kind == column.values) {
+            seen_.insert(column.name);
+        }
+    }
+
+    const std::vector<analysis::Column>& columns_;
+    std::size_t next_ = 0;
+    std::set<std::string_view> seen_;
+};
+
 std::string page() {
     std::string text;
     for (const analysis::TableDescription& table : analysis::tables()) {
-        MarkdownTable markdown{{"Column", "Unit", "Meaning"}, {}};
+        MarkdownTable markdown{{"Column", "Values", "Unit", "Meaning"}, {}};
         for (const analysis::Column& column : table.columns) {
-            markdown.rows.push_back(
-                {'`' + std::string(column.name) + '`', std::string(column.unit), std::string(column.meaning)});
+            markdown.rows.push_back({'`' + std::string(column.name) + '`', std::string(nameOf(column.values)),
+                                     std::string(column.unit), std::string(column.meaning)});
         }
         text += "### " + std::string(table.name) + "\n\nA row for " + std::string(table.rows) + ".\n\n" +
                 markdown.toString() + '\n';
@@ -77,6 +122,24 @@ TEST(Tables, HaveARowForAMonitor) {
     EXPECT_EQ(rows[0]["modes"], 5);
     EXPECT_EQ(rows[0]["calibrated_modes"], 3);
     EXPECT_EQ(rows[0]["last_calibration"], "2024-05-02T10:07:00");
+}
+
+TEST(Tables, SayWhatTheValuesOfTheirColumnsAre) {
+    const std::string assets =
+        "<AssetInfo><Asset1>1</Asset1><Asset2>2</Asset2><Asset3>3</Asset3><Asset4>4</Asset4><Asset5>5</Asset5>"
+        "<Asset6>6</Asset6><Asset7>7</Asset7><Asset8>8</Asset8></AssetInfo>";
+    const std::string patches =
+        "<MeasurementData><Measurements><CMYK>1|2|3|4</CMYK><PQR>1|2|3</PQR></Measurements></MeasurementData>";
+    for (const analysis::TableDescription& table : analysis::tables()) {
+        KindsSink sink(table.columns);
+        for (const std::string& text : {studio(), assets, patches}) {
+            const analysis::Document document(text, catalogue());
+            ASSERT_EQ(document.refusal(), nullptr);
+            analysis::addRows(table.table, document.record(), "a.xml", sink);
+        }
+        const std::vector<std::string> neverGiven = {"mode_index"};  // in tables whose rows are not of a mode
+        EXPECT_THAT(sink.unseen(), testing::IsSubsetOf(neverGiven)) << table.name;
+    }
 }
 
 TEST(Tables, HaveARowForEachMode) {

@@ -1,0 +1,131 @@
+"""Reports of fleets: pages that workers write, and the index."""
+
+from __future__ import annotations
+
+import os
+from dataclasses import dataclass
+from typing import Any, Literal, NamedTuple
+
+from . import _lvdata
+from ._errors import ParseError
+from ._fleet_graph import in_order
+from ._fleet_jobs import DOCUMENTS_PER_TASK, Paths, batches, collects, handed_over, jobs_of
+from ._fleet_parts import BadDocument, Entry, bad_document
+from ._fleet_tasks import read_each
+from ._reports import (
+    KnownDocument,
+    MonitorPage,
+    PageEntry,
+    PageOptions,
+    index_page,
+    monitor_key,
+    monitor_pages,
+    page_of,
+)
+
+#: A page takes ten times as long as reading its document.
+PAGES_PER_TASK = 10
+
+
+@dataclass(frozen=True)
+class KeysJob:
+    """Documents of which it is asked whose they are."""
+
+    entries: tuple[Entry, ...]
+
+
+def keys_part(job: KeysJob) -> tuple[list[KnownDocument], list[BadDocument]]:
+    """What all documents say of their monitors."""
+    return read_each(job.entries, lambda file: (file, monitor_key(file)))
+
+
+@dataclass(frozen=True)
+class PagesJob:
+    """Pages to be written into a folder."""
+
+    pages: tuple[MonitorPage, ...]
+    folder: str
+    options: PageOptions
+
+
+def write_pages(job: PagesJob) -> list[PageEntry | BadDocument]:
+    """Writes the pages. What cannot be read comes back; what cannot be written is an `OSError`."""
+    return [_write_page(monitor, job) for monitor in job.pages]
+
+
+def _write_page(monitor: MonitorPage, job: PagesJob) -> PageEntry | BadDocument:
+    latest = monitor.documents[-1][0]
+    try:
+        page = page_of(monitor, job.options)
+    except ParseError as error:
+        return bad_document(error.file or latest, error)
+    except (OSError, ValueError, MemoryError) as error:  # ValueError: the document does not have the only mode
+        return bad_document(latest, error)
+    replace_page(os.path.join(job.folder, monitor.page), page.html)
+    return page.entry
+
+
+def replace_page(file: str, text: str) -> None:
+    """Writes a page in one step. A file that is not such a page stays."""
+    if os.path.exists(file):
+        with open(file, "rb") as stream:
+            if not _lvdata.is_page(stream.read(4096)):
+                raise FileExistsError(f"{file} is not overwritten, since it is not a page that lvdata made")
+    _lvdata.write_file(os.fsencode(file), text.encode("utf-8", "surrogateescape"))
+
+
+class Reported(NamedTuple):
+    """A report that was written."""
+
+    pages: list[str]  #: The names of the pages in the folder, in the order of the index. It is "index.html".
+    errors: list[BadDocument]  #: Documents that could not be read, and so are not in the report.
+
+
+def report(
+    paths: Paths, folder: str | os.PathLike[str], *, limits: str | os.PathLike[str] = "default",
+    title: str = "", date: str = "", mode: int | None = None, y_unit: str = "", map_unit: str = "", grid: int = 0,
+    errors: Literal["raise", "collect"] = "raise",
+    client: Any = None, documents_per_task: int = DOCUMENTS_PER_TASK,
+) -> Reported:
+    """Writes a page of each monitor and an index into a folder: the same files as `lvdata report -o FOLDER/`.
+
+    The workers write the pages, the caller writes the index: all must see the folder under this name. It is made when
+    it is not there; a file of another kind is not overwritten (`FileExistsError`). Without any good document nothing
+    is written.
+
+    The options are those of the command: `limits` is the name of a limit set or a file, `title` the heading of the
+    index, `date` a text to print, `mode` the index of the only colour mode to tell of; `y_unit`, `map_unit` and `grid`
+    are what you know and the records do not say.
+    """
+    collects(errors)
+    options: PageOptions = {
+        "limits": os.path.abspath(limits) if os.path.exists(limits) else limits, "mode": mode, "date": date,
+        "y_unit": y_unit, "map_unit": map_unit, "grid": grid,
+    }
+    index_page([], options, title)  # refuses options that are wrong before anything is read
+    known, bad = _known_documents(paths, documents_per_task, client)
+    if not known:
+        return handed_over(Reported([], bad), bad, errors)
+    target = os.path.abspath(folder)
+    os.makedirs(target, exist_ok=True)
+    entries: list[PageEntry] = []
+    jobs = [PagesJob(pages, target, options) for pages in batches(monitor_pages(known), PAGES_PER_TASK)]
+    for written in in_order(write_pages, jobs, client):
+        for each in written:
+            if isinstance(each, BadDocument):
+                bad.append(each)
+            else:
+                entries.append(each)
+    replace_page(os.path.join(target, "index.html"), index_page(entries, options, title))
+    return handed_over(Reported([entry["page"] for entry in entries], bad), bad, errors)
+
+
+def _known_documents(
+    paths: Paths, documents_per_task: int, client: Any
+) -> tuple[list[KnownDocument], list[BadDocument]]:
+    known: list[KnownDocument] = []
+    bad: list[BadDocument] = []
+    for found, errors in in_order(keys_part, jobs_of(paths, documents_per_task, KeysJob), client):
+        known += found
+        bad += errors
+    return known, bad

@@ -1,0 +1,269 @@
+"""lvdata.fleet against the command, in this process. test_fleet_cluster.py has what needs workers."""
+
+from __future__ import annotations
+
+import contextlib
+import json
+import os
+import subprocess
+import sys
+from typing import Any, Iterator
+
+import lvdata
+import pandas
+import pytest
+from fleet_support import STUDIO, Folder, bad, both, document, few, here, joined, messages, printed, tool  # noqa: F401
+from lvdata import _fleet_tasks, fleet
+
+# Bad documents.
+
+
+@pytest.mark.parametrize("form", ["csv", "jsonl"])
+def test_bad_documents_are_told_as_the_command_tells_them(few: Folder, bad: list[Folder], form: Any) -> None:
+    paths = [*bad, few]
+    text, errors = both(fleet.text(paths, "modes", form=form, errors="collect"))
+    command = tool("convert", "--to", form, "--table", "modes", *paths)
+    assert b"".join(text) == command.stdout
+    told = [line.split(" (limit: ")[0] for line in command.stderr.decode().splitlines() if ": error: " in line]
+    assert messages(errors)[1:] == told[1:]
+    assert len(told) == 4
+    assert told[0].startswith(f"{bad[0]}: error: line 2: ")  # the command has its own words for what is wrong there
+    assert errors[0] == (str(bad[0]), 2, "mismatched element")
+
+
+def test_a_document_may_not_be_larger_than_for_the_command(tmp_path: Folder) -> None:
+    with open(tmp_path / "large.xml", "wb") as large:
+        large.truncate(64 * 1024 * 1024 + 1)
+    rows, errors = both(fleet.rows(tmp_path, "modes", errors="collect"))
+    command = tool("convert", "--to", "csv", "--table", "modes", tmp_path).stderr.decode()
+    assert messages(errors) == [command.split(" (limit: ")[0]]
+
+
+def test_documents_are_read_once_for_data_and_errors(
+    few: Folder, bad: list[Folder], monkeypatch: pytest.MonkeyPatch
+) -> None:
+    read: list[str] = []
+    text_of = _fleet_tasks.text_of
+    monkeypatch.setattr(_fleet_tasks, "text_of", lambda file: read.append(file) or text_of(file))
+    for function in (fleet.text, fleet.rows, fleet.table):
+        read.clear()
+        data, errors = both(function([few, bad[0]], "modes", errors="collect", documents_per_task=3))
+        assert len(data) > 0 and len(errors) == 1
+        assert len(read) == 11
+
+
+def test_a_table_has_bad_documents_as_a_frame(few: Folder, bad: list[Folder]) -> None:
+    frame, errors = both(fleet.table([few, *bad[:2]], "modes", errors="collect"))
+    assert len(frame) == 6
+    assert list(errors.columns) == ["file", "line", "reason"]
+    assert list(errors.file) == [str(bad[0]), str(bad[1])]
+    assert errors.line[0] == 2 and errors.line[1] is pandas.NA
+    assert errors.reason[1] == "No such file or directory"
+
+
+@pytest.mark.parametrize("function", [fleet.text, fleet.rows, fleet.table])
+def test_a_bad_document_raises_unless_errors_are_collected(few: Folder, bad: list[Folder], function: Any) -> None:
+    with pytest.raises(lvdata.ParseError) as raised:
+        here(function([few, bad[0]], "modes"))
+    assert (raised.value.file, raised.value.line) == (str(bad[0]), 2)
+
+
+def test_what_json_cannot_carry_is_a_bad_document(tmp_path: Folder) -> None:
+    (tmp_path / "latin1.xml").write_bytes(b"<AssetInfo><Asset1>\xe4</Asset1></AssetInfo>")
+    assert joined(fleet.text(tmp_path, "monitors"), scheduler="sync") == printed("monitors", "csv", tmp_path)
+    rows, errors = both(fleet.rows(tmp_path, "monitors", errors="collect"))
+    assert rows == []
+    assert messages(errors) == [tool("convert", "--to", "jsonl", "--table", "monitors", tmp_path).stderr.decode()[:-1]]
+
+
+@contextlib.contextmanager
+def without_rights() -> Iterator[None]:
+    """As another user than root, who may read everything."""
+    is_root = os.geteuid() == 0
+    if is_root:
+        os.seteuid(65534)
+    try:
+        yield
+    finally:
+        if is_root:
+            os.seteuid(0)
+
+
+def test_a_folder_that_cannot_be_read_is_told(few: Folder) -> None:
+    few.chmod(0)
+    inner = few.parent / "outer" / "inner"
+    inner.mkdir(parents=True)
+    for folder in [*few.parents][:3]:
+        folder.chmod(0o755)
+    (inner.parent / "z.xml").write_text(document(0))
+    inner.chmod(0)
+    with without_rights():
+        rows = fleet.rows([few, inner.parent], "modes", errors="collect")
+    rows, errors = both(rows)
+    few.chmod(0o755)
+    inner.chmod(0o755)
+    assert len(rows) == 1
+    assert errors == [(str(few), None, "Permission denied"), (str(inner), None, "Permission denied")]
+
+
+def test_a_folder_without_documents_is_told(tmp_path: Folder) -> None:
+    rows, errors = both(fleet.rows(tmp_path, "modes", errors="collect"))
+    assert rows == []
+    assert messages(errors) == [tool("convert", "--to", "csv", "--table", "modes", tmp_path).stderr.decode()[:-1]]
+
+
+# Which documents, in which order.
+
+
+def test_documents_come_in_the_order_of_the_command(tmp_path: Folder) -> None:
+    names = [b"b.xml", b"B.xml", b"a/x.xml", b"a/.xml", b"a-.xml", b"a0/y.xml", b"\xc3\xa4.xml", b"\xff.xml", b"~.xml"]
+    for name in names:
+        file = os.path.join(os.fsencode(tmp_path), name)
+        os.makedirs(os.path.dirname(file), exist_ok=True)
+        with open(file, "w", encoding="utf-8") as stream:
+            stream.write(document(0))
+    (tmp_path / "other.txt").write_text("no document")
+    (tmp_path / "folder.xml").symlink_to("a")
+    os.mkfifo(tmp_path / "pipe.xml")
+    (tmp_path / "link.xml").symlink_to("b.xml")
+    (tmp_path / "linked").symlink_to("a")
+    paths = [f"{tmp_path}/", tmp_path / "linked", tmp_path / "b.xml", os.fsencode(tmp_path / "a")]
+    assert joined(fleet.text(paths, "modes"), scheduler="sync") == printed("modes", "csv", f"{tmp_path}/", *paths[1:3],
+                                                                           tmp_path / "a")
+
+
+def test_without_documents_there_is_nothing_but_columns() -> None:
+    assert joined(fleet.text([], "modes"), scheduler="sync") == printed("modes", "csv", os.devnull)
+    assert here(fleet.text([], "modes", form="jsonl")) == [b""]
+    assert here(fleet.rows([], "modes")) == []
+    assert len(here(fleet.table([], "modes"))) == 0
+    assert len(here(fleet.check([]))) == 0
+
+
+@pytest.mark.parametrize("path", [STUDIO, str(STUDIO), os.fsencode(STUDIO), [STUDIO], iter([STUDIO])])
+def test_one_document_is_enough(path: Any) -> None:
+    assert joined(fleet.text(path, "curves"), scheduler="sync") == printed("curves", "csv", STUDIO)
+
+
+@pytest.mark.parametrize("size", [1, 3, 10, 11])
+def test_documents_are_partitioned_by_their_number(few: Folder, size: int) -> None:
+    text = fleet.text(few, "modes", documents_per_task=size)
+    assert text.npartitions == -(-10 // size)
+    assert joined(text, scheduler="sync") == printed("modes", "csv", few)
+
+
+# Tables.
+
+
+@pytest.mark.parametrize("table", ["monitors", "modes", "patches", "curves", "maps"])
+def test_types_are_known_before_anything_is_read(table: str, few: Folder) -> None:
+    (few / "3.xml").unlink()
+    lazy = fleet.table([STUDIO, few / "4.xml", few / "missing.xml"], table, documents_per_task=1)
+    frames = [part.compute(scheduler="sync") for part in [lazy.get_partition(0), lazy.get_partition(1)]]
+    kinds = {"Float64", "Int64", "string"}
+    for frame in frames:
+        assert list(frame.dtypes.items()) == list(lazy.dtypes.items())
+        assert {str(kind) for kind in frame.dtypes} <= kinds
+    assert len(frames[0]) > 0
+    lines = printed(table, "jsonl", STUDIO).splitlines()
+    assert here(fleet.rows(STUDIO, table)) == [json.loads(line) for line in lines]
+
+
+def test_numbers_are_those_of_the_text() -> None:
+    frame = here(fleet.table(STUDIO, "modes"))
+    assert str(frame.dtypes["mode_index"]) == "Int64" and str(frame.dtypes["white_x"]) == "Float64"
+    assert frame.white_x[2] == 0.3127 and frame.mode_index[2] == 2 and frame.white_x[0] is pandas.NA
+
+
+@pytest.mark.parametrize(
+    "call, message",
+    [
+        (lambda: fleet.rows([], "mode"), "one of: monitors, modes, patches, curves, maps"),
+        (lambda: fleet.table([], "mode"), "one of: monitors"),
+        (lambda: fleet.text([], "modes", form="xml"), "one of: csv, jsonl"),  # type: ignore[call-overload]
+        (lambda: fleet.rows([], "modes", errors="skip"), "one of: raise, collect"),  # type: ignore[call-overload]
+        (lambda: fleet.rows([], "modes", documents_per_task=0), "at least 1"),
+        (lambda: fleet.rows(["a", ""], "modes"), "path is empty"),
+        (lambda: fleet.check([], ignore=["x"]), "'x' is not the id of a rule"),
+        (lambda: fleet.write([], "mode", "x"), "one of: monitors"),
+    ],
+)
+def test_wrong_arguments_say_what_is_possible(call: Any, message: str) -> None:
+    with pytest.raises(ValueError, match=message):
+        call()
+
+
+# Findings.
+
+
+def found_by_command(*arguments: object) -> list[dict[str, Any]]:
+    findings: list[dict[str, Any]] = json.loads(tool("check", "--format", "json", *arguments).stdout)["findings"]
+    return findings
+
+
+def listed(frame: Any) -> list[dict[str, Any]]:
+    """The findings of documents that could be read, as the command prints them."""
+    rows = json.loads(frame[frame.id != "unreadable"].to_json(orient="records"))
+    return [{**row, "line": row["line"] or 0, "path": row["path"] or ""} for row in rows]
+
+
+def test_findings_are_those_of_the_command(few: Folder, bad: list[Folder]) -> None:
+    (few / "5.xml").write_text("<MonitorInfo>\n<Unknown/><UUID a='1'/></MonitorInfo>")
+    paths = [few, STUDIO, *bad]
+    frame = here(fleet.check(paths, documents_per_task=2))
+    assert listed(frame) == found_by_command(*paths)
+    assert {"error", "warning", "info"} == set(frame.severity)
+    unreadable = frame[frame.id == "unreadable"]
+    assert list(unreadable.file) == list(map(str, bad[1:]))
+    assert list(unreadable.severity) == ["error"] * 3
+    assert list(unreadable.message)[:2] == ["No such file or directory", "Too many levels of symbolic links"]
+    assert list(unreadable.line)[2] == 1
+
+
+def test_rules_can_be_left_out_and_added(few: Folder) -> None:
+    everything = found_by_command("--roundtrip", few)
+    some = everything[0]["id"]
+    assert listed(here(fleet.check(few, roundtrip=True))) == everything
+    assert listed(here(fleet.check(few, roundtrip=True, ignore=[some]))) == found_by_command(
+        "--roundtrip", "--ignore", some, few
+    )
+
+
+# Files and reports.
+
+
+def test_a_bad_document_raises_after_the_good_ones_were_written(few: Folder, bad: list[Folder]) -> None:
+    target = few.parent / "modes.csv"
+    with pytest.raises(lvdata.ParseError):
+        fleet.write([few, *bad], "modes", target)
+    assert target.read_bytes() == printed("modes", "csv", few)
+    written = fleet.write([few, *bad], "modes", target, errors="collect")
+    assert [error.file for error in written.errors] == list(map(str, bad))
+
+
+def test_parts_of_two_runs_are_not_mixed(few: Folder, tmp_path: Folder) -> None:
+    parts = tmp_path / "parts"
+    parts.mkdir()
+    fleet.write(few, "modes", parts, form="jsonl")
+    assert (parts / "part-00000.jsonl").read_bytes() == printed("modes", "jsonl", few)
+    with pytest.raises(FileExistsError):
+        fleet.write(few, "modes", parts)
+
+
+# Without Dask.
+
+
+def python(code: str) -> subprocess.CompletedProcess[str]:
+    return subprocess.run([sys.executable, "-X", "dev", "-W", "error", "-c", code], stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, text=True)
+
+
+def test_the_package_does_not_need_dask() -> None:
+    result = python("import sys, lvdata; assert not {'dask', 'distributed', 'pandas', 'numpy'} & set(sys.modules)")
+    assert (result.returncode, result.stdout) == (0, "")
+
+
+def test_without_dask_the_error_says_what_to_install() -> None:
+    result = python("import sys; sys.modules['dask'] = None; import lvdata.fleet")
+    assert result.returncode != 0
+    assert "ImportError: lvdata.fleet needs Dask: install python3-dask and python3-distributed" in result.stdout
