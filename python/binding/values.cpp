@@ -1,7 +1,7 @@
+#include "values.h"
 #include "element_record.h"
 #include "numbers.h"
 #include "texts.h"
-#include "values.h"
 
 #include <lvdata/analysis/content.h>
 #include <lvdata/analysis/natural_values.h>
@@ -192,8 +192,7 @@ py::object columnOf(const RowList& rows, std::size_t index, std::size_t length, 
 }
 
 py::str strOf(std::string_view bytes) {
-    PyObject* const text =
-        PyUnicode_DecodeUTF8(bytes.data(), static_cast<Py_ssize_t>(bytes.size()), "surrogateescape");
+    PyObject* const text = PyUnicode_DecodeUTF8(bytes.data(), static_cast<Py_ssize_t>(bytes.size()), "surrogateescape");
     if (text == nullptr) {
         throw py::error_already_set();
     }
