@@ -27,7 +27,7 @@ struct Member {
     Kind kind = Kind::plain;                 ///< What stands in the place.
     const Layout* nested = nullptr;          ///< Of the child elements; null for texts.
     bool isGoverned = false;                 ///< Whether the switch `writeHLGSystemGamma` decides that it is written.
-    bool isShadowed = false;                 ///< A further text of the same element: it is kept in the place of the first.
+    bool isShadowed = false;  ///< A further text of the same element: it is kept in the place of the first.
 
     /// The name of the attribute in Python.
     [[nodiscard]] std::string key() const;
@@ -36,16 +36,16 @@ struct Member {
     [[nodiscard]] bool isKeyed() const;
 };
 
-/// A class of elements: the places that its objects have. A record inside another one has the layout of its own class, so
-/// that the same objects fit into both. Never changes.
+/// A class of elements: the places that its objects have. A record inside another one has the layout of its own class,
+/// so that the same objects fit into both. Never changes.
 struct Layout {
-    const analysis::Shape* shape = nullptr;           ///< What the description says of it.
+    const analysis::Shape* shape = nullptr;             ///< What the description says of it.
     const analysis::Catalogue::Entry* entry = nullptr;  ///< The record class; null for anything else.
-    const Layout* parent = nullptr;                   ///< Of the element that it is described in; null for a record.
-    std::size_t id = 0;                               ///< Its index among all layouts.
-    std::string className{};                          ///< The name of the class in Python: "ColorMode".
-    std::string name{};                               ///< The same within its record: "ColorModeSettings.ColorMode".
-    std::vector<Member> members{};                    ///< One for each child of the shape, in their order.
+    const Layout* parent = nullptr;                     ///< Of the element that it is described in; null for a record.
+    std::size_t id = 0;                                 ///< Its index among all layouts.
+    std::string className{};                            ///< The name of the class in Python: "ColorMode".
+    std::string name{};                                 ///< The same within its record: "ColorModeSettings.ColorMode".
+    std::vector<Member> members{};                      ///< One for each child of the shape, in their order.
 
     /// The same, with the name of a member: "ColorModeSettings.ColorMode.type".
     [[nodiscard]] std::string pathOf(std::size_t index) const;

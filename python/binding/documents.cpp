@@ -1,6 +1,6 @@
 #include "documents.h"
 #include "element_record.h"
-#include "errors.h"
+#include "failures.h"
 #include "shared.h"
 #include "values.h"
 #include "wrapping.h"
@@ -8,28 +8,26 @@
 #include <lvdata/analysis/files/files.h>
 #include <lvdata/analysis/json/JSON.h>
 
-#include <cerrno>
-
 namespace py = pybind11;
 
 namespace lv::python {
 namespace {
 
+/// The element of what `load` gives, both without the GIL.
 template <class Load>
 py::object loadedBy(const std::string& path, Load load) {
-    analysis::LoadResult result;
     ElementPtr element;
     {
         const py::gil_scoped_release others;
         const analysis::LoadedRecord loaded = load();
-        result = loaded.result;
-        element = loaded ? elementOf(*loaded.record) : nullptr;
-    }
-    if (result.outcome == analysis::LoadResult::Outcome::notReadable) {
-        raiseOSError(result.error, path);
-    }
-    if (!element) {
-        raiseParseError(result.reason, result.line);
+        const analysis::LoadResult& result = loaded.result;
+        if (result.outcome == analysis::LoadResult::Outcome::notReadable) {
+            throw FileFailure{result.error, result.reason, path};
+        }
+        if (!loaded) {
+            throw ParseFailure{result.reason, result.line, path};
+        }
+        element = elementOf(*loaded.record);
     }
     return wrapped(element);
 }
@@ -50,14 +48,14 @@ py::tuple fromJSON(const std::string& text) {
     {
         const py::gil_scoped_release others;
         result = analysis::fromJSON(text, catalogue());
-        element = result ? elementOf(*result.record) : nullptr;
-    }
-    if (!element) {
-        raiseParseError(result.error->reason, result.error->line, result.error->path);
+        if (!result) {
+            throw ParseFailure{result.error->reason, result.error->line, {}, result.error->path};
+        }
+        element = elementOf(*result.record);
     }
     py::list losses;
     for (const analysis::Finding& each : result.losses.listed) {
-        losses.append(strOf(each.path + ": " + each.message));
+        losses.append(asText(each.path + ": " + each.message));
     }
     return py::make_tuple(wrapped(element), losses);
 }
@@ -69,7 +67,7 @@ py::str toXML(const Element& element, bool pretty, bool declaration) {
         const py::gil_scoped_release others;
         text = record->toXMLString(declaration, pretty);
     }
-    return strOf(text);
+    return asText(text);
 }
 
 py::str toJSON(const Element& element, bool compact) {
@@ -84,7 +82,7 @@ py::str toJSON(const Element& element, bool compact) {
     if (!result) {
         throw py::value_error(result.error->toString());
     }
-    return strOf(result.text);
+    return asText(result.text);
 }
 
 void save(const Element& element, const std::string& path, bool pretty, bool declaration) {
@@ -95,7 +93,7 @@ void save(const Element& element, const std::string& path, bool pretty, bool dec
         result = analysis::save(path, *record, {declaration, pretty});
     }
     if (!result) {
-        raiseOSError(result.error, path);
+        throw FileFailure{result.error, result.reason, path};
     }
 }
 

@@ -15,7 +15,8 @@ void raise(const ParseFailure& failure) {
     const py::object type = py::module_::import("lvdata._errors").attr("ParseError");
     const py::object line = orNone(py::int_(failure.line), failure.line != 0);
     const py::object file = orNone(asText(failure.file), !failure.file.empty());
-    PyErr_SetObject(type.ptr(), type(asText(failure.reason), line, file).ptr());
+    const py::object path = orNone(asText(failure.path), !failure.path.empty());
+    PyErr_SetObject(type.ptr(), type(asText(failure.reason), line, file, path).ptr());
 }
 
 void raise(const FileFailure& failure) {
@@ -51,12 +52,14 @@ py::str asText(const std::string& bytes) {
     return py::reinterpret_steal<py::str>(text);
 }
 
-std::string asBytes(const py::str& text) {
-    PyObject* const bytes = PyUnicode_AsEncodedString(text.ptr(), "utf-8", "surrogateescape");
-    if (bytes == nullptr) {
-        throw py::error_already_set();
+std::string asBytes(const py::handle& text) {
+    const auto bytes =
+        py::reinterpret_steal<py::bytes>(PyUnicode_AsEncodedString(text.ptr(), "utf-8", "surrogateescape"));
+    if (!bytes) {
+        PyErr_Clear();
+        throw py::value_error("text that UTF-8 can carry expected, not a single surrogate");
     }
-    return py::reinterpret_steal<py::bytes>(bytes);
+    return bytes;
 }
 
 }  // namespace lv::python

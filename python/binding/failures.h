@@ -14,6 +14,7 @@ struct ParseFailure {
     std::string reason;
     int line = 0;        ///< Counted from 1; 0 when no line applies.
     std::string file{};  ///< As the caller named it; empty: not known, or it has none.
+    std::string path{};  ///< The place in a JSON text; empty when none applies.
 };
 
 /// A file or a folder that cannot be read; becomes `OSError`, or the one of its classes for that error.
@@ -30,7 +31,7 @@ void addFailures(pybind11::module_& module);
 /// lone surrogates, as in file names.
 [[nodiscard]] pybind11::str asText(const std::string& bytes);
 
-/// The bytes of such a text.
-[[nodiscard]] std::string asBytes(const pybind11::str& text);
+/// The bytes of such a text; raises `ValueError` when it holds other surrogates.
+[[nodiscard]] std::string asBytes(const pybind11::handle& text);
 
 }  // namespace lv::python

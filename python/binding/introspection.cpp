@@ -1,5 +1,5 @@
-#include "Layout.h"
 #include "introspection.h"
+#include "Layout.h"
 #include "shared.h"
 #include "texts.h"
 

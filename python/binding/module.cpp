@@ -1,7 +1,5 @@
-#include "errors.h"
 #include "shared.h"
 
-#include <lvdata/analysis/files/files.h>
 #include <lvdata/version.h>
 
 namespace py = pybind11;
@@ -13,18 +11,6 @@ const analysis::Catalogue& catalogue() {
     return made;
 }
 
-std::unique_ptr<DataObject> recordOf(const std::string& text) {
-    analysis::LoadedRecord loaded;
-    {
-        const py::gil_scoped_release others;
-        loaded = analysis::loadText(text, catalogue());
-    }
-    if (!loaded) {
-        raiseParseError(loaded.result.reason, loaded.result.line);
-    }
-    return std::move(loaded.record);
-}
-
 }  // namespace lv::python
 
 PYBIND11_MODULE(_lvdata, module) {
@@ -33,5 +19,4 @@ PYBIND11_MODULE(_lvdata, module) {
     lv::python::addRecords(module);
     lv::python::addTables(module);
     lv::python::addAnalysis(module);
-    lv::python::addFleet(module);
 }

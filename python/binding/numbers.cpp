@@ -171,7 +171,8 @@ std::int64_t storedOf(double number, const NumberForm& form) {
     const analysis::StoredRange range = rangeOf(form);
     const double product = number * powerOfTen(form.decimals);
     const double nearest = std::nearbyint(product);
-    const bool isInRange = product > static_cast<double>(range.least) - 1 && product < static_cast<double>(range.greatest) + 1;
+    const bool isInRange =
+        product > static_cast<double>(range.least) - 1 && product < static_cast<double>(range.greatest) + 1;
     if (!isInRange || (form.decimals == 0 && nearest != product)) {
         refuse(form, textOf(number));
     }
@@ -214,8 +215,7 @@ bool isSeveral(const py::handle& value) {
 
 /// Large integers have no text within the limits of Python.
 std::string shortRepr(const py::handle& value) {
-    const bool isPlain = PyFloat_Check(value.ptr()) != 0 ||
-                         PyBool_Check(value.ptr()) != 0 || value.is_none();
+    const bool isPlain = PyFloat_Check(value.ptr()) != 0 || PyBool_Check(value.ptr()) != 0 || value.is_none();
     int overflow = 0;
     if (PyLong_CheckExact(value.ptr()) != 0) {
         const long long number = PyLong_AsLongLongAndOverflow(value.ptr(), &overflow);
@@ -226,7 +226,8 @@ std::string shortRepr(const py::handle& value) {
         const py::object start = value[py::slice(0, static_cast<py::ssize_t>(most), 1)];
         return py::repr(start).cast<std::string>() + (py::len(value) > most ? "..." : "");
     }
-    return isPlain ? py::repr(value).cast<std::string>() : std::string("a value of type ") + Py_TYPE(value.ptr())->tp_name;
+    return isPlain ? py::repr(value).cast<std::string>()
+                   : std::string("a value of type ") + Py_TYPE(value.ptr())->tp_name;
 }
 
 }  // namespace lv::python

@@ -78,8 +78,8 @@ py::object restored(std::size_t id, const py::dict& state) {
 void addElement(const py::module_& module) {
     py::class_<Element, ElementPtr>(module, "Element", "What all elements of documents have in Python.")
         .def(py::init(&fresh), py::arg("id"))
-        .def("_value", [](const Element& self, std::size_t index,
-                          bool raw) { return valueOf(self, index, numbersOf(raw)); })
+        .def("_value",
+             [](const Element& self, std::size_t index, bool raw) { return valueOf(self, index, numbersOf(raw)); })
         .def("_set_value", [](Element& self, std::size_t index, const py::object& value,
                               bool raw) { setValue(self, index, value, numbersOf(raw)); })
         .def("_child", &childAt)
@@ -99,9 +99,10 @@ void addRows(const py::module_& module) {
         .def("id", [](const RowList& self) { return self.layout->id; })
         .def("at", [](const RowList& self, std::size_t index) { return wrapped(rowAt(self, index)); })
         .def("replace", &replaceRows)
-        .def("equals", [](const RowList& self, const RowList& other) {
-            return areEqual(Slot(std::make_shared<RowList>(self)), Slot(std::make_shared<RowList>(other)));
-        })
+        .def("equals",
+             [](const RowList& self, const RowList& other) {
+                 return areEqual(Slot(std::make_shared<RowList>(self)), Slot(std::make_shared<RowList>(other)));
+             })
         .def("column", [](const RowList& self, std::size_t index, std::size_t length, bool raw) {
             return columnOf(self, index, length, numbersOf(raw));
         });
@@ -121,9 +122,12 @@ void addRecords(py::module_& module) {
     module.def("meaning", &meaningOf, py::arg("id"), py::arg("index"));
     module.def("set_class", &setClass, py::arg("id"), py::arg("type"));
     module.def("restored", &restored, py::arg("id"), py::arg("state"));
-    module.def("new_rows", [](std::size_t id) {
-        return std::make_shared<RowList>(RowList{layouts().at(id).get(), {}});
-    }, py::arg("id"));
+    module.def(
+        "new_rows",
+        [](std::size_t id) {
+            return std::make_shared<RowList>(RowList{layouts().at(id).get(), {}});
+        },
+        py::arg("id"));
     module.def("closest", &closestOf, py::arg("word"), py::arg("words"));
     module.def("loads", &loads, py::arg("text"));
     module.def("load", &load, py::arg("path"));

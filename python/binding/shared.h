@@ -2,9 +2,6 @@
 
 #include <lvdata/analysis/Catalogue.h>
 
-#include <memory>
-#include <string>
-
 #include <pybind11/pybind11.h>
 
 // What the sources of the compiled part share.
@@ -13,13 +10,9 @@ namespace lv::python {
 /// The one catalogue of the module, made when it is first needed. Never changes.
 [[nodiscard]] const analysis::Catalogue& catalogue();
 
-/// The record of a document. Needs the GIL and releases it while it parses; raises `lvdata.ParseError`.
-[[nodiscard]] std::unique_ptr<DataObject> recordOf(const std::string& text);
-
 /// Each adds a part of the module.
 void addRecords(pybind11::module_& module);
 void addTables(pybind11::module_& module);
 void addAnalysis(pybind11::module_& module);
-void addFleet(pybind11::module_& module);
 
 }  // namespace lv::python

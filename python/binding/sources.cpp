@@ -41,7 +41,7 @@ void refuseExcess(const std::string& text, const std::string& file) {
 }
 
 std::unique_ptr<DataObject> recordIn(const std::string& text, const std::string& file) {
-    analysis::LoadedRecord loaded = analysis::loadText(text);
+    analysis::LoadedRecord loaded = analysis::loadText(text, catalogue());
     if (!loaded) {
         throw ParseFailure{loaded.result.reason, loaded.result.line, file};
     }

@@ -39,8 +39,8 @@ public:
         if (text.facts().place != Description::Place::text) {
             return childAt(element, *member.shape);
         }
-        return childAt(&text == member.shape || text.parent() == element.shape ? element : childAt(element, *member.shape),
-                       text);
+        return childAt(
+            &text == member.shape || text.parent() == element.shape ? element : childAt(element, *member.shape), text);
     }
 
 private:

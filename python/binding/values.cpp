@@ -1,7 +1,8 @@
+#include "values.h"
 #include "element_record.h"
+#include "failures.h"
 #include "numbers.h"
 #include "texts.h"
-#include "values.h"
 
 #include <lvdata/analysis/content.h>
 #include <lvdata/analysis/natural_values.h>
@@ -75,7 +76,7 @@ std::string textFor(const Member& member, const py::handle& value) {
     if (PyUnicode_Check(value.ptr()) == 0) {
         throw py::type_error("text expected, not " + shortRepr(value));
     }
-    std::string text = bytesOf(value);
+    std::string text = asBytes(value);
     const std::string bad = analysis::whatXMLCannotCarry(text, facts.place);
     if (!bad.empty()) {
         throw py::value_error("XML cannot carry " + bad);
@@ -151,7 +152,7 @@ py::object valueOf(const Element& element, std::size_t index, Numbers numbers) {
     }
     const Content content = element.layout().members[index].text->facts().content;
     if (content == Content::string || content == Content::none) {
-        return strOf(*text);
+        return asText(*text);
     }
     if (content == Content::boolean) {
         return text->empty() ? py::object(py::none()) : py::bool_(*text == "true");
@@ -189,25 +190,6 @@ py::object columnOf(const RowList& rows, std::size_t index, std::size_t length, 
         return columnWith<std::int32_t>(rows, index, length, 0, numbers);
     }
     return columnWith<std::uint32_t>(rows, index, length, 0, numbers);
-}
-
-py::str strOf(std::string_view bytes) {
-    PyObject* const text =
-        PyUnicode_DecodeUTF8(bytes.data(), static_cast<Py_ssize_t>(bytes.size()), "surrogateescape");
-    if (text == nullptr) {
-        throw py::error_already_set();
-    }
-    return py::reinterpret_steal<py::str>(text);
-}
-
-std::string bytesOf(const py::handle& text) {
-    const auto bytes =
-        py::reinterpret_steal<py::bytes>(PyUnicode_AsEncodedString(text.ptr(), "utf-8", "surrogateescape"));
-    if (!bytes) {
-        PyErr_Clear();
-        throw py::value_error("text that UTF-8 can carry expected, not a single surrogate");
-    }
-    return bytes;
 }
 
 }  // namespace lv::python

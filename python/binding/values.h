@@ -22,14 +22,10 @@ void setValue(Element& element, std::size_t index, const pybind11::handle& value
 /// Clears a place, or gives it the value of a fresh element if it is always written.
 void clear(Element& element, std::size_t index);
 
-/// The arrays of one member of all rows as one array of NumPy, a line for each row; numbers give one column. Natural ones are
-/// float64 with NaN where a row has none; raw ones are integers, with 0.
+/// The arrays of one member of all rows as one array of NumPy, a line for each row; numbers give one column. Natural
+/// ones are float64 with NaN where a row has none; raw ones are integers, with 0.
 ///
 /// \param length  the entries of each array: longer ones are cut
 [[nodiscard]] pybind11::object columnOf(const RowList& rows, std::size_t index, std::size_t length, Numbers numbers);
-
-/// Text from and to bytes that may not be UTF-8: each other byte is one surrogate (PEP 383).
-[[nodiscard]] pybind11::str strOf(std::string_view bytes);
-[[nodiscard]] std::string bytesOf(const pybind11::handle& text);
 
 }  // namespace lv::python

@@ -18,7 +18,3 @@ class ParseError(ValueError):
         line = "" if self.line is None else f"line {self.line}: "
         path = "" if self.path is None else f"{self.path}: "
         return f"{file}{line}{path}{self.reason}"
-
-    def in_file(self, file: str) -> ParseError:
-        """The same error with the name of the file."""
-        return ParseError(self.reason, self.line, file, self.path)

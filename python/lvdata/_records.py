@@ -7,7 +7,6 @@ import warnings
 
 from . import _fields, _lvdata
 from ._elements import Element, Group, RawView, Record
-from ._errors import ParseError
 from ._rows import Rows
 
 TYPE_CHECKING = False
@@ -117,10 +116,7 @@ def loads(text: str | bytes) -> Any:
 
 def load(path: str | os.PathLike[str]) -> Any:
     """The record of an XML document in a file. Raises OSError, or ParseError with the name of the file."""
-    try:
-        return _lvdata.load(os.fsencode(path))
-    except ParseError as error:
-        raise error.in_file(os.fsdecode(path)) from None
+    return _lvdata.load(os.fsencode(path))
 
 
 def from_json(text: str | bytes) -> Any:

@@ -58,8 +58,7 @@ void keepHLGSystemGamma(const std::string& text, ParsedDocument& document, DataO
     }
 }
 
-LoadResult readInto(DataObject& record, const std::string& text, ParsedDocument& document,
-                    const Catalogue* catalogue) {
+LoadResult readInto(DataObject& record, const std::string& text, ParsedDocument& document, const Catalogue* catalogue) {
     LoadResult result = resultOf(document.read(record));
     if (result) {
         keepHLGSystemGamma(text, document, record, catalogue);

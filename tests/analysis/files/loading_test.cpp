@@ -143,4 +143,13 @@ TEST(Load, KeepsTheHLGSystemGammaOfADocumentThatHasIt) {
     EXPECT_NE(record.toXMLString(false, false).find("<HLGSystemGamma>120<"), std::string::npos);
 }
 
+TEST(Load, WithACatalogueGivesTheSame) {
+    const lv::analysis::Catalogue catalogue;
+    const std::string with = "<!-- --><ParameterSetting><Gamma><HLGSystemGamma/></Gamma></ParameterSetting>";
+    EXPECT_TRUE(loadText(with, catalogue).record->writeHLGSystemGamma);
+    EXPECT_FALSE(loadText("<AssetInfo><HLGSystemGamma/></AssetInfo>", catalogue).record->writeHLGSystemGamma);
+    EXPECT_EQ(loadText("<a>", catalogue).result.message(), loadText("<a>").result.message());
+    EXPECT_EQ(lv::analysis::load("missing.xml", catalogue).result.outcome, Outcome::notReadable);
+}
+
 }  // namespace
