@@ -38,12 +38,15 @@ Picture::Picture(const PictureForm& form, double height, const PictureTexts& tex
     : svg_(form.shared),
       id_(form.shared == nullptr ? form.id : "lv") {
     const std::string size = svg::coordinateText(pictureWidth) + ' ' + svg::coordinateText(height);
-    svg_.open("svg", {{"xmlns", "http://www.w3.org/2000/svg"},
-                      {"class", "lv-picture " + form.id},
-                      {"role", "img"},
-                      {"viewBox", "0 0 " + size},
-                      {"width", pictureWidth},
-                      {"height", height}});
+    svg::Attributes attributes{{"class", "lv-picture " + form.id},
+                               {"role", "img"},
+                               {"viewBox", "0 0 " + size},
+                               {"width", pictureWidth},
+                               {"height", height}};
+    if (!svg_.isForPage()) {
+        attributes.insert(attributes.begin(), {"xmlns", "http://www.w3.org/2000/svg"});
+    }
+    svg_.open("svg", attributes);
     const std::string subtitle = svg::cleaned(texts.subtitle);
     svg_.text("title", {}, texts.title + (subtitle.empty() ? "" : ": " + subtitle));
     svg_.text("desc", {}, svg::cleaned(texts.description));

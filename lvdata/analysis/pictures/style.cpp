@@ -41,7 +41,7 @@ constexpr std::string_view rules = R"(
 .lv-parts{position:absolute}
 .lv-paper{fill:@paper}
 .lv-title{font-size:15px;font-weight:600}
-.lv-sub,.lv-note,.lv-tick{fill:@muted}
+.lv-sub,.lv-note,.lv-tick,.lv-label{fill:@muted}
 .lv-tick,.lv-note,.lv-value{font-size:11px}
 .lv-label,.lv-reason,.lv-key{font-size:12px}
 .lv-grid{fill:none;stroke:@grid;stroke-width:1}
@@ -49,11 +49,12 @@ constexpr std::string_view rules = R"(
 .lv-zero{stroke:@axis;stroke-width:1.5}
 .lv-halo{paint-order:stroke;stroke:@paper;stroke-width:3px;stroke-linejoin:round}
 .lv-band{fill:@band}
-.lv-cells rect{stroke:@paper;stroke-width:1}
-.lv-quiet,.lv-cells text{pointer-events:none}
+.lv-cells rect,.lv-cells path{stroke:@paper;stroke-width:1}
+.lv-quiet{pointer-events:none}
 .lv-under{stroke:@paper;stroke-width:3.5}
 .lv-hover{stroke:#000;stroke-opacity:0}
 .lv-line{fill:none;stroke:currentColor;stroke-width:2;stroke-linejoin:round}
+.lv-marks{fill:none}
 .lv-thin{stroke-width:1.5}
 .lv-stroke{fill:none;stroke:currentColor;stroke-width:2.5}
 .lv-mark{fill:currentColor;stroke:@paper;stroke-width:1}

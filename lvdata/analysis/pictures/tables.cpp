@@ -57,8 +57,7 @@ std::string described(std::size_t channel, const std::vector<double>& table) {
 void addCurves(svg::SVGWriter& svg, const svg::Panel& panel, const Tables& tables,
                std::vector<svg::Point> (*valuesOf)(const std::vector<double>&)) {
     for (std::size_t channel = 0; channel < tables.size(); ++channel) {
-        svg::addPolyline(svg, panel.inside(valuesOf(tables[channel])),
-                         {channelLooks[channel].line, described(channel, tables[channel])});
+        svg::addPolyline(svg, panel.inside(valuesOf(tables[channel])), {channelLooks[channel].line, ""});
     }
 }
 

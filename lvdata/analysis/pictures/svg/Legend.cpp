@@ -40,7 +40,7 @@ double addEntry(SVGWriter& svg, const Point& at, double width, const LegendEntry
 }  // namespace
 
 void addLegendColumn(SVGWriter& svg, const Point& at, double width, const std::vector<LegendEntry>& entries) {
-    SVGWriter part;
+    SVGWriter part = svg.newPart();
     double y = at.y;
     for (const LegendEntry& entry : entries) {
         addEntry(part, {at.x, y}, width, entry);
@@ -50,7 +50,7 @@ void addLegendColumn(SVGWriter& svg, const Point& at, double width, const std::v
 }
 
 void addLegendRow(SVGWriter& svg, const Point& at, double width, const std::vector<LegendEntry>& entries) {
-    SVGWriter part;
+    SVGWriter part = svg.newPart();
     double x = at.x;
     for (const LegendEntry& entry : entries) {
         const double left = at.x + width - x;

@@ -10,30 +10,34 @@ constexpr double tickGap = 8;   // from the frame to the label of a tick
 constexpr double baseline = 4;  // from the middle of a line of text to where its letters stand
 constexpr double lineHeight = 16;
 
-/// Grid lines are one path for each direction.
-void addGrid(SVGWriter& svg, const Panel& panel, const Axis& horizontal, const Axis& vertical) {
-    const Box& box = panel.box();
-    std::string path;
-    for (const Tick& tick : horizontal.ticks) {
-        path += 'M' + coordinateText(panel.horizontal().at(tick.value)) + ' ' + coordinateText(box.top) + 'v' +
-                coordinateText(box.height);
-    }
-    for (const Tick& tick : vertical.ticks) {
-        path += 'M' + coordinateText(box.left) + ' ' + coordinateText(panel.vertical().at(tick.value)) + 'h' +
-                coordinateText(box.width);
-    }
+/// All grid lines of one direction, which are one path.
+void addGrid(SVGWriter& svg, const std::string& path) {
     if (!path.empty()) {
         svg.empty("path", {{"class", "lv-grid"}, {"d", path}});
     }
 }
 
-void addHorizontalTexts(SVGWriter& svg, const Panel& panel, const Axis& axis) {
+/// The numbers of an axis, whose anchor their group has.
+void openNumbers(SVGWriter& svg, std::string_view anchor) {
+    svg.open("g", {{"class", "lv-tick"}, {"text-anchor", anchor}});
+}
+
+void addHorizontalAxis(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     const Box& box = panel.box();
-    const double numbers = box.bottom() + lineHeight;
+    std::string lines;
     for (const Tick& tick : axis.ticks) {
-        if (axis.hasNumbers) {
-            addText(svg, {panel.horizontal().at(tick.value), numbers}, "", Anchor::middle, tick.label);
+        lines += 'M' + coordinateText(panel.horizontal().at(tick.value)) + ' ' + coordinateText(box.top) + 'v' +
+                 coordinateText(box.height);
+    }
+    addGrid(svg, lines);
+    addBox(svg, box, {"lv-frame", ""});
+    const double numbers = box.bottom() + lineHeight;
+    if (axis.hasNumbers) {
+        openNumbers(svg, "middle");
+        for (const Tick& tick : axis.ticks) {
+            addText(svg, {panel.horizontal().at(tick.value), numbers}, "", Anchor::start, tick.label);
         }
+        svg.close();
     }
     if (!axis.label.empty()) {
         const Point place{box.left + box.width / 2, numbers + lineHeight + 2};
@@ -41,12 +45,21 @@ void addHorizontalTexts(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     }
 }
 
-void addVerticalTexts(SVGWriter& svg, const Panel& panel, const Axis& axis) {
+void addVerticalAxis(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     const Box& box = panel.box();
+    std::string lines;
     for (const Tick& tick : axis.ticks) {
-        if (axis.hasNumbers) {
-            addText(svg, {box.left - tickGap, panel.vertical().at(tick.value) + baseline}, "", Anchor::end, tick.label);
+        lines += 'M' + coordinateText(box.left) + ' ' + coordinateText(panel.vertical().at(tick.value)) + 'h' +
+                 coordinateText(box.width);
+    }
+    addGrid(svg, lines);
+    if (axis.hasNumbers) {
+        openNumbers(svg, "end");
+        for (const Tick& tick : axis.ticks) {
+            addText(svg, {box.left - tickGap, panel.vertical().at(tick.value) + baseline}, "", Anchor::start,
+                    tick.label);
         }
+        svg.close();
     }
     if (!axis.label.empty()) {
         addText(svg, {box.left, box.top - tickGap}, "lv-label", Anchor::start, axis.label);
@@ -79,14 +92,12 @@ std::vector<Point> Panel::inside(const std::vector<Point>& values) const {
 }
 
 void addAxes(SVGWriter& svg, const Panel& panel, const Axis& horizontal, const Axis& vertical) {
-    SVGWriter part;
-    addGrid(part, panel, horizontal, vertical);
-    addBox(part, panel.box(), {"lv-frame", ""});
-    part.open("g", {{"class", "lv-tick"}});
-    addHorizontalTexts(part, panel, horizontal);
-    addVerticalTexts(part, panel, vertical);
-    part.close();
-    svg.share(part);
+    SVGWriter up = svg.newPart();
+    addVerticalAxis(up, panel, vertical);
+    svg.share(up);
+    SVGWriter across = svg.newPart();
+    addHorizontalAxis(across, panel, horizontal);  // with the frame, which covers the ends of all lines
+    svg.share(across);
 }
 
 void addLevel(SVGWriter& svg, const Panel& panel, double value, std::string_view classes) {

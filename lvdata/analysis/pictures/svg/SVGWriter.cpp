@@ -19,22 +19,29 @@ void SVGWriter::start(std::string_view name, const Attributes& attributes) {
     }
 }
 
+void SVGWriter::end(std::string_view mark) {
+    document_ += mark;
+    if (!isForPage()) {
+        document_ += '\n';
+    }
+}
+
 void SVGWriter::open(std::string_view name, const Attributes& attributes) {
     start(name, attributes);
-    document_ += ">\n";
+    end(">");
     open_.push_back(name);
 }
 
 void SVGWriter::close() {
     document_ += "</";
     document_ += open_.back();
-    document_ += ">\n";
+    end(">");
     open_.pop_back();
 }
 
 void SVGWriter::empty(std::string_view name, const Attributes& attributes) {
     start(name, attributes);
-    document_ += "/>\n";
+    end("/>");
 }
 
 void SVGWriter::text(std::string_view name, const Attributes& attributes, std::string_view content) {
@@ -43,7 +50,7 @@ void SVGWriter::text(std::string_view name, const Attributes& attributes, std::s
     document_ += escaped(content);
     document_ += "</";
     document_ += name;
-    document_ += ">\n";
+    end(">");
 }
 
 void SVGWriter::titled(std::string_view name, const Attributes& attributes, std::string_view title) {
@@ -54,11 +61,19 @@ void SVGWriter::titled(std::string_view name, const Attributes& attributes, std:
     start(name, attributes);
     document_ += "><title>" + escaped(title) + "</title></";
     document_ += name;
-    document_ += ">\n";
+    end(">");
 }
 
 void SVGWriter::share(const SVGWriter& part) {
     document_ += shared_ == nullptr ? part.document_ : shared_->use(part.document_);
+}
+
+void SVGWriter::define(const SVGWriter& part) {
+    if (shared_ == nullptr) {
+        document_ += part.document_;
+    } else {
+        shared_->define(part.document_);
+    }
 }
 
 void SVGWriter::style(std::string_view sheet) {

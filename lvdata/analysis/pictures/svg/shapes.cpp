@@ -3,6 +3,7 @@
 #include <lvdata/analysis/pictures/svg/text.h>
 #include <lvdata/analysis/pictures/svg/thinning.h>
 
+#include <cmath>
 #include <utility>
 
 namespace lv::analysis::svg {
@@ -17,17 +18,46 @@ void addShape(SVGWriter& svg, std::string_view name, Attributes attributes, cons
     svg.titled(name, attributes, look.title);
 }
 
-std::string joined(const std::vector<Point>& points) {
-    std::string text;
-    for (const Point& point : points) {
-        text += text.empty() ? "" : " ";
-        text += coordinateText(point.x) + ',' + coordinateText(point.y);
-    }
-    return text;
-}
-
 std::string startingAt(const Point& start, std::string_view steps) {
     return 'M' + coordinateText(start.x) + ' ' + coordinateText(start.y) + std::string(steps);
+}
+
+double rounded(double coordinate) {
+    return std::round(coordinate * 10) / 10;
+}
+
+/// The numbers of a step, with a blank before those that would run into what stands before.
+void appendStep(std::string& path, const std::vector<double>& numbers, bool isSeparate) {
+    for (const double number : numbers) {
+        const std::string text = coordinateText(number);
+        path += isSeparate || text.front() == '-' ? text : ' ' + text;
+        isSeparate = false;
+    }
+}
+
+/// A line through all points in steps from one to the next. Each point is rounded before, so that errors do not add up.
+std::string pathThrough(const std::vector<Point>& points) {
+    Point last{rounded(points.front().x), rounded(points.front().y)};
+    std::string path = startingAt(last, points.size() == 1 ? "h0" : "");
+    char lastCommand = 'M';
+    for (std::size_t index = 1; index < points.size(); ++index) {
+        const Point next{rounded(points[index].x), rounded(points[index].y)};
+        const char command = next.y == last.y ? 'h' : next.x == last.x ? 'v' : 'l';
+        if (command != lastCommand) {
+            path += command;
+        }
+        std::vector<double> numbers;
+        if (command != 'v') {
+            numbers.push_back(next.x - last.x);
+        }
+        if (command != 'h') {
+            numbers.push_back(next.y - last.y);
+        }
+        appendStep(path, numbers, command != lastCommand);
+        last = next;
+        lastCommand = command;
+    }
+    return path;
 }
 
 /// The path of a symbol. That of a circle is a point, which a round cap of the class "lv-dots" makes one.
@@ -48,23 +78,34 @@ std::string pathOf(const Point& at, Symbol symbol) {
 }  // namespace
 
 void addLine(SVGWriter& svg, const Point& from, const Point& to, const Look& look) {
-    addShape(svg, "line", {{"x1", from.x}, {"y1", from.y}, {"x2", to.x}, {"y2", to.y}}, look);
+    addShape(svg, "path", {{"d", pathThrough({from, to})}}, look);
 }
 
 void addPolyline(SVGWriter& svg, const std::vector<Point>& points, const Look& look) {
     if (points.size() > 1) {
-        addShape(svg, "polyline", {{"points", joined(thinned(points))}}, look);
+        addShape(svg, "path", {{"d", pathThrough(thinned(points))}}, look);
     }
 }
 
 void addPolygon(SVGWriter& svg, const std::vector<Point>& points, const Look& look) {
     if (points.size() > 2) {
-        addShape(svg, "polygon", {{"points", joined(points)}}, look);
+        addShape(svg, "path", {{"d", pathThrough(points) + 'z'}}, look);
     }
 }
 
 void addBox(SVGWriter& svg, const Box& box, const Look& look) {
     addShape(svg, "rect", {{"x", box.left}, {"y", box.top}, {"width", box.width}, {"height", box.height}}, look);
+}
+
+void addBoxes(SVGWriter& svg, const std::vector<Box>& boxes, std::string_view classes) {
+    std::string path;
+    for (const Box& box : boxes) {
+        const std::string width = coordinateText(box.width);
+        path += startingAt({box.left, box.top}, 'h' + width + 'v' + coordinateText(box.height) + "h-" + width + 'z');
+    }
+    if (!path.empty()) {
+        svg.empty("path", {{"class", classes}, {"d", path}});
+    }
 }
 
 void addSymbol(SVGWriter& svg, const Point& at, Symbol symbol, const Look& look) {
@@ -83,6 +124,26 @@ void addSymbols(SVGWriter& svg, const std::vector<Point>& points, Symbol symbol,
     if (!path.empty()) {
         const std::string_view more = symbol == Symbol::circle ? "lv-dots " : "";
         svg.empty("path", {{"class", std::string(more) + std::string(classes)}, {"d", path}});
+    }
+}
+
+void addMarker(SVGWriter& svg, const std::string& id, Symbol symbol, std::string_view classes) {
+    const Point middle{radius + 1, radius + 1};
+    SVGWriter part = svg.newPart();
+    part.open("marker", {{"id", id},
+                         {"markerUnits", "userSpaceOnUse"},
+                         {"refX", middle.x},
+                         {"refY", middle.y},
+                         {"overflow", "visible"}});
+    addSymbols(part, {middle}, symbol, classes);
+    part.close();
+    svg.define(part);
+}
+
+void addMarkedLine(SVGWriter& svg, const std::vector<Point>& points, const std::string& marker,
+                   std::string_view classes) {
+    if (!points.empty()) {
+        svg.empty("path", {{"class", classes}, {"style", "marker:url(#" + marker + ')'}, {"d", pathThrough(points)}});
     }
 }
 

@@ -33,11 +33,21 @@ void addPolygon(SVGWriter& svg, const std::vector<Point>& points, const Look& lo
 /// A rectangle.
 void addBox(SVGWriter& svg, const Box& box, const Look& look);
 
+/// Several rectangles, as one path.
+void addBoxes(SVGWriter& svg, const std::vector<Box>& boxes, std::string_view classes);
+
 /// A symbol around a point.
 void addSymbol(SVGWriter& svg, const Point& at, Symbol symbol, const Look& look);
 
 /// The same symbol around each of several points, as one path.
 void addSymbols(SVGWriter& svg, const std::vector<Point>& points, Symbol symbol, std::string_view classes);
+
+/// Defines a symbol for `addMarkedLine`, by an id that nothing else in the document has.
+void addMarker(SVGWriter& svg, const std::string& id, Symbol symbol, std::string_view classes);
+
+/// A line through all points, not thinned, with the symbol of that id at each.
+void addMarkedLine(SVGWriter& svg, const std::vector<Point>& points, const std::string& marker,
+                   std::string_view classes);
 
 /// A text. It is not shortened: see `shortened`.
 void addText(SVGWriter& svg, const Point& at, std::string_view classes, Anchor anchor, std::string_view text);

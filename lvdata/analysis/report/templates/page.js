@@ -10,6 +10,30 @@
   };
   each(document, ".switch button", (button) => button.addEventListener("click", () => showPlane(button.dataset.plane)));
 
+  // Texts for hover are data: one on each line, without the words that are the same as in the text before.
+  const spelledOut = (lines) => {
+    let words = [];
+    return lines.split("\n").map((line) => {
+      words = line ? line.split(" ").map((word, index) => word || words[index]) : words;
+      return line && words.join(" ");
+    });
+  };
+  const addTo = (parent, name) => parent.appendChild(document.createElementNS("http://www.w3.org/2000/svg", name));
+  const addHoverCells = (group) => {
+    const [left, top, width, height, columns, rows] = group.dataset.grid.split(" ").map(Number);
+    const [cellWidth, cellHeight] = [width / columns, height / rows];
+    group.setAttribute("stroke-width", cellWidth);
+    spelledOut(group.dataset.texts).forEach((text, index) => {
+      if (text) {
+        const [x, y] = [left + (index % columns + 0.5) * cellWidth, top + Math.floor(index / columns) * cellHeight];
+        const cell = addTo(group, "path");
+        cell.setAttribute("d", `M${x} ${y}v${cellHeight}`);
+        addTo(cell, "title").textContent = text;
+      }
+    });
+  };
+  each(document, ".lv-hover", addHoverCells);
+
   // Values of a picture: under the pointer, or by the arrow keys while the picture has the focus.
   const valuesOf = (svg) => [...svg.querySelectorAll("title")].map((title) => title.parentNode).filter((e) => e !== svg);
   const textOf = (element) => [...element.children].find((child) => child.tagName === "title").textContent;
@@ -23,13 +47,7 @@
     readout.className = "readout";
     let current = -1;
     const show = (index) => {
-      if (current >= 0) {
-        values[current].classList.remove("is-current");
-      }
       current = index;
-      if (index >= 0) {
-        values[index].classList.add("is-current");
-      }
       readout.textContent = index >= 0 ? textOf(values[index]) : "";
     };
     const hint = () => {
