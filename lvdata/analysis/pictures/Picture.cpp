@@ -37,10 +37,10 @@ std::vector<std::string> wrapped(const std::string& text, double width) {
 Picture::Picture(const PictureForm& form, double height, const PictureTexts& texts)
     : svg_(form.shared),
       id_(form.shared == nullptr ? form.id : "lv") {
-    const std::string size = svg::coordinateText(pictureWidth) + ' ' + svg::coordinateText(height);
+    const std::string size = svg::coordinateText(pictureWidth) + ',' + svg::coordinateText(height);
     svg::Attributes attributes{{"class", "lv-picture " + form.id},
                                {"role", "img"},
-                               {"viewBox", "0 0 " + size},
+                               {"viewBox", "0,0," + size},
                                {"width", pictureWidth},
                                {"height", height}};
     if (!svg_.isForPage()) {
@@ -61,7 +61,9 @@ Picture::Picture(const PictureForm& form, double height, const PictureTexts& tex
     svg::addText(svg_, {margin, titleLine}, "lv-title", svg::Anchor::start, shownTitle);
     if (!subtitle.empty()) {
         const std::string shown = svg::shortened(subtitle, width, textFontSize);
-        svg::addText(svg_, {margin, subtitleLine}, "lv-sub", svg::Anchor::start, shown);
+        svg::SVGWriter part = svg_.newPart();  // the same in all pictures of a mode
+        svg::addText(part, {margin, subtitleLine}, "lv-sub", svg::Anchor::start, shown);
+        svg_.share(part);
     }
 }
 

@@ -1,5 +1,6 @@
 #include <lvdata/analysis/pictures/hover.h>
 
+#include <lvdata/analysis/pictures/svg/shapes.h>
 #include <lvdata/analysis/pictures/svg/text.h>
 
 #include <algorithm>
@@ -30,14 +31,14 @@ struct Grid {
     [[nodiscard]] std::string pathAt(std::size_t cell) const {
         const double left = box.left + (static_cast<double>(cell % columns) + 0.5) * width;
         const double top = box.top + static_cast<double>(cell / columns) * height;
-        return 'M' + svg::coordinateText(left) + ' ' + svg::coordinateText(top) + 'v' + svg::coordinateText(height);
+        return svg::startOfPath({left, top}) + 'v' + svg::coordinateText(height);
     }
 
     /// Its box, columns and rows, for the script of a page.
     [[nodiscard]] std::string text() const {
-        return svg::coordinateText(box.left) + ' ' + svg::coordinateText(box.top) + ' ' +
-               svg::coordinateText(box.width) + ' ' + svg::coordinateText(box.height) + ' ' +
-               std::to_string(columns) + ' ' + std::to_string(rows);
+        return svg::coordinateText(box.left) + ',' + svg::coordinateText(box.top) + ',' +
+               svg::coordinateText(box.width) + ',' + svg::coordinateText(box.height) + ',' +
+               std::to_string(columns) + ',' + std::to_string(rows);
     }
 };
 

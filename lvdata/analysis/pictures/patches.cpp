@@ -131,9 +131,9 @@ void addBars(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<Pat
     for (std::size_t index = 0; index < runs.size(); ++index) {
         if (const PatchFigures* const greatest = greatestOf(patches, runs[index])) {
             const double value = *differenceOf(*greatest);
-            const std::string x = svg::coordinateText(box.left + (static_cast<double>(index) + 0.5) * step);
-            (allowed && value > *allowed ? over : within) += 'M' + x + ' ' + svg::coordinateText(box.bottom()) + 'V' +
-                                                             svg::coordinateText(panel.vertical().at(value));
+            const svg::Point foot{box.left + (static_cast<double>(index) + 0.5) * step, box.bottom()};
+            (allowed && value > *allowed ? over : within) +=
+                svg::startOfPath(foot) + 'V' + svg::coordinateText(panel.vertical().at(value));
         }
     }
     const double width = std::min(step * 0.8, 40.0);

@@ -103,23 +103,25 @@ const Colour& colourNamed(std::string_view name) {
     return colours.front();
 }
 
-/// "fill:@ink" becomes "fill:#1f2328;fill:var(--lv-ink)": programs that do not know custom properties take the first.
-std::string declaration(std::string_view text) {
+/// "fill:@ink" becomes "fill:#1f2328;fill:var(--lv-ink)": programs that do not know custom properties take the first,
+/// which browsers do not need.
+std::string declaration(std::string_view text, bool isForPage) {
     const std::size_t at = text.find('@');
     if (at == std::string_view::npos) {
         return std::string(text);
     }
     const Colour& colour = colourNamed(text.substr(at + 1));
     const std::string property(text.substr(0, at));
-    return property + std::string(colour.light) + ';' + property + "var(--lv-" + std::string(colour.name) + ')';
+    const std::string plain = isForPage ? "" : property + std::string(colour.light) + ';';
+    return plain + property + "var(--lv-" + std::string(colour.name) + ')';
 }
 
 /// The text with each declaration, which ends at ";" or "}", written in that way.
-std::string expanded(std::string_view text) {
+std::string expanded(std::string_view text, bool isForPage) {
     std::string result;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find_first_of("{;}"), text.size() - 1);
-        result += declaration(text.substr(0, end));
+        result += declaration(text.substr(0, end), isForPage);
         result += text[end];
         text.remove_prefix(end + 1);
     }
@@ -136,11 +138,19 @@ std::string rampRules() {
     return text;
 }
 
+std::string styleFor(bool isForPage) {
+    return '\n' + properties(false) + "@media screen and (prefers-color-scheme:dark){\n" + properties(true) + "}" +
+           expanded(rules, isForPage) + rampRules();
+}
+
 }  // namespace
 
 std::string pictureStyle() {
-    return '\n' + properties(false) + "@media screen and (prefers-color-scheme:dark){\n" + properties(true) + "}" +
-           expanded(rules) + rampRules();
+    return styleFor(false);
+}
+
+std::string pictureStyleForPage() {
+    return styleFor(true);
 }
 
 }  // namespace lv::analysis

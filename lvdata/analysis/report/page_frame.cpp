@@ -9,7 +9,7 @@ namespace lv::analysis {
 View pageFrame(std::string_view title) {
     return View::Members{
         {"title", shortened(title, 120)},         {"style", pageStyle()},
-        {"picture_style", pictureStyle()},        {"script", pageScript()},
+        {"picture_style", pictureStyleForPage()},        {"script", pageScript()},
         {"script_hash", LVDATA_PAGE_SCRIPT_HASH},
     };
 }

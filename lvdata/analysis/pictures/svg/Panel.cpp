@@ -26,8 +26,7 @@ void addHorizontalAxis(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     const Box& box = panel.box();
     std::string lines;
     for (const Tick& tick : axis.ticks) {
-        lines += 'M' + coordinateText(panel.horizontal().at(tick.value)) + ' ' + coordinateText(box.top) + 'v' +
-                 coordinateText(box.height);
+        lines += startOfPath({panel.horizontal().at(tick.value), box.top}) + 'v' + coordinateText(box.height);
     }
     addGrid(svg, lines);
     addBox(svg, box, {"lv-frame", ""});
@@ -49,8 +48,7 @@ void addVerticalAxis(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     const Box& box = panel.box();
     std::string lines;
     for (const Tick& tick : axis.ticks) {
-        lines += 'M' + coordinateText(box.left) + ' ' + coordinateText(panel.vertical().at(tick.value)) + 'h' +
-                 coordinateText(box.width);
+        lines += startOfPath({box.left, panel.vertical().at(tick.value)}) + 'h' + coordinateText(box.width);
     }
     addGrid(svg, lines);
     if (axis.hasNumbers) {

@@ -15,8 +15,15 @@ void SVGWriter::start(std::string_view name, const Attributes& attributes) {
     for (const Attribute& attribute : attributes) {
         document_ += ' ';
         document_ += attribute.name;
-        document_ += "=\"" + escaped(attribute.value) + '"';
+        document_ += '=' + written(attribute.value);
     }
+}
+
+/// In a page, a value needs quotes only for what HTML does not take without them.
+std::string SVGWriter::written(const std::string& value) const {
+    constexpr std::string_view plain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789.,:;-_#%()";
+    const bool needsQuotes = !isForPage() || value.empty() || value.find_first_not_of(plain) != std::string::npos;
+    return needsQuotes ? '"' + escaped(value) + '"' : value;
 }
 
 void SVGWriter::end(std::string_view mark) {
@@ -41,7 +48,7 @@ void SVGWriter::close() {
 
 void SVGWriter::empty(std::string_view name, const Attributes& attributes) {
     start(name, attributes);
-    end("/>");
+    end(document_.back() == '"' ? "/>" : " />");  // a slash would belong to a value without quotes
 }
 
 void SVGWriter::text(std::string_view name, const Attributes& attributes, std::string_view content) {

@@ -66,6 +66,7 @@ public:
 
 private:
     void start(std::string_view name, const Attributes& attributes);
+    [[nodiscard]] std::string written(const std::string& value) const;
     void end(std::string_view mark);
 
     SharedParts* shared_;

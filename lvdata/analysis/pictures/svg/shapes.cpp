@@ -18,19 +18,15 @@ void addShape(SVGWriter& svg, std::string_view name, Attributes attributes, cons
     svg.titled(name, attributes, look.title);
 }
 
-std::string startingAt(const Point& start, std::string_view steps) {
-    return 'M' + coordinateText(start.x) + ' ' + coordinateText(start.y) + std::string(steps);
-}
-
 double rounded(double coordinate) {
     return std::round(coordinate * 10) / 10;
 }
 
-/// The numbers of a step, with a blank before those that would run into what stands before.
+/// The numbers of a step, with a comma before those that would run into what stands before.
 void appendStep(std::string& path, const std::vector<double>& numbers, bool isSeparate) {
     for (const double number : numbers) {
         const std::string text = coordinateText(number);
-        path += isSeparate || text.front() == '-' ? text : ' ' + text;
+        path += isSeparate || text.front() == '-' ? text : ',' + text;
         isSeparate = false;
     }
 }
@@ -38,7 +34,7 @@ void appendStep(std::string& path, const std::vector<double>& numbers, bool isSe
 /// A line through all points in steps from one to the next. Each point is rounded before, so that errors do not add up.
 std::string pathThrough(const std::vector<Point>& points) {
     Point last{rounded(points.front().x), rounded(points.front().y)};
-    std::string path = startingAt(last, points.size() == 1 ? "h0" : "");
+    std::string path = startOfPath(last) + (points.size() == 1 ? "h0" : "");
     char lastCommand = 'M';
     for (std::size_t index = 1; index < points.size(); ++index) {
         const Point next{rounded(points[index].x), rounded(points[index].y)};
@@ -64,18 +60,22 @@ std::string pathThrough(const std::vector<Point>& points) {
 std::string pathOf(const Point& at, Symbol symbol) {
     switch (symbol) {
     case Symbol::cross:
-        return startingAt({at.x - radius, at.y - radius}, "l8 8m0-8l-8 8");
+        return startOfPath({at.x - radius, at.y - radius}) + "l8,8m0-8l-8,8";
     case Symbol::square:
-        return startingAt({at.x - radius, at.y - radius}, "h8v8h-8z");
+        return startOfPath({at.x - radius, at.y - radius}) + "h8v8h-8z";
     case Symbol::diamond:
-        return startingAt({at.x, at.y - radius - 1}, "l5 5l-5 5l-5-5z");
+        return startOfPath({at.x, at.y - radius - 1}) + "l5,5l-5,5l-5-5z";
     case Symbol::circle:
         break;
     }
-    return startingAt(at, "h0");
+    return startOfPath(at) + "h0";
 }
 
 }  // namespace
+
+std::string startOfPath(const Point& at) {
+    return 'M' + coordinateText(at.x) + ',' + coordinateText(at.y);
+}
 
 void addLine(SVGWriter& svg, const Point& from, const Point& to, const Look& look) {
     addShape(svg, "path", {{"d", pathThrough({from, to})}}, look);
@@ -101,7 +101,7 @@ void addBoxes(SVGWriter& svg, const std::vector<Box>& boxes, std::string_view cl
     std::string path;
     for (const Box& box : boxes) {
         const std::string width = coordinateText(box.width);
-        path += startingAt({box.left, box.top}, 'h' + width + 'v' + coordinateText(box.height) + "h-" + width + 'z');
+        path += startOfPath({box.left, box.top}) + 'h' + width + 'v' + coordinateText(box.height) + "h-" + width + 'z';
     }
     if (!path.empty()) {
         svg.empty("path", {{"class", classes}, {"d", path}});

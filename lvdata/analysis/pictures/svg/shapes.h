@@ -21,6 +21,10 @@ enum class Symbol { circle, cross, square, diamond };
 /// How a text stands to its point.
 enum class Anchor { start, middle, end };
 
+/// How a path begins at a point: "M60,374.5". Commas, not blanks, stand between the numbers of paths, so that pages need
+/// no quotes around them.
+[[nodiscard]] std::string startOfPath(const Point& at);
+
 /// A straight line.
 void addLine(SVGWriter& svg, const Point& from, const Point& to, const Look& look);
 

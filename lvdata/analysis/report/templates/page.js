@@ -20,7 +20,7 @@
   };
   const addTo = (parent, name) => parent.appendChild(document.createElementNS("http://www.w3.org/2000/svg", name));
   const addHoverCells = (group) => {
-    const [left, top, width, height, columns, rows] = group.dataset.grid.split(" ").map(Number);
+    const [left, top, width, height, columns, rows] = group.dataset.grid.split(",").map(Number);
     const [cellWidth, cellHeight] = [width / columns, height / rows];
     group.setAttribute("stroke-width", cellWidth);
     spelledOut(group.dataset.texts).forEach((text, index) => {
