@@ -32,21 +32,27 @@ std::vector<std::string> wrapped(const std::string& text, double width) {
     return lines;
 }
 
+/// In a page, which is HTML, the style sheet says how large pictures are.
+svg::Attributes forPage(svg::Attributes attributes) {
+    attributes.insert(attributes.begin(), {"class", "lv-picture"});
+    return attributes;
+}
+
+svg::Attributes forFile(svg::Attributes attributes, const std::string& id, double height) {
+    attributes.insert(attributes.begin(), {"class", "lv-picture " + id});
+    attributes.insert(attributes.begin(), {"xmlns", "http://www.w3.org/2000/svg"});
+    attributes.insert(attributes.end(), {{"width", pictureWidth}, {"height", height}});
+    return attributes;
+}
+
 }  // namespace
 
 Picture::Picture(const PictureForm& form, double height, const PictureTexts& texts)
     : svg_(form.shared),
       id_(form.shared == nullptr ? form.id : "lv") {
     const std::string size = svg::coordinateText(pictureWidth) + ',' + svg::coordinateText(height);
-    svg::Attributes attributes{{"class", "lv-picture " + form.id},
-                               {"role", "img"},
-                               {"viewBox", "0,0," + size},
-                               {"width", pictureWidth},
-                               {"height", height}};
-    if (!svg_.isForPage()) {
-        attributes.insert(attributes.begin(), {"xmlns", "http://www.w3.org/2000/svg"});
-    }
-    svg_.open("svg", attributes);
+    const svg::Attributes attributes{{"role", "img"}, {"viewBox", "0,0," + size}};
+    svg_.open("svg", svg_.isForPage() ? forPage(attributes) : forFile(attributes, form.id, height));
     const std::string subtitle = svg::cleaned(texts.subtitle);
     svg_.text("title", {}, texts.title + (subtitle.empty() ? "" : ": " + subtitle));
     svg_.text("desc", {}, svg::cleaned(texts.description));

@@ -25,8 +25,12 @@ std::string_view pageStyle() {
     return embedded::report_templates::page_css;
 }
 
-std::string_view pageScript() {
-    return embedded::report_templates::page_js;
+PageScript reportScript() {
+    return {embedded::report_templates::report_js, LVDATA_REPORT_SCRIPT_HASH};
+}
+
+PageScript fleetScript() {
+    return {embedded::report_templates::fleet_js, LVDATA_FLEET_SCRIPT_HASH};
 }
 
 }  // namespace lv::analysis

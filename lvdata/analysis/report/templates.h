@@ -12,7 +12,16 @@ namespace lv::analysis {
 /// The style sheet of pages.
 [[nodiscard]] std::string_view pageStyle();
 
-/// The script of pages.
-[[nodiscard]] std::string_view pageScript();
+/// A script of a page.
+struct PageScript {
+    std::string_view text;  ///< The script.
+    std::string_view hash;  ///< What a Content-Security-Policy calls it by.
+};
+
+/// The script of the report of a monitor.
+[[nodiscard]] PageScript reportScript();
+
+/// The script of the page about several monitors.
+[[nodiscard]] PageScript fleetScript();
 
 }  // namespace lv::analysis

@@ -34,7 +34,7 @@ struct Axes {
     /// The pixel of a label of the horizontal or vertical axis.
     static double tick(const ParsedPicture& picture, const std::string& label, bool isHorizontal) {
         for (const Element& text : picture.all("text", "lv-tick")) {
-            const bool isMiddle = text.attributes.at("text-anchor") == "middle";
+            const bool isMiddle = text.anchor == "middle";
             if (text.text == label && isMiddle == isHorizontal) {
                 return isHorizontal ? text.number("x") : text.number("y") - 4;  // letters stand below the middle
             }

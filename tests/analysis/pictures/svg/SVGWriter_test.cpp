@@ -27,5 +27,5 @@ TEST(Shapes, NeedEnoughPoints) {
     addPolygon(svg, {{1, 1}, {2, 2}}, {});
     EXPECT_EQ(svg.document(), "");
     addPolyline(svg, {{1, 1}, {2, 2}}, {"lv-line", "A line"});
-    EXPECT_EQ(svg.document(), "<polyline class=\"lv-line\" points=\"1,1 2,2\"><title>A line</title></polyline>\n");
+    EXPECT_EQ(svg.document(), "<path class=\"lv-line\" d=\"M1,1l1,1\"><title>A line</title></path>\n");
 }
