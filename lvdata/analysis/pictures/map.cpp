@@ -229,7 +229,7 @@ void addFoot(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
     svg.open("g", {{"class", "lv-cells"}});
     for (std::size_t step = 0; step < rampSteps; ++step) {
         const svg::Box box{rampLeft + static_cast<double>(step) * stepWidth, y, stepWidth, 12};
-        svg::addBox(svg, box, {"lv-r" + std::to_string(step), ""});
+        svg::addBoxes(svg, {box}, "lv-r" + std::to_string(step));
     }
     svg.close();
     const double rampRight = rampLeft + static_cast<double>(rampSteps) * stepWidth;

@@ -49,7 +49,7 @@ constexpr std::string_view rules = R"(
 .lv-zero{stroke:@axis;stroke-width:1.5}
 .lv-halo{paint-order:stroke;stroke:@paper;stroke-width:3px;stroke-linejoin:round}
 .lv-band{fill:@band}
-.lv-cells rect,.lv-cells path{stroke:@paper;stroke-width:1}
+.lv-cells path{stroke:@paper;stroke-width:1}
 .lv-quiet{pointer-events:none}
 .lv-under{stroke:@paper;stroke-width:3.5}
 .lv-hover{stroke:#000;stroke-opacity:0}

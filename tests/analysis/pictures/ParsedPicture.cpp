@@ -37,8 +37,16 @@ std::string classOf(const Element& element) {
     return found == element.attributes.end() ? "" : found->second;
 }
 
+/// How far an element moves what it holds down.
+double downOf(const Element& element) {
+    constexpr std::string_view start = "translate(0,";
+    const auto found = element.attributes.find("transform");
+    const bool isMoved = found != element.attributes.end() && found->second.rfind(start, 0) == 0;
+    return element.down + (isMoved ? leadingNumber(found->second.substr(start.size())) : 0);
+}
+
 void collect(const xmlNode* node, const Element& group, std::vector<Element>& elements) {
-    Element element{textOf(node->name), {}, ownText(node), "", classOf(group), group.anchor};
+    Element element{textOf(node->name), {}, ownText(node), "", classOf(group), group.anchor, downOf(group)};
     for (const xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next) {
         element.attributes[textOf(attribute->name)] = attributeOf(node, attribute);
     }
@@ -150,6 +158,14 @@ bool Element::hasClass(const std::string& className) const {
 }
 
 std::vector<Point> Element::points() const {
+    std::vector<Point> points = ownPoints();
+    for (Point& point : points) {
+        point.y += down;
+    }
+    return points;
+}
+
+std::vector<Point> Element::ownPoints() const {
     if (name == "rect" && attributes.count("x") > 0) {
         const Point start{number("x"), number("y")};
         return {start, {start.x + number("width"), start.y + number("height")}};
@@ -158,7 +174,7 @@ std::vector<Point> Element::points() const {
         return {{number("cx"), number("cy")}};
     }
     if (name == "text") {
-        return {{number("x"), number("y")}};
+        return {{number("x"), attributes.count("y") > 0 ? number("y") : 0}};
     }
     if (name == "path") {
         return pointsOf(attributes.at("d"));

@@ -21,6 +21,8 @@ struct Element {
     std::string groupClass{};                         ///< The classes of the element that holds it.
     std::string anchor{};                             ///< Its `text-anchor`, or that of the element that holds it.
 
+    double down = 0;                                  ///< How far the elements that hold it move it down.
+
     /// A number of its attributes; fails the test where there is none.
     [[nodiscard]] double number(const std::string& attribute) const;
 
@@ -29,6 +31,9 @@ struct Element {
 
     /// All points that its attributes name; of a path, those where it begins and all ends of its steps.
     [[nodiscard]] std::vector<analysis::svg::Point> points() const;
+
+private:
+    [[nodiscard]] std::vector<analysis::svg::Point> ownPoints() const;
 };
 
 /// A picture as an outside parser reads it.

@@ -36,7 +36,7 @@ struct Axes {
         for (const Element& text : picture.all("text", "lv-tick")) {
             const bool isMiddle = text.anchor == "middle";
             if (text.text == label && isMiddle == isHorizontal) {
-                return isHorizontal ? text.number("x") : text.number("y") - 4;  // letters stand below the middle
+                return isHorizontal ? text.points()[0].x : text.points()[0].y - 4;  // letters stand below the middle
             }
         }
         ADD_FAILURE() << "no tick " << label;

@@ -57,7 +57,7 @@ TEST(MapPicture, HasACellForEachEntry) {
 
 TEST(MapPicture, HasNumbersInTheCells) {
     const ParsedPicture picture(mapPicture(sampleMap()));
-    EXPECT_EQ(picture.all("text", "lv-r0t").size(), 4U);  // 91 and 92, each with its deviation
+    EXPECT_EQ(picture.all("text", "lv-r0t").size(), 8U);  // 91 and 92 stand in four cells, each with its deviation
     EXPECT_TRUE(picture.says("92"));
     EXPECT_TRUE(picture.says("-8.0 %"));
 }

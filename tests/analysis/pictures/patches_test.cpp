@@ -59,7 +59,7 @@ TEST(PatchesPicture, HasBarsAsHighAsTheDifferences) {
     EXPECT_NEAR(bars[2], 4 * bars[0], 0.4);
     EXPECT_EQ(bars[3], 0);
     const Element frame = picture.only("rect", "lv-frame");
-    EXPECT_NEAR(picture.only("path", "lv-bars").points()[0].y, frame.number("y") + frame.number("height"), 0.06);
+    EXPECT_NEAR(picture.only("path", "lv-bars").points()[0].y, frame.points()[0].y + frame.number("height"), 0.06);
 }
 
 TEST(PatchesPicture, JoinsManyPatchesAndKeepsTheGreatest) {

@@ -22,46 +22,59 @@ void openNumbers(SVGWriter& svg, std::string_view anchor) {
     svg.open("g", {{"class", "lv-tick"}, {"text-anchor", anchor}});
 }
 
-void addHorizontalAxis(SVGWriter& svg, const Panel& panel, const Axis& axis) {
+/// The vertical lines and the frame, as if the panel began at the top of the picture.
+void addVerticalLines(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     const Box& box = panel.box();
     std::string lines;
     for (const Tick& tick : axis.ticks) {
-        lines += startOfPath({panel.horizontal().at(tick.value), box.top}) + 'v' + coordinateText(box.height);
+        lines += startOfPath({panel.horizontal().at(tick.value), 0}) + 'v' + coordinateText(box.height);
     }
     addGrid(svg, lines);
-    addBox(svg, box, {"lv-frame", ""});
-    const double numbers = box.bottom() + lineHeight;
-    if (axis.hasNumbers) {
-        openNumbers(svg, "middle");
-        for (const Tick& tick : axis.ticks) {
-            addText(svg, {panel.horizontal().at(tick.value), numbers}, "", Anchor::start, tick.label);
-        }
-        svg.close();
+    addBox(svg, {box.left, 0, box.width, box.height}, {"lv-frame", ""});
+}
+
+/// The numbers below a panel, at the top of the picture.
+void addNumbersBelow(SVGWriter& svg, const Panel& panel, const Axis& axis) {
+    openNumbers(svg, "middle");
+    for (const Tick& tick : axis.ticks) {
+        addText(svg, {panel.horizontal().at(tick.value), 0}, "", Anchor::start, tick.label);
     }
-    if (!axis.label.empty()) {
-        const Point place{box.left + box.width / 2, numbers + lineHeight + 2};
-        addText(svg, place, "lv-label", Anchor::middle, axis.label);
+    svg.close();
+}
+
+/// The horizontal lines with their numbers, as if the panel began at the top of the picture.
+void addHorizontalLines(SVGWriter& svg, const Panel& panel, const Axis& axis) {
+    const Box& box = panel.box();
+    std::string lines;
+    for (const Tick& tick : axis.ticks) {
+        lines += startOfPath({box.left, panel.vertical().at(tick.value) - box.top}) + 'h' + coordinateText(box.width);
+    }
+    addGrid(svg, lines);
+    openNumbers(svg, "end");
+    for (const Tick& tick : axis.ticks) {
+        const double y = panel.vertical().at(tick.value) - box.top + baseline;
+        addText(svg, {box.left - tickGap, y}, "", Anchor::start, tick.label);
+    }
+    svg.close();
+}
+
+void addLabels(SVGWriter& svg, const Panel& panel, const std::string& across, const std::string& up) {
+    const Box& box = panel.box();
+    if (!across.empty()) {
+        const Point below{box.left + box.width / 2, box.bottom() + 2 * lineHeight + 2};
+        addText(svg, below, "lv-label", Anchor::middle, across);
+    }
+    if (!up.empty()) {
+        addText(svg, {box.left, box.top - tickGap}, "lv-label", Anchor::start, up);
     }
 }
 
-void addVerticalAxis(SVGWriter& svg, const Panel& panel, const Axis& axis) {
-    const Box& box = panel.box();
-    std::string lines;
-    for (const Tick& tick : axis.ticks) {
-        lines += startOfPath({box.left, panel.vertical().at(tick.value)}) + 'h' + coordinateText(box.width);
-    }
-    addGrid(svg, lines);
-    if (axis.hasNumbers) {
-        openNumbers(svg, "end");
-        for (const Tick& tick : axis.ticks) {
-            addText(svg, {box.left - tickGap, panel.vertical().at(tick.value) + baseline}, "", Anchor::start,
-                    tick.label);
-        }
-        svg.close();
-    }
-    if (!axis.label.empty()) {
-        addText(svg, {box.left, box.top - tickGap}, "lv-label", Anchor::start, axis.label);
-    }
+/// Draws a part of an axis as a part of its own.
+void addPart(SVGWriter& svg, const Panel& panel, const Axis& axis, double top,
+             void (*draw)(SVGWriter&, const Panel&, const Axis&)) {
+    SVGWriter part = svg.newPart();
+    draw(part, panel, axis);
+    svg.share(part, top);
 }
 
 }  // namespace
@@ -90,12 +103,12 @@ std::vector<Point> Panel::inside(const std::vector<Point>& values) const {
 }
 
 void addAxes(SVGWriter& svg, const Panel& panel, const Axis& horizontal, const Axis& vertical) {
-    SVGWriter up = svg.newPart();
-    addVerticalAxis(up, panel, vertical);
-    svg.share(up);
-    SVGWriter across = svg.newPart();
-    addHorizontalAxis(across, panel, horizontal);  // with the frame, which covers the ends of all lines
-    svg.share(across);
+    addPart(svg, panel, vertical, panel.box().top, addHorizontalLines);
+    addPart(svg, panel, horizontal, panel.box().top, addVerticalLines);
+    if (horizontal.hasNumbers) {
+        addPart(svg, panel, horizontal, panel.box().bottom() + lineHeight, addNumbersBelow);
+    }
+    addLabels(svg, panel, horizontal.label, vertical.label);
 }
 
 void addLevel(SVGWriter& svg, const Panel& panel, double value, std::string_view classes) {

@@ -71,8 +71,18 @@ void SVGWriter::titled(std::string_view name, const Attributes& attributes, std:
     end(">");
 }
 
-void SVGWriter::share(const SVGWriter& part) {
-    document_ += shared_ == nullptr ? part.document_ : shared_->use(part.document_);
+void SVGWriter::share(const SVGWriter& part, double down) {
+    const std::string by = coordinateText(down);
+    if (isForPage()) {
+        const std::string id = '#' + shared_->idOf(part.document_);
+        empty("use", down == 0 ? Attributes{{"href", id}} : Attributes{{"href", id}, {"y", by}});
+    } else if (down == 0) {
+        document_ += part.document_;
+    } else {
+        open("g", {{"transform", "translate(0," + by + ')'}});
+        document_ += part.document_;
+        close();
+    }
 }
 
 void SVGWriter::define(const SVGWriter& part) {

@@ -52,8 +52,8 @@ public:
     /// element.
     void titled(std::string_view name, const Attributes& attributes, std::string_view title);
 
-    /// What another writer has written, as a part that other pictures of the page may have, too.
-    void share(const SVGWriter& part);
+    /// What another writer has written, moved down, as a part that other pictures of the page may have, too.
+    void share(const SVGWriter& part, double down = 0);
 
     /// The same for what is never drawn itself, such as a marker.
     void define(const SVGWriter& part);

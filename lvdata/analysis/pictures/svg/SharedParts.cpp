@@ -2,12 +2,12 @@
 
 namespace lv::analysis::svg {
 
-std::string SharedParts::use(const std::string& part) {
+std::string SharedParts::idOf(const std::string& part) {
     const auto [entry, isNew] = ids_.emplace(part, "lv-" + std::to_string(ids_.size() + 1));
     if (isNew) {
-        definitions_ += "<g id=\"" + entry->second + "\">" + part + "</g>\n";
+        definitions_ += "<g id=" + entry->second + ">" + part + "</g>\n";
     }
-    return "<use href=\"#" + entry->second + "\"/>";
+    return entry->second;
 }
 
 void SharedParts::define(const std::string& part) {

@@ -9,8 +9,8 @@ namespace lv::analysis::svg {
 /// Parts that several pictures of one page have in common. Each picture refers to them, and the page holds them once.
 class SharedParts {
 public:
-    /// The element "use" for a part, which is remembered.
-    [[nodiscard]] std::string use(const std::string& part);
+    /// The id of a part, which is remembered.
+    [[nodiscard]] std::string idOf(const std::string& part);
 
     /// Remembers a part that is never drawn itself.
     void define(const std::string& part);

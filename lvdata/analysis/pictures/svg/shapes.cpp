@@ -31,7 +31,27 @@ void appendStep(std::string& path, const std::vector<double>& numbers, bool isSe
     }
 }
 
-/// A line through all points in steps from one to the next. Each point is rounded before, so that errors do not add up.
+/// The path of a symbol. That of a circle is a point, which a round cap of the class "lv-dots" makes one.
+std::string pathOf(const Point& at, Symbol symbol) {
+    switch (symbol) {
+    case Symbol::cross:
+        return startOfPath({at.x - radius, at.y - radius}) + "l8,8m0-8l-8,8";
+    case Symbol::square:
+        return startOfPath({at.x - radius, at.y - radius}) + "h8v8h-8z";
+    case Symbol::diamond:
+        return startOfPath({at.x, at.y - radius - 1}) + "l5,5l-5,5l-5-5z";
+    case Symbol::circle:
+        break;
+    }
+    return startOfPath(at) + "h0";
+}
+
+}  // namespace
+
+std::string startOfPath(const Point& at) {
+    return 'M' + coordinateText(at.x) + ',' + coordinateText(at.y);
+}
+
 std::string pathThrough(const std::vector<Point>& points) {
     Point last{rounded(points.front().x), rounded(points.front().y)};
     std::string path = startOfPath(last) + (points.size() == 1 ? "h0" : "");
@@ -54,27 +74,6 @@ std::string pathThrough(const std::vector<Point>& points) {
         lastCommand = command;
     }
     return path;
-}
-
-/// The path of a symbol. That of a circle is a point, which a round cap of the class "lv-dots" makes one.
-std::string pathOf(const Point& at, Symbol symbol) {
-    switch (symbol) {
-    case Symbol::cross:
-        return startOfPath({at.x - radius, at.y - radius}) + "l8,8m0-8l-8,8";
-    case Symbol::square:
-        return startOfPath({at.x - radius, at.y - radius}) + "h8v8h-8z";
-    case Symbol::diamond:
-        return startOfPath({at.x, at.y - radius - 1}) + "l5,5l-5,5l-5-5z";
-    case Symbol::circle:
-        break;
-    }
-    return startOfPath(at) + "h0";
-}
-
-}  // namespace
-
-std::string startOfPath(const Point& at) {
-    return 'M' + coordinateText(at.x) + ',' + coordinateText(at.y);
 }
 
 void addLine(SVGWriter& svg, const Point& from, const Point& to, const Look& look) {
@@ -106,6 +105,25 @@ void addBoxes(SVGWriter& svg, const std::vector<Box>& boxes, std::string_view cl
     if (!path.empty()) {
         svg.empty("path", {{"class", classes}, {"d", path}});
     }
+}
+
+void addBars(SVGWriter& svg, const std::vector<Point>& heads, double foot, double width, std::string_view classes) {
+    if (heads.empty()) {
+        return;
+    }
+    const double bottom = rounded(foot);
+    Point last{rounded(heads.front().x), bottom};
+    std::string path = startOfPath(last);
+    for (const Point& point : heads) {
+        const Point head{rounded(point.x), rounded(point.y)};
+        if (&point != &heads.front()) {
+            path += 'm';
+            appendStep(path, {head.x - last.x, bottom - last.y}, true);
+        }
+        path += 'v' + coordinateText(head.y - bottom);
+        last = head;
+    }
+    svg.empty("path", {{"class", classes}, {"stroke-width", width}, {"d", path}});
 }
 
 void addSymbol(SVGWriter& svg, const Point& at, Symbol symbol, const Look& look) {
@@ -148,7 +166,10 @@ void addMarkedLine(SVGWriter& svg, const std::vector<Point>& points, const std::
 }
 
 void addText(SVGWriter& svg, const Point& at, std::string_view classes, Anchor anchor, std::string_view text) {
-    Attributes attributes{{"x", at.x}, {"y", at.y}};
+    Attributes attributes{{"x", at.x}};
+    if (at.y != 0) {
+        attributes.emplace_back("y", at.y);
+    }
     if (!classes.empty()) {
         attributes.insert(attributes.begin(), {"class", classes});
     }

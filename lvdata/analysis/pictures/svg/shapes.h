@@ -25,6 +25,10 @@ enum class Anchor { start, middle, end };
 /// no quotes around them.
 [[nodiscard]] std::string startOfPath(const Point& at);
 
+/// The path through all points, which are not none, in steps from one to the next. Each point is rounded before, so that
+/// errors do not add up.
+[[nodiscard]] std::string pathThrough(const std::vector<Point>& points);
+
 /// A straight line.
 void addLine(SVGWriter& svg, const Point& from, const Point& to, const Look& look);
 
@@ -39,6 +43,9 @@ void addBox(SVGWriter& svg, const Box& box, const Look& look);
 
 /// Several rectangles, as one path.
 void addBoxes(SVGWriter& svg, const std::vector<Box>& boxes, std::string_view classes);
+
+/// Bars of that width from a height up to each point, as one path. Nothing without points.
+void addBars(SVGWriter& svg, const std::vector<Point>& heads, double foot, double width, std::string_view classes);
 
 /// A symbol around a point.
 void addSymbol(SVGWriter& svg, const Point& at, Symbol symbol, const Look& look);
