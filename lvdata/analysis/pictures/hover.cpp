@@ -37,8 +37,8 @@ struct Grid {
     /// Its box, columns and rows, for the script of a page.
     [[nodiscard]] std::string text() const {
         return svg::coordinateText(box.left) + ',' + svg::coordinateText(box.top) + ',' +
-               svg::coordinateText(box.width) + ',' + svg::coordinateText(box.height) + ',' +
-               std::to_string(columns) + ',' + std::to_string(rows);
+               svg::coordinateText(box.width) + ',' + svg::coordinateText(box.height) + ',' + std::to_string(columns) +
+               ',' + std::to_string(rows);
     }
 };
 
@@ -96,8 +96,7 @@ void addHoverCells(svg::SVGWriter& svg, const svg::Box& box, std::size_t columns
                    const std::vector<std::string>& texts) {
     const Grid grid(box, columns, texts.size());
     if (svg.isForPage()) {
-        svg.empty("g",
-                  {{"class", "lv-hover"}, {"data-grid", grid.text()}, {"data-texts", withoutRepetitions(texts)}});
+        svg.empty("g", {{"class", "lv-hover"}, {"data-grid", grid.text()}, {"data-texts", withoutRepetitions(texts)}});
         return;
     }
     svg.open("g", {{"class", "lv-hover"}, {"stroke-width", grid.width}});

@@ -27,7 +27,8 @@ struct HoverText {
 
 /// Cells of equal size over the box in so many columns, one for each text, in rows; none for empty texts. In a page
 /// they are data, of which its script makes the cells.
-void addHoverCells(svg::SVGWriter& svg, const svg::Box& box, std::size_t columns, const std::vector<std::string>& texts);
+void addHoverCells(svg::SVGWriter& svg, const svg::Box& box, std::size_t columns,
+                   const std::vector<std::string>& texts);
 
 /// One row of such cells.
 void addHoverColumns(svg::SVGWriter& svg, const svg::Box& box, const std::vector<std::string>& texts);

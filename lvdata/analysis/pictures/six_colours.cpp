@@ -76,7 +76,8 @@ void addBars(svg::SVGWriter& svg, const svg::Panel& panel, const Group& group, s
     for (std::size_t colour = 0; colour < colourNames.size(); ++colour) {
         const double end = panel.vertical().at(group[member]->values[colour]);
         const double left = centreOf(panel, group, member, colour) - width / 2;
-        path += svg::startOfPath({left, zero}) + 'V' + svg::coordinateText(end) + 'h' + svg::coordinateText(width) + 'V' + svg::coordinateText(zero) + 'z';
+        path += svg::startOfPath({left, zero}) + 'V' + svg::coordinateText(end) + 'h' + svg::coordinateText(width) +
+                'V' + svg::coordinateText(zero) + 'z';
     }
     svg.titled("path", {{"class", looksOf(*group[member])}, {"d", path}}, listed(*group[member]));
 }

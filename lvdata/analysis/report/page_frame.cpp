@@ -7,11 +7,8 @@ namespace lv::analysis {
 
 View pageFrame(std::string_view title, const PageScript& script) {
     return View::Members{
-        {"title", shortened(title, 120)},
-        {"style", pageStyle()},
-        {"picture_style", pictureStyleForPage()},
-        {"script", script.text},
-        {"script_hash", script.hash},
+        {"title", shortened(title, 120)}, {"style", pageStyle()},       {"picture_style", pictureStyleForPage()},
+        {"script", script.text},          {"script_hash", script.hash},
     };
 }
 

@@ -18,7 +18,10 @@ namespace {
 
 /// The paths of cells, which are not those of the ramp below.
 std::vector<Element> steps(const ParsedPicture& picture) {
-    return picture.all("path", "lv-cells");
+    constexpr std::size_t stepsOfRamp = 9;
+    std::vector<Element> paths = picture.all("path", "lv-cells");
+    paths.resize(paths.size() - stepsOfRamp);
+    return paths;
 }
 
 /// Whether the class is that of the cell with this upper left corner.

@@ -44,7 +44,7 @@ TEST(TonePicture, HasEachStepInBothPanels) {
     const ParsedPicture picture(tonePicture(halfAndFull()));
     const auto found = marked(picture);
     ASSERT_EQ(found.size(), 2U);
-    EXPECT_EQ(found[0].points().size(), 2U);  // of light
+    EXPECT_EQ(found[0].points().size(), 2U);                             // of light
     EXPECT_EQ(found[1].points().front().x, found[1].points().back().x);  // of gamma: one step
     const std::vector<std::string> texts{"50.0 %: light 25.00 %, target 21.76 %, gamma 2.00",
                                          "100.0 %: light 100.00 %, target 100.00 %"};
