@@ -42,13 +42,64 @@ struct Grid {
     }
 };
 
+using Words = std::vector<std::string>;
+
 /// The words between blanks; several blanks count as one.
-std::vector<std::string> wordsOf(const std::string& text) {
-    std::vector<std::string> words;
+Words wordsOf(const std::string& text) {
+    Words words;
     for (std::size_t at = text.find_first_not_of(' '); at != std::string::npos; at = text.find_first_not_of(' ', at)) {
         const std::size_t end = std::min(text.find(' ', at), text.size());
         words.push_back(text.substr(at, end - at));
         at = end;
+    }
+    return words;
+}
+
+std::string joined(const Words& words) {
+    std::string text;
+    for (std::size_t index = 0; index < words.size(); ++index) {
+        text += (index > 0 ? " " : "") + words[index];
+    }
+    return text;
+}
+
+/// The words of two texts that are the same in both, with empty ones in place of others.
+Words common(const Words& left, const Words& right) {
+    Words words;
+    for (std::size_t index = 0; index < std::min(left.size(), right.size()); ++index) {
+        words.push_back(left[index] == right[index] ? left[index] : "");
+    }
+    return words;
+}
+
+/// The words that all texts have, with empty ones for gaps. None where a text would have nothing of its own.
+Words formOf(const std::vector<Words>& texts) {
+    Words form;
+    bool isFirst = true;
+    for (const Words& text : texts) {
+        if (!text.empty()) {
+            form = isFirst ? text : common(form, text);
+            isFirst = false;
+        }
+    }
+    return std::find(form.begin(), form.end(), "") == form.end() ? Words{} : form;
+}
+
+/// The words for the gaps of a form, and those after it.
+Words ownWords(const Words& text, const Words& form) {
+    Words own;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        if (index >= form.size() || form[index].empty()) {
+            own.push_back(text[index]);
+        }
+    }
+    return own;
+}
+
+/// The words with empty ones in place of those that stand there in the last text, too; the first word stays.
+Words changed(Words words, const Words& last) {
+    for (std::size_t index = 1; index < std::min(words.size(), last.size()); ++index) {
+        words[index] = words[index] == last[index] ? "" : words[index];
     }
     return words;
 }
@@ -78,16 +129,17 @@ std::vector<std::string> nearestTexts(const svg::Box& box, const std::vector<Hov
 }
 
 std::string withoutRepetitions(const std::vector<std::string>& texts) {
-    std::string lines;
-    std::vector<std::string> last;
+    std::vector<Words> all;
     for (const std::string& text : texts) {
-        const std::vector<std::string> words = wordsOf(text);
-        for (std::size_t index = 0; index < words.size(); ++index) {
-            const bool isRepeated = index > 0 && index < last.size() && words[index] == last[index];
-            lines += (index > 0 ? " " : "") + (isRepeated ? "" : words[index]);
-        }
-        lines += &text == &texts.back() ? "" : "\n";
-        last = words.empty() ? last : words;
+        all.push_back(wordsOf(text));
+    }
+    const Words form = formOf(all);
+    std::string lines = joined(form);
+    Words last;
+    for (const Words& text : all) {
+        const Words own = ownWords(text, form);
+        lines += '\n' + joined(changed(own, last));
+        last = own.empty() ? last : own;
     }
     return lines;
 }

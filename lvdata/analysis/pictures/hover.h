@@ -22,7 +22,9 @@ struct HoverText {
 /// One text for each column of the box, empty where none belongs to it: of several the one nearest to its middle.
 [[nodiscard]] std::vector<std::string> nearestTexts(const svg::Box& box, const std::vector<HoverText>& texts);
 
-/// Texts for hover, each with the words that are the same as in the text before left out; one on each line.
+/// Texts for hover without repetitions: a line with the words that all have, with gaps between blanks, and for each
+/// text a line with the words for the gaps and those that follow; of these, the ones that are the same as in the text
+/// before are left out.
 [[nodiscard]] std::string withoutRepetitions(const std::vector<std::string>& texts);
 
 /// Cells of equal size over the box in so many columns, one for each text, in rows; none for empty texts. In a page

@@ -10,12 +10,18 @@
   };
   each(document, ".switch button", (button) => button.addEventListener("click", () => showPlane(button.dataset.plane)));
 
-  // Texts for hover are data: one on each line, without the words that are the same as in the text before.
-  const spelledOut = (lines) => {
-    let words = [];
-    return lines.split("\n").map((line) => {
-      words = line ? line.split(" ").map((word, index) => word || words[index]) : words;
-      return line && words.join(" ");
+  // Texts for hover are data: a line with the words that all have, with gaps, then for each text a line with the words
+  // for the gaps and those that follow, without the ones that are the same as in the text before.
+  const spelledOut = (data) => {
+    const [form, ...lines] = data.split("\n").map((line) => line.split(" "));
+    let own = [];
+    return lines.map((line) => {
+      if (!line[0]) {
+        return "";
+      }
+      own = line.map((word, index) => word || own[index]);
+      const rest = [...own];
+      return [...form.map((word) => word || rest.shift()), ...rest].join(" ");
     });
   };
   const addTo = (parent, name) => parent.appendChild(document.createElementNS("http://www.w3.org/2000/svg", name));
