@@ -1,6 +1,7 @@
 #include <lvdata/analysis/pictures/Diagram.h>
 
 #include <lvdata/analysis/colour/temperature.h>
+#include <lvdata/analysis/pictures/svg/thinning.h>
 
 #include <array>
 #include <cmath>
@@ -104,7 +105,8 @@ void addSpectrumLocus(Diagram& diagram) {
     const std::string shape = idOf(diagram, "locus");
     diagram.svg.open("defs");
     diagram.svg.open("g", {{"id", shape}});
-    svg::addPolygon(diagram.svg, locus, {"", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
+    svg::addPolygon(diagram.svg, svg::simplified(locus, 0.15),
+                    {"", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
     diagram.svg.close();
     diagram.svg.close();
     addWash(diagram, shape);
