@@ -64,13 +64,18 @@ Picture::Picture(const PictureForm& form, double height, const PictureTexts& tex
     }
     const double width = pictureWidth - 2 * margin;
     const std::string shownTitle = svg::shortened(texts.title, width, titleFontSize);
-    svg::addText(svg_, {margin, titleLine}, "lv-title", svg::Anchor::start, shownTitle);
+    addSharedText({margin, titleLine}, "lv-title", shownTitle);
     if (!subtitle.empty()) {
         const std::string shown = svg::shortened(subtitle, width, textFontSize);
-        svg::SVGWriter part = svg_.newPart();  // the same in all pictures of a mode
-        svg::addText(part, {margin, subtitleLine}, "lv-sub", svg::Anchor::start, shown);
-        svg_.share(part);
+        addSharedText({margin, subtitleLine}, "lv-sub", shown);
     }
+}
+
+/// The title is the same in pictures of several modes, the subtitle in all pictures of a mode.
+void Picture::addSharedText(const svg::Point& at, std::string_view classes, const std::string& text) {
+    svg::SVGWriter part = svg_.newPart();
+    svg::addText(part, at, classes, svg::Anchor::start, text);
+    svg_.share(part);
 }
 
 std::string Picture::idOf(std::string_view part) const {
@@ -89,7 +94,7 @@ std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, con
     const double lineHeight = 17;
     double y = frame.top + 28;
     for (const std::string& line : wrapped("Nothing to show: " + svg::quotable(reason) + '.', frame.width - 40)) {
-        svg::addText(picture.svg(), {pictureWidth / 2, y}, "lv-reason", svg::Anchor::middle, line);
+        svg::addText(picture.svg(), {pictureWidth / 2, y}, "", svg::Anchor::middle, line);
         y += lineHeight;
     }
     return picture.finished();

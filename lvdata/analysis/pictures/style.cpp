@@ -43,13 +43,12 @@ constexpr std::string_view rules = R"(
 .lv-title{font-size:15px;font-weight:600}
 .lv-sub,.lv-note,.lv-tick,.lv-label{fill:@muted}
 .lv-tick,.lv-note,.lv-value{font-size:11px}
-.lv-label,.lv-reason,.lv-key{font-size:12px}
-.lv-grid{fill:none;stroke:@grid;stroke-width:1}
-.lv-frame{fill:none;stroke:@axis;stroke-width:1}
+.lv-grid{fill:none;stroke:@grid}
+.lv-frame{fill:none;stroke:@axis}
 .lv-zero{stroke:@axis;stroke-width:1.5}
 .lv-halo{paint-order:stroke;stroke:@paper;stroke-width:3px;stroke-linejoin:round}
 .lv-band{fill:@band}
-.lv-cells path{stroke:@paper;stroke-width:1}
+.lv-cells path{stroke:@paper}
 .lv-quiet{pointer-events:none}
 .lv-under{stroke:@paper;stroke-width:3.5}
 .lv-hover{stroke:#000;stroke-opacity:0}
@@ -57,19 +56,18 @@ constexpr std::string_view rules = R"(
 .lv-marks{fill:none}
 .lv-thin{stroke-width:1.5}
 .lv-stroke{fill:none;stroke:currentColor;stroke-width:2.5}
-.lv-mark{fill:currentColor;stroke:@paper;stroke-width:1}
+.lv-mark{fill:currentColor;stroke:@paper}
 .lv-mark.lv-dots{stroke:currentColor;stroke-width:7;stroke-linecap:round}
 .lv-bar{fill:currentColor}
 .lv-bars{fill:none;stroke:currentColor}
 .lv-open{fill:@paper;stroke:currentColor;stroke-width:2}
 .lv-ink{color:@ink}
 .lv-muted{color:@muted}
-.lv-axis{color:@axis}
 .lv-blue,.lv-measured{color:@blue}
 .lv-red,.lv-limit,.lv-over{color:@red}
 .lv-green{color:@green}
 .lv-purple{color:@purple}
-.lv-orange,.lv-target{color:@orange}
+.lv-target{color:@orange}
 .lv-line.lv-target{stroke-dasharray:7 3}
 .lv-line.lv-limit{stroke-dasharray:9 3 2 3}
 .lv-line.lv-green{stroke-dasharray:8 3}
@@ -150,7 +148,9 @@ std::string pictureStyle() {
 }
 
 std::string pictureStyleForPage() {
-    return styleFor(true);
+    std::string style = styleFor(true);
+    style.erase(std::remove(style.begin(), style.end(), '\n'), style.end());
+    return style;
 }
 
 }  // namespace lv::analysis

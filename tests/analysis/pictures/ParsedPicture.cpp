@@ -37,16 +37,25 @@ std::string classOf(const Element& element) {
     return found == element.attributes.end() ? "" : found->second;
 }
 
-/// How far an element moves what it holds down.
-double downOf(const Element& element) {
-    constexpr std::string_view start = "translate(0,";
+/// The number that follows that text in the transformation of an element; 0 where there is none.
+double movedBy(const Element& element, std::string_view start) {
     const auto found = element.attributes.find("transform");
     const bool isMoved = found != element.attributes.end() && found->second.rfind(start, 0) == 0;
-    return element.down + (isMoved ? leadingNumber(found->second.substr(start.size())) : 0);
+    return isMoved ? leadingNumber(found->second.substr(start.size())) : 0;
+}
+
+/// How far an element moves what it holds down, and to the right.
+double downOf(const Element& element) {
+    return element.down + movedBy(element, "translate(0,");
+}
+
+double acrossOf(const Element& element) {
+    return element.across + movedBy(element, "translate(");
 }
 
 void collect(const xmlNode* node, const Element& group, std::vector<Element>& elements) {
-    Element element{textOf(node->name), {}, ownText(node), "", classOf(group), group.anchor, downOf(group)};
+    Element element{textOf(node->name), {},           ownText(node), "",
+                    classOf(group),     group.anchor, downOf(group), acrossOf(group)};
     for (const xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next) {
         element.attributes[textOf(attribute->name)] = attributeOf(node, attribute);
     }
@@ -160,6 +169,7 @@ bool Element::hasClass(const std::string& className) const {
 std::vector<Point> Element::points() const {
     std::vector<Point> points = ownPoints();
     for (Point& point : points) {
+        point.x += across;
         point.y += down;
     }
     return points;
@@ -174,7 +184,7 @@ std::vector<Point> Element::ownPoints() const {
         return {{number("cx"), number("cy")}};
     }
     if (name == "text") {
-        return {{number("x"), attributes.count("y") > 0 ? number("y") : 0}};
+        return {{attributes.count("x") > 0 ? number("x") : 0, attributes.count("y") > 0 ? number("y") : 0}};
     }
     if (name == "path") {
         return pointsOf(attributes.at("d"));

@@ -21,7 +21,8 @@ struct Element {
     std::string groupClass{};                         ///< The classes of the element that holds it.
     std::string anchor{};                             ///< Its `text-anchor`, or that of the element that holds it.
 
-    double down = 0;  ///< How far the elements that hold it move it down.
+    double down = 0;    ///< How far the elements that hold it move it down.
+    double across = 0;  ///< How far they move it to the right.
 
     /// A number of its attributes; fails the test where there is none.
     [[nodiscard]] double number(const std::string& attribute) const;

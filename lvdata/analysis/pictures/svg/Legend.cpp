@@ -33,7 +33,7 @@ void addSample(SVGWriter& svg, const Point& at, const LegendEntry& entry) {
 double addEntry(SVGWriter& svg, const Point& at, double width, const LegendEntry& entry) {
     const std::string label = shortened(cleaned(entry.label), width - sampleWidth - gap, fontSize);
     addSample(svg, at, entry);
-    addText(svg, {at.x + sampleWidth + gap, at.y + baseline}, "lv-key", Anchor::start, label);
+    addText(svg, {at.x + sampleWidth + gap, at.y + baseline}, "", Anchor::start, label);
     return sampleWidth + gap + textWidth(label, fontSize);
 }
 

@@ -17,11 +17,6 @@ void addGrid(SVGWriter& svg, const std::string& path) {
     }
 }
 
-/// The numbers of an axis, whose anchor their group has.
-void openNumbers(SVGWriter& svg, std::string_view anchor) {
-    svg.open("g", {{"class", "lv-tick"}, {"text-anchor", anchor}});
-}
-
 /// The vertical lines and the frame, as if the panel began at the top of the picture.
 void addVerticalLines(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     const Box& box = panel.box();
@@ -35,7 +30,7 @@ void addVerticalLines(SVGWriter& svg, const Panel& panel, const Axis& axis) {
 
 /// The numbers below a panel, at the top of the picture.
 void addNumbersBelow(SVGWriter& svg, const Panel& panel, const Axis& axis) {
-    openNumbers(svg, "middle");
+    svg.open("g", {{"class", "lv-tick"}, {"text-anchor", "middle"}});
     for (const Tick& tick : axis.ticks) {
         addText(svg, {panel.horizontal().at(tick.value), 0}, "", Anchor::start, tick.label);
     }
@@ -50,22 +45,21 @@ void addHorizontalLines(SVGWriter& svg, const Panel& panel, const Axis& axis) {
         lines += startOfPath({box.left, panel.vertical().at(tick.value) - box.top}) + 'h' + coordinateText(box.width);
     }
     addGrid(svg, lines);
-    openNumbers(svg, "end");
+    const std::string toTheLeft = "translate(" + coordinateText(box.left - tickGap) + ')';
+    svg.open("g", {{"class", "lv-tick"}, {"text-anchor", "end"}, {"transform", toTheLeft}});
     for (const Tick& tick : axis.ticks) {
         const double y = panel.vertical().at(tick.value) - box.top + baseline;
-        addText(svg, {box.left - tickGap, y}, "", Anchor::start, tick.label);
+        addText(svg, {0, y}, "", Anchor::start, tick.label);
     }
     svg.close();
 }
 
-void addLabels(SVGWriter& svg, const Panel& panel, const std::string& across, const std::string& up) {
-    const Box& box = panel.box();
-    if (!across.empty()) {
-        const Point below{box.left + box.width / 2, box.bottom() + 2 * lineHeight + 2};
-        addText(svg, below, "lv-label", Anchor::middle, across);
-    }
-    if (!up.empty()) {
-        addText(svg, {box.left, box.top - tickGap}, "lv-label", Anchor::start, up);
+/// What an axis is called, as a part of its own.
+void addLabel(SVGWriter& svg, const Point& at, Anchor anchor, const std::string& label) {
+    if (!label.empty()) {
+        SVGWriter part = svg.newPart();
+        addText(part, {at.x, 0}, "lv-label", anchor, label);
+        svg.share(part, at.y);
     }
 }
 
@@ -108,7 +102,9 @@ void addAxes(SVGWriter& svg, const Panel& panel, const Axis& horizontal, const A
     if (horizontal.hasNumbers) {
         addPart(svg, panel, horizontal, panel.box().bottom() + lineHeight, addNumbersBelow);
     }
-    addLabels(svg, panel, horizontal.label, vertical.label);
+    const Box& box = panel.box();
+    addLabel(svg, {box.left + box.width / 2, box.bottom() + 2 * lineHeight + 2}, Anchor::middle, horizontal.label);
+    addLabel(svg, {box.left, box.top - tickGap}, Anchor::start, vertical.label);
 }
 
 void addLevel(SVGWriter& svg, const Panel& panel, double value, std::string_view classes) {

@@ -3,7 +3,7 @@
 namespace lv::analysis::svg {
 
 std::string SharedParts::idOf(const std::string& part) {
-    const auto [entry, isNew] = ids_.emplace(part, "lv-" + std::to_string(ids_.size() + 1));
+    const auto [entry, isNew] = ids_.emplace(part, "p" + std::to_string(ids_.size() + 1));
     if (isNew) {
         definitions_ += "<g id=" + entry->second + ">" + part + "</g>\n";
     }

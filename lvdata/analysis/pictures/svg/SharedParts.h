@@ -9,7 +9,7 @@ namespace lv::analysis::svg {
 /// Parts that several pictures of one page have in common. Each picture refers to them, and the page holds them once.
 class SharedParts {
 public:
-    /// The id of a part, which is remembered.
+    /// The id of a part, which is remembered: "p1", "p2", ...
     [[nodiscard]] std::string idOf(const std::string& part);
 
     /// Remembers a part that is never drawn itself.

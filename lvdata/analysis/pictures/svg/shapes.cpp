@@ -166,7 +166,10 @@ void addMarkedLine(SVGWriter& svg, const std::vector<Point>& points, const std::
 }
 
 void addText(SVGWriter& svg, const Point& at, std::string_view classes, Anchor anchor, std::string_view text) {
-    Attributes attributes{{"x", at.x}};
+    Attributes attributes;
+    if (at.x != 0) {
+        attributes.emplace_back("x", at.x);
+    }
     if (at.y != 0) {
         attributes.emplace_back("y", at.y);
     }

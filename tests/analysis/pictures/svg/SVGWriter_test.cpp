@@ -40,9 +40,9 @@ TEST(SVGWriter, SharesAPartOfAPageOnce) {
     svg.share(part);
     svg.share(part, 20);
     svg.define(part);
-    EXPECT_EQ(svg.document(), "<use href=#lv-1 /><use href=#lv-1 y=20 />");
+    EXPECT_EQ(svg.document(), "<use href=#p1 /><use href=#p1 y=20 />");
     const std::string all = parts.definitions();
-    EXPECT_NE(all.find("<g id=lv-1><text>same</text></g>"), std::string::npos) << all;
+    EXPECT_NE(all.find("<g id=p1><text>same</text></g>"), std::string::npos) << all;
 }
 
 TEST(SVGWriter, MovesAPartOfAFileDown) {
