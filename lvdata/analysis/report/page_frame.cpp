@@ -1,14 +1,15 @@
 #include <lvdata/analysis/report/page_frame.h>
 
-#include <lvdata/analysis/pictures/pictures.h>
 #include <lvdata/analysis/report/sections.h>
 
 namespace lv::analysis {
 
-View pageFrame(std::string_view title, const PageScript& script) {
+View pageFrame(std::string_view title, std::string_view style, const PageScript& script) {
     return View::Members{
-        {"title", shortened(title, 120)}, {"style", pageStyle()},       {"picture_style", pictureStyleForPage()},
-        {"script", script.text},          {"script_hash", script.hash},
+        {"title", shortened(title, 120)},
+        {"style", style},
+        {"script", script.text},
+        {"script_hash", script.hash},
     };
 }
 

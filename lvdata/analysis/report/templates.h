@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -9,8 +10,11 @@ namespace lv::analysis {
 /// The templates of HTML by their names, each a file of the folder "templates".
 [[nodiscard]] const std::vector<std::pair<std::string_view, std::string_view>>& templates();
 
-/// The style sheet of pages.
-[[nodiscard]] std::string_view pageStyle();
+/// The style sheet of the report of a monitor, with that of its pictures.
+[[nodiscard]] std::string reportStyle();
+
+/// The style sheet of the page about several monitors.
+[[nodiscard]] std::string fleetStyle();
 
 /// A script of a page.
 struct PageScript {
