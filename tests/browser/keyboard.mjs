@@ -36,20 +36,51 @@ async function expectValues(page, expect) {
   expect(await figure.locator("output").textContent() === first, "the left arrow does not go back");
 }
 
-async function expectPointer(page, expect) {
-  const figure = page.locator(".picture:has(output):has(path > title):visible").first();
-  await figure.scrollIntoViewIfNeeded();
-  const value = figure.locator("path:has(> title)").last();
-  await value.dispatchEvent("pointerover");
-  const text = await value.locator("title").textContent();
-  expect(await figure.locator("output").textContent() === text, "pointing at a value does not show it");
+// Values of the first picture of each name: the first and the last one, and one under a point of the picture.
+const values = {
+  "Tone response and gamma": {
+    first: "2.0 %: light 0.02 %, target 0.02 %, gamma 2.20",
+    last: "98.0 %: light 95.87 %, target 95.74 %, gamma 2.13",
+    at: [367.7, 300],
+    there: "49.0 %: light 20.85 %, target 20.84 %, gamma 2.20",
+  },
+  "Colour differences of the patches": {
+    first: "Patches 1 to 4: ΔE00 0.00, 0.00, 0.01, 0.01",
+    last: "Patches 96 to 100: ΔE00 0.01, 0.02, 0.05, 0.03, 0.06",
+    at: [368, 200],
+    there: "Patches 55 to 59: ΔE00 0.00, 0.02, 0.00, 0.01, 0.01",
+  },
+  "Look-up tables of the monitor": {
+    first: "Red: 256 entries, greatest deviation from the diagonal 0.30 % at 35.7 % of the input",
+    last: "100.0 %: Red 1.0000 Green 1.0000 Blue 1.0000",
+    at: [72, 300],
+    there: "0.0 %: Red 0.0000 Green 0.0000 Blue 0.0000",
+  },
+  "Uniformity": { first: "Entry 1: 92", last: "Entry 25: 92", at: [188, 156], there: "Entry 13: 100" },
+};
+
+async function expectValuesOf(page, name, { first, last, at, there }, expect) {
+  const figure = page.locator(`.picture:has(svg > title:text-matches("^${name}:"))`).first();
+  const svg = figure.locator("svg");
+  const shown = () => figure.locator("output").textContent();
+  await svg.focus();
+  await page.keyboard.press("ArrowRight");
+  expect(await shown() === first, `${name}: the first value is "${await shown()}", not "${first}"`);
+  await page.keyboard.press("ArrowLeft");
+  expect(await shown() === last, `${name}: the last value is "${await shown()}", not "${last}"`);
+  const { width } = await svg.boundingBox();
+  const scale = width / await svg.evaluate((element) => element.viewBox.baseVal.width);
+  await svg.hover({ position: { x: at[0] * scale, y: at[1] * scale } });  // waits until nothing moves
+  expect(await shown() === there, `${name}: the pointer shows "${await shown()}", not "${there}"`);
 }
 
 export async function expectKeyboard(page, expect) {
   await expectSkipLink(page, expect);
   await expectSwitch(page, expect);
   await expectValues(page, expect);
-  await expectPointer(page, expect);
+  for (const [name, wanted] of Object.entries(values)) {
+    await expectValuesOf(page, name, wanted, expect);
+  }
 }
 
 // A heading sorts the table, and sorts it the other way when pressed again.

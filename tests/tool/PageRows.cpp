@@ -22,8 +22,8 @@ const xmlChar* xmlText(const char* text) {
     return reinterpret_cast<const xmlChar*>(text);  // NOLINT: bytes of UTF-8
 }
 
-bool isCell(const xmlNode* node) {
-    return xmlStrcmp(node->name, xmlText("td")) == 0;
+bool isA(const xmlNode* node, const char* name) {
+    return xmlStrcmp(node->name, xmlText(name)) == 0;
 }
 
 std::string contentOf(xmlNode* cell) {
@@ -31,12 +31,11 @@ std::string contentOf(xmlNode* cell) {
 }
 
 PageRow rowOf(xmlNode* node) {
-    PageRow row{taken(xmlGetProp(node, xmlText("data-key"))), {}};
-    if (isCell(node)) {
-        row.cells.push_back(contentOf(node));
-    }
+    PageRow row;
     for (xmlNode* child = node->children; child != nullptr; child = child->next) {
-        if (isCell(child)) {
+        if (isA(child, "th")) {
+            row.heading = contentOf(child);
+        } else if (isA(child, "td")) {
             row.cells.push_back(contentOf(child));
         }
     }
@@ -52,7 +51,7 @@ std::vector<PageRow> rowsOfPage(const std::string& page, const std::string& xpat
         xmlFreeDoc);
     const std::unique_ptr<xmlXPathContext, void (*)(xmlXPathContext*)> context(xmlXPathNewContext(document.get()),
                                                                                xmlXPathFreeContext);
-    const std::string rows = xpath + "//tr[@data-key] | " + xpath + "//td[@data-key]";
+    const std::string rows = xpath + "//tr[td]";
     const std::unique_ptr<xmlXPathObject, void (*)(xmlXPathObject*)> found(
         xmlXPathEval(xmlText(rows.c_str()), context.get()), xmlXPathFreeObject);
     std::vector<PageRow> result;

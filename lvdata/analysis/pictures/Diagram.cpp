@@ -1,6 +1,7 @@
 #include <lvdata/analysis/pictures/Diagram.h>
 
 #include <lvdata/analysis/colour/temperature.h>
+#include <lvdata/analysis/pictures/svg/thinning.h>
 
 #include <array>
 #include <cmath>
@@ -70,15 +71,16 @@ Point outward(const std::vector<Point>& locus, std::size_t index) {
     return length > 0 ? Point{(after.y - before.y) / length, (before.x - after.x) / length} : Point{0, -1};
 }
 
-void addWavelength(svg::SVGWriter& svg, const std::vector<Point>& locus, std::size_t index) {
+/// Writes a wavelength outside the locus; the result is the line from there to it.
+std::string addWavelength(svg::SVGWriter& svg, const std::vector<Point>& locus, std::size_t index) {
     const int wavelength = colour::spectrumLocus()[index].wavelength;
     const Point& at = locus[index];
     const Point step = outward(locus, index);
     const auto sideways = step.x > 0 ? svg::Anchor::start : svg::Anchor::end;
     const auto anchor = std::abs(step.x) < 0.35 ? svg::Anchor::middle : sideways;
-    svg::addLine(svg, at, {at.x + 5 * step.x, at.y + 5 * step.y}, {"lv-locus", ""});
     svg::addText(svg, {at.x + 9 * step.x, at.y + 10 * step.y + 4}, "lv-note", anchor,
                  std::to_string(wavelength) + (wavelength == 520 ? " nm" : ""));
+    return svg::pathThrough({at, {at.x + 5 * step.x, at.y + 5 * step.y}});
 }
 
 }  // namespace
@@ -103,17 +105,20 @@ void addSpectrumLocus(Diagram& diagram) {
     const std::string shape = idOf(diagram, "locus");
     diagram.svg.open("defs");
     diagram.svg.open("g", {{"id", shape}});
-    svg::addPolygon(diagram.svg, locus, {"", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
+    svg::addPolygon(diagram.svg, svg::simplified(locus, 0.15),
+                    {"", "Spectrum locus, 380 nm to 700 nm, and the line of purples"});
     diagram.svg.close();
     diagram.svg.close();
     addWash(diagram, shape);
     diagram.svg.empty("use", {{"href", '#' + shape}, {"class", "lv-locus"}});
+    std::string lines;
     for (std::size_t index = 1; index + 1 < locus.size(); ++index) {
         const int wavelength = colour::spectrumLocus()[index].wavelength;
         if (wavelength >= 460 && wavelength <= 620 && wavelength % 20 == 0) {
-            addWavelength(diagram.svg, locus, index);
+            lines += addWavelength(diagram.svg, locus, index);
         }
     }
+    diagram.svg.empty("path", {{"class", "lv-locus"}, {"d", lines}});
 }
 
 void addPlanckianLocus(Diagram& diagram) {

@@ -32,18 +32,27 @@ std::vector<std::string> wrapped(const std::string& text, double width) {
     return lines;
 }
 
+/// In a page, which is HTML, the style sheet says how large pictures are.
+svg::Attributes forPage(svg::Attributes attributes) {
+    attributes.insert(attributes.begin(), {"class", "lv-picture"});
+    return attributes;
+}
+
+svg::Attributes forFile(svg::Attributes attributes, const std::string& id, double height) {
+    attributes.insert(attributes.begin(), {"class", "lv-picture " + id});
+    attributes.insert(attributes.begin(), {"xmlns", "http://www.w3.org/2000/svg"});
+    attributes.insert(attributes.end(), {{"width", pictureWidth}, {"height", height}});
+    return attributes;
+}
+
 }  // namespace
 
 Picture::Picture(const PictureForm& form, double height, const PictureTexts& texts)
     : svg_(form.shared),
       id_(form.shared == nullptr ? form.id : "lv") {
-    const std::string size = svg::coordinateText(pictureWidth) + ' ' + svg::coordinateText(height);
-    svg_.open("svg", {{"xmlns", "http://www.w3.org/2000/svg"},
-                      {"class", "lv-picture " + form.id},
-                      {"role", "img"},
-                      {"viewBox", "0 0 " + size},
-                      {"width", pictureWidth},
-                      {"height", height}});
+    const std::string size = svg::coordinateText(pictureWidth) + ',' + svg::coordinateText(height);
+    const svg::Attributes attributes{{"role", "img"}, {"viewBox", "0,0," + size}};
+    svg_.open("svg", svg_.isForPage() ? forPage(attributes) : forFile(attributes, form.id, height));
     const std::string subtitle = svg::cleaned(texts.subtitle);
     svg_.text("title", {}, texts.title + (subtitle.empty() ? "" : ": " + subtitle));
     svg_.text("desc", {}, svg::cleaned(texts.description));
@@ -55,11 +64,18 @@ Picture::Picture(const PictureForm& form, double height, const PictureTexts& tex
     }
     const double width = pictureWidth - 2 * margin;
     const std::string shownTitle = svg::shortened(texts.title, width, titleFontSize);
-    svg::addText(svg_, {margin, titleLine}, "lv-title", svg::Anchor::start, shownTitle);
+    addSharedText({margin, titleLine}, "lv-title", shownTitle);
     if (!subtitle.empty()) {
         const std::string shown = svg::shortened(subtitle, width, textFontSize);
-        svg::addText(svg_, {margin, subtitleLine}, "lv-sub", svg::Anchor::start, shown);
+        addSharedText({margin, subtitleLine}, "lv-sub", shown);
     }
+}
+
+/// The title is the same in pictures of several modes, the subtitle in all pictures of a mode.
+void Picture::addSharedText(const svg::Point& at, std::string_view classes, const std::string& text) {
+    svg::SVGWriter part = svg_.newPart();
+    svg::addText(part, at, classes, svg::Anchor::start, text);
+    svg_.share(part);
 }
 
 std::string Picture::idOf(std::string_view part) const {
@@ -78,7 +94,7 @@ std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, con
     const double lineHeight = 17;
     double y = frame.top + 28;
     for (const std::string& line : wrapped("Nothing to show: " + svg::quotable(reason) + '.', frame.width - 40)) {
-        svg::addText(picture.svg(), {pictureWidth / 2, y}, "lv-reason", svg::Anchor::middle, line);
+        svg::addText(picture.svg(), {pictureWidth / 2, y}, "", svg::Anchor::middle, line);
         y += lineHeight;
     }
     return picture.finished();

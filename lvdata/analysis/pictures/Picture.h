@@ -49,6 +49,8 @@ public:
     [[nodiscard]] std::string finished();
 
 private:
+    void addSharedText(const svg::Point& at, std::string_view classes, const std::string& text);
+
     svg::SVGWriter svg_;
     std::string id_;
 };

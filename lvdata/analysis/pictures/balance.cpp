@@ -70,7 +70,8 @@ std::string descriptionOf(const ToneFigures& tone) {
     return text;
 }
 
-void draw(svg::SVGWriter& svg, const Channels& channels) {
+void draw(Picture& picture, const Channels& channels) {
+    svg::SVGWriter& svg = picture.svg();
     const svg::TickedRange scale = rangeOf(channels);
     const svg::Panel panel(box, {0, 1}, scale.range);
     const svg::Axis vertical{scale.ticks, "Difference from the mean in %", true};
@@ -79,7 +80,9 @@ void draw(svg::SVGWriter& svg, const Channels& channels) {
     std::size_t outside = 0;
     for (std::size_t channel = 0; channel < channels.size(); ++channel) {
         const ChannelLook& look = channelLooks[channel];
-        addSteps(svg, panel, channels[channel], look.line, look.mark, look.symbol);
+        const std::string marker = picture.idOf(look.name);
+        svg::addMarker(svg, marker, look.symbol, look.mark);
+        addSteps(svg, panel, channels[channel], look.line, marker);
         outside += countOutside(panel, channels[channel]);
     }
     addOutsideNote(svg, panel, outside);
@@ -99,7 +102,7 @@ std::string balancePicture(const ModeFigures& mode, const PictureForm& form) {
                             reasonOf(mode.tone.greatestImbalance, "the measured white and primaries are needed"));
     }
     Picture picture(form, height, texts);
-    draw(picture.svg(), channels);
+    draw(picture, channels);
     addHoverColumns(picture.svg(), box, nearestTexts(box, textsOf(mode.tone)));
     return picture.finished();
 }

@@ -106,7 +106,7 @@ void addLegend(Diagram& diagram, const Point& at) {
 /// All that is the same in each diagram of a plane.
 void addBackground(Picture& picture, const svg::Panel& panel, Plane plane, const Point& legend) {
     const PlaneForm form = formOf(plane);
-    svg::SVGWriter part;
+    svg::SVGWriter part = picture.svg().newPart();
     svg::addAxes(part, panel, {svg::ticksOf(form.horizontal, 9), std::string(form.horizontalName)},
                  {svg::ticksOf(form.vertical, 9), std::string(form.verticalName)});
     Diagram diagram{picture, part, panel, plane};

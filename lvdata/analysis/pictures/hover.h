@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// Unseen columns that show a text while the pointer is over them.
+/// Unseen cells that show a text while the pointer is over them.
 namespace lv::analysis {
 
 /// How many columns a box has room for, each as wide as a pointer needs.
@@ -22,7 +22,17 @@ struct HoverText {
 /// One text for each column of the box, empty where none belongs to it: of several the one nearest to its middle.
 [[nodiscard]] std::vector<std::string> nearestTexts(const svg::Box& box, const std::vector<HoverText>& texts);
 
-/// Columns of equal width over the box, one for each text; none for empty texts.
+/// Texts for hover without repetitions: a line with the words that all have, with gaps between blanks, and for each
+/// text a line with the words for the gaps and those that follow; of these, the ones that are the same as in the text
+/// before are left out.
+[[nodiscard]] std::string withoutRepetitions(const std::vector<std::string>& texts);
+
+/// Cells of equal size over the box in so many columns, one for each text, in rows; none for empty texts. In a page
+/// they are data, of which its script makes the cells.
+void addHoverCells(svg::SVGWriter& svg, const svg::Box& box, std::size_t columns,
+                   const std::vector<std::string>& texts);
+
+/// One row of such cells.
 void addHoverColumns(svg::SVGWriter& svg, const svg::Box& box, const std::vector<std::string>& texts);
 
 }  // namespace lv::analysis

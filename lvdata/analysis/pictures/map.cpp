@@ -1,6 +1,8 @@
 #include <lvdata/analysis/pictures/Picture.h>
+#include <lvdata/analysis/pictures/hover.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace lv::analysis {
@@ -130,48 +132,90 @@ svg::Range rangeOf(const MapFigures& map) {
     return extent.range();
 }
 
-/// A step of the ramp, the lightest where all entries are the same.
-std::string rampClass(double value, const svg::Range& range) {
+/// The step of the ramp, the lightest where all entries are the same.
+std::size_t rampStep(double value, const svg::Range& range) {
     const svg::Scale scale(range, {0, static_cast<double>(rampSteps) - 0.001});
-    const double step = range.last > range.first ? std::floor(scale.at(value)) : static_cast<double>(rampSteps - 1);
-    return "lv-r" + svg::coordinateText(step);
+    return range.last > range.first ? static_cast<std::size_t>(scale.at(value)) : rampSteps - 1;
 }
 
-/// The number of a cell, and its deviation from the centre below, where both fit.
-void addCellTexts(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid, const Cell& cell, const svg::Box& box,
-                  const std::string& classes) {
-    constexpr double fontSize = 12;
-    const std::string value = svg::valueText(cell.mean(), decimalsOf(map));
-    if (svg::textWidth(value, fontSize) > box.width - 4 || box.height < fontSize + 4) {
-        return;
-    }
-    const std::string deviation = deviationText(map, grid, cell);
-    const bool hasBoth = !deviation.empty() && box.height >= 36 && svg::textWidth(deviation, fontSize) <= box.width - 4;
-    const double middle = box.left + box.width / 2;
-    const double line = box.top + box.height / 2 + (hasBoth ? -2 : 4);
-    svg::addText(svg, {middle, line}, classes, svg::Anchor::start, value);
-    if (hasBoth) {
-        svg::addText(svg, {middle, line + 15}, "lv-value " + classes, svg::Anchor::start, deviation);
-    }
-}
+/// A cell with its place.
+struct PlacedCell {
+    Cell cell{};
+    svg::Box box{};
+};
 
-void addCells(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
+/// The cells that have entries, by their steps of the ramp.
+std::array<std::vector<PlacedCell>, rampSteps> placedCells(const MapFigures& map, const Grid& grid) {
     const svg::Range range = rangeOf(map);
-    svg.open("g", {{"class", "lv-cells"}, {"text-anchor", "middle"}});
+    std::array<std::vector<PlacedCell>, rampSteps> cells;
     for (std::size_t row = 0; row < grid.cellRows(); ++row) {
         for (std::size_t column = 0; column < grid.cellColumns(); ++column) {
             const Cell cell = cellAt(map, grid, column, row);
-            if (cell.count == 0) {
-                continue;
+            if (cell.count > 0) {
+                const svg::Box box{left + static_cast<double>(column) * grid.cellWidth,
+                                   top + static_cast<double>(row) * grid.cellHeight, grid.cellWidth, grid.cellHeight};
+                cells.at(rampStep(cell.mean(), range)).push_back({cell, box});
             }
-            const svg::Box box{left + static_cast<double>(column) * grid.cellWidth,
-                               top + static_cast<double>(row) * grid.cellHeight, grid.cellWidth, grid.cellHeight};
-            const std::string classes = rampClass(cell.mean(), range);
-            svg::addBox(svg, box, {classes, titleOf(map, grid, cell)});
-            addCellTexts(svg, map, grid, cell, box, classes + 't');
         }
     }
+    return cells;
+}
+
+/// The number of a cell, and its deviation from the centre below, where both fit.
+void addCellTexts(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid, const PlacedCell& placed) {
+    constexpr double fontSize = 12;
+    const svg::Box& box = placed.box;
+    const std::string value = svg::valueText(placed.cell.mean(), decimalsOf(map));
+    if (svg::textWidth(value, fontSize) > box.width - 4 || box.height < fontSize + 4) {
+        return;
+    }
+    const std::string deviation = deviationText(map, grid, placed.cell);
+    const bool hasBoth = !deviation.empty() && box.height >= 36 && svg::textWidth(deviation, fontSize) <= box.width - 4;
+    const double middle = box.left + box.width / 2;
+    const double line = box.top + box.height / 2 + (hasBoth ? -2 : 4);
+    svg::addText(svg, {middle, line}, "", svg::Anchor::start, value);
+    if (hasBoth) {
+        svg::addText(svg, {middle, line + 15}, "lv-value", svg::Anchor::start, deviation);
+    }
+}
+
+/// The cells of one step of the ramp, which are one path, with their texts.
+void addStep(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid, const std::vector<PlacedCell>& cells,
+             const std::string& className) {
+    std::vector<svg::Box> boxes;
+    for (const PlacedCell& placed : cells) {
+        boxes.push_back(placed.box);
+    }
+    svg::addBoxes(svg, boxes, className);
+    svg.open("g", {{"class", className + 't'}});
+    for (const PlacedCell& placed : cells) {
+        addCellTexts(svg, map, grid, placed);
+    }
     svg.close();
+}
+
+void addCells(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
+    svg.open("g", {{"class", "lv-cells"}, {"text-anchor", "middle"}});
+    std::size_t step = 0;
+    for (const std::vector<PlacedCell>& cells : placedCells(map, grid)) {
+        if (!cells.empty()) {
+            addStep(svg, map, grid, cells, "lv-r" + std::to_string(step));
+        }
+        ++step;
+    }
+    svg.close();
+}
+
+void addHoverTexts(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
+    std::vector<std::string> texts;
+    for (std::size_t row = 0; row < grid.cellRows(); ++row) {
+        for (std::size_t column = 0; column < grid.cellColumns(); ++column) {
+            const Cell cell = cellAt(map, grid, column, row);
+            texts.push_back(cell.count > 0 ? titleOf(map, grid, cell) : "");
+        }
+    }
+    const double cellsWidth = static_cast<double>(grid.cellColumns()) * grid.cellWidth;
+    addHoverCells(svg, {left, top, cellsWidth, grid.height()}, grid.cellColumns(), texts);
 }
 
 /// The ramp with its ends, and what the reader must know of the map.
@@ -185,7 +229,7 @@ void addFoot(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
     svg.open("g", {{"class", "lv-cells"}});
     for (std::size_t step = 0; step < rampSteps; ++step) {
         const svg::Box box{rampLeft + static_cast<double>(step) * stepWidth, y, stepWidth, 12};
-        svg::addBox(svg, box, {"lv-r" + std::to_string(step), ""});
+        svg::addBoxes(svg, {box}, "lv-r" + std::to_string(step));
     }
     svg.close();
     const double rampRight = rampLeft + static_cast<double>(rampSteps) * stepWidth;
@@ -231,6 +275,7 @@ std::string mapPicture(const MapFigures& map, const PictureForm& form) {
     Picture picture(form, top + grid.height() + footHeight, texts);
     addCells(picture.svg(), map, grid);
     addFoot(picture.svg(), map, grid);
+    addHoverTexts(picture.svg(), map, grid);
     return picture.finished();
 }
 

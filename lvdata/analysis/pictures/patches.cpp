@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace lv::analysis {
 namespace {
@@ -126,22 +125,18 @@ void addBars(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<Pat
     const std::vector<Run> runs = runsOf(patches.size(), mostBars);
     const double step = box.width / static_cast<double>(runs.size());
     const auto allowed = greatestAllowed(limits.maximum);
-    std::string within;
-    std::string over;
+    std::vector<svg::Point> within;
+    std::vector<svg::Point> over;
     for (std::size_t index = 0; index < runs.size(); ++index) {
         if (const PatchFigures* const greatest = greatestOf(patches, runs[index])) {
             const double value = *differenceOf(*greatest);
-            const std::string x = svg::coordinateText(box.left + (static_cast<double>(index) + 0.5) * step);
-            (allowed && value > *allowed ? over : within) += 'M' + x + ' ' + svg::coordinateText(box.bottom()) + 'V' +
-                                                             svg::coordinateText(panel.vertical().at(value));
+            const double x = box.left + (static_cast<double>(index) + 0.5) * step;
+            (allowed && value > *allowed ? over : within).push_back({x, panel.vertical().at(value)});
         }
     }
     const double width = std::min(step * 0.8, 40.0);
-    for (const auto& [classes, path] : {std::pair("lv-bars lv-measured", within), std::pair("lv-bars lv-over", over)}) {
-        if (!path.empty()) {
-            svg.empty("path", {{"class", classes}, {"stroke-width", width}, {"d", path}});
-        }
-    }
+    svg::addBars(svg, within, box.bottom(), width, "lv-bars lv-measured");
+    svg::addBars(svg, over, box.bottom(), width, "lv-bars lv-over");
 }
 
 void addHoverTexts(svg::SVGWriter& svg, const std::vector<PatchFigures>& patches) {

@@ -22,16 +22,19 @@ struct PictureForm {
     /// What every id and the class of the root begin with, so that several pictures can stand in one page.
     std::string id = "picture";
 
-    /// Whether the picture brings its own style sheet. A page that holds several brings `pictureStyle()` once.
+    /// Whether the picture brings its own style sheet. A page that holds several brings `pictureStyleForPage()` once.
     bool hasStyle = true;
 
     /// Where parts go that other pictures of the page have, too; null: the picture is complete. Must outlive the call.
-    /// The page holds `SharedParts::definitions()` and `pictureStyle()`.
+    /// The page holds `SharedParts::definitions()` and `pictureStyleForPage()`.
     svg::SharedParts* shared = nullptr;
 };
 
 /// The style sheet that pictures without one need.
 [[nodiscard]] std::string pictureStyle();
+
+/// The same for a page, which only browsers open.
+[[nodiscard]] std::string pictureStyleForPage();
 
 /// A chromaticity diagram: spectrum locus, measured triangle and white, target, and the reference spaces.
 [[nodiscard]] std::string gamutPicture(const ModeFigures& mode, colour::Plane plane, const PictureForm& form = {});

@@ -74,10 +74,10 @@ void addBars(svg::SVGWriter& svg, const svg::Panel& panel, const Group& group, s
     const double zero = panel.vertical().at(0);
     std::string path;
     for (std::size_t colour = 0; colour < colourNames.size(); ++colour) {
-        const double end = panel.vertical().at(group[member]->values[colour]);
+        const double height = panel.vertical().at(group[member]->values[colour]) - zero;
         const double left = centreOf(panel, group, member, colour) - width / 2;
-        path += 'M' + svg::coordinateText(left) + ' ' + svg::coordinateText(zero) + 'V' + svg::coordinateText(end) +
-                'h' + svg::coordinateText(width) + 'V' + svg::coordinateText(zero) + 'z';
+        path += svg::startOfPath({left, zero}) + 'v' + svg::coordinateText(height) + 'h' + svg::coordinateText(width) +
+                'v' + svg::coordinateText(-height) + 'z';
     }
     svg.titled("path", {{"class", looksOf(*group[member])}, {"d", path}}, listed(*group[member]));
 }

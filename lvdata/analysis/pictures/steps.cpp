@@ -23,14 +23,18 @@ std::size_t countOutside(const svg::Panel& panel, const std::vector<svg::Point>&
 }
 
 void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<svg::Point>& values,
-              std::string_view lineClasses, std::string_view markClasses, svg::Symbol symbol) {
+              std::string_view lineClasses, const std::string& marker) {
     constexpr std::size_t mostSymbols = 64;
+    if (values.size() <= mostSymbols) {
+        svg::addMarkedLine(svg, panel.inside(values), marker, lineClasses);
+        return;
+    }
     svg::addPolyline(svg, panel.inside(values), {lineClasses, ""});
     std::vector<svg::Point> marked;
     for (const std::size_t index : svg::spreadIndices(values.size(), mostSymbols)) {
         marked.push_back(values[index]);
     }
-    svg::addSymbols(svg, panel.inside(marked), symbol, markClasses);
+    svg::addMarkedLine(svg, panel.inside(marked), marker, "lv-marks");
 }
 
 HoverText stepText(double signal, const std::string& text) {

@@ -18,9 +18,9 @@ namespace lv::analysis {
 /// How many values do not lie in the panel.
 [[nodiscard]] std::size_t countOutside(const svg::Panel& panel, const std::vector<svg::Point>& values);
 
-/// A line with a symbol at each value that lies in the panel. Of very many steps, some have symbols.
+/// A line with the symbol of that id at each value that lies in the panel. Of very many steps, some have symbols.
 void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<svg::Point>& values,
-              std::string_view lineClasses, std::string_view markClasses, svg::Symbol symbol);
+              std::string_view lineClasses, const std::string& marker);
 
 /// "50.2 %: " with the text, for hover.
 [[nodiscard]] HoverText stepText(double signal, const std::string& text);

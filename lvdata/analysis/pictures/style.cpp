@@ -41,34 +41,33 @@ constexpr std::string_view rules = R"(
 .lv-parts{position:absolute}
 .lv-paper{fill:@paper}
 .lv-title{font-size:15px;font-weight:600}
-.lv-sub,.lv-note,.lv-tick{fill:@muted}
+.lv-sub,.lv-note,.lv-tick,.lv-label{fill:@muted}
 .lv-tick,.lv-note,.lv-value{font-size:11px}
-.lv-label,.lv-reason,.lv-key{font-size:12px}
-.lv-grid{fill:none;stroke:@grid;stroke-width:1}
-.lv-frame{fill:none;stroke:@axis;stroke-width:1}
+.lv-grid{fill:none;stroke:@grid}
+.lv-frame{fill:none;stroke:@axis}
 .lv-zero{stroke:@axis;stroke-width:1.5}
 .lv-halo{paint-order:stroke;stroke:@paper;stroke-width:3px;stroke-linejoin:round}
 .lv-band{fill:@band}
-.lv-cells rect{stroke:@paper;stroke-width:1}
-.lv-quiet,.lv-cells text{pointer-events:none}
+.lv-cells path{stroke:@paper}
+.lv-quiet{pointer-events:none}
 .lv-under{stroke:@paper;stroke-width:3.5}
 .lv-hover{stroke:#000;stroke-opacity:0}
 .lv-line{fill:none;stroke:currentColor;stroke-width:2;stroke-linejoin:round}
+.lv-marks{fill:none}
 .lv-thin{stroke-width:1.5}
 .lv-stroke{fill:none;stroke:currentColor;stroke-width:2.5}
-.lv-mark{fill:currentColor;stroke:@paper;stroke-width:1}
+.lv-mark{fill:currentColor;stroke:@paper}
 .lv-mark.lv-dots{stroke:currentColor;stroke-width:7;stroke-linecap:round}
 .lv-bar{fill:currentColor}
 .lv-bars{fill:none;stroke:currentColor}
 .lv-open{fill:@paper;stroke:currentColor;stroke-width:2}
 .lv-ink{color:@ink}
 .lv-muted{color:@muted}
-.lv-axis{color:@axis}
 .lv-blue,.lv-measured{color:@blue}
 .lv-red,.lv-limit,.lv-over{color:@red}
 .lv-green{color:@green}
 .lv-purple{color:@purple}
-.lv-orange,.lv-target{color:@orange}
+.lv-target{color:@orange}
 .lv-line.lv-target{stroke-dasharray:7 3}
 .lv-line.lv-limit{stroke-dasharray:9 3 2 3}
 .lv-line.lv-green{stroke-dasharray:8 3}
@@ -102,23 +101,25 @@ const Colour& colourNamed(std::string_view name) {
     return colours.front();
 }
 
-/// "fill:@ink" becomes "fill:#1f2328;fill:var(--lv-ink)": programs that do not know custom properties take the first.
-std::string declaration(std::string_view text) {
+/// "fill:@ink" becomes "fill:#1f2328;fill:var(--lv-ink)": programs that do not know custom properties take the first,
+/// which browsers do not need.
+std::string declaration(std::string_view text, bool isForPage) {
     const std::size_t at = text.find('@');
     if (at == std::string_view::npos) {
         return std::string(text);
     }
     const Colour& colour = colourNamed(text.substr(at + 1));
     const std::string property(text.substr(0, at));
-    return property + std::string(colour.light) + ';' + property + "var(--lv-" + std::string(colour.name) + ')';
+    const std::string plain = isForPage ? "" : property + std::string(colour.light) + ';';
+    return plain + property + "var(--lv-" + std::string(colour.name) + ')';
 }
 
 /// The text with each declaration, which ends at ";" or "}", written in that way.
-std::string expanded(std::string_view text) {
+std::string expanded(std::string_view text, bool isForPage) {
     std::string result;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find_first_of("{;}"), text.size() - 1);
-        result += declaration(text.substr(0, end));
+        result += declaration(text.substr(0, end), isForPage);
         result += text[end];
         text.remove_prefix(end + 1);
     }
@@ -135,11 +136,21 @@ std::string rampRules() {
     return text;
 }
 
+std::string styleFor(bool isForPage) {
+    return '\n' + properties(false) + "@media screen and (prefers-color-scheme:dark){\n" + properties(true) + "}" +
+           expanded(rules, isForPage) + rampRules();
+}
+
 }  // namespace
 
 std::string pictureStyle() {
-    return '\n' + properties(false) + "@media screen and (prefers-color-scheme:dark){\n" + properties(true) + "}" +
-           expanded(rules) + rampRules();
+    return styleFor(false);
+}
+
+std::string pictureStyleForPage() {
+    std::string style = styleFor(true);
+    style.erase(std::remove(style.begin(), style.end(), '\n'), style.end());
+    return style;
 }
 
 }  // namespace lv::analysis

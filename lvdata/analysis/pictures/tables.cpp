@@ -55,10 +55,10 @@ std::string described(std::size_t channel, const std::vector<double>& table) {
 }
 
 void addCurves(svg::SVGWriter& svg, const svg::Panel& panel, const Tables& tables,
-               std::vector<svg::Point> (*valuesOf)(const std::vector<double>&)) {
+               std::vector<svg::Point> (*valuesOf)(const std::vector<double>&), bool areTitled) {
     for (std::size_t channel = 0; channel < tables.size(); ++channel) {
-        svg::addPolyline(svg, panel.inside(valuesOf(tables[channel])),
-                         {channelLooks[channel].line, described(channel, tables[channel])});
+        const std::string title = areTitled ? described(channel, tables[channel]) : "";
+        svg::addPolyline(svg, panel.inside(valuesOf(tables[channel])), {channelLooks[channel].line, title});
     }
 }
 
@@ -100,7 +100,7 @@ void addTablePanel(svg::SVGWriter& svg, const Tables& tables) {
     const svg::Panel panel(tableBox, {0, 1}, {0, 1});
     svg::addAxes(svg, panel, signalAxis(false), {signalAxis(true).ticks, "Output in %", true});
     svg::addLine(svg, panel.at({0, 0}), panel.at({1, 1}), {"lv-zero", ""});
-    addCurves(svg, panel, tables, curveOf);
+    addCurves(svg, panel, tables, curveOf, true);
 }
 
 void addDeviationPanel(svg::SVGWriter& svg, const Tables& tables) {
@@ -117,7 +117,7 @@ void addDeviationPanel(svg::SVGWriter& svg, const Tables& tables) {
     horizontal.label = "Input in % (place in the table)";
     svg::addAxes(svg, panel, horizontal, {scale.ticks, "Deviation from the diagonal in %", true});
     svg::addLevel(svg, panel, 0, "lv-zero");
-    addCurves(svg, panel, tables, deviationOf);
+    addCurves(svg, panel, tables, deviationOf, false);
 }
 
 std::string descriptionOf(const Tables& tables) {

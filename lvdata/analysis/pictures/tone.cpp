@@ -68,16 +68,16 @@ svg::Axis lightAxis() {
     return {signalAxis(true).ticks, "Light in %", true};
 }
 
-void addResponse(svg::SVGWriter& svg, const ToneFigures& tone) {
+void addResponse(svg::SVGWriter& svg, const ToneFigures& tone, const std::string& marker) {
     const svg::Panel panel(responseBox, {0, 1}, {0, 1});
     const std::vector<svg::Point> light = lightOf(tone);
     svg::addAxes(svg, panel, signalAxis(false), lightAxis());
-    addSteps(svg, panel, light, measuredLine, measuredMark, svg::Symbol::circle);
+    addSteps(svg, panel, light, measuredLine, marker);
     svg::addPolyline(svg, panel.inside(targetLight(tone)), {targetLine, ""});
     addOutsideNote(svg, panel, countOutside(panel, light));
 }
 
-void addGamma(svg::SVGWriter& svg, const ToneFigures& tone) {
+void addGamma(svg::SVGWriter& svg, const ToneFigures& tone, const std::string& marker) {
     const std::vector<svg::Point> gamma = gammaOf(tone);
     const std::vector<svg::Point> target = targetGamma(tone);
     std::vector<svg::Point> both = gamma;
@@ -85,7 +85,7 @@ void addGamma(svg::SVGWriter& svg, const ToneFigures& tone) {
     const svg::TickedRange scale = rangeOfTypical(both, {0.1, 0.9}, 0.4);
     const svg::Panel panel(gammaBox, {0, 1}, scale.range);
     svg::addAxes(svg, panel, signalAxis(true), {scale.ticks, "Gamma", true});
-    addSteps(svg, panel, gamma, measuredLine, measuredMark, svg::Symbol::circle);
+    addSteps(svg, panel, gamma, measuredLine, marker);
     svg::addPolyline(svg, panel.inside(target), {targetLine, ""});
     addOutsideNote(svg, panel, countOutside(panel, gamma));
 }
@@ -123,8 +123,10 @@ std::string tonePicture(const ModeFigures& mode, const PictureForm& form) {
     }
     Picture picture(form, height, texts);
     svg::addLegendRow(picture.svg(), {panelLeft, legendTop}, responseBox.width, legendOf(mode.tone));
-    addResponse(picture.svg(), mode.tone);
-    addGamma(picture.svg(), mode.tone);
+    const std::string marker = picture.idOf("step");
+    svg::addMarker(picture.svg(), marker, svg::Symbol::circle, measuredMark);
+    addResponse(picture.svg(), mode.tone, marker);
+    addGamma(picture.svg(), mode.tone, marker);
     const svg::Box both{responseBox.left, responseBox.top, responseBox.width, gammaBox.bottom() - responseBox.top};
     addHoverColumns(picture.svg(), both, nearestTexts(both, textsOf(mode.tone)));
     return picture.finished();

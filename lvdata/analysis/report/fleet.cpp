@@ -63,7 +63,7 @@ View viewOf(const std::vector<FleetEntry>& entries, const ReportForm& form) {
     }
     const LimitSet& limits = *form.limits;
     return View::Members{
-        {"frame", pageFrame(form.title.empty() ? "Monitors" : form.title)},
+        {"frame", pageFrame(form.title.empty() ? "Monitors" : form.title, fleetStyle(), fleetScript())},
         {"date", form.date},
         {"limits_title", limits.title.empty() ? limits.name : limits.title},
         {"limits_notice", limits.notice},

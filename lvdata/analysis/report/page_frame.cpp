@@ -1,16 +1,15 @@
 #include <lvdata/analysis/report/page_frame.h>
 
-#include <lvdata/analysis/pictures/pictures.h>
 #include <lvdata/analysis/report/sections.h>
-#include <lvdata/analysis/report/templates.h>
 
 namespace lv::analysis {
 
-View pageFrame(std::string_view title) {
+View pageFrame(std::string_view title, std::string_view style, const PageScript& script) {
     return View::Members{
-        {"title", shortened(title, 120)},         {"style", pageStyle()},
-        {"picture_style", pictureStyle()},        {"script", pageScript()},
-        {"script_hash", LVDATA_PAGE_SCRIPT_HASH},
+        {"title", shortened(title, 120)},
+        {"style", style},
+        {"script", script.text},
+        {"script_hash", script.hash},
     };
 }
 

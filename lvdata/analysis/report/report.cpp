@@ -26,7 +26,7 @@ View modesOf(const ReportContents& contents) {
 
 View viewOf(const ReportContents& contents) {
     return View::Members{
-        {"frame", pageFrame(titleOf(contents))},
+        {"frame", pageFrame(titleOf(contents), reportStyle(), reportScript())},
         {"head_section", headView(contents)},
         {"summary_section", summaryView(contents)},
         {"modes", modesOf(contents)},

@@ -1,5 +1,7 @@
 #include <lvdata/analysis/report/templates.h>
 
+#include <lvdata/analysis/pictures/pictures.h>
+
 #include <embedded/report_templates.h>
 
 namespace lv::analysis {
@@ -21,12 +23,20 @@ const std::vector<std::pair<std::string_view, std::string_view>>& templates() {
     return all;
 }
 
-std::string_view pageStyle() {
-    return embedded::report_templates::page_css;
+std::string reportStyle() {
+    return std::string(embedded::report_templates::page_css) + pictureStyleForPage();
 }
 
-std::string_view pageScript() {
-    return embedded::report_templates::page_js;
+std::string fleetStyle() {
+    return std::string(embedded::report_templates::page_css) + std::string(embedded::report_templates::fleet_css);
+}
+
+PageScript reportScript() {
+    return {embedded::report_templates::report_js, LVDATA_REPORT_SCRIPT_HASH};
+}
+
+PageScript fleetScript() {
+    return {embedded::report_templates::fleet_js, LVDATA_FLEET_SCRIPT_HASH};
 }
 
 }  // namespace lv::analysis

@@ -32,8 +32,30 @@ std::string ownText(const xmlNode* node) {
     return text;
 }
 
-void collect(const xmlNode* node, const std::string& groupClass, std::vector<Element>& elements) {
-    Element element{textOf(node->name), {}, ownText(node), "", groupClass};
+std::string classOf(const Element& element) {
+    const auto found = element.attributes.find("class");
+    return found == element.attributes.end() ? "" : found->second;
+}
+
+/// The number that follows that text in the transformation of an element; 0 where there is none.
+double movedBy(const Element& element, std::string_view start) {
+    const auto found = element.attributes.find("transform");
+    const bool isMoved = found != element.attributes.end() && found->second.rfind(start, 0) == 0;
+    return isMoved ? leadingNumber(found->second.substr(start.size())) : 0;
+}
+
+/// How far an element moves what it holds down, and to the right.
+double downOf(const Element& element) {
+    return element.down + movedBy(element, "translate(0,");
+}
+
+double acrossOf(const Element& element) {
+    return element.across + movedBy(element, "translate(");
+}
+
+void collect(const xmlNode* node, const Element& group, std::vector<Element>& elements) {
+    Element element{textOf(node->name), {},           ownText(node), "",
+                    classOf(group),     group.anchor, downOf(group), acrossOf(group)};
     for (const xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next) {
         element.attributes[textOf(attribute->name)] = attributeOf(node, attribute);
     }
@@ -42,8 +64,10 @@ void collect(const xmlNode* node, const std::string& groupClass, std::vector<Ele
             element.title = ownText(child);
         }
     }
+    const auto anchor = element.attributes.find("text-anchor");
+    element.anchor = anchor == element.attributes.end() ? element.anchor : anchor->second;
     elements.push_back(element);
-    const std::string own = element.attributes["class"];
+    const Element own = elements.back();
     for (const xmlNode* child = node->children; child != nullptr; child = child->next) {
         if (child->type == XML_ELEMENT_NODE) {
             collect(child, own, elements);
@@ -74,12 +98,51 @@ std::vector<double> numbersOf(const std::string& text) {
     return numbers;
 }
 
-/// Where each part of a path begins: "M" with two numbers.
-std::vector<Point> startsOf(const std::string& path) {
+/// A pen that follows a path of the commands that pictures have.
+struct Pen {
+    Point start{};
+    Point place{};
+
+    void go(char command, double x, double y) {
+        switch (command) {
+        case 'M':
+            place = start = {x, y};
+            break;
+        case 'm':
+            place = start = {place.x + x, place.y + y};
+            break;
+        case 'l':
+            place = {place.x + x, place.y + y};
+            break;
+        case 'h':
+            place.x += x;
+            break;
+        case 'v':
+            place.y += x;
+            break;
+        case 'V':
+            place.y = x;
+            break;
+        default:
+            ADD_FAILURE() << "unknown command " << command;
+        }
+    }
+};
+
+std::vector<Point> pointsOf(const std::string& path) {
     std::vector<Point> points;
-    for (std::size_t at = path.find('M'); at != std::string::npos; at = path.find('M', at + 1)) {
-        const std::vector<double> numbers = numbersOf(path.substr(at, path.find_first_of("lhvmV", at) - at));
-        points.push_back({numbers.at(0), numbers.at(1)});
+    Pen pen;
+    for (std::size_t at = 0; at < path.size();) {
+        const char command = path[at];
+        const std::size_t end = std::min(path.find_first_of("MmlhvVz", at + 1), path.size());
+        const std::vector<double> numbers = numbersOf(path.substr(at + 1, end - at - 1));
+        const std::size_t step = command == 'M' || command == 'm' || command == 'l' ? 2 : 1;
+        for (std::size_t index = 0; index + step <= numbers.size(); index += step) {
+            pen.go(command, numbers[index], numbers[index + step - 1]);
+            points.push_back(pen.place);
+        }
+        pen.place = command == 'z' ? pen.start : pen.place;
+        at = end;
     }
     return points;
 }
@@ -104,6 +167,15 @@ bool Element::hasClass(const std::string& className) const {
 }
 
 std::vector<Point> Element::points() const {
+    std::vector<Point> points = ownPoints();
+    for (Point& point : points) {
+        point.x += across;
+        point.y += down;
+    }
+    return points;
+}
+
+std::vector<Point> Element::ownPoints() const {
     if (name == "rect" && attributes.count("x") > 0) {
         const Point start{number("x"), number("y")};
         return {start, {start.x + number("width"), start.y + number("height")}};
@@ -111,23 +183,13 @@ std::vector<Point> Element::points() const {
     if (name == "circle") {
         return {{number("cx"), number("cy")}};
     }
-    if (name == "line") {
-        return {{number("x1"), number("y1")}, {number("x2"), number("y2")}};
-    }
     if (name == "text") {
-        return {{number("x"), number("y")}};
+        return {{attributes.count("x") > 0 ? number("x") : 0, attributes.count("y") > 0 ? number("y") : 0}};
     }
     if (name == "path") {
-        return startsOf(attributes.at("d"));
+        return pointsOf(attributes.at("d"));
     }
-    std::vector<Point> points;
-    if (name == "polyline" || name == "polygon") {
-        const std::vector<double> numbers = numbersOf(attributes.at("points"));
-        for (std::size_t index = 0; index + 1 < numbers.size(); index += 2) {
-            points.push_back({numbers[index], numbers[index + 1]});
-        }
-    }
-    return points;
+    return {};
 }
 
 ParsedPicture::ParsedPicture(const std::string& text) {
@@ -135,7 +197,7 @@ ParsedPicture::ParsedPicture(const std::string& text) {
         xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, "UTF-8", XML_PARSE_NONET), xmlFreeDoc);
     EXPECT_NE(document, nullptr) << text.substr(0, 1000);
     if (document) {
-        collect(xmlDocGetRootElement(document.get()), "", elements_);
+        collect(xmlDocGetRootElement(document.get()), {}, elements_);
     } else {
         elements_.emplace_back();
     }

@@ -19,6 +19,10 @@ struct Element {
     std::string text{};                               ///< The text that stands in it itself.
     std::string title{};                              ///< The text of its `title`.
     std::string groupClass{};                         ///< The classes of the element that holds it.
+    std::string anchor{};                             ///< Its `text-anchor`, or that of the element that holds it.
+
+    double down = 0;    ///< How far the elements that hold it move it down.
+    double across = 0;  ///< How far they move it to the right.
 
     /// A number of its attributes; fails the test where there is none.
     [[nodiscard]] double number(const std::string& attribute) const;
@@ -26,8 +30,11 @@ struct Element {
     /// Whether it, or the element that holds it, has the class.
     [[nodiscard]] bool hasClass(const std::string& name) const;
 
-    /// All points that its attributes name.
+    /// All points that its attributes name; of a path, those where it begins and all ends of its steps.
     [[nodiscard]] std::vector<analysis::svg::Point> points() const;
+
+private:
+    [[nodiscard]] std::vector<analysis::svg::Point> ownPoints() const;
 };
 
 /// A picture as an outside parser reads it.

@@ -34,9 +34,9 @@ struct Axes {
     /// The pixel of a label of the horizontal or vertical axis.
     static double tick(const ParsedPicture& picture, const std::string& label, bool isHorizontal) {
         for (const Element& text : picture.all("text", "lv-tick")) {
-            const bool isMiddle = text.attributes.at("text-anchor") == "middle";
+            const bool isMiddle = text.anchor == "middle";
             if (text.text == label && isMiddle == isHorizontal) {
-                return isHorizontal ? text.number("x") : text.number("y") - 4;  // letters stand below the middle
+                return isHorizontal ? text.points()[0].x : text.points()[0].y - 4;  // letters stand below the middle
             }
         }
         ADD_FAILURE() << "no tick " << label;
@@ -86,7 +86,7 @@ TEST(GamutPicture, HasEqualScales) {
 TEST(GamutPicture, HasTheLocusWithWavelengths) {
     for (const Plane plane : {Plane::xy, Plane::uv}) {
         const ParsedPicture picture(gamutPicture(sampleMode(), plane));
-        EXPECT_GE(titled(picture, "Spectrum locus").points().size(), 60U);
+        EXPECT_GE(titled(picture, "Spectrum locus").points().size(), 25U);
         for (const std::string text : {"460", "480", "500", "520 nm", "540", "560", "580", "600", "620"}) {
             EXPECT_TRUE(picture.says(text)) << text;
         }

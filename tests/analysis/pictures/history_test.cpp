@@ -37,11 +37,11 @@ TEST(HistoryPicture, HasLinesAndABandOfTheLimit) {
     EXPECT_TRUE(ParsedPicture(historyPicture(sampleSeries(), nullptr)).all("rect", "lv-band").empty());
     EXPECT_TRUE(ParsedPicture(historyPicture(sampleSeries(), &atMost)).says("limit ≤ 1.50"));
     const ParsedPicture picture(historyPicture(sampleSeries(), &between));
-    const auto lines = picture.all("line", "lv-limit");
+    const auto lines = picture.all("path", "lv-limit");
     ASSERT_EQ(lines.size(), 2U);
     const Element band = picture.only("rect", "lv-band");
-    EXPECT_NEAR(band.number("y"), lines[0].number("y1"), 0.01);
-    EXPECT_NEAR(band.number("y") + band.number("height"), lines[1].number("y1"), 0.01);
+    EXPECT_NEAR(band.number("y"), lines[0].points()[0].y, 0.01);
+    EXPECT_NEAR(band.number("y") + band.number("height"), lines[1].points()[0].y, 0.01);
 }
 
 TEST(HistoryPicture, WithoutDatesIsEven) {
@@ -75,7 +75,7 @@ TEST(HistoryPicture, HasLabelsThatDoNotOverlap) {
     }
     double free = 0;
     for (const Element& text : ParsedPicture(historyPicture(series, nullptr)).all("text", "lv-tick")) {
-        if (text.attributes.count("text-anchor") > 0 && text.attributes.at("text-anchor") == "middle") {
+        if (text.anchor == "middle") {
             EXPECT_GT(text.number("x"), free);
             free = text.number("x") + 60;
         }

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using lv::analysis::MapFigures;
 using lv::analysis::mapPicture;
 using lv::test::Element;
@@ -14,63 +16,82 @@ using lv::test::sampleMap;
 
 namespace {
 
-std::vector<Element> cells(const ParsedPicture& picture) {
-    std::vector<Element> found;
-    for (const Element& element : picture.all("rect", "lv-cells")) {
-        if (!element.title.empty()) {
-            found.push_back(element);
+/// The paths of cells, which are not those of the ramp below.
+std::vector<Element> steps(const ParsedPicture& picture) {
+    constexpr std::size_t stepsOfRamp = 9;
+    std::vector<Element> paths = picture.all("path", "lv-cells");
+    paths.resize(paths.size() - stepsOfRamp);
+    return paths;
+}
+
+/// Whether the class is that of the cell with this upper left corner.
+bool isOf(const ParsedPicture& picture, const std::string& className, const lv::analysis::svg::Point& corner) {
+    const std::size_t pointsOfACell = 4;
+    for (const Element& step : steps(picture)) {
+        const auto points = step.points();
+        for (std::size_t index = 0; index < points.size(); index += pointsOfACell) {
+            if (points[index].x == corner.x && points[index].y == corner.y) {
+                return step.hasClass(className);
+            }
         }
     }
-    return found;
+    ADD_FAILURE() << "no cell at " << corner.x << ", " << corner.y;
+    return false;
+}
+
+/// Where the cell of a hover text begins.
+lv::analysis::svg::Point cornerOf(const ParsedPicture& picture, std::size_t index) {
+    const Element cell = picture.all("path", "lv-hover").at(index);
+    const double width = picture.only("g", "lv-hover").number("stroke-width");
+    return {std::round((cell.points()[0].x - width / 2) * 10) / 10, cell.points()[0].y};
 }
 
 }  // namespace
 
 TEST(MapPicture, HasACellForEachEntry) {
     const ParsedPicture picture(mapPicture(sampleMap()));
-    const auto found = cells(picture);
-    ASSERT_EQ(found.size(), 25U);
-    EXPECT_EQ(found[0].title, "Row 1, column 1: 92, -8.0 % of the centre");
-    EXPECT_EQ(found[8].title, "Row 2, column 4: 98, -2.0 % of the centre");
-    EXPECT_EQ(found[5].number("x"), found[0].number("x"));
-    EXPECT_NEAR(found[5].number("y"), found[0].number("y") + found[0].number("height"), 0.02);
+    const auto texts = picture.hoverTexts();
+    ASSERT_EQ(texts.size(), 25U);
+    EXPECT_EQ(texts[0], "Row 1, column 1: 92, -8.0 % of the centre");
+    EXPECT_EQ(texts[8], "Row 2, column 4: 98, -2.0 % of the centre");
+    EXPECT_EQ(cornerOf(picture, 5).x, cornerOf(picture, 0).x);
+    EXPECT_EQ(cornerOf(picture, 5).y, picture.all("path", "lv-hover")[0].points()[1].y);
 }
 
 TEST(MapPicture, HasNumbersInTheCells) {
     const ParsedPicture picture(mapPicture(sampleMap()));
-    const auto texts = picture.all("text", "lv-cells");
-    ASSERT_EQ(texts.size(), 50U);
-    EXPECT_EQ(texts[0].text, "92");
-    EXPECT_EQ(texts[1].text, "-8.0 %");
+    EXPECT_EQ(picture.all("text", "lv-r0t").size(), 8U);  // 91 and 92 stand in four cells, each with its deviation
+    EXPECT_TRUE(picture.says("92"));
+    EXPECT_TRUE(picture.says("-8.0 %"));
 }
 
 TEST(MapPicture, IsLightWhereValuesAreGreat) {
-    const auto found = cells(ParsedPicture(mapPicture(sampleMap())));
-    EXPECT_TRUE(found[12].hasClass("lv-r8"));  // 100, the greatest
-    EXPECT_TRUE(found[20].hasClass("lv-r0"));  // 91, the least
+    const ParsedPicture picture(mapPicture(sampleMap()));
+    EXPECT_TRUE(isOf(picture, "lv-r8", cornerOf(picture, 12)));  // 100, the greatest
+    EXPECT_TRUE(isOf(picture, "lv-r0", cornerOf(picture, 20)));  // 91, the least
 }
 
 TEST(MapPicture, OfEqualEntriesHasOneColour) {
     MapFigures map = noisyMap(4, 2);
     map.values = {7, 7, 7, 7};
-    for (const Element& cell : cells(ParsedPicture(mapPicture(map)))) {
-        EXPECT_TRUE(cell.hasClass("lv-r8"));
-    }
+    const ParsedPicture picture(mapPicture(map));
+    ASSERT_EQ(steps(picture).size(), 1U);
+    EXPECT_TRUE(steps(picture).front().hasClass("lv-r8"));
 }
 
 TEST(MapPicture, WithoutAShapeIsWrappedAndSaysSo) {
     const ParsedPicture picture(mapPicture(noisyMap(25, 0)));
-    EXPECT_EQ(cells(picture).size(), 25U);
+    EXPECT_EQ(picture.hoverTexts().size(), 25U);
     EXPECT_TRUE(picture.says("The shape of the map is not known: entries in stored order, 10 in a row."));
-    EXPECT_EQ(cells(picture)[1].title.rfind("Entry 2: ", 0), 0U) << cells(picture)[1].title;
+    EXPECT_EQ(picture.hoverTexts()[1].rfind("Entry 2: ", 0), 0U) << picture.hoverTexts()[1];
 }
 
 TEST(MapPicture, OfManyEntriesHasMeans) {
     MapFigures map = noisyMap(10000, 100);
     map.values.assign(10000, 5);
     const ParsedPicture picture(mapPicture(map));
-    EXPECT_LE(cells(picture).size(), 225U);
-    EXPECT_EQ(cells(picture)[0].title, "Row 1, column 1: mean of 49 entries 5");
+    EXPECT_LE(picture.hoverTexts().size(), 225U);
+    EXPECT_EQ(picture.hoverTexts()[0], "Row 1, column 1: mean of 49 entries 5");
     EXPECT_TRUE(picture.says("Each cell is the mean of up to 49 entries."));
 }
 

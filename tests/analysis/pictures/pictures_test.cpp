@@ -169,7 +169,7 @@ TEST(Pictures, HaveTheSizeOfTheirViewBox) {
     for (const NamedPicture& picture : everyPicture(lv::test::sampleFigures())) {
         const Element root = ParsedPicture(picture.text).root();
         EXPECT_EQ(root.attributes.at("viewBox"),
-                  "0 0 " + root.attributes.at("width") + ' ' + root.attributes.at("height"));
+                  "0,0," + root.attributes.at("width") + ',' + root.attributes.at("height"));
     }
 }
 

@@ -23,16 +23,13 @@ TEST(SixColoursPicture, HasBarsUpAndDownFromZero) {
     ModeFigures mode;
     mode.sixColours = {{"Hue", "monitor", {2, -1, 0, 0, 0, 0}}};
     const ParsedPicture picture(sixColoursPicture(mode));
-    const double zero = picture.only("line", "lv-zero").number("y1");
+    const double zero = picture.only("path", "lv-zero").points()[0].y;
     const lv::test::Element bars = picture.only("path", "lv-bar");
     EXPECT_EQ(bars.title, "Hue of the monitor: Red 2, Yellow -1, Green 0, Cyan 0, Blue 0, Magenta 0");
-    ASSERT_EQ(bars.points().size(), 6U);
+    const std::size_t pointsOfABar = 4;
+    ASSERT_EQ(bars.points().size(), 6 * pointsOfABar);
     const auto heightOf = [&](std::size_t bar) {
-        std::string path = bars.attributes.at("d");
-        for (std::size_t skipped = 0; skipped < bar; ++skipped) {
-            path.erase(0, path.find('z') + 1);
-        }
-        return zero - lv::test::leadingNumber(path.substr(path.find('V') + 1));
+        return zero - bars.points()[bar * pointsOfABar + 1].y;
     };
     EXPECT_NEAR(bars.points()[0].y, zero, 0.06);
     EXPECT_GT(heightOf(0), 0);

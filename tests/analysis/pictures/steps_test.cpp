@@ -26,14 +26,26 @@ ModeFigures halfAndFull() {
     return mode;
 }
 
+/// The lines with symbols.
+std::vector<Element> marked(const ParsedPicture& picture) {
+    std::vector<Element> lines;
+    for (const Element& path : picture.all("path")) {
+        const auto style = path.attributes.find("style");
+        if (style != path.attributes.end() && style->second.rfind("marker:url(#", 0) == 0) {
+            lines.push_back(path);
+        }
+    }
+    return lines;
+}
+
 }  // namespace
 
 TEST(TonePicture, HasEachStepInBothPanels) {
     const ParsedPicture picture(tonePicture(halfAndFull()));
-    const auto found = picture.all("path", "lv-dots");
+    const auto found = marked(picture);
     ASSERT_EQ(found.size(), 2U);
-    EXPECT_EQ(found[0].points().size(), 2U);  // of light
-    EXPECT_EQ(found[1].points().size(), 1U);  // of gamma
+    EXPECT_EQ(found[0].points().size(), 2U);                             // of light
+    EXPECT_EQ(found[1].points().front().x, found[1].points().back().x);  // of gamma: one step
     const std::vector<std::string> texts{"50.0 %: light 25.00 %, target 21.76 %, gamma 2.00",
                                          "100.0 %: light 100.00 %, target 100.00 %"};
     EXPECT_EQ(picture.hoverTexts(), texts);
@@ -42,23 +54,23 @@ TEST(TonePicture, HasEachStepInBothPanels) {
 TEST(TonePicture, HasStepsWhereTheyBelong) {
     const ParsedPicture picture(tonePicture(halfAndFull()));
     const Element frame = picture.all("rect", "lv-frame").front();
-    const auto half = picture.all("path", "lv-dots").front().points().front();
+    const auto half = marked(picture).front().points().front();
     EXPECT_NEAR(half.x, frame.number("x") + frame.number("width") / 2, 0.06);
-    EXPECT_NEAR(half.y, frame.number("y") + frame.number("height") * 0.75, 0.06);
+    EXPECT_NEAR(half.y, frame.points()[0].y + frame.number("height") * 0.75, 0.06);
 }
 
 TEST(TonePicture, HasTheTargetInBothPanels) {
-    EXPECT_EQ(ParsedPicture(tonePicture(sampleMode())).all("polyline", "lv-target").size(), 2U);
+    EXPECT_EQ(ParsedPicture(tonePicture(sampleMode())).all("path", "lv-target").size(), 3U);
     ModeFigures mode = sampleMode();
     for (auto& step : mode.tone.steps) {
         step.target = {};
     }
-    EXPECT_TRUE(ParsedPicture(tonePicture(mode)).all("polyline", "lv-target").empty());
+    EXPECT_TRUE(ParsedPicture(tonePicture(mode)).all("path", "lv-target").empty());
 }
 
 TEST(TonePicture, HasAStraightTargetGammaOfAPower) {
     const ParsedPicture picture(tonePicture(sampleMode()));
-    const auto points = picture.all("polyline", "lv-target").back().points();
+    const auto points = picture.all("path", "lv-target").back().points();
     ASSERT_EQ(points.size(), 2U);
     EXPECT_NEAR(points[0].y, points[1].y, 0.01);
 }
@@ -92,9 +104,9 @@ TEST(BalancePicture, HasEachChannelWithAnOwnLook) {
 TEST(BalancePicture, HasBalanceInTheMiddle) {
     const ParsedPicture picture(balancePicture(halfAndFull()));
     const Element frame = picture.only("rect", "lv-frame");
-    const double middle = frame.number("y") + frame.number("height") / 2;
-    EXPECT_NEAR(picture.only("line", "lv-zero").number("y1"), middle, 0.01);
-    EXPECT_NEAR(picture.only("path", "lv-dots").points()[0].y, middle, 0.06);
+    const double middle = frame.points()[0].y + frame.number("height") / 2;
+    EXPECT_NEAR(picture.all("path", "lv-zero").front().points()[0].y, middle, 0.01);
+    EXPECT_NEAR(marked(picture)[1].points()[0].y, middle, 0.06);
 }
 
 TEST(BalancePicture, SaysWhatItNeeds) {

@@ -23,7 +23,7 @@ ModeFigures modeWith(const std::vector<double>& red) {
 TEST(TablesPicture, HasEachTableInBothPanels) {
     const ParsedPicture picture(tablesPicture(lv::test::sampleMode()));
     for (const std::string name : {"lv-red", "lv-green", "lv-blue"}) {
-        EXPECT_EQ(picture.all("polyline", name).size(), 2U) << name;
+        EXPECT_EQ(picture.all("path", name).size(), 3U) << name;  // one in the legend
     }
     EXPECT_TRUE(picture.says("Red: 256 entries, greatest deviation from the diagonal 0.00 %"));
 }
@@ -31,16 +31,16 @@ TEST(TablesPicture, HasEachTableInBothPanels) {
 TEST(TablesPicture, HasEntriesWhereTheyBelong) {
     const ParsedPicture picture(tablesPicture(modeWith({0, 0.75, 1})));
     const Element frame = picture.all("rect", "lv-frame").front();
-    const auto points = picture.all("polyline", "lv-red").front().points();
+    const auto points = picture.all("path", "lv-red").at(1).points();
     ASSERT_EQ(points.size(), 3U);
     EXPECT_NEAR(points[1].x, frame.number("x") + frame.number("width") / 2, 0.06);
-    EXPECT_NEAR(points[1].y, frame.number("y") + frame.number("height") / 4, 0.06);
+    EXPECT_NEAR(points[1].y, frame.points()[0].y + frame.number("height") / 4, 0.06);
     EXPECT_TRUE(picture.says("greatest deviation from the diagonal 25.00 % at 50.0 % of the input"));
 }
 
 TEST(TablesPicture, ShowsOnlyTheTablesThatThereAre) {
     const ParsedPicture picture(tablesPicture(modeWith({0, 1})));
-    EXPECT_TRUE(picture.all("polyline", "lv-green").empty());
+    EXPECT_TRUE(picture.all("path", "lv-green").empty());
     EXPECT_FALSE(picture.says("Green"));
     EXPECT_TRUE(ParsedPicture(tablesPicture({})).says("no look-up tables are recorded"));
 }

@@ -31,7 +31,7 @@ TEST(Filling, TakesAnEmptyTextForNotThere) {
     const View text = View::Members{{"text", "short"}, {"full", ""}};
     EXPECT_EQ(filled("text", text), "short");
     const View shortened = View::Members{{"text", "short"}, {"full", "short and long"}};
-    EXPECT_EQ(filled("text", shortened), "<details class=\"long\"><summary>short</summary>short and long</details>");
+    EXPECT_EQ(filled("text", shortened), "<details class=long><summary>short</summary>short and long</details>");
 }
 
 TEST(EscapedForHTML, MakesReferences) {

@@ -11,7 +11,9 @@ using lv::analysis::FleetEntry;
 using lv::analysis::ReportedDocument;
 using lv::test::HTMLPage;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 FleetEntry entryOf(const std::string& page, const lv::MonitorInfo& monitor, std::size_t documents,
                    const lv::analysis::ReportForm& form = lv::test::defaultForm()) {
@@ -41,6 +43,12 @@ TEST(Fleet, HasALineForEachMonitorInTheGivenOrder) {
     EXPECT_THAT(page.texts("//tbody/tr/td[last()]"), ElementsAre("3", "1"));
     EXPECT_THAT(page.texts("//tbody/tr[1]/td[position() < 4]"),
                 ElementsAre("27W-000417", "LV-27W", "2024-05-02T10:07:00"));
+}
+
+TEST(Fleet, HasTheStyleOfSortableTablesButNotOfPictures) {
+    const std::string style = fleetOf({entryOf("a.html", {}, 1)}).text("//style");
+    EXPECT_THAT(style, HasSubstr("aria-sort"));
+    EXPECT_THAT(style, Not(HasSubstr(".lv-line")));
 }
 
 TEST(Fleet, TellsTheWorstMeanOfAllModes) {

@@ -33,14 +33,14 @@ void addSample(SVGWriter& svg, const Point& at, const LegendEntry& entry) {
 double addEntry(SVGWriter& svg, const Point& at, double width, const LegendEntry& entry) {
     const std::string label = shortened(cleaned(entry.label), width - sampleWidth - gap, fontSize);
     addSample(svg, at, entry);
-    addText(svg, {at.x + sampleWidth + gap, at.y + baseline}, "lv-key", Anchor::start, label);
+    addText(svg, {at.x + sampleWidth + gap, at.y + baseline}, "", Anchor::start, label);
     return sampleWidth + gap + textWidth(label, fontSize);
 }
 
 }  // namespace
 
 void addLegendColumn(SVGWriter& svg, const Point& at, double width, const std::vector<LegendEntry>& entries) {
-    SVGWriter part;
+    SVGWriter part = svg.newPart();
     double y = at.y;
     for (const LegendEntry& entry : entries) {
         addEntry(part, {at.x, y}, width, entry);
@@ -50,7 +50,7 @@ void addLegendColumn(SVGWriter& svg, const Point& at, double width, const std::v
 }
 
 void addLegendRow(SVGWriter& svg, const Point& at, double width, const std::vector<LegendEntry>& entries) {
-    SVGWriter part;
+    SVGWriter part = svg.newPart();
     double x = at.x;
     for (const LegendEntry& entry : entries) {
         const double left = at.x + width - x;

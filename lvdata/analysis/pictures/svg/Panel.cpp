@@ -10,47 +10,65 @@ constexpr double tickGap = 8;   // from the frame to the label of a tick
 constexpr double baseline = 4;  // from the middle of a line of text to where its letters stand
 constexpr double lineHeight = 16;
 
-/// Grid lines are one path for each direction.
-void addGrid(SVGWriter& svg, const Panel& panel, const Axis& horizontal, const Axis& vertical) {
-    const Box& box = panel.box();
-    std::string path;
-    for (const Tick& tick : horizontal.ticks) {
-        path += 'M' + coordinateText(panel.horizontal().at(tick.value)) + ' ' + coordinateText(box.top) + 'v' +
-                coordinateText(box.height);
-    }
-    for (const Tick& tick : vertical.ticks) {
-        path += 'M' + coordinateText(box.left) + ' ' + coordinateText(panel.vertical().at(tick.value)) + 'h' +
-                coordinateText(box.width);
-    }
+/// All grid lines of one direction, which are one path.
+void addGrid(SVGWriter& svg, const std::string& path) {
     if (!path.empty()) {
         svg.empty("path", {{"class", "lv-grid"}, {"d", path}});
     }
 }
 
-void addHorizontalTexts(SVGWriter& svg, const Panel& panel, const Axis& axis) {
+/// The vertical lines and the frame, as if the panel began at the top of the picture.
+void addVerticalLines(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     const Box& box = panel.box();
-    const double numbers = box.bottom() + lineHeight;
+    std::string lines;
     for (const Tick& tick : axis.ticks) {
-        if (axis.hasNumbers) {
-            addText(svg, {panel.horizontal().at(tick.value), numbers}, "", Anchor::middle, tick.label);
-        }
+        lines += startOfPath({panel.horizontal().at(tick.value), 0}) + 'v' + coordinateText(box.height);
     }
-    if (!axis.label.empty()) {
-        const Point place{box.left + box.width / 2, numbers + lineHeight + 2};
-        addText(svg, place, "lv-label", Anchor::middle, axis.label);
+    addGrid(svg, lines);
+    addBox(svg, {box.left, 0, box.width, box.height}, {"lv-frame", ""});
+}
+
+/// The numbers below a panel, at the top of the picture.
+void addNumbersBelow(SVGWriter& svg, const Panel& panel, const Axis& axis) {
+    svg.open("g", {{"class", "lv-tick"}, {"text-anchor", "middle"}});
+    for (const Tick& tick : axis.ticks) {
+        addText(svg, {panel.horizontal().at(tick.value), 0}, "", Anchor::start, tick.label);
+    }
+    svg.close();
+}
+
+/// The horizontal lines with their numbers, as if the panel began at the top of the picture.
+void addHorizontalLines(SVGWriter& svg, const Panel& panel, const Axis& axis) {
+    const Box& box = panel.box();
+    std::string lines;
+    for (const Tick& tick : axis.ticks) {
+        lines += startOfPath({box.left, panel.vertical().at(tick.value) - box.top}) + 'h' + coordinateText(box.width);
+    }
+    addGrid(svg, lines);
+    const std::string toTheLeft = "translate(" + coordinateText(box.left - tickGap) + ')';
+    svg.open("g", {{"class", "lv-tick"}, {"text-anchor", "end"}, {"transform", toTheLeft}});
+    for (const Tick& tick : axis.ticks) {
+        const double y = panel.vertical().at(tick.value) - box.top + baseline;
+        addText(svg, {0, y}, "", Anchor::start, tick.label);
+    }
+    svg.close();
+}
+
+/// What an axis is called, as a part of its own.
+void addLabel(SVGWriter& svg, const Point& at, Anchor anchor, const std::string& label) {
+    if (!label.empty()) {
+        SVGWriter part = svg.newPart();
+        addText(part, {at.x, 0}, "lv-label", anchor, label);
+        svg.share(part, at.y);
     }
 }
 
-void addVerticalTexts(SVGWriter& svg, const Panel& panel, const Axis& axis) {
-    const Box& box = panel.box();
-    for (const Tick& tick : axis.ticks) {
-        if (axis.hasNumbers) {
-            addText(svg, {box.left - tickGap, panel.vertical().at(tick.value) + baseline}, "", Anchor::end, tick.label);
-        }
-    }
-    if (!axis.label.empty()) {
-        addText(svg, {box.left, box.top - tickGap}, "lv-label", Anchor::start, axis.label);
-    }
+/// Draws a part of an axis as a part of its own.
+void addPart(SVGWriter& svg, const Panel& panel, const Axis& axis, double top,
+             void (*draw)(SVGWriter&, const Panel&, const Axis&)) {
+    SVGWriter part = svg.newPart();
+    draw(part, panel, axis);
+    svg.share(part, top);
 }
 
 }  // namespace
@@ -79,14 +97,14 @@ std::vector<Point> Panel::inside(const std::vector<Point>& values) const {
 }
 
 void addAxes(SVGWriter& svg, const Panel& panel, const Axis& horizontal, const Axis& vertical) {
-    SVGWriter part;
-    addGrid(part, panel, horizontal, vertical);
-    addBox(part, panel.box(), {"lv-frame", ""});
-    part.open("g", {{"class", "lv-tick"}});
-    addHorizontalTexts(part, panel, horizontal);
-    addVerticalTexts(part, panel, vertical);
-    part.close();
-    svg.share(part);
+    addPart(svg, panel, vertical, panel.box().top, addHorizontalLines);
+    addPart(svg, panel, horizontal, panel.box().top, addVerticalLines);
+    if (horizontal.hasNumbers) {
+        addPart(svg, panel, horizontal, panel.box().bottom() + lineHeight, addNumbersBelow);
+    }
+    const Box& box = panel.box();
+    addLabel(svg, {box.left + box.width / 2, box.bottom() + 2 * lineHeight + 2}, Anchor::middle, horizontal.label);
+    addLabel(svg, {box.left, box.top - tickGap}, Anchor::start, vertical.label);
 }
 
 void addLevel(SVGWriter& svg, const Panel& panel, double value, std::string_view classes) {

@@ -23,12 +23,18 @@ struct Attribute {
 /// The attributes of an element, in the order in which they are written.
 using Attributes = std::vector<Attribute>;
 
-/// Writes the elements of an SVG document, each on a line of its own. Texts must be fit for XML (see `cleaned`); what
-/// markup needs is escaped.
+/// Writes the elements of an SVG document, each on a line of its own; in a page, on one line. Texts must be fit for XML
+/// (see `cleaned`); what markup needs is escaped.
 class SVGWriter {
 public:
     /// Writes a part, or a whole document; `shared` has the parts of a page and must outlive it. Null: there are none.
     explicit SVGWriter(SharedParts* shared = nullptr) : shared_(shared) {}
+
+    /// Whether it draws for a page, which has the parts and a script.
+    [[nodiscard]] bool isForPage() const { return shared_ != nullptr; }
+
+    /// A writer of a part, for `share` and `define`.
+    [[nodiscard]] SVGWriter newPart() const { return SVGWriter(shared_); }
 
     /// The start of an element that holds others.
     void open(std::string_view name, const Attributes& attributes = {});
@@ -46,8 +52,11 @@ public:
     /// element.
     void titled(std::string_view name, const Attributes& attributes, std::string_view title);
 
-    /// What another writer has written, as a part that other pictures of the page may have, too.
-    void share(const SVGWriter& part);
+    /// What another writer has written, moved down, as a part that other pictures of the page may have, too.
+    void share(const SVGWriter& part, double down = 0);
+
+    /// The same for what is never drawn itself, such as a marker.
+    void define(const SVGWriter& part);
 
     /// A style sheet.
     void style(std::string_view sheet);
@@ -57,6 +66,8 @@ public:
 
 private:
     void start(std::string_view name, const Attributes& attributes);
+    [[nodiscard]] std::string written(const std::string& value) const;
+    void end(std::string_view mark);
 
     SharedParts* shared_;
     std::string document_;

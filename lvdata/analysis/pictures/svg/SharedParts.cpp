@@ -2,12 +2,18 @@
 
 namespace lv::analysis::svg {
 
-std::string SharedParts::use(const std::string& part) {
-    const auto [entry, isNew] = ids_.emplace(part, "lv-" + std::to_string(ids_.size() + 1));
+std::string SharedParts::idOf(const std::string& part) {
+    const auto [entry, isNew] = ids_.emplace(part, "p" + std::to_string(ids_.size() + 1));
     if (isNew) {
-        definitions_ += "<g id=\"" + entry->second + "\">\n" + part + "</g>\n";
+        definitions_ += "<g id=" + entry->second + ">" + part + "</g>\n";
     }
-    return "<use href=\"#" + entry->second + "\"/>\n";
+    return entry->second;
+}
+
+void SharedParts::define(const std::string& part) {
+    if (defined_.insert(part).second) {
+        definitions_ += part + '\n';
+    }
 }
 
 std::string SharedParts::definitions() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 
 namespace lv::analysis::svg {
@@ -8,14 +9,18 @@ namespace lv::analysis::svg {
 /// Parts that several pictures of one page have in common. Each picture refers to them, and the page holds them once.
 class SharedParts {
 public:
-    /// The element "use" for a part, which is remembered.
-    [[nodiscard]] std::string use(const std::string& part);
+    /// The id of a part, which is remembered: "p1", "p2", ...
+    [[nodiscard]] std::string idOf(const std::string& part);
+
+    /// Remembers a part that is never drawn itself.
+    void define(const std::string& part);
 
     /// An unseen picture with all parts, for the page; empty without any.
     [[nodiscard]] std::string definitions() const;
 
 private:
     std::map<std::string, std::string> ids_{};
+    std::set<std::string> defined_{};
     std::string definitions_{};
 };
 

@@ -70,7 +70,9 @@ double relativeWidth(std::string_view character) {
 
 std::string coordinateText(double value) {
     const double number = std::isnan(value) ? 0 : std::clamp(value, -greatestCoordinate, greatestCoordinate);
-    return withoutZerosAtEnd(fixedText(number, 1));
+    std::string text = withoutZerosAtEnd(fixedText(number, 1));
+    const std::size_t first = text.front() == '-' ? 1 : 0;
+    return text.substr(first, 2) == "0." ? text.erase(first, 1) : text;
 }
 
 std::string valueText(double value, int decimals) {

@@ -6,8 +6,8 @@
 
 namespace lv::analysis::svg {
 
-/// A coordinate: at most one digit after the point, no zeros at the end. What no picture can hold (NaN is 0, beyond
-/// 99,999) is set to the nearest number that one can.
+/// A coordinate: at most one digit after the point, no zeros that say nothing (".5", "4"). What no picture can hold
+/// (NaN is 0, beyond 99,999) is set to the nearest number that one can.
 [[nodiscard]] std::string coordinateText(double value);
 
 /// A value for people: `fixedText`, and for numbers of more than nine digits their first digits with an exponent.

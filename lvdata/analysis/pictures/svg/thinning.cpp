@@ -8,7 +8,7 @@
 namespace lv::analysis::svg {
 namespace {
 
-constexpr double leastDistance = 0.3;  // in pixels
+constexpr double leastDistance = 0.3;  // of points that `thinned` keeps, in pixels
 constexpr std::size_t pointsOfColumn = 4;
 constexpr std::size_t mostForDistances = 8192;  // comparing distances can take quadratic time
 
@@ -45,25 +45,6 @@ std::vector<Point> at(const std::vector<Point>& line, const std::set<std::size_t
     return kept;
 }
 
-std::vector<Point> withoutUnseen(const std::vector<Point>& line) {
-    std::set<std::size_t> kept{0, line.size() - 1};
-    std::vector<std::pair<std::size_t, std::size_t>> open{{0, line.size() - 1}};
-    while (!open.empty()) {
-        const auto [first, last] = open.back();
-        open.pop_back();
-        if (last - first < 2) {
-            continue;
-        }
-        const std::size_t middle = farthest(line, first, last);
-        if (distanceFrom(line[middle], line[first], line[last]) > leastDistance) {
-            kept.insert(middle);
-            open.emplace_back(first, middle);
-            open.emplace_back(middle, last);
-        }
-    }
-    return at(line, kept);
-}
-
 /// The last index whose point is not to the right of `end`, from `first` on.
 std::size_t lastUpTo(const std::vector<Point>& line, std::size_t first, double end) {
     std::size_t last = first;
@@ -94,13 +75,35 @@ std::vector<Point> inColumns(const std::vector<Point>& line, std::size_t columns
 
 }  // namespace
 
+std::vector<Point> simplified(const std::vector<Point>& line, double distance) {
+    if (line.size() < 3) {
+        return line;
+    }
+    std::set<std::size_t> kept{0, line.size() - 1};
+    std::vector<std::pair<std::size_t, std::size_t>> open{{0, line.size() - 1}};
+    while (!open.empty()) {
+        const auto [first, last] = open.back();
+        open.pop_back();
+        if (last - first < 2) {
+            continue;
+        }
+        const std::size_t middle = farthest(line, first, last);
+        if (distanceFrom(line[middle], line[first], line[last]) > distance) {
+            kept.insert(middle);
+            open.emplace_back(first, middle);
+            open.emplace_back(middle, last);
+        }
+    }
+    return at(line, kept);
+}
+
 std::vector<Point> thinned(const std::vector<Point>& line) {
     if (line.size() < 3) {
         return line;
     }
     const std::vector<Point> start =
         line.size() <= mostForDistances ? line : inColumns(line, mostForDistances / pointsOfColumn);
-    const std::vector<Point> seen = withoutUnseen(start);
+    const std::vector<Point> seen = simplified(start, leastDistance);
     return seen.size() <= mostPoints ? seen : inColumns(seen, mostPoints / pointsOfColumn);
 }
 

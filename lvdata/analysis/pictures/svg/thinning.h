@@ -10,9 +10,13 @@ namespace lv::analysis::svg {
 /// How many points `thinned` leaves at most.
 inline constexpr std::size_t mostPoints = 480;
 
-/// A line in pixels with fewer points. Those that the eye does not miss go (Douglas and Peucker, "Algorithms for the
-/// reduction of the number of points required to represent a digitized line", 1973, at a fraction of a pixel). Where
-/// too many are left, narrow columns keep their first, lowest, highest and last point. x must not fall.
+/// A line without the points that are at most that far from a line between points that stay (Douglas and Peucker,
+/// "Algorithms for the reduction of the number of points required to represent a digitized line", 1973). The first and
+/// the last point stay.
+[[nodiscard]] std::vector<Point> simplified(const std::vector<Point>& line, double distance);
+
+/// A line in pixels, simplified by what the eye does not miss. Where too many points are left, narrow columns keep
+/// their first, lowest, highest and last point. x must not fall.
 [[nodiscard]] std::vector<Point> thinned(const std::vector<Point>& line);
 
 /// Indices from 0 to below `count`, `most` of them at most (at least 2), evenly spread, with the first and the last.

@@ -14,9 +14,8 @@ const FigureLine* lineOf(const ReportedMode& mode, const std::string& key) {
     return found == mode.lines.end() ? nullptr : &found->line;
 }
 
-View cellOf(const FigureLine* line, Figure FigureLine::*number) {
-    return View::Members{{"key", line != nullptr && number == &FigureLine::measured ? line->key : ""},
-                         {"value", line == nullptr ? "" : line->text(line->*number)}};
+std::string cellOf(const FigureLine* line, Figure FigureLine::*number) {
+    return line == nullptr ? "" : line->text(line->*number);
 }
 
 View primaryOf(const ReportedMode& mode, const std::string& name, const std::string& key) {

@@ -12,7 +12,6 @@ std::string targetOf(const FigureLine& line) {
 View rowOf(const JudgedLine& judged) {
     const FigureLine& line = judged.line;
     return View::Members{
-        {"key", line.key},
         {"label", line.label},
         {"unit", line.unit},
         {"target", textView(targetOf(line))},

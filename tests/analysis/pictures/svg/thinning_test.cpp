@@ -7,6 +7,7 @@
 
 using lv::analysis::svg::mostPoints;
 using lv::analysis::svg::Point;
+using lv::analysis::svg::simplified;
 using lv::analysis::svg::spreadIndices;
 using lv::analysis::svg::thinned;
 
@@ -90,6 +91,12 @@ TEST(Thinned, KeepsTheExtremesOfNoise) {
 
 TEST(Thinned, CopesWithPointsInOnePlace) {
     EXPECT_LE(thinned(std::vector<Point>(100000, Point{3, 3})).size(), mostPoints);
+}
+
+TEST(Simplified, KeepsWhatIsFartherThanTheDistance) {
+    const std::vector<Point> line{{0, 0}, {5, 0.2}, {10, 0}, {10, 10}, {0, 10}, {0, 5}};
+    EXPECT_EQ(simplified(line, 0.1).size(), 6U);
+    EXPECT_EQ(simplified(line, 0.3).size(), 5U);
 }
 
 TEST(SpreadIndices, HaveTheEnds) {

@@ -10,6 +10,36 @@
   };
   each(document, ".switch button", (button) => button.addEventListener("click", () => showPlane(button.dataset.plane)));
 
+  // Texts for hover are data: a line with the words that all have, with gaps, then for each text a line with the words
+  // for the gaps and those that follow, without the ones that are the same as in the text before.
+  const spelledOut = (data) => {
+    const [form, ...lines] = data.split("\n").map((line) => line.split(" "));
+    let own = [];
+    return lines.map((line) => {
+      if (!line[0]) {
+        return "";
+      }
+      own = line.map((word, index) => word || own[index]);
+      const rest = [...own];
+      return [...form.map((word) => word || rest.shift()), ...rest].join(" ");
+    });
+  };
+  const addTo = (parent, name) => parent.appendChild(document.createElementNS("http://www.w3.org/2000/svg", name));
+  const addHoverCells = (group) => {
+    const [left, top, width, height, columns, rows] = group.dataset.grid.split(",").map(Number);
+    const [cellWidth, cellHeight] = [width / columns, height / rows];
+    group.setAttribute("stroke-width", cellWidth);
+    spelledOut(group.dataset.texts).forEach((text, index) => {
+      if (text) {
+        const [x, y] = [left + (index % columns + 0.5) * cellWidth, top + Math.floor(index / columns) * cellHeight];
+        const cell = addTo(group, "path");
+        cell.setAttribute("d", `M${x} ${y}v${cellHeight}`);
+        addTo(cell, "title").textContent = text;
+      }
+    });
+  };
+  each(document, ".lv-hover", addHoverCells);
+
   // Values of a picture: under the pointer, or by the arrow keys while the picture has the focus.
   const valuesOf = (svg) => [...svg.querySelectorAll("title")].map((title) => title.parentNode).filter((e) => e !== svg);
   const textOf = (element) => [...element.children].find((child) => child.tagName === "title").textContent;
@@ -23,13 +53,7 @@
     readout.className = "readout";
     let current = -1;
     const show = (index) => {
-      if (current >= 0) {
-        values[current].classList.remove("is-current");
-      }
       current = index;
-      if (index >= 0) {
-        values[index].classList.add("is-current");
-      }
       readout.textContent = index >= 0 ? textOf(values[index]) : "";
     };
     const hint = () => {
@@ -53,27 +77,4 @@
     });
   };
   each(document, ".picture", makeReadable);
-
-  // Tables whose rows can be sorted by a column.
-  const keyOf = (row, column) => row.cells[column].textContent.trim();
-  const compare = (left, right) => {
-    const [a, b] = [parseFloat(left), parseFloat(right)];
-    const areNumbers = /^-?[\d.]+$/.test(left) && /^-?[\d.]+$/.test(right);
-    return areNumbers ? a - b : left.localeCompare(right, "en", { numeric: true });
-  };
-  const sortBy = (table, heading, column) => {
-    const isRising = heading.getAttribute("aria-sort") !== "ascending";
-    each(table, "thead th", (other) => other.removeAttribute("aria-sort"));
-    heading.setAttribute("aria-sort", isRising ? "ascending" : "descending");
-    const body = table.tBodies[0];
-    const rows = [...body.rows].sort((a, b) => compare(keyOf(a, column), keyOf(b, column)));
-    body.append(...(isRising ? rows : rows.reverse()));
-  };
-  each(document, "table.sortable", (table) => each(table, "thead th", (heading, column) => {
-    const button = document.createElement("button");
-    button.type = "button";
-    button.append(...heading.childNodes);
-    heading.append(button);
-    button.addEventListener("click", () => sortBy(table, heading, column));
-  }));
 })();
