@@ -117,8 +117,8 @@ py::tuple differences(const Source& before, const Source& after, const DiffOptio
 
 void addChecking(py::module_& module) {
     module.def("rule_ids", &ruleIds);
-    module.def("findings", [](const std::string& text, const std::string& file,
-                              const std::vector<std::string>& ignored, bool roundtrip, std::size_t most) {
+    module.def("findings", [](const std::string& text, const std::string& file, const std::vector<std::string>& ignored,
+                              bool roundtrip, std::size_t most) {
         return findingsOf(text, file, {{ignored.begin(), ignored.end()}, roundtrip, most});
     });
     module.def("tolerance_kinds", [] { return Tolerances::kinds(catalogue()); });

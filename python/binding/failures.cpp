@@ -44,8 +44,7 @@ void addFailures(py::module_& /*module*/) {
 }
 
 py::str asText(const std::string& bytes) {
-    PyObject* const text =
-        PyUnicode_DecodeUTF8(bytes.data(), static_cast<Py_ssize_t>(bytes.size()), "surrogateescape");
+    PyObject* const text = PyUnicode_DecodeUTF8(bytes.data(), static_cast<Py_ssize_t>(bytes.size()), "surrogateescape");
     if (text == nullptr) {
         throw py::error_already_set();
     }

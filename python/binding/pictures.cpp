@@ -66,9 +66,8 @@ void addPictures(py::module_& module) {
     using WithoutGIL = py::call_guard<py::gil_scoped_release>;
     py::class_<Request>(module, "PictureRequest")
         .def(py::init(&requestOf), WithoutGIL())
-        .def_property_readonly("is_history", [](const Request& request) {
-            return request.picture.kind == PictureKind::history;
-        });
+        .def_property_readonly("is_history",
+                               [](const Request& request) { return request.picture.kind == PictureKind::history; });
     py::class_<MonitorSources>(module, "MonitorSources")
         .def(py::init<const Units&, bool>())
         .def("add", &MonitorSources::add, WithoutGIL())

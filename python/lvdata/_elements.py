@@ -4,14 +4,12 @@ from __future__ import annotations
 
 import os
 from collections.abc import Mapping
+from typing import TYPE_CHECKING, Any, ClassVar
 
 from . import _fields, _lvdata
 from ._show import as_plain, is_set, shown_element
 
-TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any, ClassVar
-
     from typing_extensions import Self
 
 

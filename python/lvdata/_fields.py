@@ -2,27 +2,18 @@
 
 from __future__ import annotations
 
-from collections.abc import Iterable, Mapping
+from collections.abc import Iterable, Mapping, Sequence
+from typing import TYPE_CHECKING, Any, Generic, TypeVar, overload
 
 from . import _lvdata
 
-TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any, Generic, TypeVar, overload
-
     from typing_extensions import Self
 
     from ._elements import Group
 
-    Got = TypeVar("Got", covariant=True)
-    Given = TypeVar("Given", contravariant=True)
-else:
-
-    class Generic:  # importing the module typing takes too long
-        __slots__ = ()
-        __class_getitem__ = classmethod(lambda cls, _: cls)
-
-    Any = Got = Given = None
+Got = TypeVar("Got", covariant=True)
+Given = TypeVar("Given", contravariant=True)
 
 
 class Attribute(Generic[Got, Given]):
@@ -132,7 +123,7 @@ class GroupField(Attribute[Any, Any]):
 
     kind = "group"
 
-    def __init__(self, name: str, group: type[Group], members: list[Field]) -> None:
+    def __init__(self, name: str, group: type[Group], members: Sequence[Field]) -> None:
         self.name = name
         self.group = group
         self.members = members

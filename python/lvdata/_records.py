@@ -4,14 +4,11 @@ from __future__ import annotations
 
 import os
 import warnings
+from typing import Any
 
 from . import _fields, _lvdata
 from ._elements import Element, Group, RawView, Record
 from ._rows import Rows
-
-TYPE_CHECKING = False
-if TYPE_CHECKING:
-    from typing import Any
 
 __all__ = ["Element", "Group", "RawView", "Record", "Rows", "from_json", "load", "loads", "record_classes"]
 
@@ -27,15 +24,15 @@ def make_group(members: list[dict[str, Any]], owner: dict[str, Any], owner_id: i
     """The attribute for all elements of one name, with the class of its values."""
     fields = [_fields.ViewField(member, owner_id) for member in members]
     name: str = members[0]["element"]
-    namespace: dict[str, Any] = {field.name: field for field in fields}
-    namespace.update(
-        __slots__=(),
-        __module__="lvdata",
-        __qualname__=f"{owner['qualified_name']}.{name}",
-        __doc__=f"The elements {name} of {owner['qualified_name']}, by their keys.",
-        _names=tuple(namespace),
-        _owner_id=owner_id,
-    )
+    namespace: dict[str, Any] = {
+        **{field.name: field for field in fields},
+        "__slots__": (),
+        "__module__": "lvdata",
+        "__qualname__": f"{owner['qualified_name']}.{name}",
+        "__doc__": f"The elements {name} of {owner['qualified_name']}, by their keys.",
+        "_names": tuple(field.name for field in fields),
+        "_owner_id": owner_id,
+    }
     return _fields.GroupField(members[0]["group"], type(name, (Group,), namespace), fields)
 
 
@@ -58,7 +55,7 @@ def make_class(description: dict[str, Any], class_id: int) -> type[Element]:
     """The class of an element, with that of its raw view inside."""
     name, qualified_name, parent = description["name"], description["qualified_name"], description["parent"]
     natural, raw = fields_of(description, class_id)
-    common = {"__slots__": (), "__module__": "lvdata", "_names": tuple(natural)}
+    common: dict[str, Any] = {"__slots__": (), "__module__": "lvdata", "_names": tuple(natural)}
     view_name = f"{qualified_name}.Raw"
     view_doc = f"{qualified_name} with numbers as they are stored."
     view = type("Raw", (RawView,), {**raw, **common, "__qualname__": view_name, "__doc__": view_doc})

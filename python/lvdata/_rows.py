@@ -3,20 +3,18 @@
 from __future__ import annotations
 
 from collections.abc import Iterable, MutableSequence
+from typing import TYPE_CHECKING, Any, TypeVar, overload
 
 from . import _fields, _lvdata
 from ._show import shown_rows
 
-TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any, TypeVar, overload
-
     from typing_extensions import Self
 
-    Row = TypeVar("Row")
+Row = TypeVar("Row")
 
 
-class Rows(MutableSequence["Row"]):
+class Rows(MutableSequence[Row]):
     """The rows of an element. They behave like a list, and changing them changes the element.
 
     Rows are objects of one class, or mappings of which objects are made. `numpy.asarray(rows)` gives all of them as a
@@ -37,25 +35,18 @@ class Rows(MutableSequence["Row"]):
     def __len__(self) -> int:
         return len(self._rows)
 
-    if TYPE_CHECKING:
+    @overload
+    def __getitem__(self, index: int) -> Row:
+        ...
 
-        @overload
-        def __getitem__(self, index: int) -> Row:
-            ...
+    @overload
+    def __getitem__(self, index: slice) -> list[Row]:
+        ...
 
-        @overload
-        def __getitem__(self, index: slice) -> list[Row]:
-            ...
-
-        def __getitem__(self, index: Any) -> Any:
-            ...
-
-    else:
-
-        def __getitem__(self, index: Any) -> Any:
-            if isinstance(index, slice):
-                return [self._at(each) for each in range(*index.indices(len(self)))]
-            return self._at(self._position(index))
+    def __getitem__(self, index: Any) -> Any:
+        if isinstance(index, slice):
+            return [self._at(each) for each in range(*index.indices(len(self)))]
+        return self._at(self._position(index))
 
     def __setitem__(self, index: Any, value: Any) -> None:
         if isinstance(index, slice):

@@ -3,10 +3,7 @@
 from __future__ import annotations
 
 from collections.abc import Sequence
-
-TYPE_CHECKING = False
-if TYPE_CHECKING:
-    from typing import Any
+from typing import Any
 
 #: What is shown of arrays, rows and texts, and how deep.
 MOST_NUMBERS = 6

@@ -271,7 +271,7 @@ def test_tables_say_what_they_hold() -> None:
     assert [*tables] == ["monitors", "modes", "patches", "curves", "maps"]
     assert tables["modes"].rows
     [serial] = [column for column in tables["modes"].columns if column.name == "serial"]
-    assert serial == ("serial", "", "serial number of the monitor")
+    assert serial == ("serial", "", "serial number of the monitor", "text")
     with pytest.raises(ValueError, match="there is no table 'cars'; there are monitors, modes, patches, curves, maps"):
         lvdata.table(b"<AssetInfo/>", "cars")
 

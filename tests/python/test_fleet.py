@@ -127,7 +127,7 @@ def test_documents_come_in_the_order_of_the_command(tmp_path: Folder) -> None:
     os.mkfifo(tmp_path / "pipe.xml")
     (tmp_path / "link.xml").symlink_to("b.xml")
     (tmp_path / "linked").symlink_to("a")
-    paths = [f"{tmp_path}/", tmp_path / "linked", tmp_path / "b.xml", os.fsencode(tmp_path / "a")]
+    paths = [f"{tmp_path}/", tmp_path / "linked", tmp_path / "b.xml", tmp_path / "a"]
     assert joined(fleet.text(paths, "modes"), scheduler="sync") == printed("modes", "csv", f"{tmp_path}/", *paths[1:3],
                                                                            tmp_path / "a")
 
@@ -140,7 +140,7 @@ def test_without_documents_there_is_nothing_but_columns() -> None:
     assert len(here(fleet.check([]))) == 0
 
 
-@pytest.mark.parametrize("path", [STUDIO, str(STUDIO), os.fsencode(STUDIO), [STUDIO], iter([STUDIO])])
+@pytest.mark.parametrize("path", [STUDIO, str(STUDIO), [STUDIO], iter([STUDIO])])
 def test_one_document_is_enough(path: Any) -> None:
     assert joined(fleet.text(path, "curves"), scheduler="sync") == printed("curves", "csv", STUDIO)
 

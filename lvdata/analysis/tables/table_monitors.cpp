@@ -74,7 +74,8 @@ const std::vector<ColumnOf<MonitorRow>>& columns() {
                  cell.index(row.parts.schedule->type);
              }
          }},
-        {{"schedule_interval_months", "months", "every how many months, where that is the kind of the schedule", Values::integer},
+        {{"schedule_interval_months", "months", "every how many months, where that is the kind of the schedule",
+          Values::integer},
          &giveInterval<types::schedule::everySomeMonths, &SelfCalibrationSchedule::intervalMonth>},
         {{"schedule_interval_weeks", "weeks", "every how many weeks, likewise", Values::integer},
          &giveInterval<types::schedule::everySomeWeeks, &SelfCalibrationSchedule::intervalWeek>},
