@@ -124,6 +124,13 @@ TEST(Tables, HaveARowForAMonitor) {
     EXPECT_EQ(rows[0]["last_calibration"], "2024-05-02T10:07:00");
 }
 
+/// A schedule with all intervals, of which only one belongs to its kind.
+std::string scheduleOfKind(const std::string& kind) {
+    return "<MonitorConfiguration><SelfCalibrationSchedule><Type Type='" + kind +
+           "'><IntervalMonth>3</IntervalMonth><IntervalWeek>5</IntervalWeek><IntervalHour>7</IntervalHour></Type>"
+           "</SelfCalibrationSchedule></MonitorConfiguration>";
+}
+
 TEST(Tables, SayWhatTheValuesOfTheirColumnsAre) {
     const std::string assets =
         "<AssetInfo><Asset1>1</Asset1><Asset2>2</Asset2><Asset3>3</Asset3><Asset4>4</Asset4><Asset5>5</Asset5>"
@@ -132,7 +139,8 @@ TEST(Tables, SayWhatTheValuesOfTheirColumnsAre) {
         "<MeasurementData><Measurements><CMYK>1|2|3|4</CMYK><PQR>1|2|3</PQR></Measurements></MeasurementData>";
     for (const analysis::TableDescription& table : analysis::tables()) {
         KindsSink sink(table.columns);
-        for (const std::string& text : {studio(), assets, patches}) {
+        for (const std::string& text :
+             {studio(), assets, patches, scheduleOfKind("1"), scheduleOfKind("2"), scheduleOfKind("3")}) {
             const analysis::Document document(text, catalogue());
             ASSERT_EQ(document.refusal(), nullptr);
             analysis::addRows(table.table, document.record(), "a.xml", sink);
@@ -284,10 +292,7 @@ TEST(Tables, HaveTheFiguresOfAModeWithTheirDigits) {
 
 TEST(Tables, HaveTheIntervalOfTheKindOfTheSchedule) {
     const auto intervals = [](const std::string& kind) {
-        const auto rows = rowsOf(Table::monitors, "<MonitorConfiguration><SelfCalibrationSchedule><Type Type='" + kind +
-                                                      "'><IntervalMonth>3</IntervalMonth><IntervalWeek>5</IntervalWeek>"
-                                                      "<IntervalHour>7</IntervalHour></Type></SelfCalibrationSchedule>"
-                                                      "</MonitorConfiguration>");
+        const auto rows = rowsOf(Table::monitors, scheduleOfKind(kind));
         return json::array({rows[0]["schedule_interval_months"], rows[0]["schedule_interval_weeks"],
                             rows[0]["schedule_interval_hours"]});
     };
