@@ -52,7 +52,7 @@ TEST_F(Convert, MakesALineOfEachDocument) {
 TEST_F(Convert, MakesTables) {
     const Outcome csv = convert({"csv", "--table", "monitors", "a.xml", "b.xml"});
     EXPECT_THAT(csv.output, StartsWith("file,uuid,serial,mode_index,name,"));
-    EXPECT_THAT(csv.output, HasSubstr("\r\na.xml,,,,,,,\"one, two\",,,,,,,,,,\r\nb.xml,,,,,,,three,"));
+    EXPECT_THAT(csv.output, HasSubstr("\r\na.xml,,,,,,,,,,\"one, two\",,,,,,,,,,\r\nb.xml,,,,,,,,,,three,"));
     const Outcome lines = convert({"jsonl", "--table", "monitors", "a.xml"});
     EXPECT_THAT(lines.output, StartsWith(R"({"file":"a.xml","uuid":null,)"));
     EXPECT_THAT(lines.output, HasSubstr(R"("asset1":"one, two","asset2":null,)"));
