@@ -6,18 +6,18 @@ if(NOT LVDATA_BUILD_ANALYSIS)
 endif()
 find_package(Python 3.11 QUIET COMPONENTS Interpreter Development.Module)
 if(NOT Python_Interpreter_FOUND)
-    message(FATAL_ERROR "LVDATA_BUILD_PYTHON needs Python 3.11 or newer: set Python_EXECUTABLE, or install python3")
+    message(FATAL_ERROR "LVDATA_BUILD_PYTHON needs Python 3.11 or newer: install python3, set Python_EXECUTABLE, or set LVDATA_BUILD_PYTHON=OFF")
 endif()
 if(NOT Python_Development.Module_FOUND)
     message(
         FATAL_ERROR
         "LVDATA_BUILD_PYTHON needs the headers of ${Python_EXECUTABLE} (version ${Python_VERSION}): install python3-dev, "
-        "or set Python_EXECUTABLE to a Python that has them"
+        "set Python_EXECUTABLE to a Python that has them, or set LVDATA_BUILD_PYTHON=OFF"
     )
 endif()
 find_package(pybind11 2.10 CONFIG QUIET)
 if(NOT pybind11_FOUND)
-    message(FATAL_ERROR "LVDATA_BUILD_PYTHON needs pybind11 2.10 or newer: install pybind11-dev, or set pybind11_DIR")
+    message(FATAL_ERROR "LVDATA_BUILD_PYTHON needs pybind11 2.10 or newer: install pybind11-dev, set pybind11_DIR, or set LVDATA_BUILD_PYTHON=OFF")
 endif()
 
 # Below its prefix, Python itself searches this folder.

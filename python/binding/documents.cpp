@@ -2,6 +2,7 @@
 #include "element_record.h"
 #include "failures.h"
 #include "shared.h"
+#include "sources.h"
 #include "values.h"
 #include "wrapping.h"
 
@@ -13,33 +14,29 @@ namespace py = pybind11;
 namespace lv::python {
 namespace {
 
-/// The element of what `load` gives, both without the GIL.
-template <class Load>
-py::object loadedBy(const std::string& path, Load load) {
+/// The element of a document. Needs the GIL and releases it.
+py::object elementIn(const std::string& text, const std::string& file) {
     ElementPtr element;
     {
         const py::gil_scoped_release others;
-        const analysis::LoadedRecord loaded = load();
-        const analysis::LoadResult& result = loaded.result;
-        if (result.outcome == analysis::LoadResult::Outcome::notReadable) {
-            throw FileFailure{result.error, result.reason, path};
-        }
-        if (!loaded) {
-            throw ParseFailure{result.reason, result.line, path};
-        }
-        element = elementOf(*loaded.record);
+        element = elementOf(*recordIn(text, file));
     }
     return wrapped(element);
+}
+
+std::string contentOf(const std::string& path) {
+    const py::gil_scoped_release others;
+    return readDocument(path);
 }
 
 }  // namespace
 
 py::object loads(const std::string& text) {
-    return loadedBy("", [&] { return analysis::loadText(text, catalogue()); });
+    return elementIn(text, {});
 }
 
 py::object load(const std::string& path) {
-    return loadedBy(path, [&] { return analysis::load(path, catalogue()); });
+    return elementIn(contentOf(path), path);
 }
 
 py::tuple fromJSON(const std::string& text) {

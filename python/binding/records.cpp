@@ -39,10 +39,6 @@ void setChild(Element& element, std::size_t index, const ElementPtr& child) {
     element.at(index) = child;
 }
 
-py::bool_ isSet(const Element& element, std::size_t index) {
-    return py::bool_(!std::holds_alternative<std::monostate>(element.at(index)));
-}
-
 const ElementPtr& rowAt(const RowList& rows, std::size_t index) {
     if (index >= rows.rows.size()) {
         throw py::index_error("there is no such row");
@@ -85,7 +81,6 @@ void addElement(const py::module_& module) {
         .def("_child", &childAt)
         .def("_set_child", &setChild)
         .def("_rows", [](Element& self, std::size_t index) { return self.rowsAt(index); })
-        .def("_is_set", &isSet)
         .def("_clear", &clear)
         .def("_path", [](const Element& self, std::size_t index) { return self.layout().pathOf(index); })
         .def("_copy", [](const Element& self) { return wrapped(copyOf(self)); })

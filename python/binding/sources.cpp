@@ -43,6 +43,7 @@ void refuseExcess(const std::string& text, const std::string& file) {
 std::unique_ptr<DataObject> recordIn(const std::string& text, const std::string& file) {
     analysis::LoadedRecord loaded = analysis::loadText(text, catalogue());
     if (!loaded) {
+        static_cast<void>(documentOf(text, file));  // throws, with the words that all others have for it
         throw ParseFailure{loaded.result.reason, loaded.result.line, file};
     }
     return std::move(loaded.record);
