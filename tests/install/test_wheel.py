@@ -5,8 +5,10 @@ from __future__ import annotations
 import email
 import os
 import re
+import shutil
 import subprocess
 import sys
+import tarfile
 import zipfile
 from collections.abc import Mapping
 from pathlib import Path
@@ -20,8 +22,10 @@ VERSION = os.environ["LVDATA_VERSION"]
 PIP = [sys.executable, "-m", "pip", "--disable-pip-version-check", "--no-input"]
 
 
-def run(*command: str | Path, environment: Mapping[str, str] | None = None) -> str:
-    done = subprocess.run(command, env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, cwd="/")
+def run(*command: str | Path, environment: Mapping[str, str] | None = None, folder: str | Path = "/") -> str:
+    done = subprocess.run(
+        command, env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, cwd=folder
+    )
     assert done.returncode == 0, done.stdout
     return done.stdout
 
@@ -34,12 +38,25 @@ def distutils_configuration(folder: Path) -> Path:
 
 
 @pytest.fixture(scope="module")
-def wheel(tmp_path_factory: pytest.TempPathFactory) -> Path:
-    """The wheel, made without network."""
+def source(tmp_path_factory: pytest.TempPathFactory) -> Path:
+    """What a source archive unpacks to. Files keep their times, so that a second run builds little."""
+    folder = tmp_path_factory.mktemp("source")
+    environment = dict(os.environ, DIST_EXTRA_CONFIG=str(distutils_configuration(folder)))
+    make = f"from setuptools import build_meta; build_meta.build_sdist({str(folder)!r})"
+    run(sys.executable, "-c", make, environment=environment, folder=SOURCE_DIR)
+    shutil.rmtree(WORK_DIR / "source", ignore_errors=True)
+    with tarfile.open(folder / f"lvdata-{VERSION}.tar.gz") as archive:
+        archive.extractall(WORK_DIR / "source")
+    return WORK_DIR / "source" / f"lvdata-{VERSION}"
+
+
+@pytest.fixture(scope="module")
+def wheel(source: Path, tmp_path_factory: pytest.TempPathFactory) -> Path:
+    """The wheel, made of the source archive and without network."""
     folder = tmp_path_factory.mktemp("wheel")
     environment = dict(os.environ, DIST_EXTRA_CONFIG=str(distutils_configuration(folder)))
     options = ["--no-build-isolation", "--no-deps", "--no-index", "--wheel-dir", folder]
-    run(*PIP, "wheel", *options, SOURCE_DIR, environment=environment)
+    run(*PIP, "wheel", *options, source, environment=environment)
     (made,) = folder.glob("*.whl")
     return made
 
@@ -62,6 +79,13 @@ def module(installed: Path) -> Path:
 def test_the_name_says_version_python_and_platform(wheel: Path) -> None:
     python = f"cp{sys.version_info.major}{sys.version_info.minor}"
     assert re.fullmatch(rf"lvdata-{re.escape(VERSION)}-{python}-{python}-linux_\w+\.whl", wheel.name)
+
+
+def test_the_source_archive_holds_what_is_built_and_no_tests(source: Path) -> None:
+    names = {path.name for path in source.iterdir()}
+    assert {"CMakeLists.txt", "LICENSE", "README.md", "cmake", "limits", "lvdata", "pyproject.toml", "python"} <= names
+    assert not names & {"benchmarks", "build", "docs", "fuzz", "tests"}
+    assert not [*source.rglob("__pycache__")]
 
 
 def test_it_holds_the_package_and_nothing_else(wheel: Path) -> None:
