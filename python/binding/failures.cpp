@@ -1,6 +1,7 @@
 #include "failures.h"
 
 #include <exception>
+#include <stdexcept>
 
 namespace py = pybind11;
 
@@ -34,6 +35,8 @@ void translate(std::exception_ptr pointer) {  // NOLINT(performance-unnecessary-
         raise(failure);
     } catch (const FileFailure& failure) {
         raise(failure);
+    } catch (const std::invalid_argument& error) {  // may hold names of files that are not UTF-8
+        PyErr_SetObject(PyExc_ValueError, asText(error.what()).ptr());
     }
 }
 

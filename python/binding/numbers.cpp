@@ -196,8 +196,13 @@ std::int64_t storedOf(std::int64_t number, const NumberForm& form) {
     return *stored;
 }
 
+void importNumPy() {
+    py::module_::import("numpy.core.multiarray");
+}
+
 std::string joinedOf(const py::handle& numbers, const NumberForm& form, std::size_t& count) {
     if (py::hasattr(numbers, "__array__")) {
+        importNumPy();
         return joinedOfArray(py::module_::import("numpy").attr("asarray")(numbers), form, count);
     }
     return joinedOfItems(numbers, form, count);

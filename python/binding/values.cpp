@@ -44,6 +44,7 @@ void fill(Number* to, std::size_t count, std::string_view text, Number divisor) 
 
 template <class Number>
 py::object arrayOf(std::string_view text, Number divisor) {
+    importNumPy();
     const std::size_t count = entriesOf(text);
     py::array_t<Number> array(static_cast<py::ssize_t>(count));
     fill(array.mutable_data(), count, text, divisor);
@@ -130,6 +131,7 @@ std::string storedTextOf(const Element& element, std::size_t index, const py::ha
 
 template <class Number>
 py::object columnWith(const RowList& rows, std::size_t index, std::size_t length, Number empty, Numbers numbers) {
+    importNumPy();
     py::array_t<Number> column({rows.rows.size(), length});
     Number* to = column.mutable_data();
     for (const ElementPtr& row : rows.rows) {

@@ -4,11 +4,16 @@ from __future__ import annotations
 
 import json
 import math
+import operator
 from collections.abc import Iterable, Mapping
 from typing import Any, NamedTuple, TypedDict
 
 from . import _lvdata
-from ._sources import Source, mode_text, name_of, text_of, units_of
+from ._sources import Source, mode_text, name_of, text_argument, text_of, units_of
+
+
+#: The most that can be listed of each severity.
+MOST_FINDINGS = 2**31 - 1
 
 
 class Finding(NamedTuple):
@@ -37,11 +42,11 @@ def check(
     :raises ParseError: for a document beyond the limits of hostile ones
     """
     ignored = known_rules(ignore)
-    if most < 0:
-        raise ValueError(f"most is a number from 0, not {most}")
+    if not 0 <= operator.index(most) <= MOST_FINDINGS:
+        raise ValueError(f"most is a number from 0 to {MOST_FINDINGS}, not {most}")
     text, file = text_of(source)
     name = name_of(file)
-    return [Finding(*each, name) for each in _lvdata.findings(text, file, ignored, roundtrip, most)]
+    return [Finding(*each, name) for each in _lvdata.findings(text, file, ignored, bool(roundtrip), most)]
 
 
 def known_rules(ids: Iterable[str]) -> list[str]:
@@ -125,7 +130,7 @@ def diff(
     :raises ParseError: for a document that cannot be read
     """
     limits = _known_tolerances(tolerances or {})
-    paths = [ignore] if isinstance(ignore, str) else list(ignore)
+    paths = [text_argument("ignore", each) for each in ([ignore] if isinstance(ignore, str) else ignore)]
     text, words = _lvdata.differences(text_of(before), text_of(after), limits, paths)
     found = json.loads(text)
     listed = [Difference(**each, words=line) for each, line in zip(found["differences"], words)]
@@ -193,6 +198,7 @@ def table(source: Source, name: str = "modes") -> list[dict[str, Any]]:
     :raises ValueError: for a table that there is not
     :raises ParseError: for a document that cannot be read
     """
+    text_argument("name", name)
     text, file = text_of(source)
     rows: list[dict[str, Any]] = json.loads(_lvdata.rows_of_text(text, file, name))
     if not file:

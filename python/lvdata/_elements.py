@@ -7,6 +7,7 @@ from collections.abc import Mapping
 from typing import TYPE_CHECKING, Any, ClassVar
 
 from . import _fields, _lvdata
+from ._paths import file_name
 from ._show import as_plain, is_set, shown_element
 
 if TYPE_CHECKING:
@@ -60,8 +61,18 @@ class Element(Named, _lvdata.Element):
     _raw = False
     Raw: ClassVar[type[RawView]]
 
+    def __init_subclass__(cls) -> None:
+        if "_id" not in vars(cls) and cls.__module__ != __name__:
+            raise TypeError("classes of elements cannot be derived from")  # since records do not keep the object's class
+
+    def __new__(cls, /, **values: object) -> Self:
+        if not hasattr(cls, "_id"):
+            raise TypeError(f"{cls.__qualname__} is not the class of an element of documents")
+        made = super().__new__(cls)
+        _lvdata.Element.__init__(made, cls._id)
+        return made
+
     def __init__(self, /, **values: object) -> None:
-        super().__init__(self._id)
         _fields.assign(self, values)
 
     @property
@@ -100,17 +111,17 @@ class Record(Element):
 
     __slots__ = ()
 
-    def to_xml(self, *, pretty: bool = True, declaration: bool = True) -> str:
+    def to_xml(self, pretty: bool = True, declaration: bool = True) -> str:
         """The XML document. Bytes that are not UTF-8 become single surrogates: encode with "surrogateescape"."""
-        return _lvdata.to_xml(self, pretty, declaration)
+        return _lvdata.to_xml(self, bool(pretty), bool(declaration))
 
     def to_json(self, *, compact: bool = False) -> str:
         """The JSON text. Raises ValueError when the record holds bytes that are not UTF-8."""
-        return _lvdata.to_json(self, compact)
+        return _lvdata.to_json(self, bool(compact))
 
-    def save(self, path: str | os.PathLike[str], *, pretty: bool = True, declaration: bool = True) -> None:
+    def save(self, path: str | os.PathLike[str], pretty: bool = True, declaration: bool = True) -> None:
         """Writes the XML document into a file, which is replaced in one step or, with OSError, left as it was."""
-        _lvdata.save(self, os.fsencode(path), pretty, declaration)
+        _lvdata.save(self, file_name(path), bool(pretty), bool(declaration))
 
 
 class RawView(Named):

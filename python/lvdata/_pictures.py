@@ -6,8 +6,9 @@ import os
 from collections.abc import Iterable
 
 from . import _lvdata
+from ._elements import Record
 from ._saved import Saved
-from ._sources import Source, _Record, limits_name, mode_text, text_of, units_of
+from ._sources import Source, limits_name, mode_text, text_argument, text_of, units_of
 
 
 class Picture(Saved):
@@ -26,7 +27,7 @@ class Picture(Saved):
 
 def listed(sources: Source | Iterable[Source]) -> list[Source]:
     """One source, or several, as a list."""
-    if isinstance(sources, (str, bytes, os.PathLike, _Record)):
+    if isinstance(sources, (str, bytes, os.PathLike, Record)):
         return [sources]
     return list(sources)
 
@@ -58,7 +59,13 @@ def plot(
     :raises ParseError: for a document that cannot be read, is not of a monitor, or is of another monitor
     """
     name = None if limits is None else limits_name(limits)
-    request = _lvdata.PictureRequest(picture, mode_text(mode), plane, name, figure)
+    request = _lvdata.PictureRequest(
+        text_argument("picture", picture),
+        mode_text(mode),
+        None if plane is None else text_argument("plane", plane),
+        name,
+        None if figure is None else text_argument("figure", figure),
+    )
     documents = listed(sources)
     if len(documents) != 1 and not request.is_history:
         raise ValueError("all pictures but history take one document")

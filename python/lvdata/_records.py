@@ -8,6 +8,7 @@ from typing import Any
 
 from . import _fields, _lvdata
 from ._elements import Element, Group, RawView, Record
+from ._paths import file_name
 from ._rows import Rows
 
 __all__ = ["Element", "Group", "RawView", "Record", "Rows", "from_json", "load", "loads", "record_classes"]
@@ -113,7 +114,7 @@ def loads(text: str | bytes) -> Any:
 
 def load(path: str | os.PathLike[str]) -> Any:
     """The record of an XML document in a file. Raises OSError, or ParseError with the name of the file."""
-    return _lvdata.load(os.fsencode(path))
+    return _lvdata.load(file_name(path))
 
 
 def from_json(text: str | bytes) -> Any:

@@ -11,7 +11,7 @@ from . import _lvdata
 from ._errors import ParseError
 from ._pictures import listed
 from ._saved import Saved
-from ._sources import Source, file_name, limits_name, mode_text, text_of, units_of
+from ._sources import Source, limits_name, mode_text, text_argument, text_of, units_of
 
 
 class PageEntry(TypedDict):
@@ -71,7 +71,7 @@ def report(
     :raises ValueError: for limits or a mode that there are not, and without any document
     :raises ParseError: for a document that cannot be read, is not of a monitor, or is of another monitor
     """
-    form = _lvdata.ReportForm(title, date, mode_text(mode), limits_name(limits))
+    form = _form({"limits": limits, "mode": mode, "date": date}, title)
     return Report(_page(listed(sources), form, units_of(y_unit, map_unit, grid))[0])
 
 
@@ -160,7 +160,8 @@ def index_page(entries: Sequence[PageEntry], options: PageOptions, title: str) -
 
 def _form(options: PageOptions, title: str) -> _lvdata.ReportForm:
     limits = limits_name(options.get("limits", "default"))
-    return _lvdata.ReportForm(title, options.get("date", ""), mode_text(options.get("mode")), limits)
+    date = text_argument("date", options.get("date", ""))
+    return _lvdata.ReportForm(text_argument("title", title), date, mode_text(options.get("mode")), limits)
 
 
 def _units(options: PageOptions) -> tuple[str, str, int]:

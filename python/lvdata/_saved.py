@@ -5,7 +5,7 @@ from __future__ import annotations
 import os
 
 from . import _lvdata
-from ._sources import file_name
+from ._paths import file_name
 
 
 class Saved:

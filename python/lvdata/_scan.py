@@ -11,7 +11,8 @@ from typing import TYPE_CHECKING, Any, TypeVar, Union
 
 from . import _lvdata
 from ._errors import ParseError
-from ._sources import file_name
+from ._paths import file_name
+from ._sources import text_argument
 
 if TYPE_CHECKING:
     from concurrent.futures import Future
@@ -65,7 +66,7 @@ def scan(
     :raises ValueError: for a table that there is not
     :raises ParseError: for a document that cannot be read, without `on_error`; OSError for a file or folder
     """
-    _lvdata.table_columns(table)
+    _lvdata.table_columns(text_argument("table", table))
     files = walk(paths)
     threads = _threads(jobs)
     return _rows(_results(files, lambda file: _lvdata.rows_of_file(file, table), threads), on_error)

@@ -4,19 +4,15 @@ from __future__ import annotations
 
 import operator
 import os
-from typing import NamedTuple, Protocol, Union, runtime_checkable
+from typing import NamedTuple, Union
 
 from . import _lvdata
-
-
-@runtime_checkable
-class _Record(Protocol):
-    def to_xml(self, *, pretty: bool = ..., declaration: bool = ...) -> str:
-        ...
+from ._elements import Record
+from ._paths import file_name
 
 
 #: A record, the path of a document, or the text of a document as bytes.
-Source = Union[_Record, str, "os.PathLike[str]", bytes]
+Source = Union[Record, str, "os.PathLike[str]", bytes]
 
 
 class Text(NamedTuple):
@@ -33,19 +29,9 @@ def text_of(source: Source) -> Text:
     if isinstance(source, (str, os.PathLike)):
         file = file_name(source)
         return Text(_lvdata.read_document(file), file)
-    if isinstance(source, _Record):
+    if isinstance(source, Record):
         return Text(source.to_xml(pretty=False, declaration=False).encode("utf-8", "surrogateescape"), b"")
     raise TypeError(f"a source is a record, a path or bytes, not {type(source).__name__}")
-
-
-def file_name(path: str | os.PathLike[str]) -> bytes:
-    """The bytes of a path. Raises TypeError for anything else, ValueError for what no file can be called."""
-    if not isinstance(path, (str, os.PathLike)):
-        raise TypeError(f"a path is a str or an os.PathLike, not {type(path).__name__}")
-    name = os.fsencode(path)
-    if not name or b"\0" in name:
-        raise ValueError("a path is empty" if not name else "a path holds a NUL character")
-    return name
 
 
 def name_of(file: bytes) -> str | None:
@@ -68,9 +54,20 @@ def units_of(y_unit: str, map_unit: str, grid: int) -> tuple[str, str, int]:
     width = operator.index(grid)
     if not 0 <= width <= 10000:
         raise ValueError(f"grid is a number from 0 to 10000, not {width}")
-    return y_unit, map_unit, width
+    return text_argument("y_unit", y_unit), text_argument("map_unit", map_unit), width
 
 
-def limits_name(limits: str | os.PathLike[str]) -> str:
+def limits_name(limits: str | os.PathLike[str]) -> bytes:
     """The name or the path of a limit set."""
-    return os.fspath(limits)
+    return file_name(limits)
+
+
+def text_argument(name: str, value: str) -> str:
+    """The value of the argument of that name; TypeError when it is not a text, ValueError when UTF-8 cannot carry it."""
+    if not isinstance(value, str):
+        raise TypeError(f"{name} is a str, not {type(value).__name__}")
+    try:
+        value.encode()
+    except UnicodeEncodeError:
+        raise ValueError(f"{name} holds single surrogates") from None
+    return value
