@@ -142,7 +142,8 @@ def check_what_is_planted(answers: dict[str, list[list[Any]]]) -> None:
     undated = (make_fleet.NEVER, make_fleet.UNREADABLE, make_fleet.WITHOUT_DAY)
     assert overdue[:3] == sorted(map(make_fleet.serial_of, undated)), overdue
     assert 4 < len(overdue) < make_fleet.MONITORS - 2, overdue
-    assert {make_fleet.serial_of(monitor) for monitor in (*make_fleet.WITHOUT_UUID, make_fleet.EMPTY_UUID)} <= {*overdue}
+    nameless = make_fleet.WITHOUT_UUID + make_fleet.EMPTY_UUID
+    assert {*map(make_fleet.serial_of, nameless)} <= {*overdue}, overdue
     evenness = [row[0] for row in answers["uniformity_by_model"]]
     assert evenness == sorted(make_fleet.MODELS, key=lambda model: -make_fleet.MODELS[model]), evenness
     assert sum(row[1] for row in answers["uniformity_by_model"]) == make_fleet.MONITORS

@@ -24,8 +24,10 @@ NEVER = 8  # its calibrations have no time
 UNREADABLE = 9  # its times are not written year first
 WITHOUT_DAY = 12  # its times have no day
 WITHOUT_UUID = (3, 10)  # known by their serial numbers alone
-EMPTY_UUID = 6
-UNNAMED_SENSOR = (0, 9, 13)  # the last visit of these does not say which sensor it was
+EMPTY_UUID = (6, 13)
+UNNAMED_AT_LAST = (0, 9, 13)  # the last visit of these does not say which sensor it was
+NEVER_NAMED = 6  # no visit of this one does
+WHITE_TWICE = 11  # its white was measured twice at each visit
 
 NAMES = (
     'Schnittplatz "Süd", links', "Regie\nzweite Zeile", "東京 3", "=1+1", "NA", "0417", "NULL", "Studio; wall", "it's",
@@ -56,7 +58,7 @@ def set_text(parent: ElementTree.Element, path: str, text: str) -> None:
 
 
 def set_uuid(root: ElementTree.Element, monitor: int) -> None:
-    set_text(root, "UUID", "" if monitor == EMPTY_UUID else f"6f1d2c9a-52c7-4b0e-9a57-{monitor:012}")
+    set_text(root, "UUID", "" if monitor in EMPTY_UUID else f"6f1d2c9a-52c7-4b0e-9a57-{monitor:012}")
     if monitor in WITHOUT_UUID:
         root[:] = [part for part in root if part.tag != "UUID"]
 
@@ -106,7 +108,8 @@ def sensor_of(monitor: int, visit: int) -> str:
 
 def serial_of_sensor(monitor: int, visit: int) -> str:
     is_last = visit == len(dates_of(monitor)) - 1
-    return "" if is_last and monitor in UNNAMED_SENSOR else sensor_of(monitor, visit)
+    is_unnamed = monitor == NEVER_NAMED or (is_last and monitor in UNNAMED_AT_LAST)
+    return "" if is_unnamed else sensor_of(monitor, visit)
 
 
 def set_sensor(basic: ElementTree.Element | None, sensor: str, time: str) -> None:
@@ -129,9 +132,16 @@ def months_until(date: str) -> float:
 
 
 def change_standard_mode(result: ElementTree.Element, sensor: str, months: float, dice: random.Random) -> None:
-    factor = SENSORS[sensor] * (1 - LOSS_PER_MONTH * months) * dice.uniform(0.999, 1.001)
+    factor = SENSORS[sensor] * (1 - LOSS_PER_MONTH * months) * dice.uniform(0.9995, 1.0005)
     for patch in result.findall("MeasurementData/Measurements"):
         scale(patch.find("XYZ"), (factor, factor, factor))
+
+
+def measure_white_again(result: ElementTree.Element) -> None:
+    patches = result.find("MeasurementData")
+    assert patches is not None
+    white = next(patch for patch in patches if patch.findtext("RGB") == "255|255|255")
+    patches.append(copy.deepcopy(white))
 
 
 def change_map(root: ElementTree.Element, monitor: int, dice: random.Random) -> None:
@@ -169,6 +179,8 @@ def document_of(sample: ElementTree.Element, monitor: int, date: str) -> Element
     result = root.find("StandardModeResult")
     assert result is not None
     set_sensor(result.find("BasicData"), sensor, time_of(monitor, date, 5))
+    if monitor == WHITE_TWICE:
+        measure_white_again(result)
     change_standard_mode(result, sensor_of(monitor, visit), months_until(date), dice)
     change_map(root, monitor, dice)
     if monitor or visit:
