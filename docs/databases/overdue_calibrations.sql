@@ -1,11 +1,8 @@
 -- Monitors whose last calibration is older than the interval of their schedule, or than 180 days without one; and
 -- those that have none, or whose date cannot be read. Replace the day by that of today.
-WITH latest AS (
-    SELECT *, row_number() OVER (PARTITION BY uuid ORDER BY coalesce(last_calibration, '') DESC, file) AS place
-    FROM monitors
-), ages AS (
+WITH ages AS (
     SELECT serial, model, last_calibration,
-           julianday('2024-11-30') - julianday(last_calibration) AS age_days,
+           julianday('2024-11-30') - day AS age_days,
            coalesce(CASE schedule_type
                WHEN 1 THEN 31 * schedule_interval_months
                WHEN 2 THEN 7 * schedule_interval_weeks
@@ -18,7 +15,7 @@ WITH latest AS (
                WHEN 52 THEN 184   -- half-yearly
                WHEN 53 THEN 366   -- yearly
            END, 180) AS allowed_days
-    FROM latest
+    FROM visits
     WHERE place = 1
 )
 SELECT serial, model, last_calibration, round(age_days, 1) AS age_days, round(allowed_days, 1) AS allowed_days

@@ -9,5 +9,5 @@
 .once nulls.sql
 SELECT 'UPDATE ' || tables.name || ' SET ' || columns.name || ' = NULL WHERE ' || columns.name || ' = '''';'
 FROM sqlite_schema AS tables, pragma_table_info(tables.name) AS columns
-WHERE tables.type = 'table';
+WHERE tables.name IN ('monitors', 'modes', 'patches', 'curves', 'maps');
 .read nulls.sql

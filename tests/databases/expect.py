@@ -45,18 +45,23 @@ def date_of(text: str | None) -> datetime | None:
         return None
 
 
+def monitor_of(row: Row) -> str:
+    return row["uuid"] or row["serial"] or row["file"]
+
+
 def latest_of(monitors: list[Row]) -> list[Row]:
     latest: dict[str, Row] = {}
-    for row in sorted(monitors, key=itemgetter("file"), reverse=True):
-        before = latest.get(row["uuid"])
-        if before is None or (row["last_calibration"] or "") >= (before["last_calibration"] or ""):
-            latest[row["uuid"]] = row
+    for row in sorted(monitors, key=lambda row: (date_of(row["last_calibration"]) or datetime.min, row["file"])):
+        before = latest.get(monitor_of(row))
+        if before is None or date_of(row["last_calibration"]) != date_of(before["last_calibration"]):
+            latest[monitor_of(row)] = row
     return list(latest.values())
 
 
 def whites_of(patches: list[Row]) -> list[Row]:
-    return [row for row in patches
-            if row["source"] == "standard_mode_result" and {row["rgb_r"], row["rgb_g"], row["rgb_b"]} == {255}]
+    """Those of a known sensor."""
+    return [row for row in patches if row["source"] == "standard_mode_result" and row["sensor_serial"]
+            and {row["rgb_r"], row["rgb_g"], row["rgb_b"]} == {255}]
 
 
 def worst_monitors(tables: dict[str, list[Row]]) -> list[list[Any]]:
@@ -69,13 +74,17 @@ def worst_monitors(tables: dict[str, list[Row]]) -> list[list[Any]]:
 
 def drift_per_month(tables: dict[str, list[Row]]) -> list[list[Any]]:
     times = {row["file"]: date_of(row["last_calibration"]) for row in tables["monitors"]}
-    first: dict[str, float] = {}
-    months: dict[str, list[float]] = defaultdict(list)
+    first: dict[tuple[str, str], tuple[datetime, float]] = {}
+    months: dict[str, list[tuple[str, float, float]]] = defaultdict(list)
     whites = [(time, row) for row in whites_of(tables["patches"]) if (time := times[row["file"]])]
     for time, row in sorted(whites, key=itemgetter(0)):
-        change = 100 * (row["xyz_y"] / first.setdefault(row["uuid"], row["xyz_y"]) - 1)
-        months[f"{time:%Y-%m}"].append(change)
-    return [[month, len(changes), fmean(changes), min(changes)] for month, changes in sorted(months.items())]
+        day, light = first.setdefault((monitor_of(row), row["sensor_serial"]), (time, row["xyz_y"]))
+        if time > day:
+            change = 100 * (row["xyz_y"] / light - 1)
+            rate = change / ((time - day).total_seconds() / 86400) * make_fleet.DAYS_PER_MONTH
+            months[f"{time:%Y-%m}"].append((monitor_of(row), change, rate))
+    return [[month, len({row[0] for row in rows}), fmean(row[1] for row in rows), min(row[1] for row in rows),
+             fmean(row[2] for row in rows)] for month, rows in sorted(months.items())]
 
 
 def allowed_days_of(row: Row) -> float:
@@ -110,7 +119,7 @@ def uniformity_by_model(tables: dict[str, list[Row]]) -> list[list[Any]]:
 def sensors_that_disagree(tables: dict[str, list[Row]]) -> list[list[Any]]:
     readings: dict[str, dict[str, list[float]]] = defaultdict(lambda: defaultdict(list))
     for row in whites_of(tables["patches"]):
-        readings[row["uuid"]][row["sensor_serial"]].append(row["xyz_y"])
+        readings[monitor_of(row)][row["sensor_serial"]].append(row["xyz_y"])
     pairs: dict[tuple[str, str], list[float]] = defaultdict(list)
     for sensors in readings.values():
         for one in sensors:
@@ -130,14 +139,19 @@ def check_what_is_planted(answers: dict[str, list[list[Any]]]) -> None:
     """The fleet has what the questions are to find: otherwise they would prove little."""
     assert answers["worst_monitors"][0][0] == make_fleet.serial_of(make_fleet.WORST)
     overdue = [row[0] for row in answers["overdue_calibrations"]]
-    assert overdue[:2] == sorted(map(make_fleet.serial_of, (make_fleet.NEVER, make_fleet.UNREADABLE))), overdue
-    assert 3 < len(overdue) < make_fleet.MONITORS - 2, overdue
+    undated = (make_fleet.NEVER, make_fleet.UNREADABLE, make_fleet.WITHOUT_DAY)
+    assert overdue[:3] == sorted(map(make_fleet.serial_of, undated)), overdue
+    assert 4 < len(overdue) < make_fleet.MONITORS - 2, overdue
+    nameless = make_fleet.WITHOUT_UUID + make_fleet.EMPTY_UUID
+    assert {*map(make_fleet.serial_of, nameless)} <= {*overdue}, overdue
     evenness = [row[0] for row in answers["uniformity_by_model"]]
     assert evenness == sorted(make_fleet.MODELS, key=lambda model: -make_fleet.MODELS[model]), evenness
-    loss = answers["drift_per_month"][-1]
-    assert abs(loss[2] + 100 * make_fleet.LOSS_PER_MONTH * 10) < 3, loss
+    assert sum(row[1] for row in answers["uniformity_by_model"]) == make_fleet.MONITORS
+    for month in answers["drift_per_month"]:
+        assert abs(month[4] + 100 * make_fleet.LOSS_PER_MONTH) < 0.03, month
     odd = min(make_fleet.SENSORS, key=lambda sensor: make_fleet.SENSORS[sensor])
-    assert all(odd in pair[:2] for pair in answers["sensors_that_disagree"][:2])
+    pairs = answers["sensors_that_disagree"]
+    assert len(pairs) == 3 and all(odd in pair[:2] for pair in pairs[:2]), pairs
 
 
 def main() -> None:

@@ -144,6 +144,7 @@ async function load(form, steps) {
   for (const step of steps) {
     await connection.run(step);
   }
+  await connection.run(statements("visits"));
   await compare(connection, form);
   return connection;
 }

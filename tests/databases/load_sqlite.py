@@ -13,6 +13,7 @@ import runpy
 import sqlite3
 import subprocess
 import sys
+import tempfile
 import warnings
 from pathlib import Path
 from typing import Any
@@ -22,15 +23,16 @@ LANGUAGES = {".sql": "sql", ".py": "python"}
 
 
 def fill_by_csv(sql: Path) -> sqlite3.Connection:
-    """As a user does it, with the command sqlite3."""
-    script = (sql / "create_tables.sql").read_text() + (sql / "sqlite_csv.sql").read_text()
+    """As a user does it, with the command sqlite3, in a database that has a table of the user's own."""
+    files = [(sql / name).read_text() for name in ("create_tables.sql", "sqlite_csv.sql", "visits.sql")]
+    script = "CREATE TABLE own (text TEXT); INSERT INTO own VALUES ('');" + "".join(files)
     subprocess.run(["sqlite3", "-bail", "csv.sqlite"], input=script, text=True, check=True)
     return sqlite3.connect("csv.sqlite")
 
 
 def fill_by_json_lines(sql: Path) -> sqlite3.Connection:
     database = sqlite3.connect("fleet.sqlite")
-    database.executescript((sql / "create_tables.sql").read_text())
+    database.executescript((sql / "create_tables.sql").read_text() + (sql / "visits.sql").read_text())
     database.commit()
     runpy.run_path(str(sql / "sqlite_jsonl.py"))["database"].close()
     return database
@@ -68,6 +70,24 @@ def compare_tables(database: sqlite3.Connection, expected: dict[str, Any], is_cs
             faults += [f"{table}.{column}, {key}: {found[key]!r} instead of {wanted[key]!r}" for key in wanted
                        if not is_near(found[key], wanted[key], 1e-12 * max(1, abs(found["sum"])))]
     return faults
+
+
+def compare_own_table(database: sqlite3.Connection) -> list[str]:
+    texts = database.execute("SELECT text FROM own").fetchall()
+    return [] if texts == [("",)] else [f"CSV: the table of the user's own has {texts}"]
+
+
+def try_empty_tables(sql: Path, tables: list[str]) -> list[str]:
+    """An archive without maps, for example, makes an empty file."""
+    with tempfile.TemporaryDirectory() as folder, contextlib.chdir(folder):
+        for table in tables:
+            Path(f"{table}.jsonl").touch()
+        try:
+            with contextlib.closing(fill_by_json_lines(sql)) as database:
+                counts = [database.execute(f"SELECT count(*) FROM {table}").fetchone()[0] for table in tables]
+        except IndexError as error:
+            return [f"empty tables: {error}"]
+    return ["empty tables: they have rows"] if any(counts) else []
 
 
 def compare_monitors(database: sqlite3.Connection, expected: dict[str, Any], is_csv: bool) -> list[str]:
@@ -163,8 +183,8 @@ def compare_counts(page: Path, expected: dict[str, Any]) -> list[str]:
     """What the page says of the fleet."""
     text = " ".join(page.read_text(encoding="utf-8").split())
     monitors, rows = expected["monitors"], sum(table["rows"] for table in expected["tables"].values())
-    uuids = {monitor["uuid"] for monitor in monitors}
-    said = f"fleet of {len(uuids)} monitors with {len(monitors)} documents, {rows:,} rows in all"
+    serials = {monitor["serial"] for monitor in monitors}
+    said = f"fleet of {len(serials)} monitors with {len(monitors)} documents, {rows:,} rows in all"
     return [] if said in text else [f"{page.name}: it does not say: {said}"]
 
 
@@ -176,6 +196,7 @@ def main() -> None:
     expected = json.loads(Path("expected.json").read_text(encoding="utf-8"))
     csv, lines = fill_by_csv(sql), fill_by_json_lines(sql)
     faults = compare_database(csv, sql, expected, True) + compare_database(lines, sql, expected, False)
+    faults += compare_own_table(csv) + try_empty_tables(sql, list(expected["tables"]))
     printed, faults_of_pandas = try_pandas(sql, expected)
     faults += faults_of_pandas + compare_counts(page, expected)
     faults += compare_page(page, blocks_of_page(lines, sql, printed), "--write" in sys.argv)

@@ -9,6 +9,7 @@ import copy
 import random
 import sys
 import xml.etree.ElementTree as ElementTree
+from datetime import date as Date
 from pathlib import Path
 
 MODELS = {"LV-27W": 1.0, "LV-32U": 1.6, "LV-24P": 2.4}  # how uneven their screens are, times the sample
@@ -16,10 +17,17 @@ SENSORS = {"B-0417": 1.0, "S-3301": 1.004, "0003302": 0.975}  # what they read o
 DATES = ("2024-01-16", "2024-04-09", "2024-07-23", "2024-11-05")
 MONITORS = 14
 LOSS_PER_MONTH = 0.004
+DAYS_PER_MONTH = 30.4375
 
 WORST = 7  # the monitor whose patches are off by the most
 NEVER = 8  # its calibrations have no time
 UNREADABLE = 9  # its times are not written year first
+WITHOUT_DAY = 12  # its times have no day
+WITHOUT_UUID = (3, 10)  # known by their serial numbers alone
+EMPTY_UUID = (6, 13)
+UNNAMED_AT_LAST = (0, 9, 13)  # the last visit of these does not say which sensor it was
+NEVER_NAMED = 6  # no visit of this one does
+WHITE_TWICE = 11  # its white was measured twice at each visit
 
 NAMES = (
     'Schnittplatz "Süd", links', "Regie\nzweite Zeile", "東京 3", "=1+1", "NA", "0417", "NULL", "Studio; wall", "it's",
@@ -49,8 +57,14 @@ def set_text(parent: ElementTree.Element, path: str, text: str) -> None:
     element.text = text
 
 
+def set_uuid(root: ElementTree.Element, monitor: int) -> None:
+    set_text(root, "UUID", "" if monitor in EMPTY_UUID else f"6f1d2c9a-52c7-4b0e-9a57-{monitor:012}")
+    if monitor in WITHOUT_UUID:
+        root[:] = [part for part in root if part.tag != "UUID"]
+
+
 def name_monitor(root: ElementTree.Element, monitor: int) -> None:
-    set_text(root, "UUID", f"6f1d2c9a-52c7-4b0e-9a57-{monitor:012}")
+    set_uuid(root, monitor)
     set_text(root, "MonitorConfiguration/Name", NAMES[monitor])
     set_text(root, "MonitorConfiguration/Model", list(MODELS)[monitor % 3])
     set_text(root, "MonitorConfiguration/Serial", serial_of(monitor))
@@ -74,12 +88,33 @@ def time_of(monitor: int, date: str, mode: int) -> str:
         return ""
     if monitor == UNREADABLE:
         return f"{date[8:]}.{date[5:7]}.{date[:4]} 09:1{mode}"
+    if monitor == WITHOUT_DAY:
+        return f"09:1{mode}"
     return f"{date}T09:1{mode}:00"
+
+
+def dates_of(monitor: int) -> tuple[str, ...]:
+    """Two to four: some monitors were not calibrated of late."""
+    return DATES[: 2 + monitor % 3]
+
+
+def sensor_of(monitor: int, visit: int) -> str:
+    """The same at most visits to a monitor. Another one at a visit in the middle, if there is one."""
+    own = (monitor - monitor // 3) % 3
+    visits = len(dates_of(monitor))
+    other_visit = 2 if monitor % 6 == 5 else 1
+    return list(SENSORS)[(own + 1) % 3 if visits > 2 and visit == other_visit else own]
+
+
+def serial_of_sensor(monitor: int, visit: int) -> str:
+    is_last = visit == len(dates_of(monitor)) - 1
+    is_unnamed = monitor == NEVER_NAMED or (is_last and monitor in UNNAMED_AT_LAST)
+    return "" if is_unnamed else sensor_of(monitor, visit)
 
 
 def set_sensor(basic: ElementTree.Element | None, sensor: str, time: str) -> None:
     assert basic is not None
-    set_text(basic, "ColorSensorName", "Built-in sensor" if sensor[0] == "B" else "Sensor on a stand")
+    set_text(basic, "ColorSensorName", "Built-in sensor" if sensor.startswith("B") else "Sensor on a stand")
     set_text(basic, "ColorSensorSerial", sensor)
     set_text(basic, "executedDate", time)
 
@@ -92,10 +127,21 @@ def change_mode(mode: ElementTree.Element, error: float, dice: random.Random) ->
         scale(patch.find("XYZ"), (factors[0], 1 + dice.uniform(-error, error), factors[2]))
 
 
-def change_standard_mode(result: ElementTree.Element, sensor: str, months: int, dice: random.Random) -> None:
-    factor = SENSORS[sensor] * (1 - LOSS_PER_MONTH * months) * dice.uniform(0.999, 1.001)
+def months_until(date: str) -> float:
+    return (Date.fromisoformat(date) - Date.fromisoformat(DATES[0])).days / DAYS_PER_MONTH
+
+
+def change_standard_mode(result: ElementTree.Element, sensor: str, months: float, dice: random.Random) -> None:
+    factor = SENSORS[sensor] * (1 - LOSS_PER_MONTH * months) * dice.uniform(0.9995, 1.0005)
     for patch in result.findall("MeasurementData/Measurements"):
         scale(patch.find("XYZ"), (factor, factor, factor))
+
+
+def measure_white_again(result: ElementTree.Element) -> None:
+    patches = result.find("MeasurementData")
+    assert patches is not None
+    white = next(patch for patch in patches if patch.findtext("RGB") == "255|255|255")
+    patches.append(copy.deepcopy(white))
 
 
 def change_map(root: ElementTree.Element, monitor: int, dice: random.Random) -> None:
@@ -123,7 +169,7 @@ def document_of(sample: ElementTree.Element, monitor: int, date: str) -> Element
     name_monitor(root, monitor)
     set_schedule(root, monitor)
     visit = DATES.index(date)
-    sensor = list(SENSORS)[(monitor + visit) % 3]
+    sensor = serial_of_sensor(monitor, visit)
     error = 0.06 if monitor == WORST else dice.uniform(0.001, 0.012)
     for number, mode in enumerate(root.findall("CalibrationModeResult/ColorMode")):
         time = time_of(monitor, date, number)
@@ -133,16 +179,13 @@ def document_of(sample: ElementTree.Element, monitor: int, date: str) -> Element
     result = root.find("StandardModeResult")
     assert result is not None
     set_sensor(result.find("BasicData"), sensor, time_of(monitor, date, 5))
-    change_standard_mode(result, sensor, int(date[5:7]) - 1, dice)
+    if monitor == WHITE_TWICE:
+        measure_white_again(result)
+    change_standard_mode(result, sensor_of(monitor, visit), months_until(date), dice)
     change_map(root, monitor, dice)
     if monitor or visit:
         drop_long_lists(root)
     return root
-
-
-def dates_of(monitor: int) -> tuple[str, ...]:
-    """Two to four: some monitors were not calibrated of late."""
-    return DATES[: 2 + monitor % 3]
 
 
 def main() -> None:

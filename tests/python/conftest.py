@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import os
 import subprocess
+import threading
 from collections.abc import Callable
 from pathlib import Path
 
@@ -46,3 +47,22 @@ def later(document: bytes, day: str, uuid: str | None = None) -> bytes:
     changed = document.replace(b"2024-05-02T", day.encode() + b"T")
     assert changed != document
     return changed if uuid is None else changed.replace(b"6f1d2c9a-52c7-4b0e-9a57-0d3c5b7e4417", uuid.encode())
+
+
+def turns_of_another_thread(work: Callable[[], object]) -> int:
+    """How often another thread, which asks for it each millisecond, has its turn while the work is done."""
+    done = threading.Event()
+    turns = []
+
+    def count() -> None:
+        number = 0
+        while not done.wait(0.001):
+            number += 1
+        turns.append(number)
+
+    counter = threading.Thread(target=count)
+    counter.start()
+    work()
+    done.set()
+    counter.join()
+    return turns[0]

@@ -11,6 +11,7 @@ from typing import Any
 
 import lvdata
 import pytest
+from conftest import turns_of_another_thread
 from lvdata import _lvdata
 from lvdata._sources import Source
 
@@ -278,21 +279,7 @@ def test_tables_say_what_they_hold() -> None:
 
 def test_other_threads_go_on_while_a_document_is_checked() -> None:
     text = b"<AssetInfo>" + b"<X/>" * 200_000 + b"</AssetInfo>"
-    done = threading.Event()
-    counts = []
-
-    def count() -> None:
-        number = 0
-        while not done.wait(0.001):
-            number += 1
-        counts.append(number)
-
-    counter = threading.Thread(target=count)
-    counter.start()
-    lvdata.check(text, most=0)
-    done.set()
-    counter.join()
-    assert counts[0] > 20
+    assert turns_of_another_thread(lambda: lvdata.check(text, most=0)) > 20
 
 
 def test_threads_can_share_a_document(studio: Path) -> None:

@@ -17,6 +17,7 @@ from pathlib import Path
 import lvdata
 import pandas  # type: ignore[import]
 import pytest
+from conftest import turns_of_another_thread
 from lvdata import _lvdata
 
 Tool = Callable[..., bytes]
@@ -183,18 +184,6 @@ def test_ctrl_c_ends_a_scan(archive: Path) -> None:
 def test_other_threads_go_on_during_a_scan(tmp_path: Path) -> None:
     large = tmp_path / "large.xml"
     large.write_bytes(b"<MonitorInfo>" + b"<X/>" * 200_000 + b"</MonitorInfo>")
-    done = threading.Event()
-    counts = []
-
-    def count() -> None:
-        number = 0
-        while not done.wait(0.001):
-            number += 1
-        counts.append(number)
-
-    counter = threading.Thread(target=count)
-    counter.start()
-    assert len(list(lvdata.scan(large, "monitors", jobs=2))) == 1
-    done.set()
-    counter.join()
-    assert counts[0] > 20
+    rows: list[object] = []
+    assert turns_of_another_thread(lambda: rows.extend(lvdata.scan(large, "monitors", jobs=2))) > 20
+    assert len(rows) == 1

@@ -3,6 +3,8 @@
 #include <lvdata/core/quantities.h>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace lv::analysis {
 namespace {
@@ -125,17 +127,14 @@ void giveNumber(const ModeRow& row, Cell& cell) {
     }
 }
 
-/// What was measured, with the digits that the figure has everywhere.
-void giveFigure(const ModeRow& row, Cell& cell, std::string_view key) {
-    const auto line =
-        std::find_if(row.figures.begin(), row.figures.end(), [&](const FigureLine& each) { return each.key == key; });
-    if (line != row.figures.end()) {
-        cell.figure(line->measured, line->decimals);
+void giveCalibratedTime(const ModeRow& row, Cell& cell) {
+    if (row.result != nullptr) {
+        cell.text(row.result->calibratedTime);
     }
 }
 
-const std::vector<ColumnOf<ModeRow>>& columns() {
-    static const std::vector<ColumnOf<ModeRow>> all = withOrigin<ModeRow>({
+std::vector<ColumnOf<ModeRow>> settingColumns() {
+    return {
         {{"type", "", "type of the mode"}, &giveType},
         {{"name", "", "name of the mode"}, &giveName},
         {{"brightness_type", "", "how the brightness to be reached is given"}, &giveBrightnessType},
@@ -149,12 +148,13 @@ const std::vector<ColumnOf<ModeRow>>& columns() {
          &giveTemperature},
         {{"gamma", "", "tone curve to be reached: a standard, a number, or the type"}, &giveGamma},
         {{"gamut", "", "gamut to be reached: a standard, or the type"}, &giveGamut},
+    };
+}
+
+std::vector<ColumnOf<ModeRow>> calibrationColumns() {
+    return {
         {{"calibrated_time", "", "when the mode was calibrated, as it stands; its form is not recorded"},
-         [](const ModeRow& row, Cell& cell) {
-             if (row.result != nullptr) {
-                 cell.text(row.result->calibratedTime);
-             }
-         }},
+         &giveCalibratedTime},
         {{"sensor_name", "", "name of the colour sensor"}, &giveText<&BasicData::colorSensorName>},
         {{"sensor_serial", "", "serial number of the colour sensor"}, &giveText<&BasicData::colorSensorSerial>},
         {{"usage_hours", notRecorded, "hours of use, by the name of the element", Values::integer},
@@ -163,31 +163,44 @@ const std::vector<ColumnOf<ModeRow>>& columns() {
          &giveNumber<&BasicData::colorSensorCorrelationID>},
         {{"correlation_date", "", "date of the sensor's correlation, as it stands"},
          &giveText<&BasicData::colorSensorCorrelationDate>},
-        {{"white_tristimulus_y", notRecorded, "CIE Y of the measured white", Values::fraction},
-         [](const ModeRow& row, Cell& cell) {
-             giveFigure(row, cell, "white_tristimulus_y");
-         }},
-        {{"white_cct", "K", "correlated colour temperature of the measured white", Values::fraction},
-         [](const ModeRow& row, Cell& cell) {
-             giveFigure(row, cell, "white_cct");
-         }},
-        {{"white_delta_uv", "", "Δu'v' of the white to be reached and the measured one", Values::fraction},
-         [](const ModeRow& row, Cell& cell) {
-             giveFigure(row, cell, "white_delta_uv");
-         }},
-        {{"white_delta_e2000", "", "ΔE00 of these two", Values::fraction},
-         [](const ModeRow& row, Cell& cell) {
-             giveFigure(row, cell, "white_delta_e2000");
-         }},
-        {{"patches_delta_e2000_mean", "", "mean ΔE00 of the measurements and what they should be", Values::fraction},
-         [](const ModeRow& row, Cell& cell) {
-             giveFigure(row, cell, "patches_delta_e2000_mean");
-         }},
-        {{"patches_delta_e2000_maximum", "", "the greatest of these ΔE00", Values::fraction},
-         [](const ModeRow& row, Cell& cell) {
-             giveFigure(row, cell, "patches_delta_e2000_maximum");
-         }},
-    });
+    };
+}
+
+/// Figures: the name of the column is the key of the figure.
+constexpr std::array<Column, 6> figureColumns = {{
+    {"white_tristimulus_y", notRecorded, "CIE Y of the measured white", Values::fraction},
+    {"white_cct", "K", "correlated colour temperature of the measured white", Values::fraction},
+    {"white_delta_uv", "", "Δu'v' of the white to be reached and the measured one", Values::fraction},
+    {"white_delta_e2000", "", "ΔE00 of these two", Values::fraction},
+    {"patches_delta_e2000_mean", "", "mean ΔE00 of the measurements and what they should be", Values::fraction},
+    {"patches_delta_e2000_maximum", "", "the greatest of these ΔE00", Values::fraction},
+}};
+
+/// What was measured, with the digits that the figure has everywhere.
+template <std::size_t Place>
+void giveFigure(const ModeRow& row, Cell& cell) {
+    const auto line = std::find_if(row.figures.begin(), row.figures.end(),
+                                   [](const FigureLine& each) { return each.key == figureColumns[Place].name; });
+    if (line != row.figures.end()) {
+        cell.figure(line->measured, line->decimals);
+    }
+}
+
+template <std::size_t... Places>
+void addFigureColumns(std::vector<ColumnOf<ModeRow>>& all, std::index_sequence<Places...> /*places*/) {
+    (all.push_back({figureColumns[Places], &giveFigure<Places>}), ...);
+}
+
+std::vector<ColumnOf<ModeRow>> allColumns() {
+    std::vector<ColumnOf<ModeRow>> all = withOrigin<ModeRow>(settingColumns());
+    const std::vector<ColumnOf<ModeRow>> calibration = calibrationColumns();
+    all.insert(all.end(), calibration.begin(), calibration.end());
+    addFigureColumns(all, std::make_index_sequence<figureColumns.size()>{});
+    return all;
+}
+
+const std::vector<ColumnOf<ModeRow>>& columns() {
+    static const std::vector<ColumnOf<ModeRow>> all = allColumns();
     return all;
 }
 
