@@ -15,7 +15,7 @@ HEAD = '''\
 # Made by stubs.py of what the library says of its records. Do not edit.
 import os
 from collections.abc import Iterable, Mapping
-from typing import Any
+from typing import Any, final
 
 import numpy
 from numpy.typing import ArrayLike, NDArray
@@ -129,7 +129,7 @@ def lines_of(cls: Any, base: str) -> list[str]:
             body += lines_of_group(nested)
     body += ["class Raw(RawView):", *indented(attributes(names, fields, True))]
     body += [constructor(names, fields), "@property", "def raw(self) -> Raw: ..."]
-    return [f"class {cls.__name__}({base}):", *indented(body + attributes(names, fields, False)), ""]
+    return ["@final", f"class {cls.__name__}({base}):", *indented(body + attributes(names, fields, False)), ""]
 
 
 def stub() -> str:

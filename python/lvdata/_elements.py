@@ -62,7 +62,7 @@ class Element(Named, _lvdata.Element):
     Raw: ClassVar[type[RawView]]
 
     def __init_subclass__(cls) -> None:
-        if "_id" not in vars(cls) and cls.__module__ != __name__:
+        if hasattr(cls, "_id") and "_id" not in vars(cls):
             raise TypeError("classes of elements cannot be derived from")  # since records do not keep the object's class
 
     def __new__(cls, /, **values: object) -> Self:
