@@ -36,6 +36,7 @@ class Tasks:
 
 def started(collections: tuple[Any, ...], client: Any) -> tuple[Any, ...]:
     """The same collections, being read by the workers of the client."""
+    _refuse_closed(client)
     return tuple(client.persist(list(collections)))
 
 
@@ -50,7 +51,14 @@ def current_client() -> Any:
 def in_order(work: Work, jobs: Sequence[Any], client: Any) -> Iterator[Any]:
     """The results of the jobs in their order. Only a few of them are in memory at a time."""
     client = client or current_client()
+    if client is not None:
+        _refuse_closed(client)
     yield from _by_client(work, jobs, client) if client is not None else _by_default_scheduler(work, jobs)
+
+
+def _refuse_closed(client: Any) -> None:
+    if client.status in ("closing", "closed"):
+        raise ValueError("the client is closed; make another one")
 
 
 def _by_client(work: Work, jobs: Sequence[Any], client: Any) -> Iterator[Any]:

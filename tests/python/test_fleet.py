@@ -7,6 +7,7 @@ import json
 import os
 import subprocess
 import sys
+import tomllib
 from typing import Any, Iterator
 
 import lvdata
@@ -187,11 +188,17 @@ def test_numbers_are_those_of_the_text() -> None:
         (lambda: fleet.check([], ignore=["x"]), "'x' is not the id of a rule"),
         (lambda: fleet.write([], "mode", "x"), "one of: monitors"),
         (lambda: fleet.write([], "modes", ""), "path is empty"),
+        (lambda: fleet.write(["missing.xml"], "modes", "x", documents_per_task=0), "documents_per_task must be"),
     ],
 )
 def test_wrong_arguments_say_what_is_possible(call: Any, message: str) -> None:
     with pytest.raises(ValueError, match=message):
         call()
+
+
+def test_a_path_is_not_bytes() -> None:
+    with pytest.raises(TypeError, match="not bytes"):
+        fleet.rows(b"/x", "modes")  # type: ignore[call-overload]
 
 
 # Findings.
@@ -306,3 +313,6 @@ def test_without_dask_the_error_says_what_to_install() -> None:
     result = python("import sys; sys.modules['dask'] = None; import lvdata.fleet")
     assert result.returncode != 0
     assert "ImportError: lvdata.fleet needs Dask: install python3-dask and python3-distributed" in result.stdout
+    wanted = tomllib.loads((STUDIO.parents[2] / "pyproject.toml").read_text())["project"]["optional-dependencies"]
+    for package in wanted["fleet"][:2]:
+        assert f"'{package}'" in result.stdout
