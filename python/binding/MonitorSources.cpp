@@ -38,10 +38,10 @@ MonitorDocument monitorIn(const Document& document, const std::string& file, con
     return std::move(*read);
 }
 
-void refuseUnlessMode(const Snapshot& latest, const std::optional<std::string>& mode) {
+void refuseUnlessMode(const Snapshot& latest, const std::optional<std::string>& mode, const std::string& file) {
     const auto& modes = latest.figures.modes;
     if (mode && analysis::modesOfIndex(modes, *mode).empty()) {
-        throw std::invalid_argument(inFile(latest.document, whyNoModeOfIndex(modes, *mode)));
+        throw ParseFailure{whyNoModeOfIndex(modes, *mode), 0, file};
     }
 }
 
@@ -52,7 +52,8 @@ void MonitorSources::add(const std::string& text, const std::string& file) {
     if (!isWhole_) {
         dropData(read.snapshot.figures);
     }
-    read.file = std::to_string(count_++);
+    read.file = std::to_string(files_.size());
+    files_.push_back(file);
     const std::string why = analysis::whySecondMonitor(read.identity);
     fleet_.add(std::move(read));
     if (fleet_.size() > 1) {
@@ -81,13 +82,13 @@ MonitorPage MonitorSources::page(const std::string& text, const ReportForm& form
     for (const MonitorDocument& document : documents()) {
         reported.push_back({document.snapshot, {}, {}});
     }
-    const MonitorDocument& latest = latestOf(documents());
-    const Document document = documentOf(text, latest.snapshot.document);
-    MonitorDocument again = monitorIn(document, latest.snapshot.document, known_);
-    if (!isSameDocument(again, latest)) {
-        throw ParseFailure{"changed while it was read", 0, latest.snapshot.document};
+    const std::string& file = files_.at(latest());
+    const Document document = documentOf(text, file);
+    MonitorDocument again = monitorIn(document, file, known_);
+    if (!isSameDocument(again, latestOf(documents()))) {
+        throw ParseFailure{"changed while it was read", 0, file};
     }
-    refuseUnlessMode(again.snapshot, form.mode);
+    refuseUnlessMode(again.snapshot, form.mode, file);
     reported.back() = wholeDocument(std::move(again.snapshot), document, catalogue());
     return monitorPage(std::move(reported), form);
 }

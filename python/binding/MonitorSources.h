@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace lv::python {
 
@@ -36,7 +37,7 @@ private:
 
     analysis::KnownUnits known_;
     bool isWhole_;
-    std::size_t count_ = 0;
+    std::vector<std::string> files_;  // in the order of adding
     analysis::Fleet fleet_;
     analysis::MonitorDocuments documents_;  // once all are added; `file` is the place
 };

@@ -147,13 +147,22 @@ std::vector<Group> groupsOf(const std::vector<MonitorKey>& keys) {
     return groups;
 }
 
+std::vector<std::string> limitSetNames() {
+    std::vector<std::string> names;
+    for (const analysis::LimitSet& each : analysis::knownLimitSets()) {
+        names.push_back(each.name);
+    }
+    return names;
+}
+
 }  // namespace
 
 void addReports(py::module_& module) {
     py::class_<Form>(module, "ReportForm").def(py::init(&formOf), py::call_guard<py::gil_scoped_release>());
     module.def("page", &pageOf);
     module.def("index_page", &indexOf);
-    module.def("is_page", [](const std::string& text) { return analysis::isPage(text); });
+    module.def("why_not_overwritten", [](const std::string& file) { return analysis::whyNotOverwritten(file); });
+    module.def("limit_set_names", &limitSetNames);
     module.def("monitor_key", &keyOf);
     module.def("monitor_groups", &groupsOf);
 }

@@ -41,3 +41,6 @@ __all__ = [
     "tables",
 ]
 __all__ += _records.__all__
+
+for _each in (Column, Diff, Difference, Finding, ParseError, Picture, Report, TableDescription):
+    _each.__module__ = __name__  # where tracebacks say, and pickles look, that it is

@@ -6,14 +6,12 @@ import importlib
 import os
 import uuid
 from collections import deque
-from operator import itemgetter
 from typing import Any, Callable, Iterator, Sequence
 
 # Any is the border to Dask, which has types for a few of its functions only.
 dask: Any = importlib.import_module("dask")
 dask_bag: Any = importlib.import_module("dask.bag")
-dask_frame: Any = importlib.import_module("dask.dataframe.core")
-dask_graph: Any = importlib.import_module("dask.highlevelgraph")
+dask_frame: Any = importlib.import_module("dask.dataframe")
 
 Work = Callable[[Any], Any]
 
@@ -22,29 +20,23 @@ class Tasks:
     """A task for each job. Collections that are made of them share them."""
 
     def __init__(self, name: str, work: Work, jobs: Sequence[Any]) -> None:
-        self._name = f"lvdata-{name}-{uuid.uuid4().hex}"  # new each time, since files may have changed
-        self._layer = {(self._name, index): (work, job) for index, job in enumerate(jobs)}
-        self._count = len(jobs)
+        prefix = f"lvdata-{name}-{uuid.uuid4().hex}"  # new each time, since files may have changed
+        task = dask.delayed(work, pure=False, traverse=False)
+        self._parts = [task(job, dask_key_name=f"{prefix}-{index}") for index, job in enumerate(jobs)]
 
     def bag(self, member: int) -> Any:
         """A Bag of what the member of the result with that position holds."""
-        graph, name = self._picked(itemgetter(member), f"part-{member}")
-        return dask_bag.Bag(graph, name, self._count)
+        return dask_bag.from_delayed([part[member] for part in self._parts])
 
     def frame(self, member: int, meta: Any) -> Any:
         """A DataFrame of that member of the results. `meta` is an empty one of the same columns."""
-        graph, name = self._picked(itemgetter(member), f"part-{member}")
-        return dask_frame.new_dd_object(graph, name, meta, [None] * (self._count + 1))
-
-    def _picked(self, pick: Work, suffix: str) -> tuple[Any, str]:
-        name = f"{self._name}-{suffix}"
-        layer = {(name, index): (pick, (self._name, index)) for index in range(self._count)}
-        layers = {self._name: self._layer, name: layer}
-        return dask_graph.HighLevelGraph(layers, {self._name: set(), name: {self._name}}), name
+        parts = [part[member] for part in self._parts]
+        return dask_frame.from_delayed(parts, meta=meta, verify_meta=False)
 
 
 def started(collections: tuple[Any, ...], client: Any) -> tuple[Any, ...]:
     """The same collections, being read by the workers of the client."""
+    _refuse_closed(client)
     return tuple(client.persist(list(collections)))
 
 
@@ -59,7 +51,14 @@ def current_client() -> Any:
 def in_order(work: Work, jobs: Sequence[Any], client: Any) -> Iterator[Any]:
     """The results of the jobs in their order. Only a few of them are in memory at a time."""
     client = client or current_client()
+    if client is not None:
+        _refuse_closed(client)
     yield from _by_client(work, jobs, client) if client is not None else _by_default_scheduler(work, jobs)
+
+
+def _refuse_closed(client: Any) -> None:
+    if client.status in ("closing", "closed"):
+        raise ValueError("the client is closed; make another one")
 
 
 def _by_client(work: Work, jobs: Sequence[Any], client: Any) -> Iterator[Any]:

@@ -17,13 +17,13 @@ DOCUMENTS_PER_TASK = 100
 
 def batches(items: Sequence[T], size: int) -> list[tuple[T, ...]]:
     """The items in groups of that size, in their order; one empty group when there are none."""
-    if size < 1:
-        raise ValueError(f"documents_per_task must be at least 1, not {size}")
     return [tuple(items[begin : begin + size]) for begin in range(0, max(len(items), 1), size)]
 
 
 def jobs_of(paths: Paths, documents_per_task: int, make: Callable[[tuple[Entry, ...]], Any]) -> list[Any]:
     """The jobs for all documents of these paths."""
+    if documents_per_task < 1:
+        raise ValueError(f"documents_per_task must be at least 1, not {documents_per_task}")
     return [make(entries) for entries in batches(list(documents(paths)), documents_per_task)]
 
 

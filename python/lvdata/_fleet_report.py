@@ -22,6 +22,7 @@ from ._reports import (
     monitor_pages,
     page_of,
 )
+from ._sources import limits_name, units_of
 
 #: A page takes ten times as long as reading its document.
 PAGES_PER_TASK = 10
@@ -59,7 +60,7 @@ def _write_page(monitor: MonitorPage, job: PagesJob) -> PageEntry | BadDocument:
         page = page_of(monitor, job.options)
     except ParseError as error:
         return bad_document(error.file or latest, error)
-    except (OSError, ValueError, MemoryError) as error:  # ValueError: the document does not have the only mode
+    except (OSError, MemoryError) as error:
         return bad_document(latest, error)
     replace_page(os.path.join(job.folder, monitor.page), page.html)
     return page.entry
@@ -67,10 +68,9 @@ def _write_page(monitor: MonitorPage, job: PagesJob) -> PageEntry | BadDocument:
 
 def replace_page(file: str, text: str) -> None:
     """Writes a page in one step. A file that is not such a page stays."""
-    if os.path.exists(file):
-        with open(file, "rb") as stream:
-            if not _lvdata.is_page(stream.read(4096)):
-                raise FileExistsError(f"{file} is not overwritten, since it is not a page that lvdata made")
+    reason = _lvdata.why_not_overwritten(os.fsencode(file))
+    if reason:
+        raise FileExistsError(f"{file}: {reason}")
     _lvdata.write_file(os.fsencode(file), text.encode("utf-8", "surrogateescape"))
 
 
@@ -95,14 +95,16 @@ def report(
 
     The options are those of the command: `limits` is the name of a limit set or a file, `title` the heading of the
     index, `date` a text to print, `mode` the index of the only colour mode to tell of; `y_unit`, `map_unit` and `grid`
-    are what you know and the records do not say.
+    are what you know and the records do not say. Workers read a file of limits by themselves, as they read documents.
     """
     collects(errors)
+    name = limits_name(limits)
     options: PageOptions = {
-        "limits": os.path.abspath(limits) if os.path.exists(limits) else limits, "mode": mode, "date": date,
+        "limits": name if name in _lvdata.limit_set_names() else os.path.abspath(name), "mode": mode, "date": date,
         "y_unit": y_unit, "map_unit": map_unit, "grid": grid,
     }
-    index_page([], options, title)  # refuses options that are wrong before anything is read
+    units_of(y_unit, map_unit, grid)  # this and the next refuse what is wrong before anything is read
+    index_page([], options, title)
     known, bad = _known_documents(paths, documents_per_task, client)
     if not known:
         return handed_over(Reported([], bad), bad, errors)

@@ -3,15 +3,18 @@
 from __future__ import annotations
 
 import os
+import shutil
+import stat
 import tempfile
 from dataclasses import dataclass
-from typing import Any, Literal, NamedTuple
+from typing import Any, Iterator, Literal, NamedTuple
 
 from . import _lvdata
 from ._fleet_graph import in_order
-from ._fleet_jobs import DOCUMENTS_PER_TASK, Paths, form_name, handed_over, table_jobs
+from ._fleet_jobs import DOCUMENTS_PER_TASK, Paths, collects, form_name, handed_over, table_jobs
 from ._fleet_parts import BadDocument
 from ._fleet_tasks import TableJob, header, text_bytes
+from ._sources import file_name
 
 
 @dataclass(frozen=True)
@@ -44,14 +47,18 @@ def write(
 
     A file is written by the caller, who gets the parts one after the other: it holds what `lvdata convert` prints, and
     no machine has all of it in memory. It gets its name when it is complete; until then, and when writing fails, a
-    file that has the name stays.
+    file that has the name stays. One of the documents, a device or a pipe is refused with `FileExistsError`. Through a
+    symbolic link the file is replaced, not the link, and it keeps its rights.
 
     Parts are written by the workers, so all must see the folder under this name. They are called part-00000.csv and so
     on, in the order of the documents, each with a header. A folder that holds such files already is refused with
     `FileExistsError`, so that parts of two runs are never mixed.
+
+    A `pathlib.Path` has no "/" at its end: `Path("parts/")` is a folder only when it is there already.
     """
+    collects(errors)
+    name = os.fsdecode(file_name(target))
     jobs = table_jobs(paths, documents_per_task, table, form_name(form), "collect")
-    name = os.fspath(target)
     if name.endswith("/") or os.path.isdir(name):
         written = _write_folder(jobs, os.path.abspath(name), form, client)
     else:
@@ -69,14 +76,37 @@ def _write_folder(jobs: list[TableJob], folder: str, form: str, client: Any) -> 
     return Written(files, errors)
 
 
+def _documents_of(jobs: list[TableJob]) -> Iterator[str]:
+    return (entry for job in jobs for entry in job.entries if isinstance(entry, str))
+
+
+def _is_file(name: str, status: os.stat_result) -> bool:
+    return os.path.exists(name) and os.path.samestat(os.stat(name), status)
+
+
+def _refuse_to_overwrite(file: str, jobs: list[TableJob]) -> None:
+    """Raises `FileExistsError` for a device or a pipe, and for one of the documents."""
+    if not os.path.exists(file):
+        return
+    status = os.stat(file)
+    if not stat.S_ISREG(status.st_mode):
+        raise FileExistsError(f"{file} is not overwritten, since it is not a regular file")
+    if any(_is_file(document, status) for document in _documents_of(jobs)):
+        raise FileExistsError(f"{file} is not overwritten, since it is one of the documents")
+
+
 def _write_file(jobs: list[TableJob], file: str, begin: bytes, client: Any) -> Written:
+    _refuse_to_overwrite(file, jobs)
+    target = os.path.realpath(file)
     errors: list[BadDocument] = []
-    with tempfile.TemporaryDirectory(prefix=".lvdata-", dir=os.path.dirname(os.path.abspath(file))) as folder:
+    with tempfile.TemporaryDirectory(prefix=".lvdata-", dir=os.path.dirname(target)) as folder:
         growing = os.path.join(folder, "growing")
         with open(growing, "wb") as stream:
             stream.write(begin)
             for text, bad in in_order(text_bytes, jobs, client):
                 stream.write(text)
                 errors += bad
-        os.replace(growing, file)
+        if os.path.exists(target):
+            shutil.copymode(target, growing)
+        os.replace(growing, target)
     return Written([file], errors)

@@ -68,8 +68,9 @@ def report(
     :param y_unit: the unit of Y, which the records do not say
     :param map_unit: the unit of the entries of candela maps
     :param grid: the entries in a row of a candela map; 0: not known
-    :raises ValueError: for limits or a mode that there are not, and without any document
-    :raises ParseError: for a document that cannot be read, is not of a monitor, or is of another monitor
+    :raises ValueError: for limits that there are not, and without any document
+    :raises ParseError: for a document that cannot be read, is not of a monitor, is of another monitor, or does not have
+        the mode
     """
     form = _form({"limits": limits, "mode": mode, "date": date}, title)
     return Report(_page(listed(sources), form, units_of(y_unit, map_unit, grid))[0])

@@ -88,7 +88,7 @@ def _report(problem: AnyProblem, on_error: Callable[[AnyProblem], object] | None
 
 def walk(paths: Path | Iterable[Path]) -> Iterator[bytes | OSError]:
     """The names of files, and in their places why there is none."""
-    return _walk([file_name(each) for each in ([paths] if isinstance(paths, (str, os.PathLike)) else paths)])
+    return _walk([file_name(each) for each in ([paths] if isinstance(paths, (str, bytes, os.PathLike)) else paths)])
 
 
 def _walk(paths: list[bytes]) -> Iterator[bytes | OSError]:

@@ -13,7 +13,7 @@ command `lvdata`, and results keep it.
 
 Bad documents stop nobody who says so, and are never lost in silence:
 
-- `text`, `rows` and `table` raise `ParseError` for the first one when they are computed. With `errors="collect"` they
+- `text`, `rows` and `table` raise `ParseError` for one of them when they are computed. With `errors="collect"` they
   return two collections: the data of all good documents, and the bad ones. Compute both at once, and documents are read
   once: `rows, errors = dask.compute(*fleet.rows(paths, "modes", errors="collect"))`.
 - `write` and `report` finish with the good documents, then raise `ParseError` for the first bad one. With
@@ -38,7 +38,7 @@ try:
 except ImportError as error:
     raise ImportError(
         "lvdata.fleet needs Dask: install python3-dask and python3-distributed, "
-        "or with pip 'dask[dataframe]' and distributed"
+        "or with pip 'dask[dataframe]>=2022.12,<2024.3' and 'distributed>=2022.12,<2024.3'"
     ) from error
 
 from . import _fleet_tasks as tasks
@@ -148,7 +148,8 @@ def check(
 
     The columns are those of `lvdata check --format json`: file, id, severity, line, path, message. A document that
     cannot be read is a row with the id "unreadable" and the severity "error". `ignore` has ids of rules that are not
-    looked for; with `roundtrip` it is also a finding that `lvdata format` would change the document.
+    looked for; with `roundtrip` it is also a finding that `lvdata format` would change the document. Of each document
+    at most 1,000 findings of each severity are listed.
     """
     known_rules(ignore)
     jobs = jobs_of(paths, documents_per_task, lambda entries: tasks.CheckJob(entries, tuple(ignore), roundtrip))

@@ -27,6 +27,7 @@ def test_errors_of_documents_say_line_file_and_path(tmp_path: Path) -> None:
     assert (caught.value.line, caught.value.path) == (2, "asset_info.asset_1")
     assert str(caught.value) == 'line 2: asset_info.asset_1: unknown key, did you mean "asset1"?'
     assert str(pickle.loads(pickle.dumps(caught.value))) == str(caught.value)
+    assert b"lvdata._errors" not in pickle.dumps(caught.value)
     with pytest.raises(FileNotFoundError, match="missing.xml"):
         lvdata.load(tmp_path / "missing.xml")
     with pytest.raises(TypeError, match="as str or bytes"):

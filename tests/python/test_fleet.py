@@ -7,6 +7,7 @@ import json
 import os
 import subprocess
 import sys
+import tomllib
 from typing import Any, Iterator
 
 import lvdata
@@ -186,11 +187,18 @@ def test_numbers_are_those_of_the_text() -> None:
         (lambda: fleet.rows(["a", ""], "modes"), "path is empty"),
         (lambda: fleet.check([], ignore=["x"]), "'x' is not the id of a rule"),
         (lambda: fleet.write([], "mode", "x"), "one of: monitors"),
+        (lambda: fleet.write([], "modes", ""), "path is empty"),
+        (lambda: fleet.write(["missing.xml"], "modes", "x", documents_per_task=0), "documents_per_task must be"),
     ],
 )
 def test_wrong_arguments_say_what_is_possible(call: Any, message: str) -> None:
     with pytest.raises(ValueError, match=message):
         call()
+
+
+def test_a_path_is_not_bytes() -> None:
+    with pytest.raises(TypeError, match="not bytes"):
+        fleet.rows(b"/x", "modes")  # type: ignore[call-overload]
 
 
 # Findings.
@@ -241,6 +249,44 @@ def test_a_bad_document_raises_after_the_good_ones_were_written(few: Folder, bad
     assert [error.file for error in written.errors] == list(map(str, bad))
 
 
+def test_a_document_is_not_overwritten_by_its_table(few: Folder) -> None:
+    file = few / "1.xml"
+    (few / "link").symlink_to("1.xml")
+    (few.parent / "second.xml").hardlink_to(file)
+    for target in (file, few / "link", few.parent / "second.xml"):
+        with pytest.raises(FileExistsError, match="one of the documents"):
+            fleet.write([few / "missing.xml", few], "modes", target)
+    assert file.read_text(encoding="utf-8") == document(1)
+    assert (few / "link").is_symlink()
+
+
+def test_only_regular_files_are_overwritten(few: Folder) -> None:
+    os.mkfifo(few / "pipe")
+    for target in (few / "pipe", os.devnull):
+        with pytest.raises(FileExistsError, match="not a regular file"):
+            fleet.write(few, "modes", target)
+    assert (few / "pipe").is_fifo()
+
+
+def test_a_table_keeps_link_and_rights_of_its_file(few: Folder) -> None:
+    file = few.parent / "modes.csv"
+    file.touch()
+    file.chmod(0o640)
+    for link, name in [("old.csv", "modes.csv"), ("new.csv", "made.csv")]:
+        (few / link).symlink_to(few.parent / name)
+        fleet.write(few, "modes", few / link)
+        assert (few / link).is_symlink()
+        assert (few.parent / name).read_bytes() == printed("modes", "csv", few)
+    assert file.stat().st_mode & 0o777 == 0o640
+
+
+@pytest.mark.parametrize("target", ["modes.csv", "parts/"])
+def test_nothing_is_written_when_an_argument_is_wrong(few: Folder, target: str) -> None:
+    with pytest.raises(ValueError, match="one of: raise, collect"):
+        fleet.write(few, "modes", f"{few.parent}/{target}", errors="skip")  # type: ignore[arg-type]
+    assert os.listdir(few.parent) == ["few"]
+
+
 def test_parts_of_two_runs_are_not_mixed(few: Folder, tmp_path: Folder) -> None:
     parts = tmp_path / "parts"
     parts.mkdir()
@@ -267,3 +313,6 @@ def test_without_dask_the_error_says_what_to_install() -> None:
     result = python("import sys; sys.modules['dask'] = None; import lvdata.fleet")
     assert result.returncode != 0
     assert "ImportError: lvdata.fleet needs Dask: install python3-dask and python3-distributed" in result.stdout
+    wanted = tomllib.loads((STUDIO.parents[2] / "pyproject.toml").read_text())["project"]["optional-dependencies"]
+    for package in wanted["fleet"][:2]:
+        assert f"'{package}'" in result.stdout

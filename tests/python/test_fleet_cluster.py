@@ -5,6 +5,7 @@ LVDATA_FLEET_DOCUMENTS is how many documents the fleet has: 2,000 unless it is s
 
 from __future__ import annotations
 
+import concurrent.futures
 import json
 import os
 import shutil
@@ -99,6 +100,41 @@ def test_a_killed_worker_loses_nothing(archive: Folder, client: Any, cluster: An
         os.kill(victim, 0)
     client.wait_for_workers(2)
     assert victim not in client.run(os.getpid).values()
+
+
+@pytest.mark.parametrize("kind", ["parts", "report"])
+def test_a_killed_worker_loses_no_file(archive: Folder, client: Any, tmp_path: Folder, kind: str) -> None:
+    paths = [archive / "0" / f"{number}.xml" for number in range(300) if number % 5 < 3]
+    target = tmp_path / kind
+    victim = next(iter(client.run(os.getpid).values()))
+    with concurrent.futures.ThreadPoolExecutor(1) as executor:
+        if kind == "parts":
+            work = executor.submit(fleet.write, paths, "patches", f"{target}/", client=client, documents_per_task=1)
+        else:
+            work = executor.submit(fleet.report, paths, target, client=client)
+        while not target.exists() or len(os.listdir(target)) < 5:
+            time.sleep(0.001)
+        os.kill(victim, signal.SIGKILL)
+        assert not work.done()
+    assert work.result().errors == []
+    client.wait_for_workers(2)
+    made = {file.name: file.read_bytes() for file in sorted(target.iterdir()) if not file.name.startswith(".lvdata-")}
+    if kind == "parts":
+        header, *lines = printed("patches", "csv", *paths).splitlines(keepends=True)
+        assert list(made.values()) == [header + line for line in lines]
+    else:
+        tool("report", *paths, "-o", f"{tmp_path}/command/")
+        assert made == {file.name: file.read_bytes() for file in (tmp_path / "command").iterdir()}
+        assert len(made) == 181
+
+
+def test_a_closed_client_is_refused(cluster: Any, few: Folder) -> None:
+    client = distributed.Client(cluster, set_as_default=False)
+    client.close()
+    for call in (lambda: fleet.rows(few, "modes", client=client), lambda: fleet.report(few, few, client=client),
+                 lambda: fleet.write(few, "modes", few / "modes.csv", client=client)):
+        with pytest.raises(ValueError, match="the client is closed"):
+            call()
 
 
 def test_a_table_is_written_part_by_part(archive: Folder, client: Any, tmp_path: Folder) -> None:

@@ -4,12 +4,13 @@ from __future__ import annotations
 
 import json
 import os
+from typing import Any
 
 import dask
 import lvdata
 import pytest
 from fleet_support import STUDIO, Folder, bad, document, messages, tool  # noqa: F401
-from lvdata import _reports, fleet
+from lvdata import _fleet_report, _reports, fleet
 from lvdata._sources import Text
 
 
@@ -61,6 +62,53 @@ def test_a_report_takes_the_options_of_the_command(monitors: Folder, tmp_path: F
     fleet.report(monitors, tmp_path / "iso2", limits="iso14861")
     assert content(tmp_path / "iso2") == content(tmp_path / "iso")
     assert content(tmp_path / "iso2") != content(tmp_path / "fleet")
+
+
+def test_a_known_limit_set_is_not_taken_for_a_file(
+    monitors: Folder, tmp_path: Folder, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    for name in ("default", "iso14861"):
+        (tmp_path / name).mkdir()
+    monkeypatch.chdir(tmp_path)
+    for limits in ("default", "iso14861"):
+        fleet.report(monitors, f"fleet-{limits}", limits=limits)
+        tool("report", monitors, "-o", f"{tmp_path}/command-{limits}/", "--limits", limits)
+        assert content(tmp_path / f"fleet-{limits}") == content(tmp_path / f"command-{limits}")
+
+
+@pytest.mark.parametrize(
+    "options, message",
+    [
+        ({"grid": 99999}, "grid is a number from 0 to 10000"),
+        ({"mode": -1}, "-1 is not an index"),
+        ({"limits": "own"}, "there is no such file, and no limits of that name"),
+        ({"errors": "skip"}, "one of: raise, collect"),
+        ({"documents_per_task": 0}, "documents_per_task must be at least 1"),
+    ],
+)
+def test_documents_are_not_blamed_for_wrong_arguments(
+    monitors: Folder, tmp_path: Folder, options: dict[str, Any], message: str
+) -> None:
+    with pytest.raises(ValueError, match=message) as raised:
+        fleet.report(monitors, tmp_path / "fleet", **{"errors": "collect", **options})
+    assert not isinstance(raised.value, lvdata.ParseError)
+    assert not (tmp_path / "fleet").exists()
+
+
+def test_documents_are_not_blamed_when_workers_do_not_see_the_limits(
+    monitors: Folder, tmp_path: Folder, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    page_of = _fleet_report.page_of
+    unseen: Any = {"limits": "unseen.json"}
+    monkeypatch.setattr(_fleet_report, "page_of", lambda page, options: page_of(page, {**options, **unseen}))
+    with dask.config.set(scheduler="sync"), pytest.raises(ValueError, match="unseen.json: there is no such file"):
+        fleet.report(monitors, tmp_path / "fleet", errors="collect")
+
+
+def test_a_document_without_the_only_mode_is_told_once(monitors: Folder, tmp_path: Folder) -> None:
+    reported = fleet.report(monitors / "4.xml", tmp_path / "fleet", mode=99, errors="collect")
+    command = tool("report", monitors / "4.xml", "-o", f"{tmp_path}/command/", "--mode", 99)
+    assert messages(reported.errors) == command.stderr.decode().splitlines()
 
 
 def test_bad_documents_are_left_out_of_a_report(monitors: Folder, bad: list[Folder], tmp_path: Folder) -> None:

@@ -78,8 +78,11 @@ def test_what_cannot_be_reported_is_refused(studio: Path, tmp_path: Path) -> Non
     assert raised.value.file == str(other)
     with pytest.raises(lvdata.ParseError, match="has no UUID and no serial number, so nothing says that"):
         lvdata.report([studio, b"<MonitorInfo/>"])
-    with pytest.raises(ValueError, match="studio.xml: no colour mode has the index 9; there are 0, 1, 2, 3, 4"):
+    with pytest.raises(lvdata.ParseError, match="studio.xml: no colour mode has the index 9; there are 0, 1, 2, 3, 4"):
         lvdata.report(studio, mode=9)
+    with pytest.raises(lvdata.ParseError) as without_file:
+        lvdata.report(studio.read_bytes(), mode=9)
+    assert without_file.value.file is None
     with pytest.raises(ValueError, match="no limits of that name; known are default, iso14861"):
         lvdata.report(studio, limits="strict")
     with pytest.raises(ValueError, match="there are no documents"):

@@ -6,7 +6,6 @@
 #include "messages.h"
 
 #include <lvdata/analysis/files/HeldSignals.h>
-#include <lvdata/analysis/files/files.h>
 #include <lvdata/analysis/monitors/page_names.h>
 
 #include <filesystem>
@@ -74,10 +73,9 @@ public:
 
 private:
     static void refuseUnlessPage(const std::string& file) {
-        constexpr std::size_t beginning = 4096;
-        const auto content = lv::analysis::readFile(file, beginning);
-        if (content && !lv::analysis::isPage(content.text)) {
-            throw Failure(file, "not overwritten, since it is not a page that lvdata made");
+        const std::string why = lv::analysis::whyNotOverwritten(file);
+        if (!why.empty()) {
+            throw Failure(file, why);
         }
     }
 

@@ -1,5 +1,6 @@
 #include <lvdata/analysis/report/report.h>
 
+#include <lvdata/analysis/files/files.h>
 #include <lvdata/analysis/pictures/pictures.h>
 #include <lvdata/analysis/report/filling.h>
 #include <lvdata/analysis/report/page_frame.h>
@@ -50,8 +51,11 @@ std::string reportPage(const std::vector<ReportedDocument>& documents, const Rep
     return inUTF8(filled("report", viewOf(contents)));
 }
 
-bool isPage(std::string_view text) {
-    return text.substr(0, 4096).find(R"(<meta name="generator" content="lvdata">)") != std::string_view::npos;
+std::string whyNotOverwritten(const std::filesystem::path& file) {
+    constexpr std::size_t beginning = 4096;
+    const FileContent content = readFile(file, beginning);
+    const bool isPage = content.text.find(R"(<meta name="generator" content="lvdata">)") != std::string::npos;
+    return !content || isPage ? "" : "not overwritten, since it is not a page that lvdata made";
 }
 
 }  // namespace lv::analysis

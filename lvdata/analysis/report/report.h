@@ -5,9 +5,9 @@
 #include <lvdata/analysis/figures/History.h>
 #include <lvdata/analysis/figures/LimitSet.h>
 
+#include <filesystem>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// Pages of HTML about monitors.
@@ -54,7 +54,8 @@ struct FleetEntry {
 /// The page with a table of all monitors, in the given order, and how each does.
 [[nodiscard]] std::string fleetPage(const std::vector<FleetEntry>& entries, const ReportForm& form);
 
-/// Whether a text begins as the pages above do, so that it may be replaced by another of them.
-[[nodiscard]] bool isPage(std::string_view text);
+/// Why none of the pages above may be written to that file: it is there and does not begin as they do. Empty when it
+/// may be written.
+[[nodiscard]] std::string whyNotOverwritten(const std::filesystem::path& file);
 
 }  // namespace lv::analysis
