@@ -41,8 +41,8 @@ struct NumberForm {
 /// Whether it can be taken for several numbers.
 [[nodiscard]] bool isSeveral(const pybind11::handle& value);
 
-/// Imports NumPy. To be called before pybind11 needs it: that would hang when two threads were the first to do so, since
-/// it waits for the other thread without letting it run.
+/// Imports NumPy. To be called before pybind11 needs it: that would hang when two threads were the first to do so,
+/// since it waits for the other thread without letting it run.
 void importNumPy();
 
 /// The text of a value for messages, shortened.

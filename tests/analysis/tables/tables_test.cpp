@@ -1,7 +1,7 @@
 #include <tests/analysis/tables/rows_of_tables.h>
 #include <tests/support/MarkdownTable.h>
 
-#include <set>
+#include <unordered_set>
 
 #include <gmock/gmock.h>
 
@@ -54,7 +54,7 @@ private:
 
     const std::vector<analysis::Column>& columns_;
     std::size_t next_ = 0;
-    std::set<std::string_view> seen_;
+    std::unordered_set<std::string_view> seen_;
 };
 
 std::string page() {
