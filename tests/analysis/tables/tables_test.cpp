@@ -1,6 +1,7 @@
 #include <tests/analysis/tables/rows_of_tables.h>
 #include <tests/support/MarkdownTable.h>
 
+#include <set>
 #include <unordered_set>
 
 #include <gmock/gmock.h>
