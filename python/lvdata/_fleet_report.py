@@ -98,7 +98,7 @@ def report(
     are what you know and the records do not say. Workers read a file of limits by themselves, as they read documents.
     """
     collects(errors)
-    name = limits_name(limits)
+    name = os.fsdecode(limits_name(limits))
     options: PageOptions = {
         "limits": name if name in _lvdata.limit_set_names() else os.path.abspath(name), "mode": mode, "date": date,
         "y_unit": y_unit, "map_unit": map_unit, "grid": grid,

@@ -14,7 +14,7 @@ from ._fleet_graph import in_order
 from ._fleet_jobs import DOCUMENTS_PER_TASK, Paths, collects, form_name, handed_over, table_jobs
 from ._fleet_parts import BadDocument
 from ._fleet_tasks import TableJob, header, text_bytes
-from ._sources import file_name
+from ._paths import file_name
 
 
 @dataclass(frozen=True)
