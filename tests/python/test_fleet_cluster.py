@@ -112,7 +112,7 @@ def test_a_killed_worker_loses_no_file(archive: Folder, client: Any, tmp_path: F
             work = executor.submit(fleet.write, paths, "patches", f"{target}/", client=client, documents_per_task=1)
         else:
             work = executor.submit(fleet.report, paths, target, client=client)
-        while not target.exists() or len(os.listdir(target)) < 5:
+        while not work.done() and (not target.exists() or len(os.listdir(target)) < 5):
             time.sleep(0.001)
         os.kill(victim, signal.SIGKILL)
         assert not work.done()
