@@ -143,8 +143,7 @@ bool areEqual(const Slot& left, const Slot& right) {
     if (text != nullptr && otherText != nullptr) {
         return *text == *otherText;
     }
-    const bool hasContent = text != nullptr || element != nullptr;
-    return hasContent == (otherText != nullptr || other != nullptr) && !hasContent;
+    return text == nullptr && element == nullptr && otherText == nullptr && other == nullptr;  // both hold nothing
 }
 
 }  // namespace lv::python

@@ -13,7 +13,7 @@ namespace lv::python {
 /// The record of an XML text; raises ParseError.
 [[nodiscard]] pybind11::object loads(const std::string& text);
 
-/// The record of a file; raises ParseError, which does not name the file yet, or OSError.
+/// The record of a file; raises ParseError with the name of the file, or OSError.
 [[nodiscard]] pybind11::object load(const std::string& path);
 
 /// The record of a JSON text and what of it is lost: a tuple of it and of a list of sentences. Raises ParseError.

@@ -116,6 +116,20 @@ bool isJoined(const std::string* text) {
     return text != nullptr && text->find('|') != std::string::npos;
 }
 
+/// The kind of the shape that is read as things are now if it counts, or else of the one for an array or a number.
+template <class Counts>
+TextKind kindWhere(const Element& element, std::size_t index, bool isArray, Counts counts) {
+    const Member& member = element.layout().members[index];
+    if (isSimple(element.layout(), index)) {
+        return {member.text, usualQuantity(*member.text)};
+    }
+    const Nodes nodes(element);
+    const auto shapes = alternatives(element.layout(), index);
+    const Shape* const read = shapeThatIsRead(shapes, nodes, member);
+    const bool isTaken = read != nullptr && counts(isArrayShape(*read));
+    return kindOf(isTaken ? *read : shapeOfKind(shapes, isArray), nodes, member);
+}
+
 }  // namespace
 
 bool hasAlternatives(const Layout& layout, std::size_t index) {
@@ -123,28 +137,12 @@ bool hasAlternatives(const Layout& layout, std::size_t index) {
 }
 
 TextKind kindOfText(const Element& element, std::size_t index) {
-    const Member& member = element.layout().members[index];
-    if (isSimple(element.layout(), index)) {
-        return {member.text, usualQuantity(*member.text)};
-    }
-    const Nodes nodes(element);
-    const auto shapes = alternatives(element.layout(), index);
-    const Shape* const read = shapeThatIsRead(shapes, nodes, member);
     const bool holdsArray = isJoined(element.textAt(index));
-    const bool counts = read != nullptr && (isArrayShape(*read) || !holdsArray);
-    return kindOf(counts ? *read : shapeOfKind(shapes, holdsArray), nodes, member);
+    return kindWhere(element, index, holdsArray, [&](bool readsArray) { return readsArray || !holdsArray; });
 }
 
 TextKind kindToStore(const Element& element, std::size_t index, bool isArray) {
-    const Member& member = element.layout().members[index];
-    if (isSimple(element.layout(), index)) {
-        return {member.text, usualQuantity(*member.text)};
-    }
-    const Nodes nodes(element);
-    const auto shapes = alternatives(element.layout(), index);
-    const Shape* const read = shapeThatIsRead(shapes, nodes, member);
-    const bool counts = read != nullptr && isArrayShape(*read) == isArray;
-    return kindOf(counts ? *read : shapeOfKind(shapes, isArray), nodes, member);
+    return kindWhere(element, index, isArray, [&](bool readsArray) { return readsArray == isArray; });
 }
 
 void refuseOtherKind(const Element& element, std::size_t index) {
