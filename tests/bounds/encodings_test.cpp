@@ -65,8 +65,7 @@ TEST(BrokenUtf8, IsKeptInTexts) {
 
 TEST(BrokenUtf8, IsKeptInAttributes) {
     for (const std::string& bytes : brokenUtf8) {
-        const auto record =
-            parsed<ParameterSetting>(documentOf<ParameterSetting>("<Gamut Type=\"" + bytes + "\"></Gamut>"));
+        const auto record = parsedFrom<ParameterSetting>("<Gamut Type=\"" + bytes + "\"></Gamut>");
         EXPECT_EQ(record.gamut.value.type, bytes);
         EXPECT_EQ(parsed<ParameterSetting>(compact(record)).gamut.value.type, bytes);
     }
@@ -76,8 +75,7 @@ TEST(BrokenUtf8, MakesAnotherName) {
     for (const std::string& bytes : brokenUtf8) {
         expectRefusedUnchanged(filled<AssetInfo>(), "<AssetInfo" + bytes + "/>");
         const std::string name = "Asset1" + bytes;
-        const auto record = parsed<AssetInfo>(
-            documentOf<AssetInfo>("<" + name + ">one</" + name + "><" + bytes + " " + bytes + "='1'/>"));
+        const auto record = parsedFrom<AssetInfo>("<" + name + ">one</" + name + "><" + bytes + " " + bytes + "='1'/>");
         EXPECT_EQ(describe(record), describe(AssetInfo()));
     }
 }

@@ -11,8 +11,7 @@ namespace {
 
 TEST(AMillionElements, ArePassedOverWhereTheyAreUnknown) {
     const std::string unknown = repeated("<a/>", 500'000);
-    const auto record =
-        parsed<AssetInfo>(documentOf<AssetInfo>(unknown + "<Asset1>one</Asset1>" + unknown + "<Asset2>two</Asset2>"));
+    const auto record = parsedFrom<AssetInfo>(unknown + "<Asset1>one</Asset1>" + unknown + "<Asset2>two</Asset2>");
     AssetInfo expected;
     expected.asset1.set("one");
     expected.asset2.set("two");
@@ -20,8 +19,7 @@ TEST(AMillionElements, ArePassedOverWhereTheyAreUnknown) {
 }
 
 TEST(AMillionElements, ThatBearOneNameGiveTheFirst) {
-    const auto record =
-        parsed<AssetInfo>(documentOf<AssetInfo>("<Asset1>first</Asset1>" + repeated("<Asset1>x</Asset1>", 1'000'000)));
+    const auto record = parsedFrom<AssetInfo>("<Asset1>first</Asset1>" + repeated("<Asset1>x</Asset1>", 1'000'000));
     AssetInfo expected;
     expected.asset1.set("first");
     EXPECT_EQ(describe(record), describe(expected));
@@ -37,7 +35,7 @@ TEST(ManyRows, AreAllReadInTheirOrder) {
     for (int row = 0; row < count; ++row) {
         rows += "<Measurements><XYZ>" + std::to_string(row) + "|2|3</XYZ></Measurements><a/>";
     }
-    const auto record = parsed<MeasurementData>(documentOf<MeasurementData>(rows));
+    const auto record = parsedFrom<MeasurementData>(rows);
     ASSERT_EQ(record.objects.size(), std::size_t{count});
     for (int row = 0; row < count; ++row) {
         ASSERT_EQ(record.objects[static_cast<std::size_t>(row)].XYZ, (std::vector<int>{row, 2, 3}));

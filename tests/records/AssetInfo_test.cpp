@@ -21,13 +21,9 @@ const std::array everyLabel = {Label{"Asset1", &AssetInfo::asset1}, Label{"Asset
                                Label{"Asset5", &AssetInfo::asset5}, Label{"Asset6", &AssetInfo::asset6},
                                Label{"Asset7", &AssetInfo::asset7}, Label{"Asset8", &AssetInfo::asset8}};
 
-std::string written(const std::string& children) {
-    return R"(<AssetInfo Version="1" MinorVersion="0">)" + children + "</AssetInfo>";
-}
-
 /// What asset1 holds after `content` stood in its element.
 property<std::string> asset1From(const std::string& content) {
-    return parsed<AssetInfo>(documentOf<AssetInfo>("<Asset1>" + content + "</Asset1>")).asset1;
+    return parsedFrom<AssetInfo>("<Asset1>" + content + "</Asset1>").asset1;
 }
 
 property<std::string> present(const std::string& text) {
@@ -62,7 +58,7 @@ TEST(AssetInfo, EachLabelIsWrittenAloneUnderItsOwnName) {
     for (const auto& [element, member] : everyLabel) {
         AssetInfo record;
         (record.*member).set("text");
-        EXPECT_EQ(compact(record), written('<' + element + ">text</" + element + '>'));
+        EXPECT_EQ(compact(record), written<AssetInfo>('<' + element + ">text</" + element + '>'));
     }
 }
 
@@ -70,7 +66,7 @@ TEST(AssetInfo, EachLabelIsReadAloneAndTheSevenOthersStayUnset) {
     for (const auto& [element, member] : everyLabel) {
         AssetInfo expected;
         (expected.*member).set("text");
-        const auto record = parsed<AssetInfo>(documentOf<AssetInfo>('<' + element + ">text</" + element + '>'));
+        const auto record = parsedFrom<AssetInfo>('<' + element + ">text</" + element + '>');
         EXPECT_EQ(describe(record), describe(expected));
     }
 }
@@ -99,7 +95,7 @@ TEST(AssetInfo, UnsetLabelWithATextIsNotWritten) {
 }
 
 TEST(AssetInfo, SetButEmptyLabelWritesAnEmptyElementAndComesBackSet) {
-    EXPECT_EQ(writtenAsset1(""), written("<Asset1></Asset1>"));
+    EXPECT_EQ(writtenAsset1(""), written<AssetInfo>("<Asset1></Asset1>"));
     EXPECT_EQ(parsed<AssetInfo>(writtenAsset1("")).asset1, present(""));
 }
 
@@ -133,13 +129,14 @@ TEST(AssetInfo, UnknownEntityStaysAsItStands) {
 
 TEST(AssetInfo, MarkupCharactersAreEscapedAndComeBack) {
     const std::string text = R"(<Rack> & "Desk" 'A' ]]> &amp;)";
-    EXPECT_EQ(writtenAsset1(text), written(R"(<Asset1>&lt;Rack&gt; &amp; "Desk" 'A' ]]&gt; &amp;amp;</Asset1>)"));
+    EXPECT_EQ(writtenAsset1(text),
+              written<AssetInfo>(R"(<Asset1>&lt;Rack&gt; &amp; "Desk" 'A' ]]&gt; &amp;amp;</Asset1>)"));
     EXPECT_EQ(parsed<AssetInfo>(writtenAsset1(text)).asset1, present(text));
 }
 
 TEST(AssetInfo, NonASCIITextIsWrittenAsItStandsAndComesBack) {
     const std::string text = "B\u00fcro \u6771\u4eac \u20ac \U0001F5A5";
-    EXPECT_EQ(writtenAsset1(text), written("<Asset1>" + text + "</Asset1>"));
+    EXPECT_EQ(writtenAsset1(text), written<AssetInfo>("<Asset1>" + text + "</Asset1>"));
     EXPECT_EQ(parsed<AssetInfo>(writtenAsset1(text)).asset1, present(text));
 }
 
@@ -151,7 +148,7 @@ TEST(AssetInfo, ByteOrderMarkInFrontOfTheDocumentIsPassedOver) {
 TEST(AssetInfo, CDATAIsTextAndIsWrittenBackEscaped) {
     EXPECT_EQ(asset1From("<![CDATA[<b> & &amp; c]]>"), present("<b> & &amp; c"));
     const auto record = parsed<AssetInfo>("<AssetInfo><Asset1><![CDATA[a < b]]></Asset1></AssetInfo>");
-    EXPECT_EQ(compact(record), written("<Asset1>a &lt; b</Asset1>"));
+    EXPECT_EQ(compact(record), written<AssetInfo>("<Asset1>a &lt; b</Asset1>"));
 }
 
 TEST(AssetInfo, CommentsInFrontOfTheTextArePassedOver) {
@@ -176,7 +173,7 @@ TEST(AssetInfo, LineEndsBecomeLineFeeds) {
 TEST(AssetInfo, NumbersAndWordsOfOtherTypesStayText) {
     for (const char* text : {"0012", "-1", "1.50", "true", "1|2|3"}) {
         EXPECT_EQ(asset1From(text), present(text));
-        EXPECT_EQ(writtenAsset1(text), written("<Asset1>" + std::string(text) + "</Asset1>"));
+        EXPECT_EQ(writtenAsset1(text), written<AssetInfo>("<Asset1>" + std::string(text) + "</Asset1>"));
     }
 }
 

@@ -47,17 +47,13 @@ std::string writtenWith(const Text& executorType) {
     return compact(record);
 }
 
-std::string written(const std::string& children) {
-    return R"(<BasicData Version="3" MinorVersion="0">)" + children + "</BasicData>";
-}
-
 TEST(BasicDataExecutor, SetTypeIsWrittenInsideExecutor) {
-    EXPECT_EQ(writtenWith({"Operator", true}), written("<Executor><Type>Operator</Type></Executor>"));
-    EXPECT_EQ(writtenWith({"a<&>b", true}), written("<Executor><Type>a&lt;&amp;&gt;b</Type></Executor>"));
+    EXPECT_EQ(writtenWith({"Operator", true}), written<BasicData>("<Executor><Type>Operator</Type></Executor>"));
+    EXPECT_EQ(writtenWith({"a<&>b", true}), written<BasicData>("<Executor><Type>a&lt;&amp;&gt;b</Type></Executor>"));
 }
 
 TEST(BasicDataExecutor, SetButEmptyTypeIsWrittenAllTheSame) {
-    EXPECT_EQ(writtenWith({"", true}), written("<Executor><Type></Type></Executor>"));
+    EXPECT_EQ(writtenWith({"", true}), written<BasicData>("<Executor><Type></Type></Executor>"));
 }
 
 TEST(BasicDataExecutor, UnsetTypeWritesNoExecutorWhateverItsText) {

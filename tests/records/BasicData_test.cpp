@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -41,18 +42,6 @@ const std::array everyText = {Text{"ColorSensorName", &BasicData::colorSensorNam
                               Text{"ExCorrectionName", &BasicData::exCorrectionName},
                               Text{"Software", &BasicData::software},
                               Text{"executedDate", &BasicData::executedDate}};
-
-std::string element(const std::string& name, const std::string& content) {
-    return '<' + name + '>' + content + "</" + name + '>';
-}
-
-std::string written(const std::string& children) {
-    return R"(<BasicData Version="3" MinorVersion="0">)" + children + "</BasicData>";
-}
-
-BasicData parsedFrom(const std::string& children) {
-    return parsed<BasicData>(documentOf<BasicData>(children));
-}
 
 /// How `filled` looks when it has read a document with one child alone; `change` makes what that child sets.
 template <class Change>
@@ -111,9 +100,9 @@ TEST(BasicData, ElementWhoseNameDiffersOnlyInCaseIsRefused) {
 TEST(BasicData, UseColorSensorCorrelationMatrixWithTrueIsKeptAndWrittenBackAsText) {
     for (const char* text : {"true", "TRUE", "True", "0", "yes"}) {
         const std::string child = element("UseColorSensorCorrelationMatrix", text);
-        const BasicData record = parsedFrom(child);
+        const BasicData record = parsedFrom<BasicData>(child);
         EXPECT_EQ(record.useColorSensorCorrelationMatrix, (property<std::string>{text, true}));
-        EXPECT_EQ(compact(record), written(child));
+        EXPECT_EQ(compact(record), written<BasicData>(child));
     }
 }
 
@@ -121,8 +110,8 @@ TEST(BasicData, EachNumberIsWrittenAloneUnderItsOwnNameAndReadBackAlone) {
     for (const auto& [name, member] : everyNumber) {
         BasicData record;
         (record.*member).set(4294967295U);
-        EXPECT_EQ(compact(record), written(element(name, "4294967295")));
-        EXPECT_EQ(describe(parsedFrom(element(name, "4294967295"))), describe(record));
+        EXPECT_EQ(compact(record), written<BasicData>(element(name, "4294967295")));
+        EXPECT_EQ(describe(parsedFrom<BasicData>(element(name, "4294967295"))), describe(record));
     }
 }
 
@@ -130,8 +119,8 @@ TEST(BasicData, EachTextIsWrittenAloneUnderItsOwnNameAndReadBackAlone) {
     for (const auto& [name, member] : everyText) {
         BasicData record;
         (record.*member).set(" 007 & <x>");
-        EXPECT_EQ(compact(record), written(element(name, " 007 &amp; &lt;x&gt;")));
-        EXPECT_EQ(describe(parsedFrom(element(name, " 007 &#38; &lt;x&gt;"))), describe(record));
+        EXPECT_EQ(compact(record), written<BasicData>(element(name, " 007 &amp; &lt;x&gt;")));
+        EXPECT_EQ(describe(parsedFrom<BasicData>(element(name, " 007 &#38; &lt;x&gt;"))), describe(record));
     }
 }
 
@@ -155,7 +144,7 @@ TEST(BasicData, ZeroIsWrittenWhenItIsSet) {
     for (const auto& [name, member] : everyNumber) {
         BasicData record;
         (record.*member).hasValue = true;
-        EXPECT_EQ(compact(record), written(element(name, "0")));
+        EXPECT_EQ(compact(record), written<BasicData>(element(name, "0")));
     }
 }
 
@@ -163,8 +152,8 @@ TEST(BasicData, EmptyTextIsWrittenWhenItIsSetAndComesBackSet) {
     for (const auto& [name, member] : everyText) {
         BasicData record;
         (record.*member).hasValue = true;
-        EXPECT_EQ(compact(record), written(element(name, "")));
-        EXPECT_EQ(describe(parsedFrom(element(name, ""))), describe(record));
+        EXPECT_EQ(compact(record), written<BasicData>(element(name, "")));
+        EXPECT_EQ(describe(parsedFrom<BasicData>(element(name, ""))), describe(record));
     }
 }
 
@@ -189,7 +178,7 @@ TEST(BasicData, ElementWithoutTextSetsTheFlagAndKeepsTheEarlierText) {
 TEST(BasicData, NumbersReadAsUnsignedWithoutEverFailing) {
     for (const auto& [name, member] : everyNumber) {
         const auto read = [&name = name, &member = member](const std::string& text) {
-            return parsedFrom(element(name, text)).*member;
+            return parsedFrom<BasicData>(element(name, text)).*member;
         };
         EXPECT_EQ(read("-1"), (property<unsigned int>{4294967295U, true})) << name;
         EXPECT_EQ(read("99999999999"), (property<unsigned int>{4294967295U, true})) << name;
@@ -223,9 +212,10 @@ TEST(BasicData, OneTextAloneClearsTheFlagsOfAllOthersAndKeepsTheirValues) {
 }
 
 TEST(BasicData, ExecutedDateHasASmallInitialUnlikeItsNeighbours) {
-    const BasicData record = parsedFrom("<ExecutedDate>2024</ExecutedDate><software>s</software>");
+    const BasicData record = parsedFrom<BasicData>("<ExecutedDate>2024</ExecutedDate><software>s</software>");
     EXPECT_EQ(describe(record), describe(BasicData()));
-    EXPECT_EQ(parsedFrom("<executedDate>2024</executedDate>").executedDate, (property<std::string>{"2024", true}));
+    EXPECT_EQ(parsedFrom<BasicData>("<executedDate>2024</executedDate>").executedDate,
+              (property<std::string>{"2024", true}));
 }
 
 TEST(BasicData, NamesOfElementsAreComparedWithTheirCase) {
@@ -233,13 +223,14 @@ TEST(BasicData, NamesOfElementsAreComparedWithTheirCase) {
          {"<usageHours>1</usageHours>", "<UsageHOURS>1</UsageHOURS>", "<DuePriority>1</DuePriority>",
           "<ColorSensorId>1</ColorSensorId>", "<backLightLightingTime>1</backLightLightingTime>",
           "<correlationTargetWhite>1|2|3</correlationTargetWhite>", "<ColourSensorName>a</ColourSensorName>"}) {
-        EXPECT_EQ(describe(parsedFrom(child)), describe(BasicData())) << child;
+        EXPECT_EQ(describe(parsedFrom<BasicData>(child)), describe(BasicData())) << child;
     }
 }
 
 TEST(BasicData, MisplacedElementsAreNotRead) {
-    const BasicData record = parsedFrom("<Executor><UsageHours>1</UsageHours><Software>s</Software></Executor>"
-                                        "<BasicData><UsageMinutes>2</UsageMinutes></BasicData>");
+    const BasicData record =
+        parsedFrom<BasicData>("<Executor><UsageHours>1</UsageHours><Software>s</Software></Executor>"
+                              "<BasicData><UsageMinutes>2</UsageMinutes></BasicData>");
     EXPECT_EQ(describe(record), describe(BasicData()));
 }
 

@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -31,14 +32,6 @@ Stored numbersFromOne(std::size_t count) {
     return numbers;
 }
 
-std::string joined(const Stored& numbers) {
-    std::string text;
-    for (const unsigned int number : numbers) {
-        text += (text.empty() ? "" : "|") + std::to_string(number);
-    }
-    return text;
-}
-
 class WhitePointTest : public ::testing::TestWithParam<WhitePoint> {
 protected:
     [[nodiscard]] static std::string element(const std::string& text) {
@@ -47,7 +40,7 @@ protected:
     }
 
     [[nodiscard]] static std::string written(const Stored& numbers) {
-        return R"(<BasicData Version="3" MinorVersion="0">)" + element(joined(numbers)) + "</BasicData>";
+        return R"(<BasicData Version="3" MinorVersion="0">)" + element(arrayText(numbers)) + "</BasicData>";
     }
 
     [[nodiscard]] static Stored storedFrom(double X, double Y, double Z) {
@@ -181,7 +174,7 @@ TEST_P(WhitePointTest, AnyNumberOfValuesIsReadAndSetsTheFlagAndNothingElse) {
     for (std::size_t count = 1; count <= 6; ++count) {
         BasicData expected;
         (expected.*GetParam().stored).set(numbersFromOne(count));
-        const std::string document = documentOf<BasicData>(element(joined(numbersFromOne(count))));
+        const std::string document = documentOf<BasicData>(element(arrayText(numbersFromOne(count))));
         EXPECT_EQ(describe(parsed<BasicData>(document)), describe(expected));
     }
 }

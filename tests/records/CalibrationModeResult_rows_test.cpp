@@ -19,7 +19,7 @@ std::string rowOf(const std::string& index) {
 }
 
 CalibrationModeResult listFrom(const std::string& rows) {
-    return parsed<CalibrationModeResult>(documentOf<CalibrationModeResult>(rows));
+    return parsedFrom<CalibrationModeResult>(rows);
 }
 
 /// The indices of the rows in their order: "2 1 2 ".

@@ -1,4 +1,5 @@
 #include <tests/support/ParsedDocument.h>
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -26,17 +27,9 @@ struct Number {
 const std::array everyNumber = {Number{"Index", &ColorModeSettingsObject::index},
                                 Number{"Availability", &ColorModeSettingsObject::availability}};
 
-std::string element(const std::string& name, const std::string& text) {
-    return '<' + name + '>' + text + "</" + name + '>';
-}
-
-std::string written(const std::string& rows) {
-    return R"(<ColorModeSettings Version="2" MinorVersion="0">)" + rows + "</ColorModeSettings>";
-}
-
 /// The document of one row without a type, with these children in front of its policy.
 std::string writtenRow(const std::string& children) {
-    return written(R"(<ColorMode Type="">)" + children + defaultPolicy + "</ColorMode>");
+    return written<ColorModeSettings>(R"(<ColorMode Type="">)" + children + defaultPolicy + "</ColorMode>");
 }
 
 ColorModeSettings listOf(const std::vector<ColorModeSettingsObject>& rows) {
@@ -47,7 +40,7 @@ ColorModeSettings listOf(const std::vector<ColorModeSettingsObject>& rows) {
 
 /// The rows of a list with these elements.
 std::vector<ColorModeSettingsObject> rowsFrom(const std::string& rows) {
-    return parsed<ColorModeSettings>(documentOf<ColorModeSettings>(rows)).objects;
+    return parsedFrom<ColorModeSettings>(rows).objects;
 }
 
 /// The only row of a list whose only row is this element.
@@ -125,8 +118,8 @@ TEST(ColorModeSettings, RowsStandDirectlyUnderTheRootAndDoNotNest) {
 }
 
 TEST(ColorModeSettings, ChildrenOfARowUnderTheRootAreNotRead) {
-    const auto list = parsed<ColorModeSettings>(documentOf<ColorModeSettings>(
-        element("Index", "1") + element("Name", "a") + element("Availability", "2") + compact(ProfilePolicy())));
+    const auto list = parsedFrom<ColorModeSettings>(element("Index", "1") + element("Name", "a") +
+                                                    element("Availability", "2") + compact(ProfilePolicy()));
     EXPECT_TRUE(list.objects.empty());
 }
 
@@ -199,7 +192,7 @@ TEST(ColorModeSettings, NumbersReadAsUnsignedWithoutEverFailing) {
 }
 
 TEST(ColorModeSettings, EmptyNameIsSetAndIsWrittenBack) {
-    const auto list = parsed<ColorModeSettings>(documentOf<ColorModeSettings>("<ColorMode><Name/></ColorMode>"));
+    const auto list = parsedFrom<ColorModeSettings>("<ColorMode><Name/></ColorMode>");
     EXPECT_EQ(list.objects.at(0).name, (property<std::string>{"", true}));
     EXPECT_EQ(compact(list), writtenRow("<Name></Name>"));
 }

@@ -42,10 +42,6 @@ struct Records {
     bool policy;
 };
 
-std::string written(const std::string& row) {
-    return R"(<ColorModeSettings Version="2" MinorVersion="0">)" + row + "</ColorModeSettings>";
-}
-
 std::string typeAttribute(const std::string& type) {
     return " Type=\"" + type + '"';
 }
@@ -107,8 +103,7 @@ std::string elementsOf(const Records& present) {
 
 /// The row that an element with these attributes and children gives.
 ColorModeSettingsObject rowFrom(const std::string& attributes, const std::string& children) {
-    const auto list = parsed<ColorModeSettings>(
-        documentOf<ColorModeSettings>("<ColorMode" + attributes + '>' + children + "</ColorMode>"));
+    const auto list = parsedFrom<ColorModeSettings>("<ColorMode" + attributes + '>' + children + "</ColorMode>");
     EXPECT_EQ(list.objects.size(), 1U);
     return list.objects.empty() ? ColorModeSettingsObject() : list.objects.front();
 }
@@ -119,7 +114,8 @@ TEST(ColorModeSettingsTypes, TypeAloneChoosesTheRecordsThatAreWrittenWhateverThe
             for (const bool hlgSwitch : {false, true}) {
                 ColorModeSettingsObject row = rowWith(Records(bits));
                 row.type.set(type.text);
-                EXPECT_EQ(compact(listOf(row, hlgSwitch)), written(rowText(type, row, hlgSwitch))) << type.text << bits;
+                EXPECT_EQ(compact(listOf(row, hlgSwitch)), written<ColorModeSettings>(rowText(type, row, hlgSwitch)))
+                    << type.text << bits;
             }
         }
     }
@@ -129,7 +125,7 @@ TEST(ColorModeSettingsTypes, TextOfAnUnsetTypeIsWrittenAndSteersAllTheSame) {
     for (const ModeType& type : everyType) {
         ColorModeSettingsObject row = rowWith(Records(7));
         row.type = {type.text, false};
-        EXPECT_EQ(compact(listOf(row)), written(rowText(type, row, false))) << type.text;
+        EXPECT_EQ(compact(listOf(row)), written<ColorModeSettings>(rowText(type, row, false))) << type.text;
     }
 }
 
@@ -137,35 +133,38 @@ TEST(ColorModeSettingsTypes, UnsetRecordsAreWrittenWithTheirDefaults) {
     for (const ModeType& type : everyType) {
         ColorModeSettingsObject row;
         row.type.set(type.text);
-        EXPECT_EQ(compact(listOf(row)), written(rowText(type, ColorModeSettingsObject(), false))) << type.text;
+        EXPECT_EQ(compact(listOf(row)), written<ColorModeSettings>(rowText(type, ColorModeSettingsObject(), false)))
+            << type.text;
     }
 }
 
 TEST(ColorModeSettingsTypes, DefaultRowOfTypeStandardCarriesParametersAndPolicyAndNoTarget) {
     ColorModeSettingsObject row;
     row.type.set("Standard");
-    EXPECT_EQ(compact(listOf(row)), written(R"(<ColorMode Type="Standard">)"
-                                            R"(<ParameterSetting Version="2" MinorVersion="0"><Brightness Type=""/>)"
-                                            R"(<WhitePoint Type=""/><Gamma Type=""/><Gamut Type=""><Clipping>0)"
-                                            R"(</Clipping></Gamut></ParameterSetting>)"
-                                            R"(<ProfilePolicy Version="2" MinorVersion="0"/></ColorMode>)"));
+    EXPECT_EQ(compact(listOf(row)),
+              written<ColorModeSettings>(R"(<ColorMode Type="Standard">)"
+                                         R"(<ParameterSetting Version="2" MinorVersion="0"><Brightness Type=""/>)"
+                                         R"(<WhitePoint Type=""/><Gamma Type=""/><Gamut Type=""><Clipping>0)"
+                                         R"(</Clipping></Gamut></ParameterSetting>)"
+                                         R"(<ProfilePolicy Version="2" MinorVersion="0"/></ColorMode>)"));
 }
 
 TEST(ColorModeSettingsTypes, DefaultRowOfTypeCalibrationCarriesTargetAndPolicyAndNoParameters) {
     ColorModeSettingsObject row;
     row.type.set("Calibration");
-    EXPECT_EQ(compact(listOf(row)), written(R"(<ColorMode Type="Calibration"><Target Type="Lumivale">)"
-                                            R"(<TargetSetting Version="3" MinorVersion="2"/></Target>)"
-                                            R"(<ProfilePolicy Version="2" MinorVersion="0"/></ColorMode>)"));
+    EXPECT_EQ(compact(listOf(row)),
+              written<ColorModeSettings>(R"(<ColorMode Type="Calibration"><Target Type="Lumivale">)"
+                                         R"(<TargetSetting Version="3" MinorVersion="2"/></Target>)"
+                                         R"(<ProfilePolicy Version="2" MinorVersion="0"/></ColorMode>)"));
 }
 
 TEST(ColorModeSettingsTypes, RowOfUnknownTypeCarriesIndexNameAvailabilityAndPolicy) {
     auto row = filled<ColorModeSettings>().objects.front();
     row.type.value = "Vendor";
-    EXPECT_EQ(
-        compact(listOf(row)),
-        written("<ColorMode Type=\"Vendor\"><Index>14</Index><Name>name 15</Name><Availability>16</Availability>" +
-                compact(filled<ProfilePolicy>()) + "</ColorMode>"));
+    EXPECT_EQ(compact(listOf(row)),
+              written<ColorModeSettings>(
+                  "<ColorMode Type=\"Vendor\"><Index>14</Index><Name>name 15</Name><Availability>16</Availability>" +
+                  compact(filled<ProfilePolicy>()) + "</ColorMode>"));
 }
 
 TEST(ColorModeSettingsTypes, EveryTypeReadsWhateverRecordsThereAre) {

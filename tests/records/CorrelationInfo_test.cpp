@@ -20,10 +20,6 @@ const std::array everyText = {Text{"ReferenceSensorID", &CorrelationInfo::refere
                               Text{"ReferenceSensorSerial", &CorrelationInfo::referenceSensorSerial},
                               Text{"CorrelationDate", &CorrelationInfo::correlationDate}};
 
-std::string written(const std::string& children) {
-    return R"(<CorrelationInfo Version="1" MinorVersion="0">)" + children + "</CorrelationInfo>";
-}
-
 TEST(CorrelationInfo, DefaultRecordWritesTheRootWithItsVersionAndNoChild) {
     EXPECT_EQ(compact(CorrelationInfo()), R"(<CorrelationInfo Version="1" MinorVersion="0"/>)");
 }
@@ -51,16 +47,16 @@ TEST(CorrelationInfo, ElementNamedBasicDataIsRefused) {
 
 TEST(CorrelationInfo, SensorIdentifier0012KeepsItsLeadingZerosAndIsWrittenBackUnchanged) {
     const std::string child = "<ReferenceSensorID>0012</ReferenceSensorID>";
-    const auto record = parsed<CorrelationInfo>(documentOf<CorrelationInfo>(child));
+    const auto record = parsedFrom<CorrelationInfo>(child);
     EXPECT_EQ(record.referenceSensorID, (property<std::string>{"0012", true}));
-    EXPECT_EQ(compact(record), written(child));
+    EXPECT_EQ(compact(record), written<CorrelationInfo>(child));
 }
 
 TEST(CorrelationInfo, EachTextStandsAloneUnderItsOwnName) {
     for (const auto& [element, member] : everyText) {
         CorrelationInfo record;
         (record.*member).set(" 2024/3/7 ");
-        EXPECT_EQ(compact(record), written('<' + element + "> 2024/3/7 </" + element + '>'));
+        EXPECT_EQ(compact(record), written<CorrelationInfo>('<' + element + "> 2024/3/7 </" + element + '>'));
         record.version.hasValue = record.minorVersion.hasValue = true;
         EXPECT_EQ(describe(parsed<CorrelationInfo>(compact(record))), describe(record));
     }
@@ -70,7 +66,7 @@ TEST(CorrelationInfo, SetButEmptyTextWritesAnEmptyElementAndComesBackSet) {
     for (const auto& [element, member] : everyText) {
         CorrelationInfo record;
         (record.*member).hasValue = true;
-        EXPECT_EQ(compact(record), written('<' + element + "></" + element + '>'));
+        EXPECT_EQ(compact(record), written<CorrelationInfo>('<' + element + "></" + element + '>'));
         EXPECT_TRUE((parsed<CorrelationInfo>(compact(record)).*member).hasValue);
     }
 }

@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -33,16 +34,8 @@ std::string numbersText(std::size_t count) {
     return text;
 }
 
-std::string element(const std::string& name, const std::string& text) {
-    return '<' + name + '>' + text + "</" + name + '>';
-}
-
 std::string rowElement(const std::string& children) {
     return element("Measurements", children);
-}
-
-std::string written(const std::string& rows) {
-    return R"(<MeasurementData Version="2" MinorVersion="0">)" + rows + "</MeasurementData>";
 }
 
 /// A row whose notation of that name holds the numbers 1 to `count`, its others nothing.
@@ -67,7 +60,7 @@ MeasurementData dataOf(const std::vector<MeasurementDataObject>& rows) {
 }
 
 std::vector<MeasurementDataObject> rowsFrom(const std::string& rows) {
-    return parsed<MeasurementData>(documentOf<MeasurementData>(rows)).objects;
+    return parsedFrom<MeasurementData>(rows).objects;
 }
 
 std::string describeRows(const std::vector<MeasurementDataObject>& rows) {
@@ -124,8 +117,9 @@ TEST(MeasurementData, ElementNamedMeasurementDataSecondaryIsRefused) {
 
 TEST(MeasurementData, SecondParseLeavesOnlyTheRowsOfTheSecondDocument) {
     MeasurementData data;
-    ASSERT_TRUE(data.parseXMLString(written(rowElement("<RGB>1|2|3</RGB>") + rowElement("<RGB>4|5|6</RGB>"))));
-    ASSERT_TRUE(data.parseXMLString(written(rowElement("<XYZ>7|8|9</XYZ>"))));
+    ASSERT_TRUE(
+        data.parseXMLString(written<MeasurementData>(rowElement("<RGB>1|2|3</RGB>") + rowElement("<RGB>4|5|6</RGB>"))));
+    ASSERT_TRUE(data.parseXMLString(written<MeasurementData>(rowElement("<XYZ>7|8|9</XYZ>"))));
     ASSERT_EQ(data.objects.size(), 1U);
     EXPECT_TRUE(data.objects[0].RGB.empty());
     EXPECT_EQ(data.objects[0].XYZ, (Numbers{7, 8, 9}));
@@ -193,7 +187,7 @@ TEST(MeasurementData, OnlyANotationOfItsExactLengthIsWritten) {
         for (std::size_t count = 0; count <= 6; ++count) {
             const MeasurementData data = dataOf({rowWith(name, count)});
             const std::string row = rowElement(element(name, numbersText(count)));
-            const std::string expected = count == length ? written(row) : compact(MeasurementData());
+            const std::string expected = count == length ? written<MeasurementData>(row) : compact(MeasurementData());
             EXPECT_EQ(compact(data), expected) << name << ' ' << count;
         }
     }
@@ -206,13 +200,13 @@ TEST(MeasurementData, RowWithRGBOf4EntriesAndNothingElseIsNotWritten) {
 TEST(MeasurementData, RowWithRGBOf3AndCMYKOf3WritesRGBOnly) {
     MeasurementDataObject row = rowWith("RGB", 3);
     row.CMYK = {1, 2, 3};
-    EXPECT_EQ(compact(dataOf({row})), written(rowElement("<RGB>1|2|3</RGB>")));
+    EXPECT_EQ(compact(dataOf({row})), written<MeasurementData>(rowElement("<RGB>1|2|3</RGB>")));
 }
 
 TEST(MeasurementData, RowsWithNothingToWriteAreMissingFromTheTextButNotFromTheRecord) {
     const MeasurementData data =
         dataOf({rowWith("RGB", 3), rowWith("RGB", 4), MeasurementDataObject(), rowWith("PQR", 3)});
-    EXPECT_EQ(compact(data), written(rowElement("<RGB>1|2|3</RGB>") + rowElement("<PQR>1|2|3</PQR>")));
+    EXPECT_EQ(compact(data), written<MeasurementData>(rowElement("<RGB>1|2|3</RGB>") + rowElement("<PQR>1|2|3</PQR>")));
     EXPECT_EQ(data.objects.size(), 4U);
     EXPECT_EQ(parsed<MeasurementData>(compact(data)).objects.size(), 2U);
 }
@@ -234,7 +228,8 @@ TEST(MeasurementData, LimitsOfTheNumbersComeBack) {
     row.RGB = {0, 4294967295U, 1};
     row.XYZ = {-2147483647 - 1, 2147483647, 0};
     const MeasurementData data = dataOf({row});
-    EXPECT_EQ(compact(data), written(rowElement("<RGB>0|4294967295|1</RGB><XYZ>-2147483648|2147483647|0</XYZ>")));
+    EXPECT_EQ(compact(data),
+              written<MeasurementData>(rowElement("<RGB>0|4294967295|1</RGB><XYZ>-2147483648|2147483647|0</XYZ>")));
     EXPECT_EQ(describeRows(parsed<MeasurementData>(compact(data)).objects), describeRows({row}));
 }
 

@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -30,43 +31,8 @@ const std::array everyNumber = {Number{"StandardModeCalibration", &MonitorConfig
 const std::string defaultRecords = R"(<ColorModeSettings Version="2" MinorVersion="0"/>)"
                                    R"(<SelfCalibrationSchedule Version="1" MinorVersion="0"/>)";
 
-std::string element(const std::string& name, const std::string& text) {
-    return '<' + name + '>' + text + "</" + name + '>';
-}
-
-std::string written(const std::string& children) {
-    return R"(<MonitorConfiguration Version="2" MinorVersion="0">)" + children + "</MonitorConfiguration>";
-}
-
-MonitorConfiguration read(const std::string& children) {
-    return parsed<MonitorConfiguration>(documentOf<MonitorConfiguration>(children));
-}
-
-/// The sample after it has read a document with these children and no version.
-MonitorConfiguration filledAndThen(const std::string& children) {
-    auto record = filled<MonitorConfiguration>();
-    EXPECT_TRUE(record.parseXMLString(documentOf<MonitorConfiguration>(children)));
-    return record;
-}
-
-/// The sample with every flag of its own clear and every value in place.
-MonitorConfiguration filledWithClearFlags() {
-    auto record = filled<MonitorConfiguration>();
-    record.version.hasValue = false;
-    record.minorVersion.hasValue = false;
-    for (const Text& text : everyText) {
-        (record.*text.member).hasValue = false;
-    }
-    for (const Number& number : everyNumber) {
-        (record.*number.member).hasValue = false;
-    }
-    record.colorModeSettings.hasValue = false;
-    record.selfCalibrationSchedule.hasValue = false;
-    return record;
-}
-
 TEST(MonitorConfiguration, DefaultRecordWritesTheTwoNestedRecordsAndNothingElse) {
-    EXPECT_EQ(compact(MonitorConfiguration()), written(defaultRecords));
+    EXPECT_EQ(compact(MonitorConfiguration()), written<MonitorConfiguration>(defaultRecords));
 }
 
 TEST(MonitorConfiguration, FilledRecordWritesAllElementsInOrder) {
@@ -81,7 +47,7 @@ TEST(MonitorConfiguration, FilledRecordWritesAllElementsInOrder) {
 TEST(MonitorConfiguration, ModelAloneIsWrittenAndComesBackAlone) {
     MonitorConfiguration record;
     record.model.set("M1");
-    const std::string text = written("<Model>M1</Model>" + defaultRecords);
+    const std::string text = written<MonitorConfiguration>("<Model>M1</Model>" + defaultRecords);
     EXPECT_EQ(compact(record), text);
     const auto back = parsed<MonitorConfiguration>(text);
     EXPECT_EQ(back.version, (property<unsigned int>{2, true}));
@@ -101,11 +67,12 @@ TEST(MonitorConfiguration, TextsAndNumbersAreWrittenEachByItsOwnFlag) {
         record.standardModeCalibration = {5, (flags & 8U) != 0};
         record.keyLock = {6, (flags & 16U) != 0};
         EXPECT_EQ(compact(record),
-                  written((record.name.hasValue ? "<Name>a</Name>" : std::string()) +
-                          (record.model.hasValue ? "<Model>b</Model>" : "") +
-                          (record.serial.hasValue ? "<Serial>c</Serial>" : "") + defaultRecords +
-                          (record.standardModeCalibration.hasValue ? element("StandardModeCalibration", "5") : "") +
-                          (record.keyLock.hasValue ? "<KeyLock>6</KeyLock>" : "")));
+                  written<MonitorConfiguration>(
+                      (record.name.hasValue ? "<Name>a</Name>" : std::string()) +
+                      (record.model.hasValue ? "<Model>b</Model>" : "") +
+                      (record.serial.hasValue ? "<Serial>c</Serial>" : "") + defaultRecords +
+                      (record.standardModeCalibration.hasValue ? element("StandardModeCalibration", "5") : "") +
+                      (record.keyLock.hasValue ? "<KeyLock>6</KeyLock>" : "")));
     }
 }
 
@@ -124,7 +91,7 @@ TEST(MonitorConfiguration, EachTextIsReadAloneAndSetsNothingElse) {
     for (const auto& [name, member] : everyText) {
         MonitorConfiguration expected;
         (expected.*member).set("text");
-        EXPECT_EQ(describe(read(element(name, "text"))), describe(expected));
+        EXPECT_EQ(describe(parsedFrom<MonitorConfiguration>(element(name, "text"))), describe(expected));
     }
 }
 
@@ -132,60 +99,64 @@ TEST(MonitorConfiguration, EachNumberIsReadAloneAndSetsNothingElse) {
     for (const auto& [name, member] : everyNumber) {
         MonitorConfiguration expected;
         (expected.*member).set(77);
-        EXPECT_EQ(describe(read(element(name, "77"))), describe(expected));
+        EXPECT_EQ(describe(parsedFrom<MonitorConfiguration>(element(name, "77"))), describe(expected));
     }
 }
 
 TEST(MonitorConfiguration, EachNestedRecordIsReadAloneAndSetsNothingElse) {
     MonitorConfiguration withModes;
     withModes.colorModeSettings.set(filledAndParsedBack<ColorModeSettings>());
-    EXPECT_EQ(describe(read(compact(filled<ColorModeSettings>()))), describe(withModes));
+    EXPECT_EQ(describe(parsedFrom<MonitorConfiguration>(compact(filled<ColorModeSettings>()))), describe(withModes));
     MonitorConfiguration withSchedule;
     withSchedule.selfCalibrationSchedule.set(filledAndParsedBack<SelfCalibrationSchedule>());
-    EXPECT_EQ(describe(read(compact(filled<SelfCalibrationSchedule>()))), describe(withSchedule));
+    EXPECT_EQ(describe(parsedFrom<MonitorConfiguration>(compact(filled<SelfCalibrationSchedule>()))),
+              describe(withSchedule));
 }
 
 TEST(MonitorConfiguration, EmptyTextIsSetAndIsWrittenBack) {
     for (const auto& [name, member] : everyText) {
         for (const std::string& text : {'<' + name + "/>", element(name, ""), element(name, " \n ")}) {
-            const auto record = read(text);
+            const auto record = parsedFrom<MonitorConfiguration>(text);
             EXPECT_EQ(record.*member, (property<std::string>{"", true})) << text;
-            EXPECT_EQ(compact(record), written(element(name, "") + defaultRecords));
+            EXPECT_EQ(compact(record), written<MonitorConfiguration>(element(name, "") + defaultRecords));
         }
     }
 }
 
 TEST(MonitorConfiguration, TextWithoutContentKeepsTheEarlierOneAndSetsTheFlag) {
     for (const auto& [name, member] : everyText) {
-        auto expected = filledWithClearFlags();
+        auto expected = withClearFlags(filled<MonitorConfiguration>());
         (expected.*member).hasValue = true;
-        EXPECT_EQ(describe(filledAndThen('<' + name + "/>")), describe(expected));
+        EXPECT_EQ(describe(afterReading(filled<MonitorConfiguration>(), '<' + name + "/>")), describe(expected));
     }
 }
 
 TEST(MonitorConfiguration, EmptyNumberCountsAsMissing) {
     for (const auto& [name, member] : everyNumber) {
-        EXPECT_EQ(describe(filledAndThen('<' + name + "/>")), describe(filledWithClearFlags()));
-        EXPECT_EQ(read('<' + name + "/>").*member, (property<unsigned int>{0, false}));
+        EXPECT_EQ(describe(afterReading(filled<MonitorConfiguration>(), '<' + name + "/>")),
+                  describe(withClearFlags(filled<MonitorConfiguration>())));
+        EXPECT_EQ(parsedFrom<MonitorConfiguration>('<' + name + "/>").*member, (property<unsigned int>{0, false}));
     }
 }
 
 TEST(MonitorConfiguration, DocumentWithoutKeyLockClearsItsFlagAndPrintsWithoutIt) {
-    const auto record = filledAndThen("<StandardModeCalibration>5</StandardModeCalibration>");
+    const auto record =
+        afterReading(filled<MonitorConfiguration>(), "<StandardModeCalibration>5</StandardModeCalibration>");
     EXPECT_EQ(record.keyLock, (property<unsigned int>{17, false}));
     EXPECT_EQ(compact(record).find("KeyLock"), std::string::npos);
 }
 
 TEST(MonitorConfiguration, StandardModeCalibrationOfMinusOneReadsAs4294967295) {
-    const auto record = read("<StandardModeCalibration>-1</StandardModeCalibration>");
+    const auto record = parsedFrom<MonitorConfiguration>("<StandardModeCalibration>-1</StandardModeCalibration>");
     EXPECT_EQ(record.standardModeCalibration, (property<unsigned int>{4294967295U, true}));
-    EXPECT_EQ(compact(record), written(defaultRecords + element("StandardModeCalibration", "4294967295")));
+    EXPECT_EQ(compact(record),
+              written<MonitorConfiguration>(defaultRecords + element("StandardModeCalibration", "4294967295")));
 }
 
 TEST(MonitorConfiguration, NumbersReadAsUnsignedWithoutEverFailing) {
     for (const auto& [name, member] : everyNumber) {
         const auto number = [&, &name = name, &member = member](const std::string& text) {
-            return read(element(name, text)).*member;
+            return parsedFrom<MonitorConfiguration>(element(name, text)).*member;
         };
         EXPECT_EQ(number("-1"), (property<unsigned int>{4294967295U, true})) << name;
         EXPECT_EQ(number("99999999999"), (property<unsigned int>{4294967295U, true})) << name;
@@ -201,25 +172,26 @@ TEST(MonitorConfiguration, TextsTakeAnythingAndComeBack) {
         (record.*member).set(text);
         EXPECT_EQ(parsed<MonitorConfiguration>(compact(record)).*member, record.*member) << name;
     }
-    EXPECT_EQ(read("<Serial>&lt;&#48;01&amp;</Serial>").serial, (property<std::string>{"<001&", true}));
+    EXPECT_EQ(parsedFrom<MonitorConfiguration>("<Serial>&lt;&#48;01&amp;</Serial>").serial,
+              (property<std::string>{"<001&", true}));
 }
 
 TEST(MonitorConfiguration, NestedRecordThatIsMissingClearsItsOwnFlagAndKeepsItsValue) {
     const std::string schedule = compact(filled<SelfCalibrationSchedule>());
-    auto withoutModes = filledWithClearFlags();
+    auto withoutModes = withClearFlags(filled<MonitorConfiguration>());
     withoutModes.selfCalibrationSchedule.hasValue = true;
     ASSERT_TRUE(withoutModes.selfCalibrationSchedule.value.parseXMLString(schedule));
-    EXPECT_EQ(describe(filledAndThen(schedule)), describe(withoutModes));
+    EXPECT_EQ(describe(afterReading(filled<MonitorConfiguration>(), schedule)), describe(withoutModes));
     const std::string modes = compact(filled<ColorModeSettings>());
-    auto withoutSchedule = filledWithClearFlags();
+    auto withoutSchedule = withClearFlags(filled<MonitorConfiguration>());
     withoutSchedule.colorModeSettings.hasValue = true;
     ASSERT_TRUE(withoutSchedule.colorModeSettings.value.parseXMLString(modes));
-    EXPECT_EQ(describe(filledAndThen(modes)), describe(withoutSchedule));
+    EXPECT_EQ(describe(afterReading(filled<MonitorConfiguration>(), modes)), describe(withoutSchedule));
 }
 
 TEST(MonitorConfiguration, NestedRecordThatWasMissingIsWrittenAsItStillStands) {
-    auto expected = filledWithClearFlags();
-    EXPECT_EQ(compact(filledAndThen("")), compact(expected));
+    auto expected = withClearFlags(filled<MonitorConfiguration>());
+    EXPECT_EQ(compact(afterReading(filled<MonitorConfiguration>(), "")), compact(expected));
     EXPECT_NE(compact(expected).find(compact(filled<ColorModeSettings>())), std::string::npos);
     EXPECT_NE(compact(expected).find(compact(filled<SelfCalibrationSchedule>())), std::string::npos);
 }
@@ -229,7 +201,7 @@ TEST(MonitorConfiguration, NestedRecordOfAnotherCaseOrPlaceIsMissing) {
     const std::string schedule = compact(filled<SelfCalibrationSchedule>());
     for (const std::string& text : {std::string("<colorModeSettings/><selfCalibrationSchedule/>"),
                                     "<Other>" + modes + schedule + "</Other>", "<Name>" + modes + "</Name>"}) {
-        const auto record = read(text);
+        const auto record = parsedFrom<MonitorConfiguration>(text);
         EXPECT_EQ(describe(record.colorModeSettings.value), describe(ColorModeSettings())) << text;
         EXPECT_FALSE(record.colorModeSettings.hasValue) << text;
         EXPECT_FALSE(record.selfCalibrationSchedule.hasValue) << text;
@@ -237,42 +209,48 @@ TEST(MonitorConfiguration, NestedRecordOfAnotherCaseOrPlaceIsMissing) {
 }
 
 TEST(MonitorConfiguration, NestedRecordInsideTheOtherIsMissing) {
-    const auto record = read("<ColorModeSettings><SelfCalibrationSchedule/></ColorModeSettings>");
+    const auto record =
+        parsedFrom<MonitorConfiguration>("<ColorModeSettings><SelfCalibrationSchedule/></ColorModeSettings>");
     EXPECT_TRUE(record.colorModeSettings.hasValue);
     EXPECT_FALSE(record.selfCalibrationSchedule.hasValue);
 }
 
 TEST(MonitorConfiguration, EmptyNestedRecordIsFoundAndEmptiesTheRows) {
-    auto expected = filledWithClearFlags();
+    auto expected = withClearFlags(filled<MonitorConfiguration>());
     expected.colorModeSettings.hasValue = true;
     expected.colorModeSettings.value.version.hasValue = false;
     expected.colorModeSettings.value.minorVersion.hasValue = false;
     expected.colorModeSettings.value.objects.clear();
-    EXPECT_EQ(describe(filledAndThen("<ColorModeSettings/>")), describe(expected));
+    EXPECT_EQ(describe(afterReading(filled<MonitorConfiguration>(), "<ColorModeSettings/>")), describe(expected));
 }
 
 TEST(MonitorConfiguration, EmptyScheduleIsFoundAndClearsItsFlags) {
-    const auto record = filledAndThen("<SelfCalibrationSchedule/>");
+    const auto record = afterReading(filled<MonitorConfiguration>(), "<SelfCalibrationSchedule/>");
     EXPECT_TRUE(record.selfCalibrationSchedule.hasValue);
     EXPECT_EQ(describe(record.selfCalibrationSchedule.value), filledAfterEmptyRoot<SelfCalibrationSchedule>());
 }
 
 TEST(MonitorConfiguration, FirstOfRepeatedNestedRecordsIsTheOneThatIsRead) {
-    const auto record = read("<ColorModeSettings/>" + compact(filled<ColorModeSettings>()) +
-                             "<SelfCalibrationSchedule/>" + compact(filled<SelfCalibrationSchedule>()));
-    EXPECT_EQ(describe(record), describe(read("<ColorModeSettings/><SelfCalibrationSchedule/>")));
+    const auto record =
+        parsedFrom<MonitorConfiguration>("<ColorModeSettings/>" + compact(filled<ColorModeSettings>()) +
+                                         "<SelfCalibrationSchedule/>" + compact(filled<SelfCalibrationSchedule>()));
+    EXPECT_EQ(describe(record),
+              describe(parsedFrom<MonitorConfiguration>("<ColorModeSettings/><SelfCalibrationSchedule/>")));
 }
 
 TEST(MonitorConfiguration, NameOfAColorModeIsNotTheNameOfTheMonitor) {
-    const auto record = read("<ColorModeSettings><ColorMode><Name>mode</Name></ColorMode></ColorModeSettings>");
+    const auto record = parsedFrom<MonitorConfiguration>(
+        "<ColorModeSettings><ColorMode><Name>mode</Name></ColorMode></ColorModeSettings>");
     EXPECT_EQ(record.name, (property<std::string>{"", false}));
     EXPECT_EQ(record.colorModeSettings.value.objects.at(0).name, (property<std::string>{"mode", true}));
 }
 
 TEST(MonitorConfiguration, VersionsOfTheNestedRecordsAreTheirOwn) {
-    const auto record = read(R"(<ColorModeSettings Version="7"/><SelfCalibrationSchedule MinorVersion="8"/>)");
-    EXPECT_EQ(compact(record), written(R"(<ColorModeSettings Version="7" MinorVersion="0"/>)"
-                                       R"(<SelfCalibrationSchedule Version="1" MinorVersion="8"/>)"));
+    const auto record = parsedFrom<MonitorConfiguration>(
+        R"(<ColorModeSettings Version="7"/><SelfCalibrationSchedule MinorVersion="8"/>)");
+    EXPECT_EQ(compact(record),
+              written<MonitorConfiguration>(R"(<ColorModeSettings Version="7" MinorVersion="0"/>)"
+                                            R"(<SelfCalibrationSchedule Version="1" MinorVersion="8"/>)"));
 }
 
 TEST(MonitorConfiguration, CopyOfItsNestedRecordsSharesNothing) {

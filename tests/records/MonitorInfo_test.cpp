@@ -63,35 +63,8 @@ const std::string defaultAsset = R"(<AssetInfo Version="1" MinorVersion="0"/>)";
 const std::string defaultCorrelation = R"(<CorrelationInfo Version="1" MinorVersion="0"/>)";
 const std::string defaultRecords = defaultConfiguration + defaultResults + defaultAsset + defaultCorrelation;
 
-std::string written(const std::string& children) {
-    return R"(<MonitorInfo Version="2" MinorVersion="2">)" + children + "</MonitorInfo>";
-}
-
-MonitorInfo read(const std::string& children) {
-    return parsed<MonitorInfo>(documentOf<MonitorInfo>(children));
-}
-
-/// The sample after it has read a document with these children and no version.
-MonitorInfo filledAndThen(const std::string& children) {
-    auto record = filled<MonitorInfo>();
-    EXPECT_TRUE(record.parseXMLString(documentOf<MonitorInfo>(children)));
-    return record;
-}
-
-/// The sample with every flag of its own clear and every value in place.
-MonitorInfo filledWithClearFlags() {
-    auto record = filled<MonitorInfo>();
-    record.version.hasValue = false;
-    record.minorVersion.hasValue = false;
-    record.uuid.hasValue = false;
-    for (const Nested& nested : everyNested()) {
-        nested.setFlag(record, false);
-    }
-    return record;
-}
-
 TEST(MonitorInfo, DefaultRecordWritesFiveNestedRecordsWithoutUUIDAndCandelaMap) {
-    EXPECT_EQ(compact(MonitorInfo()), written(defaultRecords));
+    EXPECT_EQ(compact(MonitorInfo()), written<MonitorInfo>(defaultRecords));
 }
 
 TEST(MonitorInfo, FilledRecordWritesUUIDAndAllNestedRecordsInOrder) {
@@ -120,18 +93,19 @@ TEST(MonitorInfo, NestedRecordsAreWrittenWhateverTheirFlagsSaveTheCandelaMap) {
 TEST(MonitorInfo, UUIDIsWrittenByItsFlagAlone) {
     MonitorInfo record;
     record.uuid.value = "stale";
-    EXPECT_EQ(compact(record), written(defaultRecords));
+    EXPECT_EQ(compact(record), written<MonitorInfo>(defaultRecords));
     record.uuid.hasValue = true;
-    EXPECT_EQ(compact(record), written("<UUID>stale</UUID>" + defaultRecords));
+    EXPECT_EQ(compact(record), written<MonitorInfo>("<UUID>stale</UUID>" + defaultRecords));
     record.uuid.value.clear();
-    EXPECT_EQ(compact(record), written("<UUID></UUID>" + defaultRecords));
+    EXPECT_EQ(compact(record), written<MonitorInfo>("<UUID></UUID>" + defaultRecords));
 }
 
 TEST(MonitorInfo, DefaultCandelaMapIsWrittenWhenItsFlagIsSet) {
     MonitorInfo record;
     record.candelaMap.hasValue = true;
-    EXPECT_EQ(compact(record), written(defaultRecords + R"(<CandelaMap Version="1" MinorVersion="0"><Uniformity/>)"
-                                                        R"(<Brightness/></CandelaMap>)"));
+    EXPECT_EQ(compact(record),
+              written<MonitorInfo>(defaultRecords + R"(<CandelaMap Version="1" MinorVersion="0"><Uniformity/>)"
+                                                    R"(<Brightness/></CandelaMap>)"));
 }
 
 TEST(MonitorInfo, EverySubsetOfNestedRecordsSetsTheFlagsOfThatSubsetAlone) {
@@ -144,22 +118,22 @@ TEST(MonitorInfo, EverySubsetOfNestedRecordsSetsTheFlagsOfThatSubsetAlone) {
                 everyNested()[index].fill(expected);
             }
         }
-        EXPECT_EQ(describe(read(children)), describe(expected)) << present;
+        EXPECT_EQ(describe(parsedFrom<MonitorInfo>(children)), describe(expected)) << present;
     }
 }
 
 TEST(MonitorInfo, NestedRecordThatIsMissingClearsItsOwnFlagAndKeepsItsValue) {
-    EXPECT_EQ(describe(filledAndThen("")), describe(filledWithClearFlags()));
-    auto withAsset = filledWithClearFlags();
+    EXPECT_EQ(describe(afterReading(filled<MonitorInfo>(), "")), describe(withClearFlags(filled<MonitorInfo>())));
+    auto withAsset = withClearFlags(filled<MonitorInfo>());
     withAsset.assetInfo.hasValue = true;
-    EXPECT_EQ(describe(filledAndThen(compact(filled<AssetInfo>()))), describe(withAsset));
-    auto withMap = filledWithClearFlags();
+    EXPECT_EQ(describe(afterReading(filled<MonitorInfo>(), compact(filled<AssetInfo>()))), describe(withAsset));
+    auto withMap = withClearFlags(filled<MonitorInfo>());
     withMap.candelaMap.hasValue = true;
-    EXPECT_EQ(describe(filledAndThen(compact(filled<CandelaMap>()))), describe(withMap));
+    EXPECT_EQ(describe(afterReading(filled<MonitorInfo>(), compact(filled<CandelaMap>()))), describe(withMap));
 }
 
 TEST(MonitorInfo, NestedRecordsThatWereMissingAreWrittenAsTheyStillStandSaveTheCandelaMap) {
-    const auto record = filledAndThen("");
+    const auto record = afterReading(filled<MonitorInfo>(), "");
     std::string expected;
     for (const Nested& nested : everyNested()) {
         expected += nested.writtenAlways ? nested.filledText : "";
@@ -168,19 +142,19 @@ TEST(MonitorInfo, NestedRecordsThatWereMissingAreWrittenAsTheyStillStandSaveTheC
 }
 
 TEST(MonitorInfo, DocumentWithoutCandelaMapPrintsWithoutIt) {
-    const auto record = read("<AssetInfo/>");
+    const auto record = parsedFrom<MonitorInfo>("<AssetInfo/>");
     EXPECT_FALSE(record.candelaMap.hasValue);
-    EXPECT_EQ(compact(record), written(defaultRecords));
+    EXPECT_EQ(compact(record), written<MonitorInfo>(defaultRecords));
 }
 
 TEST(MonitorInfo, DocumentWithoutAssetInfoPrintsADefaultOne) {
-    const auto record = read("<CandelaMap/>");
+    const auto record = parsedFrom<MonitorInfo>("<CandelaMap/>");
     EXPECT_FALSE(record.assetInfo.hasValue);
     EXPECT_NE(compact(record).find(defaultAsset), std::string::npos);
 }
 
 TEST(MonitorInfo, NestedRecordsThatARoundTripGainsAreSet) {
-    const auto back = parsed<MonitorInfo>(compact(read("")));
+    const auto back = parsed<MonitorInfo>(compact(parsedFrom<MonitorInfo>("")));
     EXPECT_TRUE(back.monitorConfiguration.hasValue);
     EXPECT_TRUE(back.monitorConfiguration.value.colorModeSettings.hasValue);
     EXPECT_TRUE(back.monitorConfiguration.value.selfCalibrationSchedule.hasValue);
@@ -193,22 +167,24 @@ TEST(MonitorInfo, NestedRecordsThatARoundTripGainsAreSet) {
 }
 
 TEST(MonitorInfo, UUIDIsSetWhenItsElementExistsAlsoWithoutText) {
-    EXPECT_EQ(read("").uuid, (property<std::string>{"", false}));
-    EXPECT_EQ(read("<UUID/>").uuid, (property<std::string>{"", true}));
-    EXPECT_EQ(read("<UUID></UUID>").uuid, (property<std::string>{"", true}));
-    EXPECT_EQ(read("<UUID>a</UUID>").uuid, (property<std::string>{"a", true}));
-    EXPECT_EQ(read("<uuid>a</uuid><Uuid>b</Uuid>").uuid, (property<std::string>{"", false}));
-    EXPECT_EQ(read("<AssetInfo><UUID>a</UUID></AssetInfo>").uuid, (property<std::string>{"", false}));
+    EXPECT_EQ(parsedFrom<MonitorInfo>("").uuid, (property<std::string>{"", false}));
+    EXPECT_EQ(parsedFrom<MonitorInfo>("<UUID/>").uuid, (property<std::string>{"", true}));
+    EXPECT_EQ(parsedFrom<MonitorInfo>("<UUID></UUID>").uuid, (property<std::string>{"", true}));
+    EXPECT_EQ(parsedFrom<MonitorInfo>("<UUID>a</UUID>").uuid, (property<std::string>{"a", true}));
+    EXPECT_EQ(parsedFrom<MonitorInfo>("<uuid>a</uuid><Uuid>b</Uuid>").uuid, (property<std::string>{"", false}));
+    EXPECT_EQ(parsedFrom<MonitorInfo>("<AssetInfo><UUID>a</UUID></AssetInfo>").uuid,
+              (property<std::string>{"", false}));
 }
 
 TEST(MonitorInfo, UUIDWithoutTextKeepsTheEarlierOneAndSetsTheFlag) {
-    auto expected = filledWithClearFlags();
+    auto expected = withClearFlags(filled<MonitorInfo>());
     expected.uuid.hasValue = true;
-    EXPECT_EQ(describe(filledAndThen("<UUID/>")), describe(expected));
+    EXPECT_EQ(describe(afterReading(filled<MonitorInfo>(), "<UUID/>")), describe(expected));
 }
 
 TEST(MonitorInfo, UUIDIsAnyText) {
-    EXPECT_EQ(read("<UUID>&lt;&#65;&amp;</UUID><UUID>second</UUID>").uuid, (property<std::string>{"<A&", true}));
+    EXPECT_EQ(parsedFrom<MonitorInfo>("<UUID>&lt;&#65;&amp;</UUID><UUID>second</UUID>").uuid,
+              (property<std::string>{"<A&", true}));
     MonitorInfo record;
     record.uuid.set(" <\u00fc> & \"1\" ");
     EXPECT_EQ(parsed<MonitorInfo>(compact(record)).uuid, record.uuid);
@@ -220,16 +196,20 @@ TEST(MonitorInfo, NestedRecordOfAnotherCaseOrPlaceIsMissing) {
         missing += withRootNamed(nested.filledText, 'x' + nested.element.substr(1));
         missing += withRootNamed(nested.filledText, nested.element + 's');
         const std::string inItsOwnName = "<UUID>" + nested.filledText + "</UUID>";
-        EXPECT_EQ(describe(read(missing)), describe(MonitorInfo())) << nested.element;
-        EXPECT_EQ(nested.text(read(inItsOwnName)), nested.text(MonitorInfo())) << nested.element;
+        EXPECT_EQ(describe(parsedFrom<MonitorInfo>(missing)), describe(MonitorInfo())) << nested.element;
+        EXPECT_EQ(nested.text(parsedFrom<MonitorInfo>(inItsOwnName)), nested.text(MonitorInfo())) << nested.element;
     }
 }
 
 TEST(MonitorInfo, FirstOfRepeatedNestedRecordsIsTheOneThatIsRead) {
     for (const Nested& nested : everyNested()) {
         const std::string empty = '<' + nested.element + "/>";
-        EXPECT_EQ(describe(read(empty + nested.filledText)), describe(read(empty))) << nested.element;
-        EXPECT_EQ(describe(read(nested.filledText + empty)), describe(read(nested.filledText))) << nested.element;
+        EXPECT_EQ(describe(parsedFrom<MonitorInfo>(empty + nested.filledText)),
+                  describe(parsedFrom<MonitorInfo>(empty)))
+            << nested.element;
+        EXPECT_EQ(describe(parsedFrom<MonitorInfo>(nested.filledText + empty)),
+                  describe(parsedFrom<MonitorInfo>(nested.filledText)))
+            << nested.element;
     }
 }
 
@@ -242,10 +222,10 @@ TEST(MonitorInfo, MalformedNestedRecordFailsTheWholeDocumentAndChangesNothing) {
 }
 
 TEST(MonitorInfo, VersionsOfTheNestedRecordsAreTheirOwn) {
-    const auto record = read(R"(<AssetInfo Version="7"/><CorrelationInfo MinorVersion="8"/>)");
-    EXPECT_EQ(compact(record), written(defaultConfiguration + defaultResults +
-                                       R"(<AssetInfo Version="7" MinorVersion="0"/>)"
-                                       R"(<CorrelationInfo Version="1" MinorVersion="8"/>)"));
+    const auto record = parsedFrom<MonitorInfo>(R"(<AssetInfo Version="7"/><CorrelationInfo MinorVersion="8"/>)");
+    EXPECT_EQ(compact(record), written<MonitorInfo>(defaultConfiguration + defaultResults +
+                                                    R"(<AssetInfo Version="7" MinorVersion="0"/>)"
+                                                    R"(<CorrelationInfo Version="1" MinorVersion="8"/>)"));
 }
 
 TEST(MonitorInfo, WholeMonitorComesBackMemberByMember) {

@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -30,14 +31,6 @@ const std::array everyColour = {Member{"Red", &Colours::red},         Member{"Gr
                                 Member{"Blue", &Colours::blue},       Member{"Cyan", &Colours::cyan},
                                 Member{"Magenta", &Colours::magenta}, Member{"Yellow", &Colours::yellow}};
 
-std::string element(const std::string& name, const std::string& text) {
-    return '<' + name + '>' + text + "</" + name + '>';
-}
-
-std::string written(const std::string& children) {
-    return R"(<MonitorParameter Version="4" MinorVersion="0">)" + children + "</MonitorParameter>";
-}
-
 /// The six elements of a group in their order.
 std::string groupElements(const std::string& suffix, const Colours& colours) {
     std::string elements;
@@ -49,11 +42,11 @@ std::string groupElements(const std::string& suffix, const Colours& colours) {
 
 TEST(MonitorParameter, OnlyCyanHueSetsTheHueAndAllSixAreWrittenTheOthersWithTheirEarlierValues) {
     MonitorParameter record = filled<MonitorParameter>();
-    ASSERT_TRUE(record.parseXMLString(written("<CyanHue>99</CyanHue>")));
+    ASSERT_TRUE(record.parseXMLString(written<MonitorParameter>("<CyanHue>99</CyanHue>")));
     EXPECT_TRUE(record.hue.hasValue);
-    EXPECT_EQ(compact(record),
-              written("<RedHue>-1554</RedHue><GreenHue>1555</GreenHue><BlueHue>-1556</BlueHue>"
-                      "<CyanHue>99</CyanHue><MagentaHue>-1558</MagentaHue><YellowHue>1559</YellowHue>"));
+    EXPECT_EQ(compact(record), written<MonitorParameter>(
+                                   "<RedHue>-1554</RedHue><GreenHue>1555</GreenHue><BlueHue>-1556</BlueHue>"
+                                   "<CyanHue>99</CyanHue><MagentaHue>-1558</MagentaHue><YellowHue>1559</YellowHue>"));
 }
 
 TEST(MonitorParameter, EachElementOfAGroupAloneSetsTheGroupAndReplacesItsMember) {
@@ -63,9 +56,9 @@ TEST(MonitorParameter, EachElementOfAGroupAloneSetsTheGroupAndReplacesItsMember)
             (expected.*group).hasValue = true;
             (expected.*group).value.*member = -99;
             const std::string text = element(prefix + suffix, "-99");
-            const auto record = parsed<MonitorParameter>(documentOf<MonitorParameter>(text));
+            const auto record = parsedFrom<MonitorParameter>(text);
             EXPECT_EQ(describe(record), describe(expected));
-            EXPECT_EQ(compact(record), written(groupElements(suffix, (expected.*group).value)));
+            EXPECT_EQ(compact(record), written<MonitorParameter>(groupElements(suffix, (expected.*group).value)));
         }
     }
 }
@@ -99,7 +92,7 @@ TEST(MonitorParameter, GroupOfZerosIsWrittenWhenItIsSet) {
     for (const auto& [suffix, group] : everyGroup) {
         MonitorParameter record;
         (record.*group).hasValue = true;
-        EXPECT_EQ(compact(record), written(groupElements(suffix, Colours())));
+        EXPECT_EQ(compact(record), written<MonitorParameter>(groupElements(suffix, Colours())));
     }
 }
 

@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -43,28 +44,11 @@ bool isTableLength(std::size_t length) {
     return length == 256 || length == 1024;
 }
 
-std::string element(const std::string& name, const std::string& text) {
-    return '<' + name + '>' + text + "</" + name + '>';
-}
-
-std::string written(const std::string& children) {
-    return R"(<MonitorParameter Version="4" MinorVersion="0">)" + children + "</MonitorParameter>";
-}
-
 template <class Number>
 std::vector<Number> numbersFrom(Number first, std::size_t count) {
     std::vector<Number> numbers(count);
     std::iota(numbers.begin(), numbers.end(), first);
     return numbers;
-}
-
-template <class Number>
-std::string joined(const std::vector<Number>& numbers) {
-    std::string text;
-    for (const Number number : numbers) {
-        text += (text.empty() ? "" : "|") + std::to_string(number);
-    }
-    return text;
 }
 
 TEST(MonitorParameter, DefaultRecordWritesTheRootWithItsVersionAndNoChild) {
@@ -75,9 +59,9 @@ TEST(MonitorParameter, FilledRecordWritesAllElementsInOrder) {
     EXPECT_EQ(compact(filled<MonitorParameter>()),
               R"(<MonitorParameter Version="11" MinorVersion="12">)"
               "<Brightness>13</Brightness><Contrast>14</Contrast><isHDRLUT>15</isHDRLUT>" +
-                  element("RedLUT", joined(numbersFrom(16, 256))) +
-                  element("GreenLUT", joined(numbersFrom(272, 1024))) +
-                  element("BlueLUT", joined(numbersFrom(1296, 256))) +
+                  element("RedLUT", arrayText(numbersFrom(16, 256))) +
+                  element("GreenLUT", arrayText(numbersFrom(272, 1024))) +
+                  element("BlueLUT", arrayText(numbersFrom(1296, 256))) +
                   "<HLGSystemGamma>1552</HLGSystemGamma><HLGClipping>1553</HLGClipping>"
                   "<RedHue>-1554</RedHue><GreenHue>1555</GreenHue><BlueHue>-1556</BlueHue>"
                   "<CyanHue>1557</CyanHue><MagentaHue>-1558</MagentaHue><YellowHue>1559</YellowHue>"
@@ -97,7 +81,7 @@ TEST(MonitorParameter, EachNumberIsWrittenAloneUnderItsOwnName) {
     for (const auto& [name, member] : everyScalar) {
         MonitorParameter record;
         (record.*member).set(4294967295U);
-        EXPECT_EQ(compact(record), written(element(name, "4294967295")));
+        EXPECT_EQ(compact(record), written<MonitorParameter>(element(name, "4294967295")));
     }
 }
 
@@ -130,7 +114,7 @@ TEST(MonitorParameter, EmptyNumberCountsAsMissing) {
 TEST(MonitorParameter, NumbersReadAsUnsignedWithoutEverFailing) {
     for (const auto& [name, member] : everyScalar) {
         const auto read = [&, &name = name, &member = member](const std::string& text) {
-            return parsed<MonitorParameter>(documentOf<MonitorParameter>(element(name, text))).*member;
+            return parsedFrom<MonitorParameter>(element(name, text)).*member;
         };
         EXPECT_EQ(read("-1"), (property<unsigned int>{4294967295U, true})) << name;
         EXPECT_EQ(read("99999999999"), (property<unsigned int>{4294967295U, true})) << name;
@@ -150,23 +134,23 @@ TEST(MonitorParameter, HLGSystemGammaFollowsItsFlagAndNotTheSwitch) {
         record.writeHLGSystemGamma = value;
         EXPECT_EQ(compact(record), compact(MonitorParameter()));
         record.hlgSystemGamma.set(120);
-        EXPECT_EQ(compact(record), written("<HLGSystemGamma>120</HLGSystemGamma>"));
+        EXPECT_EQ(compact(record), written<MonitorParameter>("<HLGSystemGamma>120</HLGSystemGamma>"));
     }
 }
 
 TEST(MonitorParameter, RedLUTOf255EntriesParsesWithItsFlagClearedAndIsNotWrittenBack) {
-    const std::string text = element("RedLUT", joined(numbersFrom(1, 255)));
-    const auto record = parsed<MonitorParameter>(documentOf<MonitorParameter>(text));
+    const std::string text = element("RedLUT", arrayText(numbersFrom(1, 255)));
+    const auto record = parsedFrom<MonitorParameter>(text);
     EXPECT_FALSE(record.redLUT.hasValue);
     EXPECT_EQ(record.redLUT.value, numbersFrom(1U, 255));
     EXPECT_EQ(compact(record), compact(MonitorParameter()));
 }
 
 TEST(MonitorParameter, RedLUTOf1024EntriesComesBack) {
-    const std::string text = element("RedLUT", joined(numbersFrom(1, 1024)));
-    const auto record = parsed<MonitorParameter>(documentOf<MonitorParameter>(text));
+    const std::string text = element("RedLUT", arrayText(numbersFrom(1, 1024)));
+    const auto record = parsedFrom<MonitorParameter>(text);
     EXPECT_EQ(record.redLUT, (property<std::vector<unsigned int>>{numbersFrom(1U, 1024), true}));
-    EXPECT_EQ(compact(record), written(text));
+    EXPECT_EQ(compact(record), written<MonitorParameter>(text));
 }
 
 TEST(MonitorParameter, TableIsWrittenOnlyWith256Or1024Entries) {
@@ -174,8 +158,9 @@ TEST(MonitorParameter, TableIsWrittenOnlyWith256Or1024Entries) {
         for (const std::size_t length : everyLength) {
             MonitorParameter record;
             (record.*member).set(numbersFrom(5U, length));
-            const std::string text = element(name, joined(numbersFrom(5, length)));
-            EXPECT_EQ(compact(record), isTableLength(length) ? written(text) : compact(MonitorParameter()));
+            const std::string text = element(name, arrayText(numbersFrom(5, length)));
+            EXPECT_EQ(compact(record),
+                      isTableLength(length) ? written<MonitorParameter>(text) : compact(MonitorParameter()));
             EXPECT_EQ(record.*member, (property<std::vector<unsigned int>>{numbersFrom(5U, length), true}));
         }
     }
@@ -200,10 +185,10 @@ TEST(MonitorParameter, UnsetTableOfAGoodLengthIsNotWritten) {
 TEST(MonitorParameter, ParsedTableIsSetOnlyWith256Or1024EntriesAndKeepsAllOfThem) {
     for (const auto& [name, member] : everyTable) {
         for (const std::size_t length : everyLength) {
-            const std::string text = element(name, joined(numbersFrom(5, length)));
+            const std::string text = element(name, arrayText(numbersFrom(5, length)));
             MonitorParameter expected;
             expected.*member = {numbersFrom(5U, length), isTableLength(length)};
-            const auto record = parsed<MonitorParameter>(documentOf<MonitorParameter>(text));
+            const auto record = parsedFrom<MonitorParameter>(text);
             EXPECT_EQ(describe(record), describe(expected));
         }
     }
@@ -221,18 +206,18 @@ TEST(MonitorParameter, TableWithoutTextKeepsItsEntriesAndOneOfSeparatorsAloneLos
 }
 
 TEST(MonitorParameter, EmptyPiecesOfATableAreNotCounted) {
-    const std::string text = "||" + joined(numbersFrom(5, 256)) + "||";
-    const auto record = parsed<MonitorParameter>(documentOf<MonitorParameter>(element("GreenLUT", text)));
+    const std::string text = "||" + arrayText(numbersFrom(5, 256)) + "||";
+    const auto record = parsedFrom<MonitorParameter>(element("GreenLUT", text));
     EXPECT_EQ(record.greenLUT, (property<std::vector<unsigned int>>{numbersFrom(5U, 256), true}));
 }
 
 TEST(MonitorParameter, EmulationMatrixCountsOnlyWith9Entries) {
     for (const std::size_t length : {1U, 8U, 9U, 10U, 256U}) {
-        const std::string text = element("EmulationMatrix", joined(numbersFrom(-7, length)));
+        const std::string text = element("EmulationMatrix", arrayText(numbersFrom(-7, length)));
         MonitorParameter record;
         record.emulationMatrix.set(numbersFrom(-7, length));
-        EXPECT_EQ(compact(record), length == 9 ? written(text) : compact(MonitorParameter()));
-        const auto back = parsed<MonitorParameter>(documentOf<MonitorParameter>(text));
+        EXPECT_EQ(compact(record), length == 9 ? written<MonitorParameter>(text) : compact(MonitorParameter()));
+        const auto back = parsedFrom<MonitorParameter>(text);
         EXPECT_EQ(back.emulationMatrix, (property<std::vector<int>>{numbersFrom(-7, length), length == 9}));
     }
 }

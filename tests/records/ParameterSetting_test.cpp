@@ -1,4 +1,5 @@
 #include <tests/support/fixed_point_access.h>
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -16,37 +17,18 @@ namespace {
 
 using Gamma = ParameterSetting::gamma_t;
 
-std::string written(const std::string& children) {
-    return R"(<ParameterSetting Version="2" MinorVersion="0">)" + children + "</ParameterSetting>";
-}
-
-ParameterSetting parsedFrom(const std::string& children) {
-    return parsed<ParameterSetting>(documentOf<ParameterSetting>(children));
-}
-
-/// `filled` as it looks when it has read a document without any element.
-ParameterSetting filledWithClearFlags() {
-    auto record = filled<ParameterSetting>();
-    record.version.hasValue = record.minorVersion.hasValue = false;
-    record.brightness.hasValue = false;
-    record.whitePoint.hasValue = false;
-    record.gamma.hasValue = false;
-    record.gamut.hasValue = false;
-    record.limited109Setting.hasValue = false;
-    return record;
-}
-
 TEST(ParameterSetting, DefaultRecordWritesTheFourParametersWithEmptyTypesAndAClippingOf0) {
-    EXPECT_EQ(compact(ParameterSetting()), written(R"(<Brightness Type=""/><WhitePoint Type=""/><Gamma Type=""/>)"
-                                                   R"(<Gamut Type=""><Clipping>0</Clipping></Gamut>)"));
+    EXPECT_EQ(compact(ParameterSetting()),
+              written<ParameterSetting>(R"(<Brightness Type=""/><WhitePoint Type=""/><Gamma Type=""/>)"
+                                        R"(<Gamut Type=""><Clipping>0</Clipping></Gamut>)"));
 }
 
 TEST(ParameterSetting, DefaultRecordWithTheSwitchWritesAnHLGSystemGammaOf0) {
     ParameterSetting record;
     record.writeHLGSystemGamma = true;
-    EXPECT_EQ(compact(record), written(R"(<Brightness Type=""/><WhitePoint Type=""/>)"
-                                       R"(<Gamma Type=""><HLGSystemGamma>0</HLGSystemGamma></Gamma>)"
-                                       R"(<Gamut Type=""><Clipping>0</Clipping></Gamut>)"));
+    EXPECT_EQ(compact(record), written<ParameterSetting>(R"(<Brightness Type=""/><WhitePoint Type=""/>)"
+                                                         R"(<Gamma Type=""><HLGSystemGamma>0</HLGSystemGamma></Gamma>)"
+                                                         R"(<Gamut Type=""><Clipping>0</Clipping></Gamut>)"));
 }
 
 TEST(ParameterSetting, FilledRecordWritesAllElementsOfItsTypesInOrder) {
@@ -74,9 +56,9 @@ TEST(ParameterSetting, Limited109SettingIsWrittenOnlyWhenSet) {
     record.limited109Setting.value = 5;
     EXPECT_EQ(compact(record), compact(ParameterSetting()));
     record.limited109Setting.hasValue = true;
-    EXPECT_EQ(compact(record), written(R"(<Brightness Type=""/><WhitePoint Type=""/><Gamma Type=""/>)"
-                                       R"(<Gamut Type=""><Clipping>0</Clipping></Gamut>)"
-                                       "<Limited109Setting>5</Limited109Setting>"));
+    EXPECT_EQ(compact(record), written<ParameterSetting>(R"(<Brightness Type=""/><WhitePoint Type=""/><Gamma Type=""/>)"
+                                                         R"(<Gamut Type=""><Clipping>0</Clipping></Gamut>)"
+                                                         "<Limited109Setting>5</Limited109Setting>"));
 }
 
 TEST(ParameterSetting, Limited109SettingIsSetOnlyByAnElementWithText) {
@@ -187,15 +169,11 @@ void setFlag(ParameterSetting& record, const std::string& parameter) {
     record.gamut.hasValue |= parameter == "Gamut";
 }
 
-std::string element(const std::string& name, const std::string& content) {
-    return '<' + name + '>' + content + "</" + name + '>';
-}
-
 TEST(ParameterSetting, EachChildWithoutATypeReplacesItsMemberAndLeavesAllOthers) {
     for (const auto& [parameter, name, text, set] : everyChild()) {
         ParameterSetting record = filled<ParameterSetting>();
         ASSERT_TRUE(record.parseXMLString(documentOf<ParameterSetting>(element(parameter, element(name, text)))));
-        ParameterSetting expected = filledWithClearFlags();
+        ParameterSetting expected = withClearFlags(filled<ParameterSetting>());
         setFlag(expected, parameter);
         set(expected);
         EXPECT_EQ(describe(record), describe(expected)) << parameter << ' ' << name;
@@ -206,7 +184,7 @@ TEST(ParameterSetting, EmptyChildLeavesItsMemberAndTheFlagFollowsTheParameter) {
     for (const auto& [parameter, name, text, set] : everyChild()) {
         ParameterSetting record = filled<ParameterSetting>();
         ASSERT_TRUE(record.parseXMLString(documentOf<ParameterSetting>(element(parameter, '<' + name + "/>"))));
-        ParameterSetting expected = filledWithClearFlags();
+        ParameterSetting expected = withClearFlags(filled<ParameterSetting>());
         setFlag(expected, parameter);
         EXPECT_EQ(describe(record), describe(expected)) << parameter << ' ' << name;
     }
@@ -216,7 +194,8 @@ TEST(ParameterSetting, ChildrenBesideTheirParameterAreNotRead) {
     for (const auto& [parameter, name, text, set] : everyChild()) {
         ParameterSetting expected;
         setFlag(expected, parameter);
-        EXPECT_EQ(describe(parsedFrom('<' + parameter + "/>" + element(name, text))), describe(expected));
+        EXPECT_EQ(describe(parsedFrom<ParameterSetting>('<' + parameter + "/>" + element(name, text))),
+                  describe(expected));
     }
 }
 
@@ -225,7 +204,7 @@ TEST(ParameterSetting, OnlyTheFirstOfRepeatedParametersIsRead) {
         ParameterSetting expected;
         setFlag(expected, parameter);
         const std::string repeated = '<' + parameter + "/>" + element(parameter, element(name, text));
-        EXPECT_EQ(describe(parsedFrom(repeated)), describe(expected)) << parameter << ' ' << name;
+        EXPECT_EQ(describe(parsedFrom<ParameterSetting>(repeated)), describe(expected)) << parameter << ' ' << name;
     }
 }
 

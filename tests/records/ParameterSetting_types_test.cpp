@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -84,19 +85,14 @@ const Parameter gamut = {"Gamut",
 
 const std::vector<Parameter> everyParameter = {brightness, whitePoint, gamma, gamut};
 
-std::string tagged(const std::string& name, const std::string& type, const std::string& children) {
-    const std::string start = '<' + name + " Type=\"" + type + '"';
-    return children.empty() ? start + "/>" : start + '>' + children + "</" + name + '>';
-}
-
 /// The text of a record in which one parameter has this text and the others are as in a fresh record.
 std::string writtenWith(const std::string& parameter, const std::string& text) {
     std::string children;
     for (const Parameter& other : everyParameter) {
-        const std::string fresh = tagged(other.name, "", other.name == "Gamut" ? "<Clipping>0</Clipping>" : "");
+        const std::string fresh = elementOfType(other.name, "", other.name == "Gamut" ? "<Clipping>0</Clipping>" : "");
         children += other.name == parameter ? text : fresh;
     }
-    return R"(<ParameterSetting Version="2" MinorVersion="0">)" + children + "</ParameterSetting>";
+    return written<ParameterSetting>(children);
 }
 
 std::string childrenWritten(const Parameter& parameter, const std::string& type) {
@@ -109,7 +105,7 @@ TEST(ParameterSettingTypes, EachTypeWritesItsOwnChildrenAndNoOthers) {
         for (const std::string& type : everyType) {
             ParameterSetting record;
             parameter.set(record, type);
-            const std::string text = tagged(parameter.name, type, childrenWritten(parameter, type));
+            const std::string text = elementOfType(parameter.name, type, childrenWritten(parameter, type));
             EXPECT_EQ(compact(record), writtenWith(parameter.name, text));
         }
     }
@@ -120,8 +116,8 @@ TEST(ParameterSettingTypes, EachTypeButSyncSignalReadsAllChildren) {
         for (const std::string& type : everyType) {
             ParameterSetting expected;
             type == "SyncSignal" ? parameter.setSynced(expected) : parameter.set(expected, type);
-            const std::string text = tagged(parameter.name, type, parameter.children);
-            const auto record = parsed<ParameterSetting>(documentOf<ParameterSetting>(text));
+            const std::string text = elementOfType(parameter.name, type, parameter.children);
+            const auto record = parsedFrom<ParameterSetting>(text);
             EXPECT_EQ(describe(record), describe(expected)) << text;
         }
     }
@@ -136,9 +132,9 @@ TEST(ParameterSettingTypes, ParameterWithoutAnyChildSetsTypeAndFlagAlone) {
         expected.gamut.set({type, "", 0});
         std::string text;
         for (const Parameter& parameter : everyParameter) {
-            text += tagged(parameter.name, type, "");
+            text += elementOfType(parameter.name, type, "");
         }
-        const auto record = parsed<ParameterSetting>(documentOf<ParameterSetting>(text));
+        const auto record = parsedFrom<ParameterSetting>(text);
         EXPECT_EQ(describe(record), describe(expected)) << text;
     }
 }
@@ -146,17 +142,16 @@ TEST(ParameterSettingTypes, ParameterWithoutAnyChildSetsTypeAndFlagAlone) {
 TEST(ParameterSettingTypes, ChildrenOfOtherTypesAreDroppedWhenWrittenBack) {
     for (const Parameter& parameter : everyParameter) {
         for (const std::string& type : everyType) {
-            const std::string text = tagged(parameter.name, type, parameter.children);
-            auto record = parsed<ParameterSetting>(documentOf<ParameterSetting>(text));
-            const std::string back = tagged(parameter.name, type, childrenWritten(parameter, type));
+            const std::string text = elementOfType(parameter.name, type, parameter.children);
+            auto record = parsedFrom<ParameterSetting>(text);
+            const std::string back = elementOfType(parameter.name, type, childrenWritten(parameter, type));
             EXPECT_EQ(compact(record), writtenWith(parameter.name, back));
         }
     }
 }
 
 TEST(ParameterSettingTypes, BrightnessOfTypeSyncSignalIsReadAndWrittenBackWithoutItsValue) {
-    const auto record = parsed<ParameterSetting>(
-        documentOf<ParameterSetting>(R"(<Brightness Type="SyncSignal"><Value>80</Value></Brightness>)"));
+    const auto record = parsedFrom<ParameterSetting>(R"(<Brightness Type="SyncSignal"><Value>80</Value></Brightness>)");
     EXPECT_TRUE(record.brightness.hasValue);
     EXPECT_EQ(record.brightness.value.value, 0U);
     EXPECT_EQ(compact(record), writtenWith("Brightness", R"(<Brightness Type="SyncSignal"/>)"));
@@ -166,7 +161,7 @@ TEST(ParameterSettingTypes, ParameterWithoutATypeKeepsTheEarlierTypeWhichDecides
     for (const Parameter& parameter : everyParameter) {
         for (const std::string& type : everyType) {
             ParameterSetting record;
-            ASSERT_TRUE(record.parseXMLString(documentOf<ParameterSetting>(tagged(parameter.name, type, ""))));
+            ASSERT_TRUE(record.parseXMLString(documentOf<ParameterSetting>(elementOfType(parameter.name, type, ""))));
             const std::string text = '<' + parameter.name + '>' + parameter.children + "</" + parameter.name + '>';
             ASSERT_TRUE(record.parseXMLString(documentOf<ParameterSetting>(text)));
             ParameterSetting expected;
@@ -180,7 +175,7 @@ TEST(ParameterSettingTypes, SyncSignalLeavesEarlierValuesAsTheyWere) {
     ParameterSetting record = filled<ParameterSetting>();
     std::string text;
     for (const Parameter& parameter : everyParameter) {
-        text += tagged(parameter.name, "SyncSignal", parameter.children);
+        text += elementOfType(parameter.name, "SyncSignal", parameter.children);
     }
     ASSERT_TRUE(record.parseXMLString(documentOf<ParameterSetting>(text)));
     ParameterSetting expected = filled<ParameterSetting>();
@@ -203,7 +198,7 @@ TEST(ParameterSettingTypes, ClippingIsWrittenForTheFixedCurvesPQAndHLGAloneCompa
             const std::string clipping = name == "PQ" || name == "HLG" ? "<PQHLGClipping>Soft</PQHLGClipping>" : "";
             const std::string ofFixed = "<Fixed>" + name + "</Fixed>" + clipping;
             const std::string children = type == "Fixed" ? ofFixed : type == "Value" ? "<Value>220</Value>" : "";
-            EXPECT_EQ(compact(record), writtenWith("Gamma", tagged("Gamma", type, children)));
+            EXPECT_EQ(compact(record), writtenWith("Gamma", elementOfType("Gamma", type, children)));
         }
     }
 }
@@ -221,7 +216,7 @@ TEST(ParameterSettingTypes, HLGSystemGammaIsWrittenLastForEveryTypeWhenTheSwitch
         record.writeHLGSystemGamma = true;
         gamma.set(record, type);
         const std::string children = childrenWritten(gamma, type) + "<HLGSystemGamma>14</HLGSystemGamma>";
-        EXPECT_EQ(compact(record), writtenWith("Gamma", tagged("Gamma", type, children)));
+        EXPECT_EQ(compact(record), writtenWith("Gamma", elementOfType("Gamma", type, children)));
     }
 }
 

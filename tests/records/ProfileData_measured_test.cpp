@@ -48,14 +48,8 @@ std::string emptyPanel() {
     return empty("Red") + empty("Green") + empty("Blue") + empty("White") + empty("Black");
 }
 
-std::string written(const std::string& colours) {
-    return R"(<ProfileData Version="2" MinorVersion="0">)" + colours +
-           "<RedTargetCurve/><GreenTargetCurve/><BlueTargetCurve/></ProfileData>";
-}
-
-ProfileData readOver(ProfileData record, const std::string& children) {
-    EXPECT_TRUE(record.parseXMLString(documentOf<ProfileData>(children)));
-    return record;
+std::string writtenColours(const std::string& colours) {
+    return written<ProfileData>(colours + "<RedTargetCurve/><GreenTargetCurve/><BlueTargetCurve/>");
 }
 
 /// A record of nine complete colours with both flags as given and nothing else.
@@ -80,19 +74,19 @@ TEST(ProfileDataMeasured, EachColourIsReadIntoItsOwnVectorAndSetsNoFlagAlone) {
     for (const auto& [color, set, stored] : everyColour) {
         ProfileData expected;
         (expected.*set).value.*stored = {95047000, 100000000, 4294967295U};
-        const auto record = readOver(ProfileData(), measured(color, "95047000|100000000|4294967295"));
+        const auto record = afterReading(ProfileData(), measured(color, "95047000|100000000|4294967295"));
         EXPECT_EQ(describe(record), describe(expected)) << color;
     }
 }
 
 TEST(ProfileDataMeasured, CompleteSetsAreFlagged) {
-    const auto record = readOver(ProfileData(), allColoursBut("none", ""));
+    const auto record = afterReading(ProfileData(), allColoursBut("none", ""));
     EXPECT_TRUE(record.measuredXYZ.hasValue);
     EXPECT_TRUE(record.measuredXYZLimited109.hasValue);
 }
 
 TEST(ProfileDataMeasured, RedOfTwoNumbersLeavesTheSetUnsetEvenWhenTheOtherFourAreComplete) {
-    const auto record = readOver(ProfileData(), allColoursBut("Red", "1|2"));
+    const auto record = afterReading(ProfileData(), allColoursBut("Red", "1|2"));
     EXPECT_FALSE(record.measuredXYZ.hasValue);
     EXPECT_EQ(record.measuredXYZ.value.red, (Stored{1, 2}));
     EXPECT_EQ(record.measuredXYZ.value.black, (Stored{1, 2, 3}));
@@ -101,19 +95,19 @@ TEST(ProfileDataMeasured, RedOfTwoNumbersLeavesTheSetUnsetEvenWhenTheOtherFourAr
 TEST(ProfileDataMeasured, EachColourOfAnotherLengthClearsTheFlagOfItsSetAndOfNoOther) {
     for (const auto& [color, set, stored] : everyColour) {
         for (const char* text : {"", "|", "1", "1|2", "1|2|3|4"}) {
-            const auto record = readOver(ProfileData(), allColoursBut(color, text));
+            const auto record = afterReading(ProfileData(), allColoursBut(color, text));
             for (const auto other : everySet) {
                 EXPECT_EQ((record.*other).hasValue, other != set) << color << ' ' << text;
             }
         }
-        EXPECT_FALSE((readOver(complete(true), measured(color, "1|2")).*set).hasValue) << color;
+        EXPECT_FALSE((afterReading(complete(true), measured(color, "1|2")).*set).hasValue) << color;
     }
 }
 
 TEST(ProfileDataMeasured, Limited109NeedsNoBlack) {
     const auto record =
-        readOver(ProfileData(), measured("Limited109White", "1|2|3") + measured("Limited109Red", "4|5|6") +
-                                    measured("Limited109Green", "7|8|9") + measured("Limited109Blue", "10|11|12"));
+        afterReading(ProfileData(), measured("Limited109White", "1|2|3") + measured("Limited109Red", "4|5|6") +
+                                        measured("Limited109Green", "7|8|9") + measured("Limited109Blue", "10|11|12"));
     ProfileData expected;
     expected.measuredXYZLimited109.set({{4, 5, 6}, {7, 8, 9}, {10, 11, 12}, {1, 2, 3}, {}});
     EXPECT_EQ(describe(record), describe(expected));
@@ -123,14 +117,14 @@ TEST(ProfileDataMeasured, Limited109IsFlaggedWhateverItsBlackHolds) {
     for (const Stored& black : {Stored{}, Stored{1, 2}, Stored{1, 2, 3}}) {
         ProfileData record = complete(false);
         record.measuredXYZLimited109.value.black = black;
-        EXPECT_TRUE(readOver(record, "").measuredXYZLimited109.hasValue);
-        EXPECT_EQ(readOver(record, "").measuredXYZLimited109.value.black, black);
+        EXPECT_TRUE(afterReading(record, "").measuredXYZLimited109.hasValue);
+        EXPECT_EQ(afterReading(record, "").measuredXYZLimited109.value.black, black);
     }
 }
 
 TEST(ProfileDataMeasured, DocumentWithoutAnyLeavesCompleteVectorsInPlaceAndSetsTheFlagsAgain) {
     for (const bool flag : {false, true}) {
-        EXPECT_EQ(describe(readOver(complete(flag), "")), describe(complete(true)));
+        EXPECT_EQ(describe(afterReading(complete(flag), "")), describe(complete(true)));
     }
 }
 
@@ -138,7 +132,7 @@ TEST(ProfileDataMeasured, FlagThatTheCallerSetOverIncompleteVectorsIsClearedByPa
     ProfileData record;
     record.measuredXYZ.set({{1, 2, 3}, {1, 2, 3}, {1, 2, 3}, {1, 2, 3}, {}});
     record.measuredXYZLimited109.hasValue = true;
-    const ProfileData back = readOver(record, "");
+    const ProfileData back = afterReading(record, "");
     EXPECT_FALSE(back.measuredXYZ.hasValue);
     EXPECT_FALSE(back.measuredXYZLimited109.hasValue);
     EXPECT_EQ(describe(back.measuredXYZ.value), describe(record.measuredXYZ.value));
@@ -148,8 +142,8 @@ TEST(ProfileDataMeasured, LastColourThatASetLackedCompletesItFromAnotherDocument
     for (const auto& [color, set, stored] : everyColour) {
         ProfileData record = complete(false);
         ((record.*set).value.*stored).clear();
-        EXPECT_FALSE((readOver(record, "").*set).hasValue) << color;
-        EXPECT_TRUE((readOver(record, measured(color, "7|8|9")).*set).hasValue) << color;
+        EXPECT_FALSE((afterReading(record, "").*set).hasValue) << color;
+        EXPECT_TRUE((afterReading(record, measured(color, "7|8|9")).*set).hasValue) << color;
     }
 }
 
@@ -157,7 +151,7 @@ TEST(ProfileDataMeasured, ElementWithoutATextLeavesItsVector) {
     for (const auto& colour : everyColour) {
         for (const std::string& element : {empty(colour.text), measured(colour.text, ""), measured(colour.text, " \n"),
                                            measured(colour.text, "<b>1|2|3</b>")}) {
-            EXPECT_EQ(describe(readOver(complete(false), element)), describe(complete(true))) << element;
+            EXPECT_EQ(describe(afterReading(complete(false), element)), describe(complete(true))) << element;
         }
     }
 }
@@ -167,14 +161,14 @@ TEST(ProfileDataMeasured, SeparatorsAloneEmptyTheVector) {
         ProfileData expected = complete(true);
         (expected.*set).hasValue = false;
         ((expected.*set).value.*stored).clear();
-        EXPECT_EQ(describe(readOver(complete(true), measured(color, "||"))), describe(expected)) << color;
+        EXPECT_EQ(describe(afterReading(complete(true), measured(color, "||"))), describe(expected)) << color;
     }
 }
 
 TEST(ProfileDataMeasured, LaterOfTwoElementsOfAColourWinsUnlessItIsEmpty) {
     for (const auto& [color, set, stored] : everyColour) {
         const std::string children = measured(color, "1|2|3") + measured(color, "4|5") + empty(color);
-        EXPECT_EQ((readOver(ProfileData(), children).*set).value.*stored, (Stored{4, 5})) << color;
+        EXPECT_EQ((afterReading(ProfileData(), children).*set).value.*stored, (Stored{4, 5})) << color;
     }
 }
 
@@ -183,8 +177,8 @@ TEST(ProfileDataMeasured, OtherColoursAreSkipped) {
          {"", R"(Color="")", R"(Color="red")", R"(Color="RED")", R"(Color="Cyan")", R"(Color="Red ")", R"(color="Red")",
           R"(Type="Red")", R"(Color="Limited109Black")", R"(Color="limited109Red")", R"(Color="Limited109")"}) {
         const std::string element = "<MeasuredXYZ " + std::string(attribute) + ">7|8|9</MeasuredXYZ>";
-        EXPECT_EQ(describe(readOver(ProfileData(), element)), describe(ProfileData())) << attribute;
-        EXPECT_EQ(describe(readOver(complete(true), element)), describe(complete(true))) << attribute;
+        EXPECT_EQ(describe(afterReading(ProfileData(), element)), describe(ProfileData())) << attribute;
+        EXPECT_EQ(describe(afterReading(complete(true), element)), describe(complete(true))) << attribute;
     }
 }
 
@@ -193,25 +187,25 @@ TEST(ProfileDataMeasured, ElementsOfOtherNamesAndInOtherPlacesAreNotRead) {
     for (const std::string& children :
          {std::string(R"(<measuredXYZ Color="Red">1|2|3</measuredXYZ>)"), "<Other>" + red + "</Other>",
           "<RedTargetCurve>" + red + "</RedTargetCurve>", "<MeasuredXYZ>" + red + "</MeasuredXYZ>"}) {
-        EXPECT_TRUE(readOver(ProfileData(), children).measuredXYZ.value.red.empty()) << children;
+        EXPECT_TRUE(afterReading(ProfileData(), children).measuredXYZ.value.red.empty()) << children;
     }
 }
 
 TEST(ProfileDataMeasured, NumbersAreUnsignedAndReadWithoutEverFailing) {
-    const auto record = readOver(ProfileData(), measured("Green", "|-1||99999999999|x|"));
+    const auto record = afterReading(ProfileData(), measured("Green", "|-1||99999999999|x|"));
     EXPECT_EQ(record.measuredXYZ.value.green, (Stored{4294967295U, 4294967295U, 0}));
 }
 
 TEST(ProfileDataMeasured, UnsetSetsWriteFiveEmptyColoursWhateverTheyHold) {
-    EXPECT_EQ(compact(complete(false)), written(emptyPanel()));
+    EXPECT_EQ(compact(complete(false)), writtenColours(emptyPanel()));
 }
 
 TEST(ProfileDataMeasured, PanelAloneIsWrittenWithFiveColours) {
     ProfileData record = complete(true);
     record.measuredXYZLimited109.hasValue = false;
-    EXPECT_EQ(compact(record),
-              written(measured("Red", "14|15|16") + measured("Green", "17|18|19") + measured("Blue", "20|21|22") +
-                      measured("White", "23|24|25") + measured("Black", "26|27|28")));
+    EXPECT_EQ(compact(record), writtenColours(measured("Red", "14|15|16") + measured("Green", "17|18|19") +
+                                              measured("Blue", "20|21|22") + measured("White", "23|24|25") +
+                                              measured("Black", "26|27|28")));
 }
 
 TEST(ProfileDataMeasured, Limited109AloneIsWrittenWithFourColoursBehindTheEmptyPanel) {
@@ -219,18 +213,20 @@ TEST(ProfileDataMeasured, Limited109AloneIsWrittenWithFourColoursBehindTheEmptyP
     record.measuredXYZ.hasValue = false;
     record.measuredXYZLimited109.value.black = {1, 2, 3};
     EXPECT_EQ(compact(record),
-              written(emptyPanel() + measured("Limited109Red", "29|30|31") + measured("Limited109Green", "32|33|34") +
-                      measured("Limited109Blue", "35|36|37") + measured("Limited109White", "38|39|40")));
+              writtenColours(emptyPanel() + measured("Limited109Red", "29|30|31") +
+                             measured("Limited109Green", "32|33|34") + measured("Limited109Blue", "35|36|37") +
+                             measured("Limited109White", "38|39|40")));
 }
 
 TEST(ProfileDataMeasured, SetsThatTheCallerFlaggedAreWrittenAsTheirVectorsStand) {
     ProfileData record;
     record.measuredXYZ.set({{}, {1}, {1, 2}, {1, 2, 3}, {1, 2, 3, 4}});
     record.measuredXYZLimited109.set({{1, 2, 3, 4}, {1, 2}, {}, {0}, {9}});
-    EXPECT_EQ(compact(record), written(measured("Red", "") + measured("Green", "1") + measured("Blue", "1|2") +
-                                       measured("White", "1|2|3") + measured("Black", "1|2|3|4") +
-                                       measured("Limited109Red", "1|2|3|4") + measured("Limited109Green", "1|2") +
-                                       measured("Limited109Blue", "") + measured("Limited109White", "0")));
+    EXPECT_EQ(compact(record),
+              writtenColours(measured("Red", "") + measured("Green", "1") + measured("Blue", "1|2") +
+                             measured("White", "1|2|3") + measured("Black", "1|2|3|4") +
+                             measured("Limited109Red", "1|2|3|4") + measured("Limited109Green", "1|2") +
+                             measured("Limited109Blue", "") + measured("Limited109White", "0")));
 }
 
 }  // namespace

@@ -58,25 +58,25 @@ std::string named(std::string text, const std::string& name) {
     return text;
 }
 
-std::string withType(const std::string& name, const std::string& type, const std::string& text) {
+std::string curveElement(const std::string& name, const std::string& type, const std::string& text) {
     return '<' + name + " Type=\"" + type + "\">" + text + "</" + name + '>';
 }
 
 /// The whole document whose curve of that name stands as given, the two others being empty.
-std::string written(const std::string& name, const std::string& curve) {
+std::string writtenCurve(const std::string& name, const std::string& curve) {
     std::string text = compact(ProfileData());
     const std::string unset = '<' + name + "/>";
     return text.replace(text.find(unset), unset.size(), curve);
 }
 
-ProfileData readOver(const Channel& channel, const property<Curve>& earlier, const std::string& children) {
+ProfileData curveReadOver(const Channel& channel, const property<Curve>& earlier, const std::string& children) {
     ProfileData record;
     record.*channel.member = earlier;
     EXPECT_TRUE(record.parseXMLString(documentOf<ProfileData>(children)));
     return record;
 }
 
-ProfileData with(const Channel& channel, const property<Curve>& curve) {
+ProfileData recordWith(const Channel& channel, const property<Curve>& curve) {
     ProfileData record;
     record.*channel.member = curve;
     return record;
@@ -85,8 +85,8 @@ ProfileData with(const Channel& channel, const property<Curve>& curve) {
 TEST(ProfileDataTargetCurve, EachTypeDecidesWhatIsWrittenOfACurveWithAllData) {
     for (const Channel& channel : everyChannel) {
         for (const Kind& kind : everyKind) {
-            EXPECT_EQ(compact(with(channel, {withAllData(kind.type), true})),
-                      written(channel.element, named(kind.written, channel.element)))
+            EXPECT_EQ(compact(recordWith(channel, {withAllData(kind.type), true})),
+                      writtenCurve(channel.element, named(kind.written, channel.element)))
                 << kind.type;
         }
     }
@@ -95,7 +95,8 @@ TEST(ProfileDataTargetCurve, EachTypeDecidesWhatIsWrittenOfACurveWithAllData) {
 TEST(ProfileDataTargetCurve, UnsetCurveIsWrittenEmptyAndWithoutItsType) {
     for (const Channel& channel : everyChannel) {
         for (const Kind& kind : everyKind) {
-            EXPECT_EQ(compact(with(channel, {withAllData(kind.type), false})), compact(ProfileData())) << kind.type;
+            EXPECT_EQ(compact(recordWith(channel, {withAllData(kind.type), false})), compact(ProfileData()))
+                << kind.type;
         }
     }
 }
@@ -107,9 +108,9 @@ TEST(ProfileDataTargetCurve, EachTypeDecidesWhatIsReadOverEarlierData) {
             expected.formula = kind.readsFormula ? 7 : expected.formula;
             expected.lut = kind.readsLut ? std::vector<unsigned int>{7, 8, 9, 10} : expected.lut;
             for (const bool flag : {false, true}) {
-                const auto record =
-                    readOver(channel, {{"Earlier", 1, {2, 3}}, flag}, withType(channel.element, kind.type, "7|8|9|10"));
-                EXPECT_EQ(describe(record), describe(with(channel, {expected, true}))) << kind.type;
+                const auto record = curveReadOver(channel, {{"Earlier", 1, {2, 3}}, flag},
+                                                  curveElement(channel.element, kind.type, "7|8|9|10"));
+                EXPECT_EQ(describe(record), describe(recordWith(channel, {expected, true}))) << kind.type;
             }
         }
     }
@@ -122,8 +123,9 @@ TEST(ProfileDataTargetCurve, MissingTypeLeavesTheEarlierOneWhichThenSteersTheRea
             expected.formula = kind.readsFormula ? 7 : expected.formula;
             expected.lut = kind.readsLut ? std::vector<unsigned int>{7, 8} : expected.lut;
             const std::string& name = channel.element;
-            const auto record = readOver(channel, {{kind.type, 1, {2, 3}}, false}, '<' + name + ">7|8</" + name + '>');
-            EXPECT_EQ(describe(record), describe(with(channel, {expected, true}))) << kind.type;
+            const auto record =
+                curveReadOver(channel, {{kind.type, 1, {2, 3}}, false}, '<' + name + ">7|8</" + name + '>');
+            EXPECT_EQ(describe(record), describe(recordWith(channel, {expected, true}))) << kind.type;
         }
     }
 }
@@ -131,10 +133,11 @@ TEST(ProfileDataTargetCurve, MissingTypeLeavesTheEarlierOneWhichThenSteersTheRea
 TEST(ProfileDataTargetCurve, MissingCurveClearsTheFlagAndKeepsTypeAndData) {
     for (const Channel& channel : everyChannel) {
         for (const Kind& kind : everyKind) {
-            for (const std::string& children : {std::string(), "<Other>" + withType(channel.element, "Lut", "9") +
+            for (const std::string& children : {std::string(), "<Other>" + curveElement(channel.element, "Lut", "9") +
                                                                    "</Other><redTargetCurve>9</redTargetCurve>"}) {
-                const auto record = readOver(channel, {withAllData(kind.type), true}, children);
-                EXPECT_EQ(describe(record), describe(with(channel, {withAllData(kind.type), false}))) << kind.type;
+                const auto record = curveReadOver(channel, {withAllData(kind.type), true}, children);
+                EXPECT_EQ(describe(record), describe(recordWith(channel, {withAllData(kind.type), false})))
+                    << kind.type;
             }
         }
     }
@@ -144,15 +147,15 @@ TEST(ProfileDataTargetCurve, CurveWithoutATextIsFoundAndKeepsTheEarlierData) {
     for (const Channel& channel : everyChannel) {
         for (const Kind& kind : everyKind) {
             const auto record =
-                readOver(channel, {withAllData("Earlier"), false}, withType(channel.element, kind.type, ""));
-            EXPECT_EQ(describe(record), describe(with(channel, {withAllData(kind.type), true}))) << kind.type;
+                curveReadOver(channel, {withAllData("Earlier"), false}, curveElement(channel.element, kind.type, ""));
+            EXPECT_EQ(describe(record), describe(recordWith(channel, {withAllData(kind.type), true}))) << kind.type;
         }
     }
 }
 
 TEST(ProfileDataTargetCurve, LStarComesBackAsAnEmptyElementWithItsType) {
     for (const Channel& channel : everyChannel) {
-        const std::string document = written(channel.element, '<' + channel.element + R"( Type="LStar"/>)");
+        const std::string document = writtenCurve(channel.element, '<' + channel.element + R"( Type="LStar"/>)");
         const auto record = parsed<ProfileData>(document);
         EXPECT_EQ(describe((record.*channel.member).value), describe(Curve{"LStar", 0, {}}));
         EXPECT_TRUE((record.*channel.member).hasValue);
@@ -162,7 +165,7 @@ TEST(ProfileDataTargetCurve, LStarComesBackAsAnEmptyElementWithItsType) {
 
 TEST(ProfileDataTargetCurve, UnknownTypeIsKeptInTheRecordAndDroppedFromTheText) {
     for (const Channel& channel : everyChannel) {
-        const auto record = readOver(channel, {}, withType(channel.element, "Sigmoid", "5"));
+        const auto record = curveReadOver(channel, {}, curveElement(channel.element, "Sigmoid", "5"));
         EXPECT_EQ((record.*channel.member).value.type, "Sigmoid");
         EXPECT_EQ(compact(record), compact(ProfileData()));
     }
@@ -177,7 +180,7 @@ TEST(ProfileDataTargetCurve, FormulaOf2200000ReadsAs22) {
 TEST(ProfileDataTargetCurve, NumbersAreUnsignedAndReadWithoutEverFailing) {
     for (const Channel& channel : everyChannel) {
         const auto read = [&channel](const std::string& type, const std::string& text) {
-            return (readOver(channel, {}, withType(channel.element, type, text)).*channel.member).value;
+            return (curveReadOver(channel, {}, curveElement(channel.element, type, text)).*channel.member).value;
         };
         EXPECT_EQ(read("Formula", "-1").formula, 4294967295U);
         EXPECT_EQ(read("Formula", "99999999999").formula, 4294967295U);
@@ -189,11 +192,11 @@ TEST(ProfileDataTargetCurve, NumbersAreUnsignedAndReadWithoutEverFailing) {
 
 TEST(ProfileDataTargetCurve, TableMayHaveAnyLength) {
     for (const Channel& channel : everyChannel) {
-        EXPECT_EQ(compact(with(channel, {{"Lut", 5, {}}, true})),
-                  written(channel.element, withType(channel.element, "Lut", "")));
+        EXPECT_EQ(compact(recordWith(channel, {{"Lut", 5, {}}, true})),
+                  writtenCurve(channel.element, curveElement(channel.element, "Lut", "")));
         for (const std::size_t length : {1U, 2U, 256U, 1023U, 4096U}) {
             const Curve curve = {"Lut", 0, std::vector<unsigned int>(length, 4294967295U)};
-            const auto back = parsed<ProfileData>(compact(with(channel, {curve, true})));
+            const auto back = parsed<ProfileData>(compact(recordWith(channel, {curve, true})));
             EXPECT_EQ(describe((back.*channel.member).value), describe(curve));
         }
     }
@@ -202,8 +205,8 @@ TEST(ProfileDataTargetCurve, TableMayHaveAnyLength) {
 TEST(ProfileDataTargetCurve, FirstOfTwoElementsCounts) {
     for (const Channel& channel : everyChannel) {
         const std::string& name = channel.element;
-        const auto record = readOver(channel, {}, '<' + name + "/>" + withType(name, "Formula", "9"));
-        EXPECT_EQ(describe(record), describe(with(channel, {Curve(), true})));
+        const auto record = curveReadOver(channel, {}, '<' + name + "/>" + curveElement(name, "Formula", "9"));
+        EXPECT_EQ(describe(record), describe(recordWith(channel, {Curve(), true})));
     }
 }
 

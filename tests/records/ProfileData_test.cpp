@@ -14,17 +14,16 @@ const std::string emptyColours = R"(<MeasuredXYZ Color="Red"/><MeasuredXYZ Color
                                  R"(<MeasuredXYZ Color="White"/><MeasuredXYZ Color="Black"/>)";
 const std::string emptyCurves = "<RedTargetCurve/><GreenTargetCurve/><BlueTargetCurve/>";
 
-std::string written(const std::string& description) {
-    return R"(<ProfileData Version="2" MinorVersion="0">)" + description + emptyColours + emptyCurves +
-           "</ProfileData>";
+std::string writtenDescription(const std::string& description) {
+    return written<ProfileData>(description + emptyColours + emptyCurves);
 }
 
 property<std::string> descriptionFrom(const std::string& children) {
-    return parsed<ProfileData>(documentOf<ProfileData>(children)).description;
+    return parsedFrom<ProfileData>(children).description;
 }
 
 TEST(ProfileData, DefaultRecordWritesFiveEmptyColoursAndThreeEmptyCurvesAndNoDescription) {
-    EXPECT_EQ(compact(ProfileData()), written(""));
+    EXPECT_EQ(compact(ProfileData()), writtenDescription(""));
 }
 
 TEST(ProfileData, DocumentOfTheRootAloneParsesWithEveryFlagClearAndIsWrittenAsTheDefault) {
@@ -32,18 +31,18 @@ TEST(ProfileData, DocumentOfTheRootAloneParsesWithEveryFlagClearAndIsWrittenAsTh
     ProfileData expected;
     expected.version.hasValue = expected.minorVersion.hasValue = true;
     EXPECT_EQ(describe(record), describe(expected));
-    EXPECT_EQ(compact(record), written(""));
+    EXPECT_EQ(compact(record), writtenDescription(""));
 }
 
 TEST(ProfileData, TextOfTheDefaultRecordComesBackWithTheCurvesFoundAndWithoutAType) {
-    const auto record = parsed<ProfileData>(written(""));
+    const auto record = parsed<ProfileData>(writtenDescription(""));
     ProfileData expected;
     expected.version.hasValue = expected.minorVersion.hasValue = true;
     for (auto curve : {&ProfileData::redTargetCurve, &ProfileData::greenTargetCurve, &ProfileData::blueTargetCurve}) {
         (expected.*curve).hasValue = true;
     }
     EXPECT_EQ(describe(record), describe(expected));
-    EXPECT_EQ(compact(record), written(""));
+    EXPECT_EQ(compact(record), writtenDescription(""));
 }
 
 TEST(ProfileData, FilledRecordWritesAllElementsInOrder) {
@@ -67,11 +66,11 @@ TEST(ProfileData, FilledRecordWritesAllElementsInOrder) {
 TEST(ProfileData, DescriptionIsWrittenWhenItIsSetAlsoWhenItIsEmpty) {
     ProfileData record;
     record.description.set("a < b & \"c\"");
-    EXPECT_EQ(compact(record), written("<Description>a &lt; b &amp; \"c\"</Description>"));
+    EXPECT_EQ(compact(record), writtenDescription("<Description>a &lt; b &amp; \"c\"</Description>"));
     record.description.set("");
-    EXPECT_EQ(compact(record), written("<Description></Description>"));
+    EXPECT_EQ(compact(record), writtenDescription("<Description></Description>"));
     record.description = {"text", false};
-    EXPECT_EQ(compact(record), written(""));
+    EXPECT_EQ(compact(record), writtenDescription(""));
 }
 
 TEST(ProfileData, DescriptionIsReadAndItsFlagTellsWhetherItWasFound) {

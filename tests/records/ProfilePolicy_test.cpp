@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -32,20 +33,8 @@ const std::array everySwitch = {Switch{"ReflectBlackLevels", &ProfilePolicy::ref
                                 Switch{"Create3DLut", &ProfilePolicy::create3DLut},
                                 Switch{"CreateLuminanceTag", &ProfilePolicy::createLuminanceTag}};
 
-std::string element(const std::string& name, const std::string& content) {
-    return '<' + name + '>' + content + "</" + name + '>';
-}
-
 std::string rule(const std::string& children) {
     return R"(<UpdateRule Type="updateRule 13">)" + children + "</UpdateRule>";
-}
-
-std::string written(const std::string& children) {
-    return R"(<ProfilePolicy Version="2" MinorVersion="0">)" + children + "</ProfilePolicy>";
-}
-
-ProfilePolicy parsedFrom(const std::string& children) {
-    return parsed<ProfilePolicy>(documentOf<ProfilePolicy>(children));
 }
 
 /// The four members that live in "UpdateRule", without their flags.
@@ -83,7 +72,7 @@ TEST(ProfilePolicy, FilledRecordWritesAllElementsInOrder) {
 TEST(ProfilePolicy, RuleAloneIsWrittenWithItsTypeAndNoChild) {
     ProfilePolicy record;
     record.updateRule.set("updateRule 13");
-    EXPECT_EQ(compact(record), written(R"(<UpdateRule Type="updateRule 13"/>)"));
+    EXPECT_EQ(compact(record), written<ProfilePolicy>(R"(<UpdateRule Type="updateRule 13"/>)"));
 }
 
 TEST(ProfilePolicy, EachTextOfTheRuleIsWrittenAloneInsideTheRule) {
@@ -91,9 +80,9 @@ TEST(ProfilePolicy, EachTextOfTheRuleIsWrittenAloneInsideTheRule) {
         ProfilePolicy record;
         record.updateRule.set("updateRule 13");
         (record.*member).set("text");
-        EXPECT_EQ(compact(record), written(rule(element(name, "text"))));
+        EXPECT_EQ(compact(record), written<ProfilePolicy>(rule(element(name, "text"))));
         (record.*member).hasValue = false;
-        EXPECT_EQ(compact(record), written(R"(<UpdateRule Type="updateRule 13"/>)"));
+        EXPECT_EQ(compact(record), written<ProfilePolicy>(R"(<UpdateRule Type="updateRule 13"/>)"));
     }
 }
 
@@ -118,7 +107,7 @@ TEST(ProfilePolicy, EmptyRuleThatIsSetIsWritten) {
     ProfilePolicy record;
     record.updateRule.set("");
     record.content.set("");
-    EXPECT_EQ(compact(record), written(R"(<UpdateRule Type=""><Content></Content></UpdateRule>)"));
+    EXPECT_EQ(compact(record), written<ProfilePolicy>(R"(<UpdateRule Type=""><Content></Content></UpdateRule>)"));
     const auto back = parsed<ProfilePolicy>(compact(record));
     EXPECT_EQ(back.updateRule, (property<std::string>{"", true}));
     EXPECT_EQ(back.content, (property<std::string>{"", true}));
@@ -130,7 +119,7 @@ TEST(ProfilePolicy, EachTextOfTheRootIsWrittenAloneAndOnlyWhenSet) {
         (record.*member).value = "text";
         EXPECT_EQ(compact(record), compact(ProfilePolicy())) << name;
         (record.*member).hasValue = true;
-        EXPECT_EQ(compact(record), written(element(name, "text")));
+        EXPECT_EQ(compact(record), written<ProfilePolicy>(element(name, "text")));
     }
 }
 
@@ -141,25 +130,25 @@ TEST(ProfilePolicy, EachSwitchIsWrittenAloneAndOnlyWhenSetTrueOrFalse) {
             (record.*member).value = value;
             EXPECT_EQ(compact(record), compact(ProfilePolicy())) << name;
             (record.*member).hasValue = true;
-            EXPECT_EQ(compact(record), written(element(name, value ? "true" : "false")));
+            EXPECT_EQ(compact(record), written<ProfilePolicy>(element(name, value ? "true" : "false")));
         }
     }
 }
 
 TEST(ProfilePolicy, ReflectBlackLevelsOfFalseIsSetAndWrittenBackAndSoIsEverySwitch) {
     for (const auto& [name, member] : everySwitch) {
-        const auto record = parsedFrom(element(name, "false"));
+        const auto record = parsedFrom<ProfilePolicy>(element(name, "false"));
         ProfilePolicy expected;
         (expected.*member).set(false);
         EXPECT_EQ(describe(record), describe(expected));
-        EXPECT_EQ(compact(record), written(element(name, "false")));
+        EXPECT_EQ(compact(record), written<ProfilePolicy>(element(name, "false")));
     }
 }
 
 TEST(ProfilePolicy, SwitchIsTrueForTwoTextsOnlyAndUnsetWithoutText) {
     for (const auto& [name, member] : everySwitch) {
         const auto read = [&, &name = name, &member = member](const std::string& text) {
-            return parsedFrom(element(name, text)).*member;
+            return parsedFrom<ProfilePolicy>(element(name, text)).*member;
         };
         for (const char* text : {"true", "TRUE"}) {
             EXPECT_EQ(read(text), (property<bool>{true, true})) << name << text;
@@ -215,14 +204,15 @@ TEST(ProfilePolicy, UpdateRuleWithoutATypeLeavesTheRuleUnsetAndIsDroppedWithItsC
         children += element(name, name);
         (expected.*member).set(name);
     }
-    const auto record = parsedFrom(element("UpdateRule", children));
+    const auto record = parsedFrom<ProfilePolicy>(element("UpdateRule", children));
     EXPECT_EQ(describe(record), describe(expected));
     EXPECT_EQ(compact(record), compact(ProfilePolicy()));
 }
 
 TEST(ProfilePolicy, AttributeOfTheRuleIsTypeInThisCaseOnly) {
     for (const char* attribute : {"type", "TYPE", "Rule"}) {
-        const auto record = parsedFrom(std::string("<UpdateRule ") + attribute + R"(="updateRule 13"/>)");
+        const auto record =
+            parsedFrom<ProfilePolicy>(std::string("<UpdateRule ") + attribute + R"(="updateRule 13"/>)");
         EXPECT_EQ(describe(record), describe(ProfilePolicy())) << attribute;
     }
 }
@@ -231,7 +221,8 @@ TEST(ProfilePolicy, ChildrenOfTheRuleDirectlyUnderTheRootAreNotFound) {
     for (const auto& [name, member] : everyTextOfTheRule) {
         ProfilePolicy expected;
         expected.updateRule.set("R");
-        EXPECT_EQ(describe(parsedFrom(element(name, "text") + R"(<UpdateRule Type="R"/>)")), describe(expected));
+        EXPECT_EQ(describe(parsedFrom<ProfilePolicy>(element(name, "text") + R"(<UpdateRule Type="R"/>)")),
+                  describe(expected));
     }
 }
 
@@ -239,17 +230,17 @@ TEST(ProfilePolicy, ChildrenOfTheRootInsideTheRuleAreNotFound) {
     ProfilePolicy expected;
     expected.updateRule.set("updateRule 13");
     for (const auto& [name, member] : everyTextOfTheRoot) {
-        EXPECT_EQ(describe(parsedFrom(rule(element(name, "text")))), describe(expected)) << name;
+        EXPECT_EQ(describe(parsedFrom<ProfilePolicy>(rule(element(name, "text")))), describe(expected)) << name;
     }
     for (const auto& [name, member] : everySwitch) {
-        EXPECT_EQ(describe(parsedFrom(rule(element(name, "true")))), describe(expected)) << name;
+        EXPECT_EQ(describe(parsedFrom<ProfilePolicy>(rule(element(name, "true")))), describe(expected)) << name;
     }
 }
 
 TEST(ProfilePolicy, OnlyTheFirstUpdateRuleIsRead) {
     ProfilePolicy expected;
     expected.updateRule.set("First");
-    const auto record = parsedFrom(R"(<UpdateRule Type="First"/>)" + rule("<Content>second</Content>"));
+    const auto record = parsedFrom<ProfilePolicy>(R"(<UpdateRule Type="First"/>)" + rule("<Content>second</Content>"));
     EXPECT_EQ(describe(record), describe(expected));
 }
 
@@ -280,8 +271,8 @@ TEST(ProfilePolicy, TextAndRuleAreEscapedAndComeBack) {
 }
 
 TEST(ProfilePolicy, EntitiesAndCDATAAreRead) {
-    EXPECT_EQ(parsedFrom("<ToneCurve>&lt;&#65;&amp;</ToneCurve>").toneCurve.value, "<A&");
-    EXPECT_EQ(parsedFrom("<ToneCurve><![CDATA[a<b>&amp;]]></ToneCurve>").toneCurve.value, "a<b>&amp;");
+    EXPECT_EQ(parsedFrom<ProfilePolicy>("<ToneCurve>&lt;&#65;&amp;</ToneCurve>").toneCurve.value, "<A&");
+    EXPECT_EQ(parsedFrom<ProfilePolicy>("<ToneCurve><![CDATA[a<b>&amp;]]></ToneCurve>").toneCurve.value, "a<b>&amp;");
 }
 
 }  // namespace

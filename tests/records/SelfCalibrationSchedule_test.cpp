@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 #include <tests/support/schedule_kinds.h>
@@ -24,21 +25,9 @@ std::vector<unsigned int> everyKind() {
     return kinds;
 }
 
-std::string element(const std::string& name, const std::string& content) {
-    return '<' + name + '>' + content + "</" + name + '>';
-}
-
 std::string ofKind(unsigned int kind, const std::string& children) {
     const std::string start = "<Type Type=\"" + std::to_string(kind) + '"';
     return children.empty() ? start + "/>" : start + '>' + children + "</Type>";
-}
-
-std::string written(const std::string& children) {
-    return R"(<SelfCalibrationSchedule Version="1" MinorVersion="0">)" + children + "</SelfCalibrationSchedule>";
-}
-
-SelfCalibrationSchedule parsedFrom(const std::string& children) {
-    return parsed<SelfCalibrationSchedule>(documentOf<SelfCalibrationSchedule>(children));
 }
 
 /// Another number for every field.
@@ -87,7 +76,8 @@ TEST(SelfCalibrationSchedule, FilledRecordWritesTheElementsOfItsKindInOrder) {
 
 TEST(SelfCalibrationSchedule, EachKindWithEveryFieldSetWritesItsOwnFieldsAndTiming) {
     for (const unsigned int kind : everyKind()) {
-        EXPECT_EQ(compact(withEveryFieldSet(kind)), written(ofKind(kind, elementsOf(kind) + timingElement)));
+        EXPECT_EQ(compact(withEveryFieldSet(kind)),
+                  written<SelfCalibrationSchedule>(ofKind(kind, elementsOf(kind) + timingElement)));
     }
 }
 
@@ -102,7 +92,7 @@ TEST(SelfCalibrationSchedule, Kind2WithEveryFieldSetWritesIntervalWeekWeekdayHou
 TEST(SelfCalibrationSchedule, Kinds3And31BothWriteOnlyIntervalHourAndTiming) {
     for (const unsigned int kind : {3U, 31U}) {
         EXPECT_EQ(compact(withEveryFieldSet(kind)),
-                  written(ofKind(kind, "<IntervalHour>103</IntervalHour>" + timingElement)));
+                  written<SelfCalibrationSchedule>(ofKind(kind, "<IntervalHour>103</IntervalHour>" + timingElement)));
     }
 }
 
@@ -111,7 +101,8 @@ TEST(SelfCalibrationSchedule, EachFieldUnsetInTurnIsLeftOutWithoutAnEmptyElement
         for (const auto& [name, member] : everyScheduleField) {
             SelfCalibrationSchedule record = withEveryFieldSet(kind);
             (record.*member).hasValue = false;
-            EXPECT_EQ(compact(record), written(ofKind(kind, elementsOf(kind, name) + timingElement)));
+            EXPECT_EQ(compact(record),
+                      written<SelfCalibrationSchedule>(ofKind(kind, elementsOf(kind, name) + timingElement)));
         }
     }
 }
@@ -120,9 +111,9 @@ TEST(SelfCalibrationSchedule, Kind17WithoutAnHourWritesYearMonthDayAndMinuteAndN
     SelfCalibrationSchedule record = withEveryFieldSet(17);
     record.timing = {};
     record.hour = {};
-    EXPECT_EQ(
-        compact(record),
-        written(R"(<Type Type="17"><Year>108</Year><Month>109</Month><Day>110</Day><Minute>107</Minute></Type>)"));
+    EXPECT_EQ(compact(record),
+              written<SelfCalibrationSchedule>(
+                  R"(<Type Type="17"><Year>108</Year><Month>109</Month><Day>110</Day><Minute>107</Minute></Type>)"));
 }
 
 TEST(SelfCalibrationSchedule, EachFieldAloneIsWrittenForTheKindsItBelongsToOnly) {
@@ -133,7 +124,8 @@ TEST(SelfCalibrationSchedule, EachFieldAloneIsWrittenForTheKindsItBelongsToOnly)
             record.type.set(kind);
             (record.*member).set(numberOf(name));
             const bool belongs = std::count(names.begin(), names.end(), name) != 0;
-            EXPECT_EQ(compact(record), written(ofKind(kind, belongs ? elementWithNumber(name) : "")));
+            EXPECT_EQ(compact(record),
+                      written<SelfCalibrationSchedule>(ofKind(kind, belongs ? elementWithNumber(name) : "")));
         }
     }
 }
@@ -143,9 +135,9 @@ TEST(SelfCalibrationSchedule, TimingIsWrittenForEveryKindAndOnlyWhenSet) {
         SelfCalibrationSchedule record;
         record.type.set(kind);
         record.timing.value = "T";
-        EXPECT_EQ(compact(record), written(ofKind(kind, "")));
+        EXPECT_EQ(compact(record), written<SelfCalibrationSchedule>(ofKind(kind, "")));
         record.timing.hasValue = true;
-        EXPECT_EQ(compact(record), written(ofKind(kind, timingElement)));
+        EXPECT_EQ(compact(record), written<SelfCalibrationSchedule>(ofKind(kind, timingElement)));
     }
 }
 
@@ -171,9 +163,9 @@ std::string everyElement() {
 
 TEST(SelfCalibrationSchedule, EachKindIsReadWithItsOwnAndWithForeignFields) {
     for (const unsigned int kind : everyKind()) {
-        const auto record = parsedFrom(ofKind(kind, everyElement()));
+        const auto record = parsedFrom<SelfCalibrationSchedule>(ofKind(kind, everyElement()));
         EXPECT_EQ(describe(record), describe(withEveryFieldSet(kind))) << kind;
-        EXPECT_EQ(compact(record), written(ofKind(kind, elementsOf(kind) + timingElement)));
+        EXPECT_EQ(compact(record), written<SelfCalibrationSchedule>(ofKind(kind, elementsOf(kind) + timingElement)));
     }
 }
 
@@ -183,21 +175,24 @@ TEST(SelfCalibrationSchedule, EachFieldIsReadAloneUnderEveryKindAndSetsNothingEl
             SelfCalibrationSchedule expected;
             expected.type.set(kind);
             (expected.*member).set(numberOf(name));
-            EXPECT_EQ(describe(parsedFrom(ofKind(kind, elementWithNumber(name)))), describe(expected)) << name;
+            EXPECT_EQ(describe(parsedFrom<SelfCalibrationSchedule>(ofKind(kind, elementWithNumber(name)))),
+                      describe(expected))
+                << name;
         }
     }
 }
 
 TEST(SelfCalibrationSchedule, YearUnderKind32IsReadAndDroppedWhenWrittenBack) {
-    const auto record = parsedFrom(R"(<Type Type="32"><Year>2026</Year><Hour>7</Hour></Type>)");
+    const auto record =
+        parsedFrom<SelfCalibrationSchedule>(R"(<Type Type="32"><Year>2026</Year><Hour>7</Hour></Type>)");
     EXPECT_EQ(record.year, (property<unsigned int>{2026, true}));
-    EXPECT_EQ(compact(record), written(R"(<Type Type="32"><Hour>7</Hour></Type>)"));
+    EXPECT_EQ(compact(record), written<SelfCalibrationSchedule>(R"(<Type Type="32"><Hour>7</Hour></Type>)"));
 }
 
 TEST(SelfCalibrationSchedule, TypeWithoutTheAttributeLeavesTheKindUnsetAndReadsTheFields) {
     SelfCalibrationSchedule expected = withEveryFieldSet(0);
     expected.type = {};
-    const auto record = parsedFrom(element("Type", everyElement()));
+    const auto record = parsedFrom<SelfCalibrationSchedule>(element("Type", everyElement()));
     EXPECT_EQ(describe(record), describe(expected));
     EXPECT_EQ(compact(record), compact(SelfCalibrationSchedule()));
 }
@@ -205,9 +200,11 @@ TEST(SelfCalibrationSchedule, TypeWithoutTheAttributeLeavesTheKindUnsetAndReadsT
 TEST(SelfCalibrationSchedule, FieldsOutsideTheFirstTypeAreNotRead) {
     SelfCalibrationSchedule expected;
     expected.type.set(53);
-    EXPECT_EQ(describe(parsedFrom(everyElement() + R"(<Type Type="53"/>)")), describe(expected));
-    EXPECT_EQ(describe(parsedFrom(everyElement())), describe(SelfCalibrationSchedule()));
-    EXPECT_EQ(describe(parsedFrom(R"(<Type Type="53"/>)" + ofKind(2, everyElement()))), describe(expected));
+    EXPECT_EQ(describe(parsedFrom<SelfCalibrationSchedule>(everyElement() + R"(<Type Type="53"/>)")),
+              describe(expected));
+    EXPECT_EQ(describe(parsedFrom<SelfCalibrationSchedule>(everyElement())), describe(SelfCalibrationSchedule()));
+    EXPECT_EQ(describe(parsedFrom<SelfCalibrationSchedule>(R"(<Type Type="53"/>)" + ofKind(2, everyElement()))),
+              describe(expected));
 }
 
 TEST(SelfCalibrationSchedule, SecondDocumentClearsTheFlagsOfWhatItLacksAndKeepsTheValues) {
@@ -232,9 +229,11 @@ TEST(SelfCalibrationSchedule, MissingTypeLeavesEveryMemberUnsetWithItsValue) {
 
 TEST(SelfCalibrationSchedule, EmptyFieldCountsAsMissingAndEmptyTimingAsSet) {
     for (const auto& [name, member] : everyScheduleField) {
-        EXPECT_EQ((parsedFrom(element("Type", '<' + name + "/>")).*member), (property<unsigned int>{0, false})) << name;
+        EXPECT_EQ((parsedFrom<SelfCalibrationSchedule>(element("Type", '<' + name + "/>")).*member),
+                  (property<unsigned int>{0, false}))
+            << name;
     }
-    EXPECT_EQ(parsedFrom("<Type><Timing/></Type>").timing, (property<std::string>{"", true}));
+    EXPECT_EQ(parsedFrom<SelfCalibrationSchedule>("<Type><Timing/></Type>").timing, (property<std::string>{"", true}));
 }
 
 TEST(SelfCalibrationSchedule, NumbersAreReadAsUnsignedWithoutEverFailing) {
@@ -242,19 +241,22 @@ TEST(SelfCalibrationSchedule, NumbersAreReadAsUnsignedWithoutEverFailing) {
         {"-1", 4294967295U}, {"99999999999", 4294967295U}, {" 12.9", 12}, {"007", 7}, {"abc", 0}, {"0x11", 0}};
     for (const auto& [text, number] : numbers) {
         for (const auto& [name, member] : everyScheduleField) {
-            EXPECT_EQ((parsedFrom(element("Type", element(name, text))).*member),
+            EXPECT_EQ((parsedFrom<SelfCalibrationSchedule>(element("Type", element(name, text))).*member),
                       (property<unsigned int>{number, true}));
         }
-        EXPECT_EQ(parsedFrom("<Type Type=\"" + text + "\"/>").type, (property<unsigned int>{number, true})) << text;
+        EXPECT_EQ(parsedFrom<SelfCalibrationSchedule>("<Type Type=\"" + text + "\"/>").type,
+                  (property<unsigned int>{number, true}))
+            << text;
     }
-    EXPECT_EQ(parsedFrom(R"(<Type Type=""/>)").type, (property<unsigned int>{0, false}));
+    EXPECT_EQ(parsedFrom<SelfCalibrationSchedule>(R"(<Type Type=""/>)").type, (property<unsigned int>{0, false}));
 }
 
 TEST(SelfCalibrationSchedule, NamesInAnotherCaseAreNotFound) {
-    EXPECT_EQ(describe(parsedFrom("<type Type=\"53\">" + everyElement() + "</type>")),
+    EXPECT_EQ(describe(parsedFrom<SelfCalibrationSchedule>("<type Type=\"53\">" + everyElement() + "</type>")),
               describe(SelfCalibrationSchedule()));
-    EXPECT_EQ(describe(parsedFrom(R"(<Type type="53"><hour>1</hour><TIMING>T</TIMING></Type>)")),
-              describe(SelfCalibrationSchedule()));
+    EXPECT_EQ(
+        describe(parsedFrom<SelfCalibrationSchedule>(R"(<Type type="53"><hour>1</hour><TIMING>T</TIMING></Type>)")),
+        describe(SelfCalibrationSchedule()));
 }
 
 }  // namespace

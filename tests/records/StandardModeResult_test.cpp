@@ -37,10 +37,6 @@ const auto& everyNested() {
     return all;
 }
 
-std::string written(const std::string& children) {
-    return R"(<StandardModeResult Version="3" MinorVersion="1">)" + children + "</StandardModeResult>";
-}
-
 std::string maxWhiteElement(const std::string& text) {
     return "<MaxWhite>" + text + "</MaxWhite>";
 }
@@ -99,20 +95,20 @@ TEST(StandardModeResult, EachCombinationOfFlagsDecidesWhatIsWrittenAndWhatComesB
 
 TEST(StandardModeResult, OnlyMeasurementDataSecondarySetsItsFlagAloneAndIsWrittenBackAlone) {
     const std::string child = compact(filledAndParsedBack<MeasurementDataSecondary>());
-    const auto record = parsed<StandardModeResult>(documentOf<StandardModeResult>(child));
+    const auto record = parsedFrom<StandardModeResult>(child);
     StandardModeResult expected;
     expected.measurementDataSecondary = filledAndParsedBack<MeasurementDataSecondary>();
     expected.hasMeasurementDataSecondary = true;
     EXPECT_EQ(describe(record), describe(expected));
-    EXPECT_EQ(compact(record), written(child));
+    EXPECT_EQ(compact(record), written<StandardModeResult>(child));
 }
 
 TEST(StandardModeResult, FlagsAloneWriteDefaultRecords) {
     StandardModeResult record;
     record.hasMeasurementData = record.hasMeasurementDataSecondary = record.hasBasicData = true;
-    EXPECT_EQ(compact(record), written(R"(<MeasurementData Version="2" MinorVersion="0"/>)"
-                                       R"(<MeasurementDataSecondary Version="2" MinorVersion="0"/>)"
-                                       R"(<BasicData Version="3" MinorVersion="0"/>)"));
+    EXPECT_EQ(compact(record), written<StandardModeResult>(R"(<MeasurementData Version="2" MinorVersion="0"/>)"
+                                                           R"(<MeasurementDataSecondary Version="2" MinorVersion="0"/>)"
+                                                           R"(<BasicData Version="3" MinorVersion="0"/>)"));
 }
 
 TEST(StandardModeResult, NestedRecordWithoutContentCountsAsFound) {
@@ -205,7 +201,7 @@ TEST(StandardModeResult, EmptyMaxWhiteKeepsTheEarlierNumberAndIsNotWritten) {
 TEST(StandardModeResult, MaxWhiteOfZeroIsWrittenWhenItIsSet) {
     StandardModeResult record;
     record.maxWhite.hasValue = true;
-    EXPECT_EQ(compact(record), written("<MaxWhite>0</MaxWhite>"));
+    EXPECT_EQ(compact(record), written<StandardModeResult>("<MaxWhite>0</MaxWhite>"));
 }
 
 TEST(StandardModeResult, CopiesAreDeep) {

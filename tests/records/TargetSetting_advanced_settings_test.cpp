@@ -1,4 +1,5 @@
 #include <tests/support/ParsedDocument.h>
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -51,21 +52,16 @@ const std::array everyColour = {ColourMember{"red", &Colours::red},         Colo
                                 ColourMember{"blue", &Colours::blue},       ColourMember{"cyan", &Colours::cyan},
                                 ColourMember{"magenta", &Colours::magenta}, ColourMember{"yellow", &Colours::yellow}};
 
-std::string element(const std::string& name, const std::string& content) {
-    return content.empty() ? '<' + name + "/>" : '<' + name + '>' + content + "</" + name + '>';
-}
-
 std::string coloursText(const Colours& colours) {
     std::string text;
     for (const auto& [name, member] : everyColour) {
-        text += element(name, std::to_string(colours.*member));
+        text += elementOrEmptyTag(name, std::to_string(colours.*member));
     }
     return text;
 }
 
-std::string written(const std::string& children) {
-    return R"(<TargetSetting Version="3" MinorVersion="2">)" + element("AdvancedSettings", children) +
-           "</TargetSetting>";
+std::string writtenSettings(const std::string& children) {
+    return written<TargetSetting>(elementOrEmptyTag("AdvancedSettings", children));
 }
 
 TargetSetting withSettings(const Settings& settings) {
@@ -79,32 +75,27 @@ Settings filledSettings() {
 }
 
 Settings filledWithClearFlags() {
-    Settings settings = filledSettings();
-    settings.hue.hasValue = settings.saturation.hasValue = settings.blackLevel.hasValue = false;
-    for (const auto& [name, member] : everyGroup) {
-        (settings.*member).hasValue = false;
-    }
-    return settings;
+    return withClearFlags(filledSettings());
 }
 
 /// Settings filled before that have read these children.
 Settings filledHavingRead(const std::string& children) {
     TargetSetting record = withSettings(filledSettings());
-    EXPECT_TRUE(record.parseXMLString(documentOf<TargetSetting>(element("AdvancedSettings", children))));
+    EXPECT_TRUE(record.parseXMLString(documentOf<TargetSetting>(elementOrEmptyTag("AdvancedSettings", children))));
     EXPECT_TRUE(record.advancedSettings.hasValue);
     return record.advancedSettings.value;
 }
 
 TEST(TargetSettingAdvancedSettings, SettingsWithNothingSetAreAnEmptyElementAndComeBack) {
     const TargetSetting record = withSettings(Settings());
-    EXPECT_EQ(compact(record), written(""));
+    EXPECT_EQ(compact(record), writtenSettings(""));
     const auto back = parsed<TargetSetting>(compact(record));
     EXPECT_TRUE(back.advancedSettings.hasValue);
     EXPECT_EQ(describe(back.advancedSettings.value), describe(Settings()));
 }
 
 TEST(TargetSettingAdvancedSettings, NothingIsWrittenForValuesBehindClearedFlags) {
-    EXPECT_EQ(compact(withSettings(filledWithClearFlags())), written(""));
+    EXPECT_EQ(compact(withSettings(filledWithClearFlags())), writtenSettings(""));
 }
 
 TEST(TargetSettingAdvancedSettings, EachNumberIsWrittenAndReadAloneWithItsSign) {
@@ -112,10 +103,10 @@ TEST(TargetSettingAdvancedSettings, EachNumberIsWrittenAndReadAloneWithItsSign) 
         for (const int value : {0, -5, 5, -2147483647 - 1, 2147483647}) {
             Settings settings;
             (settings.*member).set(value);
-            EXPECT_EQ(compact(withSettings(settings)), written(element(name, std::to_string(value))));
+            EXPECT_EQ(compact(withSettings(settings)), writtenSettings(elementOrEmptyTag(name, std::to_string(value))));
             Settings expected = filledWithClearFlags();
             (expected.*member).set(value);
-            EXPECT_EQ(describe(filledHavingRead(element(name, std::to_string(value)))), describe(expected));
+            EXPECT_EQ(describe(filledHavingRead(elementOrEmptyTag(name, std::to_string(value)))), describe(expected));
         }
     }
 }
@@ -125,7 +116,7 @@ TEST(TargetSettingAdvancedSettings, EmptyNumberCountsAsMissingAndABadOneAs0) {
         EXPECT_EQ(describe(filledHavingRead('<' + name + "/>")), describe(filledWithClearFlags())) << name;
         Settings expected = filledWithClearFlags();
         (expected.*member).set(0);
-        EXPECT_EQ(describe(filledHavingRead(element(name, "abc"))), describe(expected)) << name;
+        EXPECT_EQ(describe(filledHavingRead(elementOrEmptyTag(name, "abc"))), describe(expected)) << name;
     }
 }
 
@@ -133,7 +124,7 @@ TEST(TargetSettingAdvancedSettings, BlackLevelIsWrittenWithAllThreeColours) {
     Settings settings;
     settings.blackLevel.set({0, -7, 0});
     EXPECT_EQ(compact(withSettings(settings)),
-              written("<blackLevel><red>0</red><green>-7</green><blue>0</blue></blackLevel>"));
+              writtenSettings("<blackLevel><red>0</red><green>-7</green><blue>0</blue></blackLevel>"));
 }
 
 TEST(TargetSettingAdvancedSettings, EachColourOfTheBlackLevelAloneSetsItAndLeavesTheOthers) {
@@ -141,10 +132,11 @@ TEST(TargetSettingAdvancedSettings, EachColourOfTheBlackLevelAloneSetsItAndLeave
         Settings expected = filledWithClearFlags();
         expected.blackLevel.hasValue = true;
         expected.blackLevel.value.*member = -99;
-        EXPECT_EQ(describe(filledHavingRead(element("blackLevel", element(name, "-99")))), describe(expected));
-        EXPECT_EQ(describe(filledHavingRead(element("blackLevel", '<' + name + "/>"))),
+        EXPECT_EQ(describe(filledHavingRead(elementOrEmptyTag("blackLevel", elementOrEmptyTag(name, "-99")))),
+                  describe(expected));
+        EXPECT_EQ(describe(filledHavingRead(elementOrEmptyTag("blackLevel", '<' + name + "/>"))),
                   describe(filledWithClearFlags()));
-        EXPECT_EQ(describe(filledHavingRead(element(name, "-99"))), describe(filledWithClearFlags()));
+        EXPECT_EQ(describe(filledHavingRead(elementOrEmptyTag(name, "-99"))), describe(filledWithClearFlags()));
     }
 }
 
@@ -154,7 +146,7 @@ TEST(TargetSettingAdvancedSettings, EachGroupAloneIsWrittenInsideSixColorsWithAl
             Settings settings;
             (settings.*member).set(colours);
             EXPECT_EQ(compact(withSettings(settings)),
-                      written(element("sixColors", element(name, coloursText(colours)))));
+                      writtenSettings(elementOrEmptyTag("sixColors", elementOrEmptyTag(name, coloursText(colours)))));
         }
     }
 }
@@ -163,8 +155,8 @@ TEST(TargetSettingAdvancedSettings, OnlySixColorsLightnessWritesSixColorsWithLig
     Settings settings;
     settings.sixColorsLightness.set({1, 0, 0, 0, 0, 0});
     EXPECT_EQ(compact(withSettings(settings)),
-              written("<sixColors><lightness><red>1</red><green>0</green><blue>0</blue><cyan>0</cyan>"
-                      "<magenta>0</magenta><yellow>0</yellow></lightness></sixColors>"));
+              writtenSettings("<sixColors><lightness><red>1</red><green>0</green><blue>0</blue><cyan>0</cyan>"
+                              "<magenta>0</magenta><yellow>0</yellow></lightness></sixColors>"));
 }
 
 TEST(TargetSettingAdvancedSettings, GroupLeftOutIsLeftOutAlone) {
@@ -175,9 +167,9 @@ TEST(TargetSettingAdvancedSettings, GroupLeftOutIsLeftOutAlone) {
         settings.blackLevel = {};
         std::string text;
         for (const auto& [name, member] : everyGroup) {
-            text += name == left ? "" : element(name, coloursText((settings.*member).value));
+            text += name == left ? "" : elementOrEmptyTag(name, coloursText((settings.*member).value));
         }
-        EXPECT_EQ(compact(withSettings(settings)), written(element("sixColors", text)));
+        EXPECT_EQ(compact(withSettings(settings)), writtenSettings(elementOrEmptyTag("sixColors", text)));
     }
 }
 
@@ -187,7 +179,8 @@ TEST(TargetSettingAdvancedSettings, EachColourOfEachGroupAloneSetsTheGroupAndLea
             Settings expected = filledWithClearFlags();
             (expected.*target).hasValue = true;
             (expected.*target).value.*member = -99;
-            const std::string text = element("sixColors", element(group, element(name, "-99")));
+            const std::string text =
+                elementOrEmptyTag("sixColors", elementOrEmptyTag(group, elementOrEmptyTag(name, "-99")));
             EXPECT_EQ(describe(filledHavingRead(text)), describe(expected)) << text;
         }
     }
@@ -196,7 +189,7 @@ TEST(TargetSettingAdvancedSettings, EachColourOfEachGroupAloneSetsTheGroupAndLea
 TEST(TargetSettingAdvancedSettings, GroupWithoutANumberIsUnset) {
     for (const auto& [group, target] : everyGroup) {
         for (const char* content : {"", "<red/><yellow></yellow>", "<Red>1</Red>", "<other>1</other>", "7"}) {
-            const std::string text = element("sixColors", element(group, content));
+            const std::string text = elementOrEmptyTag("sixColors", elementOrEmptyTag(group, content));
             EXPECT_EQ(describe(filledHavingRead(text)), describe(filledWithClearFlags())) << text;
         }
     }
@@ -279,7 +272,7 @@ TEST(TargetSettingAdvancedSettings, AppendingOneGroupReturnsTheNewLastChild) {
     XMLElement parent = document.root();
     const XMLElement appended = TargetSetting().appendAdvancedSettingSixColorElement(parent, "any", colours);
     EXPECT_EQ(appended.get(), parent.getElements("any").at(1).get());
-    EXPECT_EQ(document.text(), "<A><any/>" + element("any", coloursText(colours)) + "</A>");
+    EXPECT_EQ(document.text(), "<A><any/>" + elementOrEmptyTag("any", coloursText(colours)) + "</A>");
     XMLElement nothing;
     EXPECT_FALSE(TargetSetting().appendAdvancedSettingSixColorElement(nothing, "hue", colours).isValid());
 }

@@ -1,4 +1,5 @@
 #include <tests/support/ParsedDocument.h>
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -38,22 +39,17 @@ Curve curveOf(const std::string& type) {
     return {type, 240, {1, 2, 3}, {4, 5}};
 }
 
-std::string withType(const std::string& name, const std::string& type, const std::string& children) {
-    const std::string start = '<' + name + " Type=\"" + type + '"';
-    return children.empty() ? start + "/>" : start + '>' + children + "</" + name + '>';
-}
-
 std::string curveText(const std::string& name, const std::string& type) {
     const auto child = childOfType.find(type);
-    return withType(name, type, child == childOfType.end() ? "" : child->second);
+    return elementOfType(name, type, child == childOfType.end() ? "" : child->second);
 }
 
 std::string gammaDocument(const std::string& children) {
-    return documentOf<TargetSetting>("<Gamma>" + children + "</Gamma>");
+    return documentOf<TargetSetting>(element("Gamma", children));
 }
 
-std::string written(const std::string& children) {
-    return R"(<TargetSetting Version="3" MinorVersion="2"><Gamma>)" + children + "</Gamma></TargetSetting>";
+std::string writtenGamma(const std::string& children) {
+    return written<TargetSetting>(element("Gamma", children));
 }
 
 TEST(TargetSettingGamma, EachTypeOfEachChannelWritesItsOwnChildAndNoOther) {
@@ -68,7 +64,7 @@ TEST(TargetSettingGamma, EachTypeOfEachChannelWritesItsOwnChildAndNoOther) {
             }
             const std::string clipping = "<PQHLGClipping></PQHLGClipping>";
             const bool clips = channel == "Red" && (type == "PQ" || type == "HLG");
-            EXPECT_EQ(compact(record), written(text + (clips ? clipping : "")));
+            EXPECT_EQ(compact(record), writtenGamma(text + (clips ? clipping : "")));
         }
     }
 }
@@ -79,7 +75,7 @@ TEST(TargetSettingGamma, EachTypeOfEachChannelReadsAllChildrenAndSetsTheFlag) {
             TargetSetting expected;
             expected.gamma.hasValue = true;
             expected.gamma.value.*member = curveOf(type);
-            const auto record = parsed<TargetSetting>(gammaDocument(withType(channel, type, curveChildren)));
+            const auto record = parsed<TargetSetting>(gammaDocument(elementOfType(channel, type, curveChildren)));
             EXPECT_EQ(describe(record), describe(expected)) << channel << type;
         }
     }
@@ -109,11 +105,11 @@ TEST(TargetSettingGamma, OtherChildrenAreReadButLeaveTheFlagClear) {
 }
 
 TEST(TargetSettingGamma, ChannelsAndOtherChildrenBesideTheGammaAreNotRead) {
-    const auto record = parsed<TargetSetting>(
-        documentOf<TargetSetting>("<Gamma/>" + withType("Red", "PQ", curveChildren) +
+    const auto record =
+        parsedFrom<TargetSetting>("<Gamma/>" + elementOfType("Red", "PQ", curveChildren) +
                                   "<PQHLGClipping>Hard</PQHLGClipping><HLGSystemGamma>110</HLGSystemGamma>"
                                   "<ImportedLutFile><FileName>a.txt</FileName></ImportedLutFile>"
-                                  "<FileName>b.txt</FileName>"));
+                                  "<FileName>b.txt</FileName>");
     EXPECT_EQ(describe(record), describe(TargetSetting()));
     const auto misplaced = parsed<TargetSetting>(gammaDocument("<Red/><FileName>b.txt</FileName>"));
     EXPECT_EQ(misplaced.gamma.value.importedLutFile.fileName, "");
@@ -140,9 +136,9 @@ TEST(TargetSettingGamma, ClippingIsWrittenForARedCurveOfPQOrHLGAndTheFileForARed
             for (const std::string& blue : everyType) {
                 const bool clips = red == "PQ" || red == "HLG";
                 const bool imports = red == "Lut" || red == "Lut24";
-                EXPECT_EQ(
-                    compact(withTypes(red, green, blue)),
-                    written(curveTexts(red, green, blue) + (clips ? clippingText : "") + (imports ? fileText : "")));
+                EXPECT_EQ(compact(withTypes(red, green, blue)),
+                          writtenGamma(curveTexts(red, green, blue) + (clips ? clippingText : "") +
+                                       (imports ? fileText : "")));
             }
         }
     }
@@ -163,9 +159,9 @@ TEST(TargetSettingGamma, SystemGammaIsWrittenForEveryTypeByTheSwitchAlone) {
         const bool imports = type == "Lut" || type == "Lut24";
         const std::string before = curveTexts(type, "", "") + (clips ? clippingText : "");
         const std::string after = imports ? fileText : "";
-        EXPECT_EQ(compact(record), written(before + after));
+        EXPECT_EQ(compact(record), writtenGamma(before + after));
         record.writeHLGSystemGamma = true;
-        EXPECT_EQ(compact(record), written(before + systemGammaText + after));
+        EXPECT_EQ(compact(record), writtenGamma(before + systemGammaText + after));
         record.gamma.hasValue = false;
         EXPECT_EQ(compact(record), compact(TargetSetting()));
     }
@@ -175,7 +171,7 @@ TEST(TargetSettingGamma, SystemGammaOf0IsWrittenToo) {
     TargetSetting record;
     record.writeHLGSystemGamma = true;
     record.gamma.hasValue = true;
-    EXPECT_EQ(compact(record), written(curveTexts("", "", "") + "<HLGSystemGamma>0</HLGSystemGamma>"));
+    EXPECT_EQ(compact(record), writtenGamma(curveTexts("", "", "") + "<HLGSystemGamma>0</HLGSystemGamma>"));
 }
 
 TEST(TargetSettingGamma, SystemGammaIsReadWhateverTheSwitchSays) {
@@ -192,7 +188,7 @@ TEST(TargetSettingGamma, EmptyCurvesAreWrittenAsEmptyTextAndLeaveEarlierEntriesW
     record.gamma.set({{"Lut", 0, {}, {}}, {"Lut24", 0, {}, {}}, {}, "", 0, {}});
     const std::string text =
         R"(<Red Type="Lut"><Lut></Lut></Red><Green Type="Lut24"><Lut24></Lut24></Green><Blue Type=""/>)";
-    EXPECT_EQ(compact(record), written(text));
+    EXPECT_EQ(compact(record), writtenGamma(text));
     TargetSetting other = withTypes("", "", "");
     ASSERT_TRUE(other.parseXMLString(gammaDocument(text)));
     EXPECT_EQ(describe(other.gamma.value.red), describe(curveOf("Lut")));
@@ -217,7 +213,7 @@ TEST(TargetSettingGamma, SecondDocumentKeepsWhatItLacks) {
 
 TEST(TargetSettingGamma, ParsingOneCurveReadsTheNamedChildAndReturnsIt) {
     for (const std::string& type : everyType) {
-        const ParsedDocument document("<A><Other/>" + withType("Any", type, curveChildren) + "<Any/></A>");
+        const ParsedDocument document("<A><Other/>" + elementOfType("Any", type, curveChildren) + "<Any/></A>");
         XMLElement parent = document.root();
         Curve curve;
         const XMLElement found = TargetSetting().parseGammaElement(parent, "Any", curve);

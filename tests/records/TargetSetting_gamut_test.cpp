@@ -1,4 +1,5 @@
 #include <tests/support/ParsedDocument.h>
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -32,12 +33,12 @@ const std::string primariesText = R"(<Red Type="Coordinate"><x>7080</x><y>2920</
 const std::string profileText = "<ProfileName>BT.2020</ProfileName>";
 const std::string clippingText = "<GamutClipping><Value>2</Value></GamutClipping>";
 
-std::string written(const std::string& children) {
-    return R"(<TargetSetting Version="3" MinorVersion="2"><Gamut>)" + children + "</Gamut></TargetSetting>";
+std::string writtenGamut(const std::string& children) {
+    return written<TargetSetting>(element("Gamut", children));
 }
 
 std::string gamutDocument(const std::string& children) {
-    return documentOf<TargetSetting>("<Gamut>" + children + "</Gamut>");
+    return documentOf<TargetSetting>(element("Gamut", children));
 }
 
 TargetSetting withGamut(const Gamut& gamut) {
@@ -48,7 +49,7 @@ TargetSetting withGamut(const Gamut& gamut) {
 
 TEST(TargetSettingGamut, GamutOfSixCoordinatesIsWrittenWithItsPrimaries) {
     EXPECT_FALSE(wide.isNative());
-    EXPECT_EQ(compact(withGamut(wide)), written(primariesText + profileText + clippingText));
+    EXPECT_EQ(compact(withGamut(wide)), writtenGamut(primariesText + profileText + clippingText));
 }
 
 TEST(TargetSettingGamut, SmallestCoordinatesAreNotNative) {
@@ -63,7 +64,7 @@ TEST(TargetSettingGamut, GamutWithAnyOneCoordinateOf0IsNativeAndWrittenWithoutPr
             Gamut gamut = wide;
             gamut.*member.*coordinate = 0;
             EXPECT_TRUE(gamut.isNative()) << name;
-            EXPECT_EQ(compact(withGamut(gamut)), written(profileText + clippingText));
+            EXPECT_EQ(compact(withGamut(gamut)), writtenGamut(profileText + clippingText));
         }
     }
 }
@@ -82,8 +83,8 @@ TEST(TargetSettingGamut, GamutWithOneCoordinateAloneIsNative) {
 TEST(TargetSettingGamut, ProfileNameIsWrittenUnlessItIsEmptyAndTheClippingAlways) {
     Gamut gamut = wide;
     gamut.profileName = "";
-    EXPECT_EQ(compact(withGamut(gamut)), written(primariesText + clippingText));
-    EXPECT_EQ(compact(withGamut(Gamut())), written("<GamutClipping><Value>0</Value></GamutClipping>"));
+    EXPECT_EQ(compact(withGamut(gamut)), writtenGamut(primariesText + clippingText));
+    EXPECT_EQ(compact(withGamut(Gamut())), writtenGamut("<GamutClipping><Value>0</Value></GamutClipping>"));
 }
 
 TEST(TargetSettingGamut, GamutIsSetByItsElementAlone) {
@@ -122,7 +123,7 @@ TEST(TargetSettingGamut, TypeOfAPrimaryIsNotLookedAt) {
 TEST(TargetSettingGamut, NativeGamutKeepsWhatWasReadButWritesNoPrimaries) {
     const auto record = parsed<TargetSetting>(gamutDocument("<Red><x>6400</x><y>3300</y></Red>" + profileText));
     EXPECT_EQ(describe(record), describe(withGamut({{6400, 3300}, {}, {}, "BT.2020", 0})));
-    EXPECT_EQ(compact(record), written(profileText + "<GamutClipping><Value>0</Value></GamutClipping>"));
+    EXPECT_EQ(compact(record), writtenGamut(profileText + "<GamutClipping><Value>0</Value></GamutClipping>"));
 }
 
 TEST(TargetSettingGamut, ClippingIsReadFromTheValueInsideItOnly) {
@@ -138,8 +139,7 @@ TEST(TargetSettingGamut, ClippingIsReadFromTheValueInsideItOnly) {
 }
 
 TEST(TargetSettingGamut, ChildrenBesideTheGamutAreNotRead) {
-    const auto record =
-        parsed<TargetSetting>(documentOf<TargetSetting>("<Gamut/>" + primariesText + profileText + clippingText));
+    const auto record = parsedFrom<TargetSetting>("<Gamut/>" + primariesText + profileText + clippingText);
     EXPECT_EQ(describe(record), describe(withGamut(Gamut())));
 }
 

@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -80,22 +81,9 @@ const std::vector<Tagged> everyElement = {levelElement("Brightness", &TargetSett
                                           standardElement("GammaV7", &TargetSetting::gammaV7),
                                           standardElement("GamutV7", &TargetSetting::gamutV7)};
 
-std::string withType(const std::string& name, const std::string& type, const std::string& children) {
-    const std::string start = '<' + name + " Type=\"" + type + '"';
-    return children.empty() ? start + "/>" : start + '>' + children + "</" + name + '>';
-}
-
 std::string childrenWritten(const Tagged& tagged, const std::string& type) {
     const auto found = tagged.childrenOfType.find(type);
     return found == tagged.childrenOfType.end() ? "" : found->second;
-}
-
-std::string written(const std::string& children) {
-    return R"(<TargetSetting Version="3" MinorVersion="2">)" + children + "</TargetSetting>";
-}
-
-TargetSetting parsedFrom(const std::string& children) {
-    return parsed<TargetSetting>(documentOf<TargetSetting>(children));
 }
 
 TEST(TargetSettingTypes, EachTypeWritesItsOwnChildrenAndNoOthers) {
@@ -103,7 +91,8 @@ TEST(TargetSettingTypes, EachTypeWritesItsOwnChildrenAndNoOthers) {
         for (const std::string& type : everyType) {
             TargetSetting record;
             tagged.set(record, type);
-            EXPECT_EQ(compact(record), written(withType(tagged.name, type, childrenWritten(tagged, type))));
+            EXPECT_EQ(compact(record),
+                      written<TargetSetting>(elementOfType(tagged.name, type, childrenWritten(tagged, type))));
         }
     }
 }
@@ -113,9 +102,10 @@ TEST(TargetSettingTypes, EveryTypeReadsAllChildrenAndDropsForeignOnesWhenWritten
         for (const std::string& type : everyType) {
             TargetSetting expected;
             tagged.set(expected, type);
-            const auto record = parsedFrom(withType(tagged.name, type, tagged.children));
+            const auto record = parsedFrom<TargetSetting>(elementOfType(tagged.name, type, tagged.children));
             EXPECT_EQ(describe(record), describe(expected)) << tagged.name << type;
-            EXPECT_EQ(compact(record), written(withType(tagged.name, type, childrenWritten(tagged, type))));
+            EXPECT_EQ(compact(record),
+                      written<TargetSetting>(elementOfType(tagged.name, type, childrenWritten(tagged, type))));
         }
     }
 }
@@ -125,7 +115,8 @@ TEST(TargetSettingTypes, EveryTypeAloneSetsTheFlag) {
         for (const std::string& type : everyType) {
             TargetSetting expected;
             tagged.setType(expected, type);
-            EXPECT_EQ(describe(parsedFrom(withType(tagged.name, type, ""))), describe(expected)) << tagged.name << type;
+            EXPECT_EQ(describe(parsedFrom<TargetSetting>(elementOfType(tagged.name, type, ""))), describe(expected))
+                << tagged.name << type;
         }
     }
 }
@@ -134,8 +125,8 @@ TEST(TargetSettingTypes, ElementWithoutATypeIsReadButNotSetAndIsNotWrittenBack) 
     for (const Tagged& tagged : everyElement) {
         TargetSetting expected;
         tagged.set(expected, "");
-        const auto record =
-            parsedFrom('<' + tagged.name + " type=\"Value\">" + tagged.children + "</" + tagged.name + '>');
+        const auto record = parsedFrom<TargetSetting>('<' + tagged.name + " type=\"Value\">" + tagged.children + "</" +
+                                                      tagged.name + '>');
         EXPECT_EQ(describe(record), describe(withClearFlags(expected))) << tagged.name;
         EXPECT_EQ(compact(record), compact(TargetSetting()));
     }
@@ -146,7 +137,7 @@ TEST(TargetSettingTypes, TypeAloneLeavesTheEarlierValues) {
         for (const std::string& type : everyType) {
             TargetSetting record;
             tagged.set(record, "earlier");
-            ASSERT_TRUE(record.parseXMLString(documentOf<TargetSetting>(withType(tagged.name, type, ""))));
+            ASSERT_TRUE(record.parseXMLString(documentOf<TargetSetting>(elementOfType(tagged.name, type, ""))));
             TargetSetting expected;
             tagged.set(expected, type);
             EXPECT_EQ(describe(record), describe(expected)) << tagged.name << type;
@@ -169,18 +160,19 @@ TEST(TargetSettingTypes, ChildrenBesideTheirElementAndInASecondOneAreNotRead) {
     for (const Tagged& tagged : everyElement) {
         TargetSetting expected;
         tagged.setType(expected, "Value");
-        const std::string first = withType(tagged.name, "Value", "");
-        EXPECT_EQ(describe(parsedFrom(first + tagged.children)), describe(expected));
-        EXPECT_EQ(describe(parsedFrom(first + withType(tagged.name, "x", tagged.children))), describe(expected));
+        const std::string first = elementOfType(tagged.name, "Value", "");
+        EXPECT_EQ(describe(parsedFrom<TargetSetting>(first + tagged.children)), describe(expected));
+        EXPECT_EQ(describe(parsedFrom<TargetSetting>(first + elementOfType(tagged.name, "x", tagged.children))),
+                  describe(expected));
     }
 }
 
 TEST(TargetSettingTypes, BrightnessOfAnotherTypeThanValueIsWrittenWithoutAChildAndReadWithWhatItHolds) {
     TargetSetting record;
     record.brightness.set({"Max", 300});
-    EXPECT_EQ(compact(record), written(R"(<Brightness Type="Max"/>)"));
+    EXPECT_EQ(compact(record), written<TargetSetting>(R"(<Brightness Type="Max"/>)"));
     EXPECT_EQ(parsed<TargetSetting>(compact(record)).brightness.value.value, 0U);
-    const auto back = parsedFrom(R"(<Brightness Type="Max"><Value>301</Value></Brightness>)");
+    const auto back = parsedFrom<TargetSetting>(R"(<Brightness Type="Max"><Value>301</Value></Brightness>)");
     EXPECT_TRUE(back.brightness.hasValue);
     EXPECT_EQ(back.brightness.value.value, 301U);
 }
@@ -198,10 +190,11 @@ TEST(TargetSettingTypes, WhitePointByCoordinateSurvivesWritingAndParsing) {
 TEST(TargetSettingTypes, NoElementNamedCoordinateIsReadOrWritten) {
     TargetSetting expected;
     expected.whitePoint.set({"Coordinate", 0, 0, 0});
-    const auto record =
-        parsedFrom(R"(<WhitePoint Type="Coordinate"><Coordinate><x>1</x><y>2</y></Coordinate></WhitePoint>)");
+    const auto record = parsedFrom<TargetSetting>(
+        R"(<WhitePoint Type="Coordinate"><Coordinate><x>1</x><y>2</y></Coordinate></WhitePoint>)");
     EXPECT_EQ(describe(record), describe(expected));
-    EXPECT_EQ(compact(record), written(R"(<WhitePoint Type="Coordinate"><x>0</x><y>0</y></WhitePoint>)"));
+    EXPECT_EQ(compact(record),
+              written<TargetSetting>(R"(<WhitePoint Type="Coordinate"><x>0</x><y>0</y></WhitePoint>)"));
 }
 
 TEST(TargetSettingTypes, EachHalfOfAWhitePointIsReadAlone) {
@@ -215,7 +208,8 @@ TEST(TargetSettingTypes, EachHalfOfAWhitePointIsReadAlone) {
 
 TEST(TargetSettingTypes, NumbersAreReadAsUnsignedAndAnEmptyOneCountsAsMissing) {
     const auto read = [](const std::string& text) {
-        return parsedFrom("<Brightness Type=\"Value\"><Value>" + text + "</Value></Brightness>").brightness.value.value;
+        return parsedFrom<TargetSetting>("<Brightness Type=\"Value\"><Value>" + text + "</Value></Brightness>")
+            .brightness.value.value;
     };
     EXPECT_EQ(read("-1"), 4294967295U);
     EXPECT_EQ(read("99999999999"), 4294967295U);
@@ -231,7 +225,7 @@ TEST(TargetSettingTypes, EmptyStandardIsWrittenAsEmptyTextAndLeavesTheEarlierOne
     TargetSetting record;
     record.gammaV7.set({"Standard", ""});
     const std::string text = R"(<GammaV7 Type="Standard"><Standard></Standard></GammaV7>)";
-    EXPECT_EQ(compact(record), written(text));
+    EXPECT_EQ(compact(record), written<TargetSetting>(text));
     record.gammaV7.set({"Standard", "sRGB"});
     ASSERT_TRUE(record.parseXMLString(documentOf<TargetSetting>(text)));
     EXPECT_EQ(record.gammaV7.value.standard, "sRGB");

@@ -38,4 +38,26 @@ template <class Record>
     return '<' + name + '>' + children + "</" + name + '>';
 }
 
+/// What a record that holds only these children prints: its document with the version of its class.
+template <class Record>
+[[nodiscard]] std::string written(const std::string& children) {
+    const std::string name = Record::rootElementName;
+    const Record fresh;
+    return '<' + name + " Version=\"" + std::to_string(fresh.version.value) + "\" MinorVersion=\"" +
+           std::to_string(fresh.minorVersion.value) + "\">" + children + "</" + name + '>';
+}
+
+/// The record after it has read a document with these children and no version; a refusal fails the test.
+template <class Record>
+[[nodiscard]] Record afterReading(Record record, const std::string& children) {
+    EXPECT_TRUE(record.parseXMLString(documentOf<Record>(children))) << children;
+    return record;
+}
+
+/// A fresh record that has read these children.
+template <class Record>
+[[nodiscard]] Record parsedFrom(const std::string& children) {
+    return afterReading(Record(), children);
+}
+
 }  // namespace lv::test
