@@ -1,124 +1,91 @@
 #include <tests/differential/odd_texts.h>
 
 namespace differential {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+Texts concatenated(const std::vector<Texts>& groups) {
+    Texts all;
+    for (const Texts& group : groups) {
+        all.insert(all.end(), group.begin(), group.end());
+    }
+    return all;
+}
+
+Texts loneSigns() {
+    return {"", " ", "-", "+", "+-5", "--5", "-+5"};
+}
+
+Texts numbersOfEveryLength() {
+    return {"0",       "-0",       "007",       "-1",        "+1",        "1",          "12",
+            "1234567", "12345678", "123456789", "-12345678", "999999999", "1000000000", "0000000012345678"};
+}
+
+Texts numbersAroundTheLimits() {
+    return {"2147483647",
+            "2147483648",
+            "4294967295",
+            "4294967296",
+            "9999999999",
+            "18446744073709551616",
+            "-2147483648",
+            "-2147483649",
+            "-4294967295",
+            "-4294967296",
+            "99999999999999999999999999999999999999",
+            "00000000000000000000000000000000000042",
+            "-99999999999999999999999999999999"};
+}
+
+Texts numbersWithBlanks() {
+    return {" 7", "7 ", "7 8", "\t9", "\n9", "\v9", "  -3"};
+}
+
+Texts numbersWithOtherText() {
+    return {"abc",  "x1",  "1x",   "1234567x", "12345678x", "123456789x", "12345678 9",
+            "1.5",  "1e3", "0x10", "1,234",    "true",      "TRUE",       "false",
+            "True", "/5",  ":5",   "5/",       "5:",        "1234/678",   "1234:678"};
+}
+
+Texts numbersWithOddBytes() {
+    return {"\xB5"
+            "5",
+            "5\xB5",
+            "1234\xB1"
+            "678",
+            "\xFF\xFF\xFF\xFF",
+            "&#49;2",
+            "1&#x32;",
+            "1\r2"};
+}
+
+Texts references() {
+    return {"&amp;", "&lt;", "&gt;", "&quot;", "&#49;", "&#x32;", "&bogus;", "&", "&#0;", "&#"};
+}
+
+Texts charactersInTexts() {
+    return {"\r", "\n", "\r\n", "\n\r", "|", "||", " ",   "\t",       "-",
+            "+",  "7",  ">",    "\"",   "'", "/",  "]]>", "\xC2\xB5", "\v"};
+}
+
+Texts markupInTexts() {
+    return {"<!-- 1 -->",      "<!-- 1|2 </A> -->",   "<Unknown/>", "<A>1|2</A>", "<?other 1?>", "<![CDATA[]]>",
+            "<![CDATA[5|6]]>", "<![CDATA[ & < > ]]>", "<",          "</A>",       "<!-- ",       "-->",
+            "<![CDATA["};
+}
+
+}  // namespace
 
 const std::vector<std::string>& oddNumbers() {
-    static const std::vector<std::string> all = {"",
-                                                 " ",
-                                                 "-",
-                                                 "+",
-                                                 "+-5",
-                                                 "--5",
-                                                 "-+5",
-                                                 "0",
-                                                 "-0",
-                                                 "007",
-                                                 "-1",
-                                                 "+1",
-                                                 "1",
-                                                 "12",
-                                                 "1234567",
-                                                 "12345678",
-                                                 "123456789",
-                                                 "-12345678",
-                                                 "999999999",
-                                                 "1000000000",
-                                                 "0000000012345678",
-                                                 "2147483647",
-                                                 "2147483648",
-                                                 "4294967295",
-                                                 "4294967296",
-                                                 "9999999999",
-                                                 "18446744073709551616",
-                                                 "-2147483648",
-                                                 "-2147483649",
-                                                 "-4294967295",
-                                                 "-4294967296",
-                                                 "99999999999999999999999999999999999999",
-                                                 "00000000000000000000000000000000000042",
-                                                 "-99999999999999999999999999999999",
-                                                 " 7",
-                                                 "7 ",
-                                                 "7 8",
-                                                 "\t9",
-                                                 "\n9",
-                                                 "\v9",
-                                                 "  -3",
-                                                 "abc",
-                                                 "x1",
-                                                 "1x",
-                                                 "1234567x",
-                                                 "12345678x",
-                                                 "123456789x",
-                                                 "12345678 9",
-                                                 "1.5",
-                                                 "1e3",
-                                                 "0x10",
-                                                 "1,234",
-                                                 "true",
-                                                 "TRUE",
-                                                 "false",
-                                                 "True",
-                                                 "/5",
-                                                 ":5",
-                                                 "5/",
-                                                 "5:",
-                                                 "1234/678",
-                                                 "1234:678",
-                                                 "\xB5"
-                                                 "5",
-                                                 "5\xB5",
-                                                 "1234\xB1"
-                                                 "678",
-                                                 "\xFF\xFF\xFF\xFF",
-                                                 "&#49;2",
-                                                 "1&#x32;",
-                                                 "1\r2"};
+    static const std::vector<std::string> all =
+        concatenated({loneSigns(), numbersOfEveryLength(), numbersAroundTheLimits(), numbersWithBlanks(),
+                      numbersWithOtherText(), numbersWithOddBytes()});
     return all;
 }
 
 const std::vector<std::string>& oddInTexts() {
-    static const std::vector<std::string> all = {"&amp;",
-                                                 "&lt;",
-                                                 "&gt;",
-                                                 "&quot;",
-                                                 "&#49;",
-                                                 "&#x32;",
-                                                 "&bogus;",
-                                                 "&",
-                                                 "&#0;",
-                                                 "&#",
-                                                 "\r",
-                                                 "\n",
-                                                 "\r\n",
-                                                 "\n\r",
-                                                 "|",
-                                                 "||",
-                                                 " ",
-                                                 "\t",
-                                                 "-",
-                                                 "+",
-                                                 "7",
-                                                 ">",
-                                                 "\"",
-                                                 "'",
-                                                 "/",
-                                                 "]]>",
-                                                 "\xC2\xB5",
-                                                 "\v",
-                                                 "<!-- 1 -->",
-                                                 "<!-- 1|2 </A> -->",
-                                                 "<Unknown/>",
-                                                 "<A>1|2</A>",
-                                                 "<?other 1?>",
-                                                 "<![CDATA[]]>",
-                                                 "<![CDATA[5|6]]>",
-                                                 "<![CDATA[ & < > ]]>",
-                                                 "<",
-                                                 "</A>",
-                                                 "<!-- ",
-                                                 "-->",
-                                                 "<![CDATA["};
+    static const std::vector<std::string> all = concatenated({references(), charactersInTexts(), markupInTexts()});
     return all;
 }
 

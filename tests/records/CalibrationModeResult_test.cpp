@@ -7,6 +7,8 @@
 
 #include <array>
 #include <string>
+#include <type_traits>
+#include <utility>
 
 // What one row holds: what is written always and what only by flag, and what is read.
 
@@ -24,60 +26,44 @@ struct Part {
     void (*clearFlag)(Row&);
 };
 
+template <auto member>
+Part propertyPart(const std::string& text, void (*fill)(Row&)) {
+    return {text, fill, [](Row& row) {
+                (row.*member).hasValue = false;
+            }};
+}
+
+template <auto member, auto flag>
+Part recordPart() {
+    using Record = std::decay_t<decltype(std::declval<Row>().*member)>;
+    return {compact(filled<Record>()),
+            [](Row& row) {
+                row.*member = filledAndParsedBack<Record>();
+                row.*flag = true;
+            },
+            [](Row& row) {
+                row.*flag = false;
+            }};
+}
+
 const auto& everyPart() {
-    static const std::array all = {Part{"<Index>1</Index>", [](Row& row) { row.index.set(1); },
-                                        [](Row& row) {
-                                            row.index.hasValue = false;
-                                        }},
-                                   Part{"<Name>a &amp; b</Name>", [](Row& row) { row.name.set("a & b"); },
-                                        [](Row& row) {
-                                            row.name.hasValue = false;
-                                        }},
-                                   Part{"<CalibratedTime>2024-07-01</CalibratedTime>",
-                                        [](Row& row) { row.calibratedTime.set("2024-07-01"); },
-                                        [](Row& row) {
-                                            row.calibratedTime.hasValue = false;
-                                        }},
-                                   Part{compact(filled<BasicData>()),
-                                        [](Row& row) {
-                                            row.basicData = filledAndParsedBack<BasicData>();
-                                            row.hasBasicData = true;
-                                        },
-                                        [](Row& row) {
-                                            row.hasBasicData = false;
-                                        }},
-                                   Part{compact(filled<MeasurementData>()),
-                                        [](Row& row) {
-                                            row.measurementData = filledAndParsedBack<MeasurementData>();
-                                            row.hasMeasurementData = true;
-                                        },
-                                        [](Row& row) {
-                                            row.hasMeasurementData = false;
-                                        }},
-                                   Part{"<HasValidMeasuredBlackValue>true</HasValidMeasuredBlackValue>",
-                                        [](Row& row) { row.hasValidMeasuredBlackValue.set(true); },
-                                        [](Row& row) {
-                                            row.hasValidMeasuredBlackValue.hasValue = false;
-                                        }},
-                                   Part{compact(filled<MonitorParameter>()),
-                                        [](Row& row) {
-                                            row.monitorParameter = filledAndParsedBack<MonitorParameter>();
-                                            row.hasMonitorParameter = true;
-                                        },
-                                        [](Row& row) {
-                                            row.hasMonitorParameter = false;
-                                        }}};
+    static const std::array all = {
+        propertyPart<&Row::index>("<Index>1</Index>", [](Row& row) { row.index.set(1); }),
+        propertyPart<&Row::name>("<Name>a &amp; b</Name>", [](Row& row) { row.name.set("a & b"); }),
+        propertyPart<&Row::calibratedTime>("<CalibratedTime>2024-07-01</CalibratedTime>",
+                                           [](Row& row) { row.calibratedTime.set("2024-07-01"); }),
+        recordPart<&Row::basicData, &Row::hasBasicData>(),
+        recordPart<&Row::measurementData, &Row::hasMeasurementData>(),
+        propertyPart<&Row::hasValidMeasuredBlackValue>("<HasValidMeasuredBlackValue>true</HasValidMeasuredBlackValue>",
+                                                       [](Row& row) { row.hasValidMeasuredBlackValue.set(true); }),
+        recordPart<&Row::monitorParameter, &Row::hasMonitorParameter>()};
     return all;
 }
 
-CalibrationModeResult with(const Row& row) {
+CalibrationModeResult listOf(const Row& row) {
     CalibrationModeResult record;
     record.objects = {row};
     return record;
-}
-
-std::string written(const std::string& colorMode) {
-    return R"(<CalibrationModeResult Version="2" MinorVersion="0">)" + colorMode + "</CalibrationModeResult>";
 }
 
 /// A row with an empty type and these children.
@@ -87,7 +73,7 @@ std::string rowElement(const std::string& children) {
 
 /// The one row that these rows' elements give.
 Row rowFrom(const std::string& colorMode) {
-    const auto record = parsed<CalibrationModeResult>(documentOf<CalibrationModeResult>(colorMode));
+    const auto record = parsedFrom<CalibrationModeResult>(colorMode);
     EXPECT_EQ(record.objects.size(), 1U) << colorMode;
     return record.objects.at(0);
 }
@@ -97,27 +83,27 @@ TEST(CalibrationModeResult, DefaultRecordWritesTheRootWithItsVersionAndNoRow) {
 }
 
 TEST(CalibrationModeResult, FilledRowWritesAllElementsInOrder) {
-    EXPECT_EQ(
-        compact(with(filled<CalibrationModeResult>().objects.front())),
-        written(R"(<ColorMode Type="type 13"><Index>14</Index><Name>name 15</Name>)"
-                "<CalibratedTime>calibratedTime 16</CalibratedTime>" +
-                compact(filled<BasicData>()) + compact(filled<MeasurementData>()) +
-                "<HasValidMeasuredBlackValue>true</HasValidMeasuredBlackValue>" + compact(filled<MonitorParameter>()) +
-                compact(filled<ProfileData>()) +
-                "<EmulationLUT><Availability>17</Availability><Index>18</Index><Name>name 19</Name></EmulationLUT>"
-                "</ColorMode>"));
+    EXPECT_EQ(compact(listOf(filled<CalibrationModeResult>().objects.front())),
+              written<CalibrationModeResult>(
+                  R"(<ColorMode Type="type 13"><Index>14</Index><Name>name 15</Name>)"
+                  "<CalibratedTime>calibratedTime 16</CalibratedTime>" +
+                  compact(filled<BasicData>()) + compact(filled<MeasurementData>()) +
+                  "<HasValidMeasuredBlackValue>true</HasValidMeasuredBlackValue>" +
+                  compact(filled<MonitorParameter>()) + compact(filled<ProfileData>()) +
+                  "<EmulationLUT><Availability>17</Availability><Index>18</Index><Name>name 19</Name></EmulationLUT>"
+                  "</ColorMode>"));
 }
 
 TEST(CalibrationModeResult, ColorModeWithoutChildrenGivesARowWithNothingSetAndIsWrittenWithTypeAndProfile) {
     EXPECT_EQ(describe(rowFrom("<ColorMode/>")), describe(Row()));
-    EXPECT_EQ(compact(with(rowFrom("<ColorMode/>"))), written(rowElement(defaultProfile)));
+    EXPECT_EQ(compact(listOf(rowFrom("<ColorMode/>"))), written<CalibrationModeResult>(rowElement(defaultProfile)));
 }
 
 TEST(CalibrationModeResult, EachPartIsWrittenAloneBeforeTheProfileAndReadBackAlone) {
     for (const Part& part : everyPart()) {
         Row row;
         part.fill(row);
-        EXPECT_EQ(compact(with(row)), written(rowElement(part.text + defaultProfile)));
+        EXPECT_EQ(compact(listOf(row)), written<CalibrationModeResult>(rowElement(part.text + defaultProfile)));
         EXPECT_EQ(describe(rowFrom("<ColorMode>" + part.text + "</ColorMode>")), describe(row));
     }
 }
@@ -127,7 +113,8 @@ TEST(CalibrationModeResult, EachPartWhoseFlagIsClearIsNotWrittenWhateverItHolds)
         Row row;
         part.fill(row);
         part.clearFlag(row);
-        EXPECT_EQ(compact(with(row)), written(rowElement(defaultProfile))) << part.text.substr(0, 40);
+        EXPECT_EQ(compact(listOf(row)), written<CalibrationModeResult>(rowElement(defaultProfile)))
+            << part.text.substr(0, 40);
     }
 }
 
@@ -140,7 +127,7 @@ TEST(CalibrationModeResult, EachPartAloneIsLeftOutOfARowThatHoldsAllOthers) {
             children += &part == &missing ? "" : part.text;
         }
         missing.clearFlag(row);
-        EXPECT_EQ(compact(with(row)), written(rowElement(children + defaultProfile)));
+        EXPECT_EQ(compact(listOf(row)), written<CalibrationModeResult>(rowElement(children + defaultProfile)));
     }
 }
 
@@ -157,8 +144,8 @@ TEST(CalibrationModeResult, TypeIsWrittenAlwaysAlsoWhenItIsUnsetEmptyOrStale) {
             Row row;
             row.type = {text, flag};
             const std::string escaped = std::string(text) == "a\"<&" ? "a&quot;&lt;&amp;" : text;
-            EXPECT_EQ(compact(with(row)),
-                      written("<ColorMode Type=\"" + escaped + "\">" + defaultProfile + "</ColorMode>"));
+            EXPECT_EQ(compact(listOf(row)), written<CalibrationModeResult>("<ColorMode Type=\"" + escaped + "\">" +
+                                                                           defaultProfile + "</ColorMode>"));
         }
     }
 }
@@ -177,7 +164,7 @@ TEST(CalibrationModeResult, ProfileIsWrittenWhateverItsFlag) {
         Row row;
         row.hasProfileData = flag;
         row.profileData = filled<ProfileData>();
-        EXPECT_EQ(compact(with(row)), written(rowElement(compact(filled<ProfileData>()))));
+        EXPECT_EQ(compact(listOf(row)), written<CalibrationModeResult>(rowElement(compact(filled<ProfileData>()))));
     }
 }
 
@@ -191,7 +178,7 @@ TEST(CalibrationModeResult, ProfileIsReadAndItsFlagTellsWhetherItWasFound) {
 }
 
 TEST(CalibrationModeResult, RowReadWithoutAProfileGainsADefaultOne) {
-    const auto again = parsed<CalibrationModeResult>(compact(with(rowFrom("<ColorMode/>"))));
+    const auto again = parsed<CalibrationModeResult>(compact(listOf(rowFrom("<ColorMode/>"))));
     EXPECT_TRUE(again.objects.at(0).hasProfileData);
     EXPECT_FALSE(again.objects.at(0).profileData.measuredXYZ.hasValue);
     EXPECT_TRUE(again.objects.at(0).profileData.redTargetCurve.hasValue);
@@ -235,8 +222,9 @@ TEST(CalibrationModeResult, BlackValueIsTrueForTrueInSmallOrCapitalLettersOnly) 
 TEST(CalibrationModeResult, BlackValueOfFalseIsWrittenWhenItIsSet) {
     Row row;
     row.hasValidMeasuredBlackValue.set(false);
-    EXPECT_EQ(compact(with(row)),
-              written(rowElement("<HasValidMeasuredBlackValue>false</HasValidMeasuredBlackValue>" + defaultProfile)));
+    EXPECT_EQ(compact(listOf(row)),
+              written<CalibrationModeResult>(
+                  rowElement("<HasValidMeasuredBlackValue>false</HasValidMeasuredBlackValue>" + defaultProfile)));
 }
 
 TEST(CalibrationModeResult, IndexReadsAsUnsignedWithoutEverFailingAndEmptyCountsAsMissing) {
@@ -253,8 +241,8 @@ TEST(CalibrationModeResult, EmptyTextsAreFoundAndWrittenBack) {
     const Row row = rowFrom("<ColorMode><Name/><CalibratedTime></CalibratedTime></ColorMode>");
     EXPECT_EQ(row.name, (property<std::string>{"", true}));
     EXPECT_EQ(row.calibratedTime, (property<std::string>{"", true}));
-    EXPECT_EQ(compact(with(row)),
-              written(rowElement("<Name></Name><CalibratedTime></CalibratedTime>" + defaultProfile)));
+    EXPECT_EQ(compact(listOf(row)), written<CalibrationModeResult>(
+                                        rowElement("<Name></Name><CalibratedTime></CalibratedTime>" + defaultProfile)));
 }
 
 TEST(CalibrationModeResult, NamesOfTheChildrenAreComparedWithTheirCase) {

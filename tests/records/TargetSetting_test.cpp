@@ -1,3 +1,4 @@
+#include <tests/support/markup.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -6,24 +7,11 @@
 #include <lvdata/records/TargetSetting.h>
 
 #include <array>
-#include <functional>
 #include <string>
 #include <vector>
 
 namespace lv::test {
 namespace {
-
-std::string element(const std::string& name, const std::string& content) {
-    return '<' + name + '>' + content + "</" + name + '>';
-}
-
-std::string written(const std::string& children) {
-    return R"(<TargetSetting Version="3" MinorVersion="2">)" + children + "</TargetSetting>";
-}
-
-TargetSetting parsedFrom(const std::string& children) {
-    return parsed<TargetSetting>(documentOf<TargetSetting>(children));
-}
 
 struct Text {
     std::string element;
@@ -38,80 +26,34 @@ const std::array everyText = {Text{"LumivaleVersion", &TargetSetting::lumivaleVe
 /// A member of the record and the text that it has when it alone is set and holds nothing but defaults.
 struct Member {
     std::string text;
-    std::function<bool&(TargetSetting&)> flag;
+    bool& (*flag)(TargetSetting&);
 };
 
-const std::vector<Member>& everyMember() {
-    static const std::vector<Member> all = {
-        {"<LumivaleVersion></LumivaleVersion>",
-         [](auto& record) -> bool& {
-             return record.lumivaleVersion.hasValue;
-         }},
-        {"<FineContrast></FineContrast>",
-         [](auto& record) -> bool& {
-             return record.fineContrast.hasValue;
-         }},
-        {R"(<Brightness Type=""/>)",
-         [](auto& record) -> bool& {
-             return record.brightness.hasValue;
-         }},
-        {R"(<BlackLevel Type=""/>)",
-         [](auto& record) -> bool& {
-             return record.blackLevel.hasValue;
-         }},
-        {R"(<WhitePoint Type=""/>)",
-         [](auto& record) -> bool& {
-             return record.whitePoint.hasValue;
-         }},
-        {R"(<WhitePointV7 Type=""/>)",
-         [](auto& record) -> bool& {
-             return record.whitePointV7.hasValue;
-         }},
-        {R"(<Gamma><Red Type=""/><Green Type=""/><Blue Type=""/></Gamma>)",
-         [](auto& record) -> bool& {
-             return record.gamma.hasValue;
-         }},
-        {R"(<GammaV7 Type=""/>)",
-         [](auto& record) -> bool& {
-             return record.gammaV7.hasValue;
-         }},
-        {"<Gamut><GamutClipping><Value>0</Value></GamutClipping></Gamut>",
-         [](auto& record) -> bool& {
-             return record.gamut.hasValue;
-         }},
-        {R"(<GamutV7 Type=""/>)",
-         [](auto& record) -> bool& {
-             return record.gamutV7.hasValue;
-         }},
-        {"<GrayBalance><Type>0</Type></GrayBalance>",
-         [](auto& record) -> bool& {
-             return record.grayBalance.hasValue;
-         }},
-        {"<CreationType></CreationType>",
-         [](auto& record) -> bool& {
-             return record.creationType.hasValue;
-         }},
-        {"<AdvancedSettings/>",
-         [](auto& record) -> bool& {
-             return record.advancedSettings.hasValue;
-         }},
-        {"<OptimizeForLimited109></OptimizeForLimited109>", [](auto& record) -> bool& {
-             return record.optimizeForLimited109.hasValue;
-         }}};
-    return all;
+template <auto member>
+bool& flagOf(TargetSetting& record) {
+    return (record.*member).hasValue;
 }
+
+const std::vector<Member> everyMember = {
+    {"<LumivaleVersion></LumivaleVersion>", flagOf<&TargetSetting::lumivaleVersion>},
+    {"<FineContrast></FineContrast>", flagOf<&TargetSetting::fineContrast>},
+    {R"(<Brightness Type=""/>)", flagOf<&TargetSetting::brightness>},
+    {R"(<BlackLevel Type=""/>)", flagOf<&TargetSetting::blackLevel>},
+    {R"(<WhitePoint Type=""/>)", flagOf<&TargetSetting::whitePoint>},
+    {R"(<WhitePointV7 Type=""/>)", flagOf<&TargetSetting::whitePointV7>},
+    {R"(<Gamma><Red Type=""/><Green Type=""/><Blue Type=""/></Gamma>)", flagOf<&TargetSetting::gamma>},
+    {R"(<GammaV7 Type=""/>)", flagOf<&TargetSetting::gammaV7>},
+    {"<Gamut><GamutClipping><Value>0</Value></GamutClipping></Gamut>", flagOf<&TargetSetting::gamut>},
+    {R"(<GamutV7 Type=""/>)", flagOf<&TargetSetting::gamutV7>},
+    {"<GrayBalance><Type>0</Type></GrayBalance>", flagOf<&TargetSetting::grayBalance>},
+    {"<CreationType></CreationType>", flagOf<&TargetSetting::creationType>},
+    {"<AdvancedSettings/>", flagOf<&TargetSetting::advancedSettings>},
+    {"<OptimizeForLimited109></OptimizeForLimited109>", flagOf<&TargetSetting::optimizeForLimited109>}};
 
 /// `filled` as it looks when it has read a document without any child.
 TargetSetting filledWithClearFlags() {
-    TargetSetting record = filled<TargetSetting>();
-    record.version.hasValue = record.minorVersion.hasValue = false;
-    for (const auto& [text, flag] : everyMember()) {
-        flag(record) = false;
-    }
-    auto& settings = record.advancedSettings.value;
-    settings.hue.hasValue = settings.saturation.hasValue = settings.blackLevel.hasValue = false;
-    settings.sixColorsHue.hasValue = settings.sixColorsSaturation.hasValue = false;
-    settings.sixColorsLightness.hasValue = false;
+    TargetSetting record = withClearFlags(filled<TargetSetting>());
+    record.advancedSettings.value = withClearFlags(record.advancedSettings.value);
     return record;
 }
 
@@ -157,10 +99,10 @@ TEST(TargetSetting, FilledRecordWritesAllElementsOfItsTypesInOrder) {
 }
 
 TEST(TargetSetting, EachMemberIsWrittenAloneAndOnlyWhenSet) {
-    for (const auto& [text, flag] : everyMember()) {
+    for (const auto& [text, flag] : everyMember) {
         TargetSetting record;
         flag(record) = true;
-        EXPECT_EQ(compact(record), written(text));
+        EXPECT_EQ(compact(record), written<TargetSetting>(text));
     }
 }
 
@@ -171,14 +113,14 @@ TEST(TargetSetting, NoMemberIsWrittenForTheValueBehindItsClearedFlag) {
 }
 
 TEST(TargetSetting, EachMemberLeftOutChangesNoOther) {
-    for (const auto& [text, flag] : everyMember()) {
+    for (const auto& [text, flag] : everyMember) {
         TargetSetting record = filled<TargetSetting>();
         record.writeHLGSystemGamma = true;
         flag(record) = false;
         TargetSetting back = parsed<TargetSetting>(compact(record));
         EXPECT_FALSE(flag(back)) << text;
         back.writeHLGSystemGamma = true;
-        for (const auto& [otherText, otherFlag] : everyMember()) {
+        for (const auto& [otherText, otherFlag] : everyMember) {
             EXPECT_EQ(otherFlag(back), text != otherText) << otherText;
         }
         EXPECT_EQ(compact(back), compact(record));
@@ -222,18 +164,17 @@ TEST(TargetSetting, TextIsEscapedAndComesBack) {
 TEST(TargetSetting, GrayBalanceIsTheTextOfTheTypeInsideIt) {
     TargetSetting record;
     record.grayBalance.set(4294967295U);
-    EXPECT_EQ(compact(record), written("<GrayBalance><Type>4294967295</Type></GrayBalance>"));
+    EXPECT_EQ(compact(record), written<TargetSetting>("<GrayBalance><Type>4294967295</Type></GrayBalance>"));
     TargetSetting expected;
     expected.grayBalance.set(7);
-    EXPECT_EQ(describe(parsedFrom("<GrayBalance><Type>7</Type></GrayBalance>")), describe(expected));
+    EXPECT_EQ(describe(parsedFrom<TargetSetting>("<GrayBalance><Type>7</Type></GrayBalance>")), describe(expected));
 }
 
 TEST(TargetSetting, GrayBalanceIsSetOnlyByATypeWithText) {
     const auto read = [](const std::string& children) {
         TargetSetting record;
         record.grayBalance.set(5);
-        EXPECT_TRUE(record.parseXMLString(documentOf<TargetSetting>(children)));
-        return record.grayBalance;
+        return afterReading(record, children).grayBalance;
     };
     EXPECT_EQ(read("<GrayBalance><Type>abc</Type></GrayBalance>"), (property<unsigned int>{0, true}));
     EXPECT_EQ(read("<GrayBalance><Type>-1</Type></GrayBalance>"), (property<unsigned int>{4294967295U, true}));
@@ -252,7 +193,7 @@ TEST(TargetSetting, BothGenerationsAreHeldReadAndWrittenSideBySide) {
                              R"(<GammaV7 Type="Standard"><Standard>PQ</Standard></GammaV7>)"
                              "<Gamut><GamutClipping><Value>1</Value></GamutClipping></Gamut>"
                              R"(<GamutV7 Type="Standard"><Standard>Wide</Standard></GamutV7>)";
-    const auto record = parsedFrom(both);
+    const auto record = parsedFrom<TargetSetting>(both);
     TargetSetting expected;
     expected.whitePoint.set({"Temperature", 6500, 0, 0});
     expected.whitePointV7.set({"Standard", "D65"});
@@ -263,14 +204,14 @@ TEST(TargetSetting, BothGenerationsAreHeldReadAndWrittenSideBySide) {
     expected.gamut.hasValue = true;
     expected.gamutV7.set({"Standard", "Wide"});
     EXPECT_EQ(describe(record), describe(expected));
-    EXPECT_EQ(compact(record), written(both));
+    EXPECT_EQ(compact(record), written<TargetSetting>(both));
 }
 
 TEST(TargetSetting, NoGenerationSetsTheOther) {
-    const auto newer = parsedFrom(R"(<WhitePointV7 Type=""/><GammaV7 Type=""/><GamutV7 Type=""/>)");
+    const auto newer = parsedFrom<TargetSetting>(R"(<WhitePointV7 Type=""/><GammaV7 Type=""/><GamutV7 Type=""/>)");
     EXPECT_FALSE(newer.whitePoint.hasValue || newer.gamma.hasValue || newer.gamut.hasValue);
     EXPECT_TRUE(newer.whitePointV7.hasValue && newer.gammaV7.hasValue && newer.gamutV7.hasValue);
-    const auto older = parsedFrom(R"(<WhitePoint Type=""/><Gamma><Red/></Gamma><Gamut/>)");
+    const auto older = parsedFrom<TargetSetting>(R"(<WhitePoint Type=""/><Gamma><Red/></Gamma><Gamut/>)");
     EXPECT_TRUE(older.whitePoint.hasValue && older.gamma.hasValue && older.gamut.hasValue);
     EXPECT_FALSE(older.whitePointV7.hasValue || older.gammaV7.hasValue || older.gamutV7.hasValue);
 }
