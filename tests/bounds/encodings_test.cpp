@@ -4,14 +4,14 @@
 
 #include <lvdata/records/ParameterSetting.h>
 
-// Bytes that are no text: NUL, broken UTF-8, UTF-16.
+// Bytes that are not text: NUL, broken UTF-8, UTF-16.
 
 namespace lv::test {
 namespace {
 
 const std::string nul(1, '\0');
 
-TEST(Nul, InsideTheMarkupEndsTheDocumentThereWhichIsRefused) {
+TEST(Nul, InsideTheMarkupCutsTheDocumentOffSoItIsRefused) {
     for (const std::string& text :
          {documentWithAsset1("a" + nul + "b"), "<AssetInfo><Asset1>a</Asset1>" + nul + "</AssetInfo>",
           "<AssetInfo a='" + nul + "'/>", "<Asset" + nul + "Info/>", "<!-- " + nul + " --><AssetInfo/>", nul,
@@ -20,7 +20,7 @@ TEST(Nul, InsideTheMarkupEndsTheDocumentThereWhichIsRefused) {
     }
 }
 
-TEST(Nul, BehindTheDocumentHidesWhatFollows) {
+TEST(Nul, AfterTheDocumentHidesWhatFollows) {
     const std::string document = documentWithAsset1("one");
     AssetInfo expected;
     expected.asset1.set("one");
@@ -29,11 +29,11 @@ TEST(Nul, BehindTheDocumentHidesWhatFollows) {
     }
 }
 
-TEST(Nul, AsAReferenceEndsTheText) {
+TEST(Nul, AsACharacterReferenceEndsTheText) {
     EXPECT_EQ(parsed<AssetInfo>(documentWithAsset1("a&#0;b")).asset1, (property<std::string>{"a", true}));
 }
 
-TEST(Nul, InAMemberEndsWhatIsWrittenOfIt) {
+TEST(Nul, InATextMemberEndsTheWrittenText) {
     AssetInfo record;
     record.asset1.set("a" + nul + "b");
     record.asset2.set("two");
@@ -71,7 +71,7 @@ TEST(BrokenUtf8, IsKeptInAttributes) {
     }
 }
 
-TEST(BrokenUtf8, MakesAnotherName) {
+TEST(BrokenUtf8, InANameMakesADifferentName) {
     for (const std::string& bytes : brokenUtf8) {
         expectRefusedUnchanged(filled<AssetInfo>(), "<AssetInfo" + bytes + "/>");
         const std::string name = "Asset1" + bytes;
@@ -80,7 +80,7 @@ TEST(BrokenUtf8, MakesAnotherName) {
     }
 }
 
-TEST(ByteOrderMark, IsPassedOverAlsoWhenItIsCutOff) {
+TEST(ByteOrderMark, IsIgnoredEvenWhenItIsIncomplete) {
     AssetInfo expected;
     expected.asset1.set("one");
     for (const std::string mark : {"\xEF\xBB\xBF", "\xEF\xBB", "\xEF"}) {

@@ -3,7 +3,7 @@
 namespace lv::test {
 namespace {
 
-TEST(LongTexts, OfAHundredMegabytesAreHandled) {
+TEST(LongTexts, OfAHundredMegabytesComeBack) {
     expectLongTextIsHandled(100'000'000);
 }
 

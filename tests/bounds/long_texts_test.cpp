@@ -3,7 +3,7 @@
 namespace lv::test {
 namespace {
 
-TEST(LongTexts, OfAMegabyteAreHandled) {
+TEST(LongTexts, OfAMegabyteComeBack) {
     expectLongTextIsHandled(1'000'000);
 }
 

@@ -35,13 +35,13 @@ TEST(Nesting, IsRefusedBeyondTheLimit) {
     }
 }
 
-TEST(Nesting, IsRefusedWhereNothingIsClosed) {
+TEST(Nesting, IsRefusedWhenNoElementIsClosed) {
     for (const std::string start : {"<a>", "<a b='1'>", "<AssetInfo><!-- -->", "<a>text"}) {
         expectRefusedUnchanged(filled<AssetInfo>(), repeated(start, 1'000'000));
     }
 }
 
-TEST(Nesting, LeavesADocumentThatCanBeUsed) {
+TEST(Nesting, ThatIsRefusedLeavesAUsableDocument) {
     XMLDocument document;
     EXPECT_FALSE(document.parseXMLString(nested(deepest + 1)));
     EXPECT_FALSE(document.rootElement().isValid());

@@ -33,13 +33,13 @@ static_assert(std::is_abstract_v<DataArrayObject<Book>>);
 static_assert(std::is_same_v<decltype(Shelf::objects), std::vector<Book>>);
 static_assert(std::is_same_v<decltype(Shelf::parsed), bool>);
 
-TEST(DataArrayObject, FreshOneHasNoRowsAndWasNeverParsed) {
+TEST(DataArrayObject, NewListHasNoRowsAndIsNotParsed) {
     const Shelf shelf;
     EXPECT_TRUE(shelf.objects.empty());
     EXPECT_FALSE(shelf.parsed);
 }
 
-TEST(DataArrayObject, HandsTheVersionOnToTheBase) {
+TEST(DataArrayObject, PassesTheVersionToTheBaseClass) {
     const Shelf shelf;
     EXPECT_EQ(shelf.version, (property<unsigned int>{2, false}));
     EXPECT_EQ(shelf.minorVersion, (property<unsigned int>{5, false}));
@@ -59,7 +59,7 @@ TEST(DataArrayObject, CopiesItsRowsAndFlagAndSharesNothing) {
     EXPECT_EQ(copy.version.value, 7U);
 }
 
-TEST(DataArrayObject, PrintsThroughTheBase) {
+TEST(DataArrayObject, PrintsThroughItsBaseClass) {
     Shelf shelf;
     shelf.objects = {{"two"}, {"one"}};
     const DataObject& base = shelf;

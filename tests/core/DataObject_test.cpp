@@ -53,7 +53,7 @@ bool operator==(const Lamp& left, const Lamp& right) {
 const std::string declaration = R"(<?xml version="1.0" encoding="UTF-8" standalone="no"?>)";
 const std::string redLampText = R"(<Lamp Version="3" MinorVersion="1"><Colour>red</Colour></Lamp>)";
 
-TEST(DataObject, FreshOneHoldsItsClassesVersionWithClearFlags) {
+TEST(DataObject, NewRecordHasTheVersionOfItsClassWithClearFlags) {
     const Lamp lamp;
     EXPECT_EQ(lamp.version, (property<unsigned int>{3, false}));
     EXPECT_EQ(lamp.minorVersion, (property<unsigned int>{1, false}));
@@ -74,7 +74,7 @@ TEST(DataObjectPrint, TextWithDeclarationBeginsWithIt) {
     EXPECT_EQ(redLamp().toXMLString(true, false), declaration + redLampText);
 }
 
-TEST(DataObjectPrint, WritesBothVersionAttributesWhateverTheirFlags) {
+TEST(DataObjectPrint, WritesBothVersionAttributesRegardlessOfTheirFlags) {
     Lamp lamp;
     lamp.version = {7, true};
     lamp.minorVersion = {0, false};
@@ -140,7 +140,7 @@ TEST(DataObjectParse, AnotherVersionIsAcceptedAndWrittenAfterwards) {
     EXPECT_EQ(lamp.toXMLString(false, false), R"(<Lamp Version="7" MinorVersion="0"/>)");
 }
 
-TEST(DataObjectParse, AVersionThatIsNoNumberReadsAsZero) {
+TEST(DataObjectParse, AVersionThatIsNotANumberReadsAsZero) {
     Lamp lamp;
     EXPECT_TRUE(lamp.parseXMLString("<Lamp Version='new' MinorVersion='-1'/>"));
     EXPECT_EQ(lamp.version, (property<unsigned int>{0, true}));
@@ -173,7 +173,7 @@ public:
     int parses = 0;
 };
 
-TEST(DataObjectParse, MalformedTextIsRefusedWithoutAskingTheRecord) {
+TEST(DataObjectParse, MalformedTextIsRefusedBeforeTheRecordSeesIt) {
     Undemanding record;
     EXPECT_FALSE(record.parseXMLString("<Lamp>"));
     EXPECT_EQ(record.parses, 0);

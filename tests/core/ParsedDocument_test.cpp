@@ -79,7 +79,7 @@ TEST(ParseXML, SaysThatItIsDone) {
     EXPECT_EQ(record.referenceSensorID, (property<std::string>{"7", true}));
 }
 
-TEST(ParsedDocument, WithoutARootElementHasNoName) {
+TEST(ParsedDocument, WithoutARootElementHasNoRootElementName) {
     for (const char* const text : {"", "<!-- -->", "<a>"}) {
         EXPECT_EQ(ParsedDocument(text).rootElementName(), "");
         EXPECT_FALSE(ParsedDocument(text).parseResult());
@@ -116,7 +116,7 @@ public:
     bool wasAsked = false;
 };
 
-TEST(ParseXML, ADocumentWithoutElementsIsOfferedToTheRecordOneThatIsRefusedIsNot) {
+TEST(ParseXML, OnlyAWellFormedDocumentReachesTheRecordEvenWithoutElements) {
     Undemanding record;
     EXPECT_TRUE(record.parseXML("<!-- -->"));
     EXPECT_TRUE(record.wasAsked);

@@ -29,7 +29,7 @@ TEST(PrimaryColours, DefaultMadeIsAllZero) {
     }
 }
 
-TEST(PrimaryColours, MembersStandInTheirOrder) {
+TEST(PrimaryColours, MembersAreInTheDocumentedOrder) {
     std::array<colour, 5> counted;
     for (std::size_t index = 0; index < counted.size(); ++index) {
         counted[index].X = static_cast<double>(index);

@@ -36,7 +36,7 @@ public:
     property<std::string> text;
 };
 
-TEST(ApplicationPrograms, HandlesConvert) {
+TEST(ApplicationPrograms, NodesOfTheXMLLibraryConvertToWrappers) {
     tinyxml2::XMLDocument document;
     ASSERT_EQ(document.Parse("<Label><Text>a</Text></Label>"), tinyxml2::XML_SUCCESS);
     Label label;
@@ -54,7 +54,7 @@ TEST(ApplicationPrograms, HandlesConvert) {
     EXPECT_FALSE(Label().parseXMLElement(nullptr));
 }
 
-TEST(ApplicationPrograms, AParseMayBeAStatement) {
+TEST(ApplicationPrograms, TheResultOfAParseMayBeIgnored) {
     Label label;
     label.parseXMLString("<Label><Text>b</Text></Label>");
     EXPECT_EQ(label.text.value, "b");

@@ -82,7 +82,7 @@ TEST(TrySet, RefusesWhatIsNotAFiniteNumber) {
     }
 }
 
-TEST(TrySet, TheSmallestNumbersAreNearestToZero) {
+TEST(TrySet, TheSmallestNumbersAreStoredAsZero) {
     for (const double value : {std::numeric_limits<double>::denorm_min(), 1e-300, 1e-20, 1e-10}) {
         EXPECT_EQ(storedOr(before, value, quantities::gain), 0U) << value;
         EXPECT_EQ(storedOr(before, -value, quantities::gain), 0U) << value;
@@ -101,7 +101,7 @@ TEST(TrySet, KeepsAFlagThatWasSet) {
     EXPECT_EQ(parameter.redGain, (property<unsigned int>{before, true}));
 }
 
-TEST(TrySet, WhatWasReadIsStoredAgainAsItWas) {
+TEST(TrySet, AValueThatWasReadIsStoredUnchanged) {
     for (const int number : {std::numeric_limits<int>::min(), -700000, -1, 0, 1, std::numeric_limits<int>::max()}) {
         EXPECT_EQ(storedOr(signedBefore, number / 1e6, quantities::matrixEntry), number);
     }
@@ -220,7 +220,7 @@ TEST(TrySetColour, RefusesQuantitiesThatAreNotThoseOfAColour) {
     EXPECT_EQ(data, BasicData());
 }
 
-TEST(TrySetChromaticity, StoresBothCoordinatesOrNone) {
+TEST(TrySetChromaticity, StoresBothCoordinatesOrNeither) {
     TargetSetting::white_point_t white;
     colour measured;
     measured.x = 0.3127;

@@ -27,7 +27,7 @@ TEST(Colour, DefaultMadeIsAllZero) {
     }
 }
 
-TEST(Colour, MembersStandInTheirOrder) {
+TEST(Colour, MembersAreInTheDocumentedOrder) {
     const colour counted = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17};
     for (std::size_t index = 0; index < inOrder.size(); ++index) {
         EXPECT_EQ(counted.*inOrder[index], static_cast<double>(index));

@@ -119,7 +119,7 @@ TEST(Describer, GivesNumbersTheirQuantityAndOthersNone) {
     EXPECT_FALSE(nodes.at(4).quantity.has_value());
 }
 
-TEST(Describer, TellsWhatAFreshRecordHas) {
+TEST(Describer, SaysWhatANewRecordHas) {
     const Description root = describeRecord<Desk>(Desk::rootElementName, [](auto& io, auto& desk) {
         io.field("Maker", desk.maker);
         io.field("Height", desk.height);
@@ -134,7 +134,7 @@ TEST(Describer, TellsWhatAFreshRecordHas) {
     EXPECT_THAT(texts, ElementsAre("4", "2", "", "0", "false", "", "true"));
 }
 
-TEST(Describer, TellsWhatSetsAFlag) {
+TEST(Describer, SaysWhatSetsAFlag) {
     const auto nodes = described([](auto& io, auto& desk) {
         io.field("Maker", desk.maker);
         io.field("Height", desk.height);
@@ -156,7 +156,7 @@ TEST(Describer, TellsWhatSetsAFlag) {
     EXPECT_FALSE(nodes.at(3).isOptional);
 }
 
-TEST(Describer, OfAGroupEachMemberHasTheSharedFlag) {
+TEST(Describer, GivesEachMemberOfAGroupTheSharedFlag) {
     const auto nodes = described([](auto& io, auto& desk) {
         io.group(desk.lamp, [](auto& inner, auto& lamp) {
             auto any = inner.value("Watts", lamp.watts);

@@ -36,7 +36,7 @@ TEST(ToColour, FillsTheMembersOfItsNotationAndNoOther) {
     EXPECT_EQ(membersOf(to_colour(cielab, three, 100.0)), zerosBut(13, {1, 2, 3}));
 }
 
-TEST(ToColour, OfFewerNumbersThanTheNotationNeedsIsAllZero) {
+TEST(ToColour, IsAllZeroForFewerNumbersThanTheNotationNeeds) {
     EXPECT_EQ(membersOf(to_colour(rgb, std::vector<unsigned int>{1, 2}, 255.0)), zerosBut(0, {}));
     EXPECT_EQ(membersOf(to_colour(cmyk, std::vector<unsigned int>{1, 2, 3}, 100.0)), zerosBut(0, {}));
     EXPECT_EQ(membersOf(to_colour(xyz, std::vector<int>(), 1e6)), zerosBut(0, {}));
@@ -69,7 +69,7 @@ TEST(FromColour, HasNoUpperLimit) {
     EXPECT_EQ(from_colour<unsigned int>(rgb, source, 255.0), (std::vector<unsigned int>{306, 383, 0}));
 }
 
-TEST(FromColour, StoresWhatIsNoNumberAsZero) {
+TEST(FromColour, StoresNaNAsZero) {
     colour source;
     source.red = std::numeric_limits<double>::quiet_NaN();
     source.green = std::numeric_limits<double>::infinity();

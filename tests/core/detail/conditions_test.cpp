@@ -36,7 +36,7 @@ TEST(Conditions, OneOfComparesNumbers) {
     EXPECT_FALSE(oneOf(kind, std::array{16U, 3U}).holds());
 }
 
-TEST(Conditions, NoneOfIsTheOpposite) {
+TEST(Conditions, NoneOfIsTheOppositeOfOneOf) {
     const std::string type = "SyncSignal";
     EXPECT_FALSE(noneOf(type, "SyncSignal").holds());
     EXPECT_FALSE(noneOf(type, "Value", "SyncSignal").holds());

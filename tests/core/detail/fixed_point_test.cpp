@@ -55,7 +55,7 @@ TEST(ToFixed, ProductAndSumAreRoundedSeparatelyOnEveryProcessor) {
 }
 
 /// Products next to a power of two, where a rounding carries into a further bit.
-TEST(ToFixed, PowersOfTwo) {
+TEST(ToFixed, ConvertsPowersOfTwoExactly) {
     for (const double factor : {3.0, 255.0, 65535.0, 1e6, 16777215.0, 1e9}) {
         for (int power = 0; power < 52; ++power) {
             const double value = std::ldexp(1.0, power) / factor;
@@ -124,7 +124,7 @@ TEST(ToFixed, BothZerosGiveZero) {
     }
 }
 
-TEST(ToFixed, WhatHasNo64BitIntegerGivesZero) {
+TEST(ToFixed, ValuesBeyond64BitsGiveZero) {
     const double infinity = DoubleLimits::infinity();
     for (const double value : {DoubleLimits::quiet_NaN(), -DoubleLimits::quiet_NaN(), infinity, -infinity,
                                DoubleLimits::max(), DoubleLimits::lowest(), 1e13, -1e13, 1e300, -1e300}) {
@@ -133,7 +133,7 @@ TEST(ToFixed, WhatHasNo64BitIntegerGivesZero) {
     }
 }
 
-TEST(ToFixed, TheGreatestNumberWitha64BitIntegerIsStillConverted) {
+TEST(ToFixed, TheGreatestValueWithin64BitsIsConverted) {
     const double below63 = std::nextafter(two63, 0.0);  // 2^63 - 1024
     EXPECT_EQ(unsignedOf(below63, 1.0), 4294966272U);
     EXPECT_EQ(signedOf(below63, 1.0), -1024);
@@ -143,7 +143,7 @@ TEST(ToFixed, TheGreatestNumberWitha64BitIntegerIsStillConverted) {
     EXPECT_EQ(signedOf(-two63, 1.0), 0);
 }
 
-TEST(ToFixed, WhatLeavesTheRangeInTheProductOnlyGivesZero) {
+TEST(ToFixed, ValuesWhoseProductExceeds64BitsGiveZero) {
     EXPECT_EQ(unsignedOf(two63 / 1e6 * 1.01, 1e6), 0U);
     EXPECT_EQ(signedOf(-two63 / 1e6 * 1.01, 1e6), 0);
     EXPECT_EQ(unsignedOf(1e308, 1e6), 0U);  // the product is infinite

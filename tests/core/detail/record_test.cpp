@@ -59,7 +59,7 @@ TEST(RecordOfRows, RootWithoutRowsParsesToAnEmptyListAndParsedIsTrue) {
     EXPECT_TRUE(shelf.parsed);
 }
 
-TEST(RecordOfRows, RootOfAnotherNameIsRefusedAndThePreviousRowsSurvive) {
+TEST(RecordOfRows, RootWithADifferentNameIsRefusedAndThePreviousRowsStay) {
     for (const char* const text :
          {"<shelf Version='9'><Book><Title>x</Title></Book></shelf>", "<Shelves/>", "<Shelf>", "<!-- Shelf -->"}) {
         Shelf shelf = filledShelf();

@@ -3,11 +3,11 @@
 #include <tests/bounds/documents.h>
 #include <tests/support/samples.h>
 
-// What the XML library takes time for with the square of its number.
+// Markup for which the XML library needs quadratic time.
 
 namespace lv::test {
 
-/// An unknown element with attributes of different names, in a document with an "Asset1" behind it.
+/// An unknown element with attributes of different names, in a document with an "Asset1" after it.
 [[nodiscard]] inline std::string documentWithAttributes(int count, const std::string& further = "") {
     std::string element = "<a";
     for (int attribute = 0; attribute < count; ++attribute) {
@@ -16,7 +16,7 @@ namespace lv::test {
     return documentOf<AssetInfo>(element + further + "/><Asset1>one</Asset1>");
 }
 
-inline void expectAttributesArePassedOver(int count) {
+inline void expectAttributesAreIgnored(int count) {
     AssetInfo expected;
     expected.asset1.set("one");
     EXPECT_EQ(describe(parsed<AssetInfo>(documentWithAttributes(count))), describe(expected));
