@@ -3,25 +3,13 @@
 #include <lvdata/records/MonitorInfo.h>
 
 #include <tests/analysis/catalogue.h>
-
-#include <fstream>
-#include <sstream>
+#include <tests/analysis/studio_text.h>
 
 #include <gtest/gtest.h>
 
 using lv::analysis::Document;
 using lv::analysis::Refusal;
 using lv::test::catalogue;
-
-namespace {
-
-std::string studio() {
-    std::ostringstream text;
-    text << std::ifstream(LVDATA_SAMPLES_DIR "/studio.xml").rdbuf();
-    return text.str();
-}
-
-}  // namespace
 
 TEST(Document, HoldsTheRecordAndWhatTheTextHolds) {
     const Document document("<AssetInfo><Asset1>Room 4</Asset1><Owner/></AssetInfo>", catalogue());
@@ -47,7 +35,7 @@ TEST(Document, SaysWhyThereIsNoRecord) {
 }
 
 TEST(Document, KeepsTheHLGSystemGammaOfADocumentThatHasIt) {
-    const std::string text = studio();
+    const std::string text = lv::test::studioText();
     const Document document(text, catalogue());
     ASSERT_EQ(document.refusal(), nullptr);
     EXPECT_TRUE(document.record().writeHLGSystemGamma);

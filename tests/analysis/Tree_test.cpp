@@ -88,7 +88,7 @@ TEST(Tree, FindsTheTextThatARecordReads) {
     EXPECT_EQ(textOf("<A/>"), "none");
 }
 
-TEST(Tree, StaysWhereItIsWhenMoved) {
+TEST(Tree, KeepsItsNodesWhenMoved) {
     lv::AssetInfo asset;
     asset.asset1.set("a < b");
     Tree tree = Tree::ofPrinted(asset.toXMLString(false, false));
@@ -98,7 +98,7 @@ TEST(Tree, StaysWhereItIsWhenMoved) {
     EXPECT_EQ(shown(moved.document()), "<AssetInfo @Version=1 @MinorVersion=0<Asset1 'a < b'>>");
 }
 
-TEST(Tree, TakesDeepNestingWithoutStack) {
+TEST(Tree, HandlesDeepNestingWithoutRecursion) {
     std::string text;
     for (int depth = 0; depth < 90; ++depth) {
         text += "<A>";

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <lvdata/analysis/Catalogue.h>
+#include <tests/analysis/catalogue.h>
+
 #include <lvdata/core/DataObject.h>
 #include <lvdata/records/EveryRecord.h>
 
@@ -12,12 +13,6 @@
 // Records whose class is known only at run time.
 
 namespace lv::test {
-
-/// All that the library knows, made once.
-inline const analysis::Catalogue& catalogue() {
-    static const analysis::Catalogue all;
-    return all;
-}
 
 template <class Record>
 bool areEqualAs(const DataObject& left, const DataObject& right) {

@@ -19,7 +19,7 @@ TEST(UTF8, TakesTheFirstAndTheLastOfEachLength) {
     EXPECT_TRUE(isUTF8("\xf0\x90\x80\x80\xf4\x8f\xbf\xbf"));
 }
 
-TEST(UTF8, RefusesEverythingElse) {
+TEST(UTF8, RefusesEveryOtherByteSequence) {
     for (const char* const text : {"\x80", "\xbf", "\xc1\xbf", "\xc2", "\xc2\x7f", "\xc2\xc0", "\xe0\x9f\xbf",
                                    "\xe1\x80", "\xe1\x80\x7f", "\xed\xa0\x80", "\xed\xbf\xbf", "\xf0\x8f\xbf\xbf",
                                    "\xf1\x80\x80", "\xf4\x90\x80\x80", "\xf5\x80\x80\x80", "\xff", "a\xfe"}) {

@@ -1,13 +1,10 @@
 #include <tests/differential/Damage.h>
 #include <tests/differential/Subject.h>
 #include <tests/support/documents.h>
+#include <tests/support/golden.h>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -17,30 +14,14 @@
 namespace differential {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr std::size_t documentsPerRecord = 600;
-
-std::vector<std::string> goldenDocuments(const std::string& record) {
-    std::vector<fs::path> files;
-    for (const fs::directory_entry& entry : fs::directory_iterator(fs::path(LVDATA_GOLDEN_DIR) / record)) {
-        files.push_back(entry.path());
-    }
-    std::sort(files.begin(), files.end());
-    std::vector<std::string> documents;
-    for (const fs::path& path : files) {
-        std::ifstream file(path, std::ios::binary);
-        documents.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-    }
-    return documents;
-}
 
 /// Documents that the record accepts: its sample in several forms, and the golden ones.
 std::vector<std::string> wholeDocuments(const std::string& record) {
     const auto sample = plain_lv::test::subjects().at(record)();
     sample->fill();
     const std::string text = sample->print(false);
-    std::vector<std::string> documents = goldenDocuments(record);
+    std::vector<std::string> documents = lv::test::goldenTextsOf(record);
     documents.insert(documents.end(),
                      {text, text, text, sample->print(true), lv::test::withOtherTexts(text),
                       lv::test::withRepeatedLeaves(text), lv::test::withUnknownContent(text),

@@ -88,7 +88,7 @@ def test_the_source_archive_holds_what_is_built_and_no_tests(source: Path) -> No
     assert not [*source.rglob("__pycache__")]
 
 
-def test_it_holds_the_package_and_nothing_else(wheel: Path) -> None:
+def test_the_wheel_holds_only_the_package(wheel: Path) -> None:
     package = SOURCE_DIR / "python" / "lvdata"
     sources = {str(path.relative_to(package.parent)) for path in package.rglob("*") if path.is_file()}
     sources = {source for source in sources if "__pycache__" not in source}
@@ -100,7 +100,7 @@ def test_it_holds_the_package_and_nothing_else(wheel: Path) -> None:
     assert "lvdata/py.typed" in names
 
 
-def test_its_description(wheel: Path) -> None:
+def test_the_wheel_says_name_licence_and_extras(wheel: Path) -> None:
     text = zipfile.ZipFile(wheel).read(f"lvdata-{VERSION}.dist-info/METADATA").decode()
     description = email.message_from_string(text)
     assert (description["Name"], description["Version"]) == ("lvdata", VERSION)
@@ -109,7 +109,7 @@ def test_its_description(wheel: Path) -> None:
     assert all("extra ==" in each for each in description.get_all("Requires-Dist", [])), "nothing is needed without an extra"
 
 
-def test_it_names_no_place_of_the_machine_that_built_it(installed: Path) -> None:
+def test_the_wheel_holds_no_path_of_the_build_machine(installed: Path) -> None:
     for path in (path for path in installed.rglob("*") if path.is_file()):
         content = path.read_bytes()
         for place in (SOURCE_DIR, WORK_DIR):
@@ -123,13 +123,13 @@ def test_the_module_has_no_run_path_and_needs_system_libraries_alone(module: Pat
     assert needed <= {"libtinyxml2", "liblcms2", "libexpat", "libstdc", "libm", "libgcc_s", "libc"}
 
 
-def test_the_module_shows_nothing_of_the_library(module: Path) -> None:
+def test_the_module_exports_no_symbols_of_the_library(module: Path) -> None:
     shown = run("nm", "--dynamic", "--defined-only", "--demangle", module)
     assert "PyInit__lvdata" in shown
     assert not re.search(r"\blv::", shown)
 
 
-def test_it_works_where_it_is_installed(installed: Path) -> None:
+def test_the_wheel_works_where_it_is_installed(installed: Path) -> None:
     sample = SOURCE_DIR / "examples" / "data" / "studio.xml"
     environment = {"PYTHONPATH": str(installed), "PYTHONDONTWRITEBYTECODE": "1"}
     command = [sys.executable, "-s", "-X", "dev", "-W", "error", HERE / "use_module.py"]

@@ -37,11 +37,11 @@ protected:
 
 TYPED_TEST_SUITE(MemoryRunsOutParsing, EveryRecord, RecordName);
 
-TYPED_TEST(MemoryRunsOutParsing, FreshRecordIsLeftAMixture) {
+TYPED_TEST(MemoryRunsOutParsing, NewRecordIsLeftWithSomeMembersRead) {
     this->readIntoCopiesOf(TypeParam(), compact(filled<TypeParam>()));
 }
 
-TYPED_TEST(MemoryRunsOutParsing, FilledRecordIsLeftAMixture) {
+TYPED_TEST(MemoryRunsOutParsing, FilledRecordIsLeftWithSomeMembersReplaced) {
     this->readIntoCopiesOf(filled<TypeParam>(), this->otherDocument());
 }
 

@@ -29,11 +29,11 @@ protected:
 
 TYPED_TEST_SUITE(MemoryRunsOutPrinting, EveryRecord, RecordName);
 
-TYPED_TEST(MemoryRunsOutPrinting, CompactText) {
+TYPED_TEST(MemoryRunsOutPrinting, OfCompactTextLeavesTheRecordUnchanged) {
     this->print(false);
 }
 
-TYPED_TEST(MemoryRunsOutPrinting, IndentedText) {
+TYPED_TEST(MemoryRunsOutPrinting, OfIndentedTextLeavesTheRecordUnchanged) {
     this->print(true);
 }
 

@@ -1,3 +1,4 @@
+#include <tests/analysis/catalogue.h>
 #include <tests/properties/AnyRecordTest.h>
 #include <tests/support/Changed.h>
 
@@ -7,11 +8,6 @@
 
 namespace lv::test {
 namespace {
-
-const analysis::Catalogue& catalogue() {
-    static const analysis::Catalogue all;
-    return all;
-}
 
 class DiffOfAnyRecord : public AnyRecordTest {
 protected:

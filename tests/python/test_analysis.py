@@ -50,7 +50,7 @@ def test_findings_can_be_asked_for_and_left_out(tool: Tool, studio: Path) -> Non
     assert len(lvdata.check(FAULTY.replace(b"<Owner/>", b"<Owner/>" * 20), most=7)) == 7
 
 
-def test_a_finding_has_a_place(tmp_path: Path) -> None:
+def test_a_finding_has_line_and_path(tmp_path: Path) -> None:
     file = tmp_path / "a.xml"
     file.write_bytes(FAULTY)
     [finding] = lvdata.check(file)
@@ -79,7 +79,7 @@ def test_sources_are_records_paths_and_bytes(studio: Path) -> None:
             lvdata.check(wrong)
 
 
-def test_what_cannot_be_read_says_why(tmp_path: Path) -> None:
+def test_reading_errors_say_why(tmp_path: Path) -> None:
     missing = tmp_path / "missing.xml"
     readers: list[Callable[[Source], object]] = [lvdata.check, *READERS]
     for function in readers:
@@ -142,7 +142,7 @@ def test_a_file_beyond_the_limit_is_not_read(tmp_path: Path) -> None:
         lvdata.check("/dev/zero")
 
 
-def test_texts_that_are_not_utf8(studio: Path) -> None:
+def test_texts_that_are_not_utf8_are_shown_or_refused(studio: Path) -> None:
     text = studio.read_bytes().replace(b"Studio wall", b"Studio \xff wall")
     assert "Studio" in lvdata.report(text).html
     assert lvdata.figures(text)["monitor"]["name"] == "Studio \ufffd wall"
@@ -238,7 +238,7 @@ def test_figures_take_modes_and_units(tool: Tool, studio: Path) -> None:
         lvdata.figures(studio, grid=10001)
 
 
-def test_figures_are_those_that_were_published(studio: Path) -> None:
+def test_figures_have_the_published_values(studio: Path) -> None:
     expected = studio.parents[2] / "tests" / "analysis" / "figures" / "studio_figures.txt"
     assert expected.is_file()
     contrast = lvdata.figures(studio, mode=2)["modes"][0]["figures"]["contrast"]["measured"]

@@ -21,14 +21,14 @@ def code_blocks(page: str) -> list[tuple[int, str]]:
     return [(page.count("\n", 0, block.start(1)), block[1]) for block in blocks]
 
 
-def test_every_block_shows_what_comes_out() -> None:
+def test_every_block_shows_its_output() -> None:
     blocks = code_blocks(PAGE.read_text(encoding="utf-8"))
     assert len(blocks) > 5
     for line, block in blocks:
         assert block.startswith(">>> "), f"{PAGE.name}:{line + 1}: a block without a prompt is not run"
 
 
-def test_the_blocks_do_what_they_show(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+def test_the_blocks_print_what_they_show(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:
     for sample in SAMPLES.glob("*.xml"):
         shutil.copy(sample, tmp_path)
     monkeypatch.chdir(tmp_path)
@@ -41,7 +41,7 @@ def test_the_blocks_do_what_they_show(tmp_path: Path, monkeypatch: pytest.Monkey
     assert not output, "".join(output)
 
 
-def test_the_links_lead_somewhere() -> None:
+def test_every_link_has_a_target() -> None:
     page = PAGE.read_text(encoding="utf-8")
     for link in re.findall(r"\]\(([^)#]+)(?:#[^)]*)?\)", page):
         assert (PAGE.parent / link).exists(), link

@@ -69,7 +69,7 @@ def test_saving_replaces_the_file_or_says_why_not(tmp_path: Path) -> None:
         record.save(tmp_path / "no" / "a.xml")
 
 
-def test_records_in_several_threads() -> None:
+def test_records_can_be_used_in_several_threads() -> None:
     text = (SAMPLES / "studio.xml").read_bytes()
     expected = lvdata.loads(text).to_xml()
     printed: list[bool] = []

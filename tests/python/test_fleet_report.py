@@ -64,7 +64,7 @@ def test_a_report_takes_the_options_of_the_command(monitors: Folder, tmp_path: F
     assert content(tmp_path / "iso2") != content(tmp_path / "fleet")
 
 
-def test_a_known_limit_set_is_not_taken_for_a_file(
+def test_a_known_limit_set_is_not_read_as_a_file(
     monitors: Folder, tmp_path: Folder, monkeypatch: pytest.MonkeyPatch
 ) -> None:
     for name in ("default", "iso14861"):
@@ -86,7 +86,7 @@ def test_a_known_limit_set_is_not_taken_for_a_file(
         ({"documents_per_task": 0}, "documents_per_task must be at least 1"),
     ],
 )
-def test_documents_are_not_blamed_for_wrong_arguments(
+def test_wrong_arguments_are_not_reported_as_bad_documents(
     monitors: Folder, tmp_path: Folder, options: dict[str, Any], message: str
 ) -> None:
     with pytest.raises(ValueError, match=message) as raised:
@@ -95,7 +95,7 @@ def test_documents_are_not_blamed_for_wrong_arguments(
     assert not (tmp_path / "fleet").exists()
 
 
-def test_documents_are_not_blamed_when_workers_do_not_see_the_limits(
+def test_missing_limits_of_workers_are_not_reported_as_bad_documents(
     monitors: Folder, tmp_path: Folder, monkeypatch: pytest.MonkeyPatch
 ) -> None:
     page_of = _fleet_report.page_of
@@ -105,7 +105,7 @@ def test_documents_are_not_blamed_when_workers_do_not_see_the_limits(
         fleet.report(monitors, tmp_path / "fleet", errors="collect")
 
 
-def test_a_document_without_the_only_mode_is_told_once(monitors: Folder, tmp_path: Folder) -> None:
+def test_a_document_without_the_only_mode_is_reported_once(monitors: Folder, tmp_path: Folder) -> None:
     reported = fleet.report(monitors / "4.xml", tmp_path / "fleet", mode=99, errors="collect")
     command = tool("report", monitors / "4.xml", "-o", f"{tmp_path}/command/", "--mode", 99)
     assert messages(reported.errors) == command.stderr.decode().splitlines()
@@ -130,7 +130,7 @@ def test_other_files_are_not_overwritten_by_a_report(monitors: Folder, tmp_path:
     assert (tmp_path / "index.html").read_text() == "mine"
 
 
-def test_a_document_that_changes_meanwhile_is_told(
+def test_a_document_that_changes_meanwhile_is_reported(
     monitors: Folder, tmp_path: Folder, monkeypatch: pytest.MonkeyPatch
 ) -> None:
     text_of = _reports.text_of

@@ -2,7 +2,7 @@ import lvdata
 import pytest
 
 
-def test_the_version_is_told() -> None:
+def test_the_module_has_a_version() -> None:
     assert lvdata.__version__.count(".") == 2
 
 

@@ -46,7 +46,7 @@ def test_no_class_is_derived_from_those_of_elements() -> None:
 
 
 @pytest.mark.parametrize("wrong", ["a.xml\0b", ""])
-def test_what_no_file_can_be_called_is_refused(wrong: str, tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+def test_paths_that_cannot_be_file_names_are_refused(wrong: str, tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:
     monkeypatch.chdir(tmp_path)
     with pytest.raises(ValueError, match="a path"):
         lvdata.load(wrong)
@@ -55,7 +55,7 @@ def test_what_no_file_can_be_called_is_refused(wrong: str, tmp_path: Path, monke
     assert list(tmp_path.iterdir()) == []
 
 
-def test_a_document_is_not_taken_for_a_path() -> None:
+def test_a_document_text_is_not_accepted_as_a_path() -> None:
     with pytest.raises(TypeError, match="a path is a str or an os.PathLike, not bytes"):
         lvdata.load(STUDIO.read_bytes())
 
@@ -106,7 +106,7 @@ def test_errors_name_files_that_are_not_utf8(call: Callable[[str], object], tmp_
         call(file)
 
 
-def test_all_functions_have_the_same_reason() -> None:
+def test_all_functions_give_the_same_reason_for_an_error() -> None:
     reasons = set()
     for function in (lvdata.loads, lvdata.figures, lvdata.table, lvdata.report):
         with pytest.raises(lvdata.ParseError) as raised:

@@ -17,7 +17,7 @@ KINDS = ("gamut", "tone", "balance", "lut", "uniformity", "brightness", "six-col
 
 
 @pytest.mark.parametrize("kind", KINDS)
-def test_pictures_are_those_of_the_tool(tool: Tool, studio: Path, kind: str) -> None:
+def test_pictures_are_the_same_as_from_the_tool(tool: Tool, studio: Path, kind: str) -> None:
     assert lvdata.plot(studio, kind).svg.encode() == tool("plot", kind, studio)
 
 
@@ -56,7 +56,7 @@ def test_a_history_takes_several_documents(tool: Tool, studio: Path, tmp_path: P
         lvdata.plot([studio, other], "history")
 
 
-def test_what_there_is_not_is_refused(studio: Path) -> None:
+def test_pictures_of_missing_data_are_refused(studio: Path) -> None:
     def refusal(*arguments: object, **options: object) -> str:
         with pytest.raises(ValueError) as raised:
             lvdata.plot(studio, *arguments, **options)  # type: ignore[arg-type]
@@ -76,7 +76,7 @@ def test_what_there_is_not_is_refused(studio: Path) -> None:
     assert refusal(mode=77).endswith("studio.xml: no colour mode has the index 77; there are 0, 1, 2, 3, 4")
 
 
-def test_documents_without_modes_and_of_other_classes() -> None:
+def test_documents_without_modes_or_of_other_classes_are_refused() -> None:
     with pytest.raises(ValueError, match="there are no colour modes"):
         lvdata.plot(b"<MonitorInfo/>")
     with pytest.raises(lvdata.ParseError, match="^a document of AssetInfo is not of a monitor$"):

@@ -40,7 +40,7 @@ def printed_by_tool(*arguments: str) -> bytes:
     return done.stdout
 
 
-def test_all_classes_are_there() -> None:
+def test_the_module_has_all_classes() -> None:
     assert len(RECORDS) == 17
     assert len(documents()) > 100
     assert all(getattr(lvdata, cls.__name__) is cls and cls.__name__ in lvdata.__all__ for cls in RECORDS)
@@ -55,7 +55,7 @@ def test_a_document_prints_as_the_tool_prints_it(path: Path) -> None:
 
 
 @EVERY_DOCUMENT
-def test_a_document_is_the_same_json_and_back(path: Path) -> None:
+def test_json_of_a_document_gives_the_same_document_back(path: Path) -> None:
     record = lvdata.load(path)
     text = record.to_json()
     assert text + "\n" == printed_by_tool("convert", "--to", "json", str(path)).decode()
@@ -99,7 +99,7 @@ def test_each_value_is_set_and_read(cls: Any, raw: bool) -> None:
 
 
 @EVERY_CLASS
-def test_none_clears_and_so_does_del(cls: Any) -> None:
+def test_none_and_del_clear_a_value(cls: Any) -> None:
     for name, _ in fields_of(cls):
         fresh, full = cls(), full_element(cls)
         setattr(full, name, None)
@@ -154,7 +154,7 @@ def test_misspelt_attributes_raise(cls: Any) -> None:
 
 
 @EVERY_CLASS
-def test_names_do_not_hide_each_other(cls: Any) -> None:
+def test_names_of_attributes_do_not_hide_methods(cls: Any) -> None:
     methods = {name for base in cls.__mro__[1:] for name in vars(base)} | {"Raw"}
     assert not methods & set(cls._names)
     assert set(cls._names) <= set(dir(cls()))
@@ -177,7 +177,7 @@ def test_help_has_meaning_unit_scale_and_condition() -> None:
     assert "Stored as an integer, times" in lvdata.MonitorParameter.red_gain.__doc__
 
 
-def test_elements_are_shared_and_copies_are_not() -> None:
+def test_elements_are_shared_and_copies_are_separate() -> None:
     setting = lvdata.ParameterSetting(brightness={"type": "Value", "value": 140})
     row = lvdata.ColorModeSettings.ColorMode(type="Standard", parameter_setting=setting)
     settings = lvdata.ColorModeSettings(color_mode=[row])
@@ -209,7 +209,7 @@ def test_an_element_outlives_its_record() -> None:
     assert len(rows) == 3
 
 
-def test_keyed_elements_are_one_object() -> None:
+def test_keyed_elements_are_attributes_of_one_object() -> None:
     profile = lvdata.ProfileData(measured_xyz={"red": [0.1, 0.2, 0.3]})
     assert profile.measured_xyz.red.tolist() == [0.1, 0.2, 0.3]
     assert profile.raw.measured_xyz.red.tolist() == [100000, 200000, 300000]
@@ -227,7 +227,7 @@ def test_keyed_elements_are_one_object() -> None:
         profile.measured_xyz.red = [1, 2]
 
 
-def test_the_switch_follows_what_it_governs() -> None:
+def test_the_switch_is_set_with_the_elements_it_governs() -> None:
     text = (SAMPLES / "studio.xml").read_text()
     assert "<HLGSystemGamma>" in lvdata.loads(text).to_xml()
     gamma = lvdata.ParameterSetting.Gamma(type="Value", value=2.2)

@@ -27,7 +27,7 @@ def history(studio: Path, tmp_path: Path) -> list[Path]:
     return files
 
 
-def test_a_page_is_that_of_the_tool(tool: Tool, studio: Path, golden: list[Path]) -> None:
+def test_a_page_is_the_same_as_from_the_tool(tool: Tool, studio: Path, golden: list[Path]) -> None:
     pages = 0
     for file in [studio, *(file for file in golden if file.name == "typical.xml")]:
         try:

@@ -140,7 +140,7 @@ def test_raw_rows_give_and_take_raw_views() -> None:
     assert record.raw.measurements[0].xyz.tolist() == [1000000, 2, 3]
 
 
-def test_rows_are_one_array() -> None:
+def test_values_of_all_rows_are_read_as_one_array() -> None:
     record = lvdata.load(SAMPLES / "MeasurementData.xml")
     rows = record.measurements
     array = numpy.asarray(rows)
@@ -162,7 +162,7 @@ def test_rows_are_one_array() -> None:
 
 
 @pytest.mark.parametrize("cls", [cls for cls in CLASSES if any(f.kind == "rows" for _, f in fields_of(cls))])
-def test_rows_of_each_class(cls: Any) -> None:
+def test_rows_work_in_each_class(cls: Any) -> None:
     element = full_element(cls)
     for name, field in fields_of(cls):
         if field.kind == "rows":

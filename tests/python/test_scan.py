@@ -72,7 +72,7 @@ def test_documents_are_walked_as_the_tool_does(tool: Tool, archive: Path, studio
     assert len(lvdata.documents(archive / "loop")) == len(names)
 
 
-def test_a_data_frame_is_one_line(archive: Path) -> None:
+def test_a_data_frame_is_made_in_one_line(archive: Path) -> None:
     frame = pandas.DataFrame(lvdata.scan(archive))
     assert list(frame.columns) == [column.name for column in lvdata.tables()["modes"].columns]
     assert len(frame) == 9 * 5

@@ -56,6 +56,6 @@ def test_each_wrong_line_is_an_error(cache: Path) -> None:
         assert any(reason in each for each in found) or not reason, (line, found)
 
 
-def test_the_stub_is_true_of_the_module(cache: Path) -> None:
+def test_the_stub_describes_the_module(cache: Path) -> None:
     status, text = said_by(cache, "mypy.stubtest", "lvdata._records", "lvdata._lvdata", "--ignore-missing-stub")
     assert status == 0, text

@@ -34,11 +34,11 @@ def judge(*arguments: str | Path, search: Path) -> str:
     return done.stdout + done.stderr
 
 
-def test_the_package_and_its_stubs(package: Path) -> None:
+def test_the_package_and_its_stubs_have_correct_types(package: Path) -> None:
     assert judge(package, search=package.parent) == ""
 
 
-def test_sources_that_have_a_stub_beside_them(package: Path) -> None:
+def test_sources_with_stubs_have_correct_types(package: Path) -> None:
     # mypy takes the stub for the module, and would not look at the source.
     for stub in package.glob("*.pyi"):
         if stub.with_suffix(".py").exists():
@@ -47,9 +47,9 @@ def test_sources_that_have_a_stub_beside_them(package: Path) -> None:
 
 
 @pytest.mark.parametrize("script", sorted((ROOT / "python" / "examples").glob("*.py")), ids=lambda path: path.stem)
-def test_the_examples(script: Path, package: Path) -> None:
+def test_the_examples_have_correct_types(script: Path, package: Path) -> None:
     assert judge(ALONE, script, search=package.parent) == ""
 
 
-def test_the_benchmark(package: Path) -> None:
+def test_the_benchmark_has_correct_types(package: Path) -> None:
     assert judge(ALONE, ROOT / "benchmarks" / "python_reading.py", search=package.parent) == ""

@@ -27,7 +27,7 @@ def parameter(**values: Any) -> Any:
 
 
 @EVERY_CLASS
-def test_each_stored_integer_is_a_natural_number_and_back(cls: Any) -> None:
+def test_each_stored_integer_comes_back_from_its_natural_value(cls: Any) -> None:
     for name, field in numbers_of(cls):
         for stored in EDGES:
             if (stored >= 0 or field.is_signed) and (stored < 2**31 or not field.is_signed):
@@ -103,7 +103,7 @@ def test_constants_take_only_their_value() -> None:
         target.type = "Another"
 
 
-def test_rounding_is_that_of_the_digits() -> None:
+def test_values_are_rounded_by_their_decimal_digits() -> None:
     record = parameter()
     for value, stored in [
         (0.0000005, 1),
@@ -123,7 +123,7 @@ def test_rounding_is_that_of_the_digits() -> None:
         assert lvdata.from_json(text).raw.red_gain == stored, value
 
 
-def test_numbers_of_other_types_are_taken() -> None:
+def test_numbers_of_other_types_are_accepted() -> None:
     record = parameter()
     for value in (
         decimal.Decimal("0.25"),
@@ -163,7 +163,7 @@ FORMS = {
 
 
 @pytest.mark.parametrize("form", FORMS)
-def test_arrays_of_any_form_are_taken(form: str) -> None:
+def test_arrays_of_any_form_are_accepted(form: str) -> None:
     numbers = list(range(256))
     record = parameter()
     record.raw.red_lut = FORMS[form](numbers)
@@ -217,7 +217,7 @@ def test_arrays_are_made_on_access_and_cannot_be_written_to() -> None:
     assert record.red_lut is not record.red_lut
 
 
-def test_what_others_depend_on_is_set_first() -> None:
+def test_arguments_that_others_depend_on_are_set_first() -> None:
     first = parameter(is_hdrlut=1, red_lut=[1.0] * 256)
     assert first == parameter(red_lut=[1.0] * 256, is_hdrlut=1)
     assert first.raw.red_lut[0] != parameter(red_lut=[1.0] * 256).raw.red_lut[0]
@@ -265,7 +265,7 @@ def test_a_record_may_change_while_a_value_is_read() -> None:
     assert record.raw.red_lut[255] == 255
 
 
-def test_exceptions_of_values_come_through() -> None:
+def test_exceptions_raised_by_values_are_passed_on() -> None:
     def failing() -> Any:
         yield 1
         raise KeyError("mine")

@@ -71,7 +71,7 @@ TEST(AssetInfo, EachLabelIsReadAloneAndTheSevenOthersStayUnset) {
     }
 }
 
-TEST(AssetInfo, OnlyAsset3PresentSetsAsset3Alone) {
+TEST(AssetInfo, Asset3AloneSetsOnlyAsset3) {
     const auto record = parsed<AssetInfo>("<AssetInfo><Asset3>Room 3</Asset3></AssetInfo>");
     AssetInfo expected;
     expected.asset3.set("Room 3");
@@ -123,7 +123,7 @@ TEST(AssetInfo, EntitiesAndNumericReferencesAreResolved) {
     EXPECT_EQ(asset1From("&amp;lt;"), present("&lt;"));
 }
 
-TEST(AssetInfo, UnknownEntityStaysAsItStands) {
+TEST(AssetInfo, UnknownEntityStaysInTheText) {
     EXPECT_EQ(asset1From("a &unknown; b"), present("a &unknown; b"));
 }
 
@@ -134,13 +134,13 @@ TEST(AssetInfo, MarkupCharactersAreEscapedAndComeBack) {
     EXPECT_EQ(parsed<AssetInfo>(writtenAsset1(text)).asset1, present(text));
 }
 
-TEST(AssetInfo, NonASCIITextIsWrittenAsItStandsAndComesBack) {
+TEST(AssetInfo, NonASCIITextIsWrittenUnchangedAndComesBack) {
     const std::string text = "B\u00fcro \u6771\u4eac \u20ac \U0001F5A5";
     EXPECT_EQ(writtenAsset1(text), written<AssetInfo>("<Asset1>" + text + "</Asset1>"));
     EXPECT_EQ(parsed<AssetInfo>(writtenAsset1(text)).asset1, present(text));
 }
 
-TEST(AssetInfo, ByteOrderMarkInFrontOfTheDocumentIsPassedOver) {
+TEST(AssetInfo, ByteOrderMarkBeforeTheDocumentIsIgnored) {
     const auto record = parsed<AssetInfo>("\xef\xbb\xbf" + compact(filled<AssetInfo>()));
     EXPECT_EQ(describe(record), describe(filledAndParsedBack<AssetInfo>()));
 }
@@ -151,7 +151,7 @@ TEST(AssetInfo, CDATAIsTextAndIsWrittenBackEscaped) {
     EXPECT_EQ(compact(record), written<AssetInfo>("<Asset1>a &lt; b</Asset1>"));
 }
 
-TEST(AssetInfo, CommentsInFrontOfTheTextArePassedOver) {
+TEST(AssetInfo, CommentsBeforeTheTextAreIgnored) {
     EXPECT_EQ(asset1From("<!-- one --><!-- two -->text"), present("text"));
     EXPECT_EQ(asset1From("<!-- one --><![CDATA[text]]>"), present("text"));
 }

@@ -52,11 +52,11 @@ TEST(BasicDataExecutor, SetTypeIsWrittenInsideExecutor) {
     EXPECT_EQ(writtenWith({"a<&>b", true}), written<BasicData>("<Executor><Type>a&lt;&amp;&gt;b</Type></Executor>"));
 }
 
-TEST(BasicDataExecutor, SetButEmptyTypeIsWrittenAllTheSame) {
+TEST(BasicDataExecutor, SetButEmptyTypeIsWrittenAsWell) {
     EXPECT_EQ(writtenWith({"", true}), written<BasicData>("<Executor><Type></Type></Executor>"));
 }
 
-TEST(BasicDataExecutor, UnsetTypeWritesNoExecutorWhateverItsText) {
+TEST(BasicDataExecutor, UnsetTypeWritesNoExecutorRegardlessOfItsText) {
     EXPECT_EQ(writtenWith({"", false}), compact(BasicData()));
     EXPECT_EQ(writtenWith({"Operator", false}), compact(BasicData()));
 }

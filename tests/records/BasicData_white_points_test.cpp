@@ -96,7 +96,7 @@ TEST(BasicData, CorrelationTargetWhiteWithAnXOfMinus07StoresZero) {
     EXPECT_EQ(record.correlationTargetWhite, (property<Stored>{{0, 0, 0}, true}));
 }
 
-TEST_P(WhitePointTest, GetterDividesByAMillionAndFillsNothingElseWhateverTheFlag) {
+TEST_P(WhitePointTest, GetterDividesByAMillionAndFillsNothingElseRegardlessOfTheFlag) {
     for (const bool flag : {false, true}) {
         BasicData record = filled<BasicData>();
         record.*GetParam().stored = {{95047000, 4294967295U, 1}, flag};
@@ -108,7 +108,7 @@ TEST_P(WhitePointTest, GetterDividesByAMillionAndFillsNothingElseWhateverTheFlag
     }
 }
 
-TEST_P(WhitePointTest, FewerThanThreeValuesReadAsEighteenZerosWhateverTheFlag) {
+TEST_P(WhitePointTest, FewerThanThreeValuesReadAsAnAllZeroColourRegardlessOfTheFlag) {
     for (const std::size_t count : {0U, 1U, 2U}) {
         for (const bool flag : {false, true}) {
             BasicData record = filled<BasicData>();
@@ -118,7 +118,7 @@ TEST_P(WhitePointTest, FewerThanThreeValuesReadAsEighteenZerosWhateverTheFlag) {
     }
 }
 
-TEST_P(WhitePointTest, GetterIgnoresValuesBehindTheThird) {
+TEST_P(WhitePointTest, GetterIgnoresValuesAfterTheThird) {
     BasicData record;
     (record.*GetParam().stored).set({1000000, 2000000, 3000000, 4000000, 5000000});
     colour expected;
@@ -154,12 +154,12 @@ TEST_P(WhitePointTest, SetterKeepsTheLow32Bits) {
     EXPECT_EQ(storedFrom(4294.967295, 4294.967296, 4295.0), (Stored{4294967295U, 0, 32704}));
 }
 
-TEST_P(WhitePointTest, SetterStoresZeroWhereThereIsNoInteger) {
+TEST_P(WhitePointTest, SetterStoresZeroForValuesBeyond64Bits) {
     EXPECT_EQ(storedFrom(notANumber, infinity, -infinity), (Stored{0, 0, 0}));
     EXPECT_EQ(storedFrom(1e300, 1e13, -1e13), (Stored{0, 0, 0}));
 }
 
-TEST_P(WhitePointTest, ThreeValuesAreWrittenWhateverTheFlagAndNoOtherNumberIs) {
+TEST_P(WhitePointTest, ThreeValuesAreWrittenRegardlessOfTheFlagAndOtherCountsAreNot) {
     for (std::size_t count = 0; count <= 6; ++count) {
         for (const bool flag : {false, true}) {
             BasicData record;

@@ -60,7 +60,7 @@ TEST(EmulationLUT, EmptyNameIsNotWrittenAndTheNumbersAreAlsoWhenTheyAreZero) {
               "<EmulationLUT><Availability>1</Availability><Index>0</Index><Name> </Name></EmulationLUT>");
 }
 
-TEST(EmulationLUT, TableThatIsNotPresentIsNotWrittenWhateverItHolds) {
+TEST(EmulationLUT, TableThatIsNotPresentIsNotWrittenRegardlessOfItsContent) {
     EXPECT_EQ(writtenBehindTheProfile({}), "");
     EXPECT_EQ(writtenBehindTheProfile({2, 3, "Table", false}), "");
 }
@@ -96,7 +96,7 @@ TEST(EmulationLUT, ElementsOfOtherNamesAndInOtherPlacesDoNotMakeItPresent) {
     EXPECT_FALSE(rowFrom("<BasicData><EmulationLUT/></BasicData>").emulationLUT.present);
 }
 
-TEST(EmulationLUT, IndexAndNameOfTheTableAndOfTheRowAreApart) {
+TEST(EmulationLUT, IndexAndNameOfTheTableAreNotThoseOfTheRow) {
     const Row inTable = rowFrom("<EmulationLUT><Index>6</Index><Name>table</Name></EmulationLUT>");
     EXPECT_FALSE(inTable.index.hasValue || inTable.name.hasValue);
     const Row inRow = rowFrom("<Index>1</Index><Name>row</Name><EmulationLUT/>");

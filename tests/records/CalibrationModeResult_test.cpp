@@ -108,7 +108,7 @@ TEST(CalibrationModeResult, EachPartIsWrittenAloneBeforeTheProfileAndReadBackAlo
     }
 }
 
-TEST(CalibrationModeResult, EachPartWhoseFlagIsClearIsNotWrittenWhateverItHolds) {
+TEST(CalibrationModeResult, EachPartWhoseFlagIsClearIsNotWrittenRegardlessOfItsContent) {
     for (const Part& part : everyPart()) {
         Row row;
         part.fill(row);
@@ -138,7 +138,7 @@ TEST(CalibrationModeResult, FirstOfRepeatedChildrenCounts) {
     EXPECT_EQ(describe(row.basicData), describe(BasicData()));
 }
 
-TEST(CalibrationModeResult, TypeIsWrittenAlwaysAlsoWhenItIsUnsetEmptyOrStale) {
+TEST(CalibrationModeResult, TypeIsAlwaysWrittenEvenWhenUnsetEmptyOrStale) {
     for (const bool flag : {false, true}) {
         for (const char* text : {"", "User", "a\"<&"}) {
             Row row;
@@ -159,7 +159,7 @@ TEST(CalibrationModeResult, TypeIsFoundWhenTheAttributeExists) {
     }
 }
 
-TEST(CalibrationModeResult, ProfileIsWrittenWhateverItsFlag) {
+TEST(CalibrationModeResult, ProfileIsWrittenRegardlessOfItsFlag) {
     for (const bool flag : {false, true}) {
         Row row;
         row.hasProfileData = flag;
@@ -168,7 +168,7 @@ TEST(CalibrationModeResult, ProfileIsWrittenWhateverItsFlag) {
     }
 }
 
-TEST(CalibrationModeResult, ProfileIsReadAndItsFlagTellsWhetherItWasFound) {
+TEST(CalibrationModeResult, ProfileIsReadAndItsFlagSaysWhetherItWasFound) {
     Row expected;
     expected.profileData = filledAndParsedBack<ProfileData>();
     expected.hasProfileData = true;

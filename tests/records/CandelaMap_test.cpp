@@ -114,7 +114,7 @@ TEST_P(CandelaMapTest, ValidMapIsWrittenWithItsValuesAndItsTime) {
     EXPECT_EQ(compact(with({{}, "now", true})), written("<Values></Values><UpdatedAt>now</UpdatedAt>"));
 }
 
-TEST_P(CandelaMapTest, MapThatIsNotValidIsWrittenEmptyWhateverItHolds) {
+TEST_P(CandelaMapTest, MapThatIsNotValidIsWrittenEmptyRegardlessOfItsContent) {
     for (const CandelaMapEntry& entry : {CandelaMapEntry{{}, "", false}, CandelaMapEntry{{1, 2}, "", false},
                                          CandelaMapEntry{{}, "now", false}, CandelaMapEntry{{1, 2}, "now", false}}) {
         EXPECT_EQ(compact(with(entry)), compact(CandelaMap()));

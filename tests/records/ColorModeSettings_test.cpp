@@ -111,7 +111,7 @@ TEST(ColorModeSettings, EveryColorModeElementMakesARowInDocumentOrder) {
     EXPECT_EQ(describe(listOf(rows)), describe(expected));
 }
 
-TEST(ColorModeSettings, RowsStandDirectlyUnderTheRootAndDoNotNest) {
+TEST(ColorModeSettings, RowsAreReadDirectlyUnderTheRootOnly) {
     EXPECT_TRUE(rowsFrom("<Other><ColorMode/></Other>").empty());
     const auto row = rowFrom("<ColorMode><ColorMode><Name>inner</Name></ColorMode></ColorMode>");
     EXPECT_EQ(describe(row), describe(ColorModeSettingsObject()));

@@ -121,7 +121,7 @@ TEST(ColorModeSettingsTypes, TypeAloneChoosesTheRecordsThatAreWrittenWhateverThe
     }
 }
 
-TEST(ColorModeSettingsTypes, TextOfAnUnsetTypeIsWrittenAndSteersAllTheSame) {
+TEST(ColorModeSettingsTypes, TextOfAnUnsetTypeIsWrittenAndDecidesTheRecordsAsWell) {
     for (const ModeType& type : everyType) {
         ColorModeSettingsObject row = rowWith(Records(7));
         row.type = {type.text, false};

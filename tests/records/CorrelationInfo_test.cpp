@@ -52,7 +52,7 @@ TEST(CorrelationInfo, SensorIdentifier0012KeepsItsLeadingZerosAndIsWrittenBackUn
     EXPECT_EQ(compact(record), written<CorrelationInfo>(child));
 }
 
-TEST(CorrelationInfo, EachTextStandsAloneUnderItsOwnName) {
+TEST(CorrelationInfo, EachTextIsWrittenAloneUnderItsOwnName) {
     for (const auto& [element, member] : everyText) {
         CorrelationInfo record;
         (record.*member).set(" 2024/3/7 ");

@@ -1,3 +1,4 @@
+#include <tests/support/parameter_names.h>
 #include <tests/support/samples.h>
 
 #include <gtest/gtest.h>
@@ -55,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(MeasurementDataObject, SignedNotationTest,
                                                           &MeasurementDataObject::PQR_x,
                                                           &MeasurementDataObject::PQR_x,
                                                           {&colour::X, &colour::Y, &colour::Z}}),
-                         [](const auto& tested) { return std::string(tested.param.name); });
+                         nameOfParameter);
 
 TEST(MeasurementDataObject, YOf04MillionthsStoresZeroAndOf05MillionthsStoresOne) {
     colour source;
@@ -76,7 +77,7 @@ TEST(MeasurementDataObject, XOfMinus07StoresMinus699999) {
     EXPECT_EQ(row.XYZ, (Numbers{-699999, 0, 0}));
 }
 
-TEST(MeasurementDataObject, PQRTravelsInTheMembersOfXYZ) {
+TEST(MeasurementDataObject, PQRIsConvertedThroughTheMembersXYZ) {
     colour source;
     source.X = 1.5;
     source.Y = 2.5;
@@ -97,7 +98,7 @@ TEST_P(SignedNotationTest, GetterDividesByAMillionAndFillsNothingElse) {
     EXPECT_EQ(describe((row.*GetParam().get)()), describe(expected));
 }
 
-TEST_P(SignedNotationTest, FewerThanThreeEntriesReadAsEighteenZeros) {
+TEST_P(SignedNotationTest, FewerThanThreeEntriesReadAsAnAllZeroColour) {
     for (const Numbers& few : {Numbers{}, Numbers{5000000}, Numbers{5000000, 6000000}}) {
         MeasurementDataObject row = filled<MeasurementData>().objects.front();
         row.*GetParam().stored = few;
@@ -105,7 +106,7 @@ TEST_P(SignedNotationTest, FewerThanThreeEntriesReadAsEighteenZeros) {
     }
 }
 
-TEST_P(SignedNotationTest, GetterIgnoresEntriesBehindTheThird) {
+TEST_P(SignedNotationTest, GetterIgnoresEntriesAfterTheThird) {
     MeasurementDataObject row;
     row.*GetParam().stored = {1000000, 2000000, 3000000, 4000000};
     const colour read = (row.*GetParam().get)();
@@ -146,7 +147,7 @@ TEST_P(SignedNotationTest, SetterKeepsTheLow32Bits) {
     EXPECT_EQ(storedFrom(4294.967301), 5);
 }
 
-TEST_P(SignedNotationTest, SetterStoresZeroWhereThereIsNoInteger) {
+TEST_P(SignedNotationTest, SetterStoresZeroForValuesBeyond64Bits) {
     for (const double value : {notANumber, infinity, -infinity, 1e300, -1e300, 1e13}) {
         EXPECT_EQ(storedFrom(value), 0) << value;
     }

@@ -36,7 +36,7 @@ Codes storedCMYK(double cyan, double magenta, double yellow, double black) {
     return row.CMYK;
 }
 
-TEST(MeasurementDataObject, FreshRowHoldsNothingAndReadsAsEighteenZerosEverywhere) {
+TEST(MeasurementDataObject, NewRowIsEmptyAndEveryNotationReadsAsAnAllZeroColour) {
     const MeasurementDataObject row;
     EXPECT_EQ(describe(row), "RGB = 0 entries:\nCMYK = 0 entries:\nXYZ = 0 entries:\nCIELAB = 0 entries:\n"
                              "PQR = 0 entries:\n");
@@ -55,13 +55,13 @@ TEST(MeasurementDataObject, RGBGetterDividesBy255AndFillsNothingElse) {
     EXPECT_EQ(describe(row.RGB_x()), describe(expected));
 }
 
-TEST(MeasurementDataObject, RGBOfTwoEntriesReadsAsEighteenZeros) {
+TEST(MeasurementDataObject, RGBOfTwoEntriesReadsAsAnAllZeroColour) {
     MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.RGB = {255, 255};
     EXPECT_EQ(describe(row.RGB_x()), describe(colour()));
 }
 
-TEST(MeasurementDataObject, RGBGetterIgnoresEntriesBehindTheThird) {
+TEST(MeasurementDataObject, RGBGetterIgnoresEntriesAfterTheThird) {
     MeasurementDataObject row;
     row.RGB = {255, 0, 51, 99, 98};
     EXPECT_EQ(row.RGB_x().red, 1.0);
@@ -96,7 +96,7 @@ TEST(MeasurementDataObject, RGBSetterKeepsTheLow32Bits) {
     EXPECT_EQ(storedRGB(4294967295.0 / 255, 4294967296.0 / 255, 4294967301.0 / 255), (Codes{4294967295U, 0, 5}));
 }
 
-TEST(MeasurementDataObject, RGBSetterStoresZeroWhereThereIsNoInteger) {
+TEST(MeasurementDataObject, RGBSetterStoresZeroForValuesBeyond64Bits) {
     EXPECT_EQ(storedRGB(notANumber, infinity, 1e300), (Codes{0, 0, 0}));
 }
 
@@ -111,13 +111,13 @@ TEST(MeasurementDataObject, CMYKGetterDividesBy100AndFillsNothingElse) {
     EXPECT_EQ(describe(row.CMYK_x()), describe(expected));
 }
 
-TEST(MeasurementDataObject, CMYKOfThreeEntriesReadsAsEighteenZeros) {
+TEST(MeasurementDataObject, CMYKOfThreeEntriesReadsAsAnAllZeroColour) {
     MeasurementDataObject row = filled<MeasurementData>().objects.front();
     row.CMYK = {100, 100, 100};
     EXPECT_EQ(describe(row.CMYK_x()), describe(colour()));
 }
 
-TEST(MeasurementDataObject, CMYKGetterIgnoresEntriesBehindTheFourth) {
+TEST(MeasurementDataObject, CMYKGetterIgnoresEntriesAfterTheFourth) {
     MeasurementDataObject row;
     row.CMYK = {10, 20, 30, 40, 50};
     EXPECT_EQ(row.CMYK_x().cyan, 0.1);

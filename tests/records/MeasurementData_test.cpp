@@ -153,7 +153,7 @@ TEST(MeasurementData, RowWithoutAKnownChildIsDropped) {
     EXPECT_TRUE(rowsFrom(rowElement("<Lab>1|2|3</Lab><rgb>1|2|3</rgb>") + rowElement("text")).empty());
 }
 
-TEST(MeasurementData, RowWhoseNotationsStandOneLevelDeeperIsDropped) {
+TEST(MeasurementData, RowWhoseNotationsAreOneLevelDeeperIsDropped) {
     EXPECT_TRUE(rowsFrom(rowElement("<Colour><RGB>1|2|3</RGB></Colour>")).empty());
 }
 
@@ -233,7 +233,7 @@ TEST(MeasurementData, LimitsOfTheNumbersComeBack) {
     EXPECT_EQ(describeRows(parsed<MeasurementData>(compact(data)).objects), describeRows({row}));
 }
 
-TEST(MeasurementData, EmptyPiecesAndWhiteSpaceBetweenTheSeparatorsAreLenient) {
+TEST(MeasurementData, EmptyPiecesAreIgnoredAndWhiteSpaceBetweenSeparatorsIsZero) {
     const auto rows = rowsFrom(rowElement("<RGB>|1|| 2|\n3|</RGB><XYZ>1,2|3.9| </XYZ>"));
     ASSERT_EQ(rows.size(), 1U);
     EXPECT_EQ(rows[0].RGB, (Codes{1, 2, 3}));

@@ -76,7 +76,7 @@ TEST(MonitorConfiguration, TextsAndNumbersAreWrittenEachByItsOwnFlag) {
     }
 }
 
-TEST(MonitorConfiguration, NestedRecordsAreWrittenWhateverTheirFlags) {
+TEST(MonitorConfiguration, NestedRecordsAreWrittenRegardlessOfTheirFlags) {
     for (const bool hasModes : {false, true}) {
         for (const bool hasSchedule : {false, true}) {
             auto record = filled<MonitorConfiguration>();
@@ -189,14 +189,14 @@ TEST(MonitorConfiguration, NestedRecordThatIsMissingClearsItsOwnFlagAndKeepsItsV
     EXPECT_EQ(describe(afterReading(filled<MonitorConfiguration>(), modes)), describe(withoutSchedule));
 }
 
-TEST(MonitorConfiguration, NestedRecordThatWasMissingIsWrittenAsItStillStands) {
+TEST(MonitorConfiguration, NestedRecordThatWasMissingIsWrittenWithItsEarlierValue) {
     auto expected = withClearFlags(filled<MonitorConfiguration>());
     EXPECT_EQ(compact(afterReading(filled<MonitorConfiguration>(), "")), compact(expected));
     EXPECT_NE(compact(expected).find(compact(filled<ColorModeSettings>())), std::string::npos);
     EXPECT_NE(compact(expected).find(compact(filled<SelfCalibrationSchedule>())), std::string::npos);
 }
 
-TEST(MonitorConfiguration, NestedRecordOfAnotherCaseOrPlaceIsMissing) {
+TEST(MonitorConfiguration, NestedRecordWithOtherCaseOrPlaceCountsAsMissing) {
     const std::string modes = compact(filled<ColorModeSettings>());
     const std::string schedule = compact(filled<SelfCalibrationSchedule>());
     for (const std::string& text : {std::string("<colorModeSettings/><selfCalibrationSchedule/>"),
@@ -208,7 +208,7 @@ TEST(MonitorConfiguration, NestedRecordOfAnotherCaseOrPlaceIsMissing) {
     }
 }
 
-TEST(MonitorConfiguration, NestedRecordInsideTheOtherIsMissing) {
+TEST(MonitorConfiguration, NestedRecordInsideTheOtherCountsAsMissing) {
     const auto record =
         parsedFrom<MonitorConfiguration>("<ColorModeSettings><SelfCalibrationSchedule/></ColorModeSettings>");
     EXPECT_TRUE(record.colorModeSettings.hasValue);

@@ -99,7 +99,7 @@ Texts when(bool condition, const Texts& texts) {
 
 const Texts everyGamma = {"101", "102", "103"};
 
-TEST(MonitorInfoHLGSwitch, SwitchOfTheMonitorDecidesWhateverTheNestedRecordsOwnSay) {
+TEST(MonitorInfoHLGSwitch, SwitchOfTheMonitorOverridesThoseOfNestedRecords) {
     for (unsigned int bits = 0; bits < Switches::combinations; ++bits) {
         const Switches switches(bits);
         const std::string text = compact(monitorWith(switches));
@@ -158,7 +158,7 @@ TEST(MonitorInfoHLGSwitch, PrintingChangesNoMemberOfAnyRecordAtAnyLevel) {
     }
 }
 
-TEST(MonitorInfoHLGSwitch, AppendingToADocumentOrAnElementHandsTheSwitchDownTooAndChangesNoMember) {
+TEST(MonitorInfoHLGSwitch, AppendingToADocumentOrAnElementAppliesTheSwitchAndChangesNoMember) {
     for (unsigned int bits = 0; bits < Switches::combinations; ++bits) {
         const Switches switches(bits);
         const auto info = monitorWith(switches);
@@ -186,7 +186,7 @@ TEST(MonitorInfoHLGSwitch, FlagsOfTheNestedRecordsDoNotStopTheSwitch) {
     }
 }
 
-TEST(MonitorInfoHLGSwitch, SwitchOfOnePrintingDoesNotLingerInTheNext) {
+TEST(MonitorInfoHLGSwitch, SwitchOfOnePrintingDoesNotAffectTheNext) {
     auto info = monitorWith(Switches(none));
     for (const bool value : {true, false, true, false}) {
         info.writeHLGSystemGamma = value;
@@ -241,7 +241,7 @@ TEST(MonitorInfoHLGSwitch, MonitorParameterWritesItsGammaByItsFlagAndNotByAnySwi
     }
 }
 
-TEST(MonitorInfoHLGSwitch, GammasOfParametersTargetsAndMonitorParameterStandSideBySide) {
+TEST(MonitorInfoHLGSwitch, GammasOfParametersTargetsAndMonitorParameterAreIndependent) {
     auto info = monitorWith(Switches(1));
     CalibrationModeResultObject row;
     row.hasMonitorParameter = true;
@@ -252,7 +252,7 @@ TEST(MonitorInfoHLGSwitch, GammasOfParametersTargetsAndMonitorParameterStandSide
     EXPECT_EQ(gammasIn(compact(info)), (Texts{"104"}));
 }
 
-TEST(MonitorInfoHLGSwitch, ParsingReadsTheGammasWhateverTheSwitchAndLeavesEverySwitchAlone) {
+TEST(MonitorInfoHLGSwitch, ParsingReadsTheGammasRegardlessOfTheSwitchAndChangesNoSwitch) {
     const std::string document = compact(monitorWith(Switches(all)));
     for (unsigned int bits = 0; bits < 8; ++bits) {
         const Switches switches(bits);

@@ -76,7 +76,7 @@ TEST(MonitorInfo, FilledRecordWritesUUIDAndAllNestedRecordsInOrder) {
     EXPECT_EQ(compact(filled<MonitorInfo>()), expected + "</MonitorInfo>");
 }
 
-TEST(MonitorInfo, NestedRecordsAreWrittenWhateverTheirFlagsSaveTheCandelaMap) {
+TEST(MonitorInfo, NestedRecordsExceptTheCandelaMapAreWrittenRegardlessOfTheirFlags) {
     for (unsigned int flags = 0; flags < subsets; ++flags) {
         auto record = filled<MonitorInfo>();
         std::string expected;
@@ -132,7 +132,7 @@ TEST(MonitorInfo, NestedRecordThatIsMissingClearsItsOwnFlagAndKeepsItsValue) {
     EXPECT_EQ(describe(afterReading(filled<MonitorInfo>(), compact(filled<CandelaMap>()))), describe(withMap));
 }
 
-TEST(MonitorInfo, NestedRecordsThatWereMissingAreWrittenAsTheyStillStandSaveTheCandelaMap) {
+TEST(MonitorInfo, NestedRecordsThatWereMissingExceptTheCandelaMapAreWrittenWithTheirEarlierValues) {
     const auto record = afterReading(filled<MonitorInfo>(), "");
     std::string expected;
     for (const Nested& nested : everyNested()) {
@@ -153,7 +153,7 @@ TEST(MonitorInfo, DocumentWithoutAssetInfoPrintsADefaultOne) {
     EXPECT_NE(compact(record).find(defaultAsset), std::string::npos);
 }
 
-TEST(MonitorInfo, NestedRecordsThatARoundTripGainsAreSet) {
+TEST(MonitorInfo, NestedRecordsAddedByARoundTripAreSet) {
     const auto back = parsed<MonitorInfo>(compact(parsedFrom<MonitorInfo>("")));
     EXPECT_TRUE(back.monitorConfiguration.hasValue);
     EXPECT_TRUE(back.monitorConfiguration.value.colorModeSettings.hasValue);
@@ -166,7 +166,7 @@ TEST(MonitorInfo, NestedRecordsThatARoundTripGainsAreSet) {
     EXPECT_FALSE(back.uuid.hasValue);
 }
 
-TEST(MonitorInfo, UUIDIsSetWhenItsElementExistsAlsoWithoutText) {
+TEST(MonitorInfo, UUIDIsSetWhenItsElementExistsEvenWithoutText) {
     EXPECT_EQ(parsedFrom<MonitorInfo>("").uuid, (property<std::string>{"", false}));
     EXPECT_EQ(parsedFrom<MonitorInfo>("<UUID/>").uuid, (property<std::string>{"", true}));
     EXPECT_EQ(parsedFrom<MonitorInfo>("<UUID></UUID>").uuid, (property<std::string>{"", true}));
@@ -182,7 +182,7 @@ TEST(MonitorInfo, UUIDWithoutTextKeepsTheEarlierOneAndSetsTheFlag) {
     EXPECT_EQ(describe(afterReading(filled<MonitorInfo>(), "<UUID/>")), describe(expected));
 }
 
-TEST(MonitorInfo, UUIDIsAnyText) {
+TEST(MonitorInfo, UUIDTakesAnyText) {
     EXPECT_EQ(parsedFrom<MonitorInfo>("<UUID>&lt;&#65;&amp;</UUID><UUID>second</UUID>").uuid,
               (property<std::string>{"<A&", true}));
     MonitorInfo record;
@@ -190,7 +190,7 @@ TEST(MonitorInfo, UUIDIsAnyText) {
     EXPECT_EQ(parsed<MonitorInfo>(compact(record)).uuid, record.uuid);
 }
 
-TEST(MonitorInfo, NestedRecordOfAnotherCaseOrPlaceIsMissing) {
+TEST(MonitorInfo, NestedRecordWithOtherCaseOrPlaceCountsAsMissing) {
     for (const Nested& nested : everyNested()) {
         std::string missing = "<Other>" + nested.filledText + "</Other>";
         missing += withRootNamed(nested.filledText, 'x' + nested.element.substr(1));

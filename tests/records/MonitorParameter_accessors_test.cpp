@@ -1,3 +1,4 @@
+#include <tests/support/parameter_names.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -47,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(MonitorParameter, NumberAccessTest,
                                                         &MonitorParameter::greenGain_x, &MonitorParameter::greenGain_x},
                                            NumberAccess{"blueGain", 1000000.0, &MonitorParameter::blueGain,
                                                         &MonitorParameter::blueGain_x, &MonitorParameter::blueGain_x}),
-                         [](const auto& tested) { return std::string(tested.param.name); });
+                         nameOfParameter);
 
 TEST_P(NumberAccessTest, GetterDividesTheStoredValueWhetherOrNotItIsSet) {
     for (const bool flag : {false, true}) {
@@ -90,7 +91,7 @@ TEST_P(NumberAccessTest, SetterKeepsTheLow32Bits) {
     EXPECT_EQ(storedFrom(4294967301.0 / GetParam().factor), 5U);
 }
 
-TEST_P(NumberAccessTest, SetterStoresZeroWhereThereIsNoInteger) {
+TEST_P(NumberAccessTest, SetterStoresZeroForValuesBeyond64Bits) {
     for (const double value : {notANumber, infinity, 1e300, 9223372036854775808.0 / GetParam().factor}) {
         EXPECT_EQ(storedFrom(value), 0U) << value;
     }
@@ -149,7 +150,7 @@ INSTANTIATE_TEST_SUITE_P(MonitorParameter, TableAccessTest,
                                                        &MonitorParameter::greenLUT_x, &MonitorParameter::greenLUT_x},
                                            TableAccess{"blueLUT", &MonitorParameter::blueLUT,
                                                        &MonitorParameter::blueLUT_x, &MonitorParameter::blueLUT_x}),
-                         [](const auto& tested) { return std::string(tested.param.name); });
+                         nameOfParameter);
 
 TEST_P(TableAccessTest, GetterDividesByTheScaleThatTheValueOfIsHDRLUTChooses) {
     MonitorParameter record;
@@ -222,7 +223,7 @@ TEST_P(TableAccessTest, SetterKeepsTheLow32Bits) {
     EXPECT_EQ(storedFrom({4.294967295, 4.294967296, 4.294967301}, 1), (Stored{4294967295U, 0, 5}));
 }
 
-TEST_P(TableAccessTest, SetterStoresZeroWhereThereIsNoInteger) {
+TEST_P(TableAccessTest, SetterStoresZeroForValuesBeyond64Bits) {
     for (const unsigned int isHDRLUT : {0U, 1U}) {
         EXPECT_EQ(storedFrom({notANumber, infinity, 1e300, 1e13}, isHDRLUT), (Stored{0, 0, 0, 0}));
     }
@@ -273,7 +274,7 @@ TEST(MonitorParameter, EmulationMatrixKeepsTheLow32Bits) {
     EXPECT_EQ(record.emulationMatrix.value, (std::vector<int>{2147483647, least, least, 2147483647, 5}));
 }
 
-TEST(MonitorParameter, EmulationMatrixStoresZeroWhereThereIsNoInteger) {
+TEST(MonitorParameter, EmulationMatrixStoresZeroForValuesBeyond64Bits) {
     MonitorParameter record;
     record.emulationMatrix_x({notANumber, infinity, -infinity, 1e300, -1e300, 1e13});
     EXPECT_EQ(record.emulationMatrix.value, std::vector<int>(6, 0));

@@ -104,7 +104,7 @@ TEST(ParameterSetting, HLGSystemGammaIsTheOnlyDifferenceThatTheSwitchMakes) {
     }
 }
 
-TEST(ParameterSetting, HLGSystemGammaIsReadWhateverTheSwitchSays) {
+TEST(ParameterSetting, HLGSystemGammaIsReadRegardlessOfTheSwitch) {
     for (const bool value : {false, true}) {
         ParameterSetting record;
         record.writeHLGSystemGamma = value;
@@ -190,7 +190,7 @@ TEST(ParameterSetting, EmptyChildLeavesItsMemberAndTheFlagFollowsTheParameter) {
     }
 }
 
-TEST(ParameterSetting, ChildrenBesideTheirParameterAreNotRead) {
+TEST(ParameterSetting, ChildrenOutsideTheirParameterAreNotRead) {
     for (const auto& [parameter, name, text, set] : everyChild()) {
         ParameterSetting expected;
         setFlag(expected, parameter);

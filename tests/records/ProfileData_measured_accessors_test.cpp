@@ -1,3 +1,4 @@
+#include <tests/support/parameter_names.h>
 #include <tests/support/round_trip.h>
 #include <tests/support/samples.h>
 
@@ -66,13 +67,13 @@ INSTANTIATE_TEST_SUITE_P(ProfileData, MeasuredAccessTest,
                                            Access{"measuredXYZLimited109", &ProfileData::measuredXYZLimited109,
                                                   &ProfileData::measuredXYZLimited109_x,
                                                   &ProfileData::measuredXYZLimited109_x}),
-                         [](const auto& tested) { return std::string(tested.param.name); });
+                         nameOfParameter);
 
 TEST_P(MeasuredAccessTest, FreshRecordReadsAsFiveZeroColours) {
     EXPECT_EQ(describe(read(ProfileData())), describe(PrimaryColours()));
 }
 
-TEST_P(MeasuredAccessTest, GetterDividesByAMillionAndFillsNothingElseWhateverTheFlag) {
+TEST_P(MeasuredAccessTest, GetterDividesByAMillionAndFillsNothingElseRegardlessOfTheFlag) {
     for (const auto& [stored, member] : primaries) {
         for (const bool flag : {false, true}) {
             ProfileData record;
@@ -99,7 +100,7 @@ TEST_P(MeasuredAccessTest, FewerThanThreeEntriesReadAsZeroAndTheOtherColoursAreC
     }
 }
 
-TEST_P(MeasuredAccessTest, GetterIgnoresEntriesBehindTheThird) {
+TEST_P(MeasuredAccessTest, GetterIgnoresEntriesAfterTheThird) {
     for (const auto& [stored, member] : primaries) {
         ProfileData record;
         (record.*GetParam().set).value.*stored = {1000000, 2000000, 3000000, 4000000};
@@ -123,7 +124,7 @@ TEST_P(MeasuredAccessTest, SetterKeepsTheLow32Bits) {
     expectStored(4295.0, 4294.967295, 4294.967296, {32704, 4294967295U, 0});
 }
 
-TEST_P(MeasuredAccessTest, SetterStoresZeroWhereThereIsNoInteger) {
+TEST_P(MeasuredAccessTest, SetterStoresZeroForValuesBeyond64Bits) {
     expectStored(notANumber, infinity, -infinity, {0, 0, 0});
     expectStored(1e300, 1e13, 1.0, {0, 0, 1000000});
 }
@@ -210,7 +211,7 @@ TEST(ProfileDataMeasuredAccessors, Limited109SetterReplacesFourVectorsEmptiesBla
     }
 }
 
-TEST(ProfileDataMeasuredAccessors, Limited109ReturnsAZeroBlackWhateverItHolds) {
+TEST(ProfileDataMeasuredAccessors, Limited109AlwaysReturnsAZeroBlack) {
     ProfileData record;
     record.measuredXYZLimited109.value.black = {1000000, 2000000, 3000000};
     EXPECT_EQ(describe(record.measuredXYZLimited109_x()), describe(PrimaryColours()));

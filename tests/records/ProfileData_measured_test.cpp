@@ -113,7 +113,7 @@ TEST(ProfileDataMeasured, Limited109NeedsNoBlack) {
     EXPECT_EQ(describe(record), describe(expected));
 }
 
-TEST(ProfileDataMeasured, Limited109IsFlaggedWhateverItsBlackHolds) {
+TEST(ProfileDataMeasured, Limited109IsFlaggedRegardlessOfItsBlack) {
     for (const Stored& black : {Stored{}, Stored{1, 2}, Stored{1, 2, 3}}) {
         ProfileData record = complete(false);
         record.measuredXYZLimited109.value.black = black;
@@ -196,7 +196,7 @@ TEST(ProfileDataMeasured, NumbersAreUnsignedAndReadWithoutEverFailing) {
     EXPECT_EQ(record.measuredXYZ.value.green, (Stored{4294967295U, 4294967295U, 0}));
 }
 
-TEST(ProfileDataMeasured, UnsetSetsWriteFiveEmptyColoursWhateverTheyHold) {
+TEST(ProfileDataMeasured, UnsetSetsWriteFiveEmptyColoursRegardlessOfTheirValues) {
     EXPECT_EQ(compact(complete(false)), writtenColours(emptyPanel()));
 }
 
@@ -208,7 +208,7 @@ TEST(ProfileDataMeasured, PanelAloneIsWrittenWithFiveColours) {
                                               measured("Black", "26|27|28")));
 }
 
-TEST(ProfileDataMeasured, Limited109AloneIsWrittenWithFourColoursBehindTheEmptyPanel) {
+TEST(ProfileDataMeasured, Limited109AloneIsWrittenWithFourColoursAfterTheEmptyPanel) {
     ProfileData record = complete(true);
     record.measuredXYZ.hasValue = false;
     record.measuredXYZLimited109.value.black = {1, 2, 3};
@@ -218,7 +218,7 @@ TEST(ProfileDataMeasured, Limited109AloneIsWrittenWithFourColoursBehindTheEmptyP
                              measured("Limited109White", "38|39|40")));
 }
 
-TEST(ProfileDataMeasured, SetsThatTheCallerFlaggedAreWrittenAsTheirVectorsStand) {
+TEST(ProfileDataMeasured, SetsThatTheCallerFlaggedAreWrittenWithTheVectorsTheyHave) {
     ProfileData record;
     record.measuredXYZ.set({{}, {1}, {1, 2}, {1, 2, 3}, {1, 2, 3, 4}});
     record.measuredXYZLimited109.set({{1, 2, 3, 4}, {1, 2}, {}, {0}, {9}});

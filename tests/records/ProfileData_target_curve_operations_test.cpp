@@ -96,7 +96,7 @@ TEST(ProfileDataAppendTargetCurve, AppendsTheChildAndReturnsIt) {
     EXPECT_EQ(appended({{"Formula", 7, {8, 9}}, false}), "<Outer><Curve/></Outer>");
 }
 
-TEST(ProfileDataAppendTargetCurve, AppendsBehindTheLastChildAlsoWhenTheNameIsThereAlready) {
+TEST(ProfileDataAppendTargetCurve, AppendsAfterTheLastChildEvenWhenTheNameExistsAlready) {
     const ParsedDocument document(R"(<Outer><Curve Type="LStar"/><Other/></Outer>)");
     XMLElement outer = document.root();
     const XMLElement child = ProfileData().appendTargetCurve("Curve", outer, {{"Formula", 7, {}}, true});
@@ -166,7 +166,7 @@ TEST(ProfileDataTargetCurveAccessors, SettersKeepTheLow32Bits) {
     EXPECT_EQ(storedLut({4295.0, 4294.967296, 4294.967295}), (Stored{32704, 0, 4294967295U}));
 }
 
-TEST(ProfileDataTargetCurveAccessors, SettersStoreZeroWhereThereIsNoInteger) {
+TEST(ProfileDataTargetCurveAccessors, SettersStoreZeroForValuesBeyond64Bits) {
     for (const double value : {notANumber, infinity, 1e300, 1e13}) {
         EXPECT_EQ(storedFormula(value), 0U) << value;
         EXPECT_EQ(storedLut({value, 1.0}), (Stored{0, 1000000})) << value;

@@ -116,7 +116,7 @@ TEST(ProfileDataTargetCurve, EachTypeDecidesWhatIsReadOverEarlierData) {
     }
 }
 
-TEST(ProfileDataTargetCurve, MissingTypeLeavesTheEarlierOneWhichThenSteersTheReading) {
+TEST(ProfileDataTargetCurve, MissingTypeKeepsTheEarlierOneWhichDecidesWhatIsRead) {
     for (const Channel& channel : everyChannel) {
         for (const Kind& kind : everyKind) {
             Curve expected = {kind.type, 1, {2, 3}};

@@ -73,7 +73,7 @@ TEST(ProfileData, DescriptionIsWrittenWhenItIsSetAlsoWhenItIsEmpty) {
     EXPECT_EQ(compact(record), writtenDescription(""));
 }
 
-TEST(ProfileData, DescriptionIsReadAndItsFlagTellsWhetherItWasFound) {
+TEST(ProfileData, DescriptionIsReadAndItsFlagSaysWhetherItWasFound) {
     EXPECT_EQ(descriptionFrom("<Description>a &amp; b</Description>"), (property<std::string>{"a & b", true}));
     EXPECT_EQ(descriptionFrom("<Description/>"), (property<std::string>{"", true}));
     EXPECT_EQ(descriptionFrom("<Description>1</Description><Description>2</Description>").value, "1");
@@ -90,7 +90,7 @@ TEST(ProfileData, MissingDescriptionKeepsTheEarlierTextAndAnEmptyOneSetsTheFlagO
     EXPECT_EQ(record.description, (property<std::string>{"description 13", true}));
 }
 
-TEST(ProfileData, OrderOfColoursAndCurvesInTheDocumentIsFree) {
+TEST(ProfileData, ColoursAndCurvesAreReadInAnyOrder) {
     const auto record = parsed<ProfileData>(R"(<ProfileData Version="11" MinorVersion="12">)"
                                             R"(<BlueTargetCurve Type="Formula">53</BlueTargetCurve>)"
                                             R"(<MeasuredXYZ Color="Limited109White">38|39|40</MeasuredXYZ>)"

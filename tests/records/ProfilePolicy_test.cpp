@@ -135,7 +135,7 @@ TEST(ProfilePolicy, EachSwitchIsWrittenAloneAndOnlyWhenSetTrueOrFalse) {
     }
 }
 
-TEST(ProfilePolicy, ReflectBlackLevelsOfFalseIsSetAndWrittenBackAndSoIsEverySwitch) {
+TEST(ProfilePolicy, EverySwitchOfFalseIsSetAndWrittenBack) {
     for (const auto& [name, member] : everySwitch) {
         const auto record = parsedFrom<ProfilePolicy>(element(name, "false"));
         ProfilePolicy expected;
@@ -209,7 +209,7 @@ TEST(ProfilePolicy, UpdateRuleWithoutATypeLeavesTheRuleUnsetAndIsDroppedWithItsC
     EXPECT_EQ(compact(record), compact(ProfilePolicy()));
 }
 
-TEST(ProfilePolicy, AttributeOfTheRuleIsTypeInThisCaseOnly) {
+TEST(ProfilePolicy, AttributeOfTheRuleIsTypeInExactlyThisCase) {
     for (const char* attribute : {"type", "TYPE", "Rule"}) {
         const auto record =
             parsedFrom<ProfilePolicy>(std::string("<UpdateRule ") + attribute + R"(="updateRule 13"/>)");

@@ -161,7 +161,7 @@ std::string everyElement() {
     return text + timingElement;
 }
 
-TEST(SelfCalibrationSchedule, EachKindIsReadWithItsOwnAndWithForeignFields) {
+TEST(SelfCalibrationSchedule, EachKindIsReadWithItsOwnFieldsAndThoseOfOtherKinds) {
     for (const unsigned int kind : everyKind()) {
         const auto record = parsedFrom<SelfCalibrationSchedule>(ofKind(kind, everyElement()));
         EXPECT_EQ(describe(record), describe(withEveryFieldSet(kind))) << kind;

@@ -111,7 +111,7 @@ TEST(StandardModeResult, FlagsAloneWriteDefaultRecords) {
                                                            R"(<BasicData Version="3" MinorVersion="0"/>)"));
 }
 
-TEST(StandardModeResult, NestedRecordWithoutContentCountsAsFound) {
+TEST(StandardModeResult, EmptyNestedRecordCountsAsFound) {
     for (const Nested& nested : everyNested()) {
         EXPECT_TRUE(readOver(StandardModeResult(), '<' + nested.name + "/>").*nested.flag) << nested.name;
     }
@@ -146,7 +146,7 @@ TEST(StandardModeResult, MissingRecordClearsItsFlagAndKeepsItsMembers) {
     EXPECT_EQ(describe(readOver(filled<StandardModeResult>(), maxWhiteElement("77"))), describe(expected));
 }
 
-TEST(StandardModeResult, SecondParseHandsEachElementToTheRecordThatIsThere) {
+TEST(StandardModeResult, SecondParseReadsEachElementIntoTheExistingRecord) {
     for (const Nested& nested : everyNested()) {
         const std::string child = '<' + nested.name +
                                   R"( MinorVersion="5"><UsageMinutes>9</UsageMinutes><Measurements>)"

@@ -1,4 +1,5 @@
 #include <tests/support/fixed_point_access.h>
+#include <tests/support/parameter_names.h>
 #include <tests/support/samples.h>
 
 #include <gtest/gtest.h>
@@ -80,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(TargetSetting, TargetSettingPrimaryAccess,
                          ::testing::Values(PrimaryAccess{"red", &Gamut::red, &Gamut::red_x, &Gamut::red_x},
                                            PrimaryAccess{"green", &Gamut::green, &Gamut::green_x, &Gamut::green_x},
                                            PrimaryAccess{"blue", &Gamut::blue, &Gamut::blue_x, &Gamut::blue_x}),
-                         [](const auto& tested) { return std::string(tested.param.name); });
+                         nameOfParameter);
 
 TEST_P(TargetSettingPrimaryAccess, IsHeldInTenThousandths) {
     expectUnsignedFixedPoint(
@@ -192,7 +193,7 @@ TEST(TargetSettingAccessors, LutSetterReplacesTheCurveAndLeavesEverythingElse) {
     EXPECT_EQ(describe(curve), describe(Curve{"PQ", 220, {}, {4, 5}}));
 }
 
-TEST(TargetSettingAccessors, Lut24SetterEmptiesTheOtherCurveAndAppendsBehindItsOwnEntries) {
+TEST(TargetSettingAccessors, Lut24SetterEmptiesTheOtherCurveAndAppendsToItsOwnEntries) {
     Curve curve = {"PQ", 220, {1, 2, 3}, {4, 5}};
     curve.lut24_x({0.0, 1.0});
     EXPECT_EQ(describe(curve), describe(Curve{"PQ", 220, {}, {4, 5, 0, 16777215}}));

@@ -94,7 +94,7 @@ TEST(TargetSettingAdvancedSettings, SettingsWithNothingSetAreAnEmptyElementAndCo
     EXPECT_EQ(describe(back.advancedSettings.value), describe(Settings()));
 }
 
-TEST(TargetSettingAdvancedSettings, NothingIsWrittenForValuesBehindClearedFlags) {
+TEST(TargetSettingAdvancedSettings, ValuesWithClearFlagsAreNotWritten) {
     EXPECT_EQ(compact(withSettings(filledWithClearFlags())), writtenSettings(""));
 }
 
@@ -195,7 +195,7 @@ TEST(TargetSettingAdvancedSettings, GroupWithoutANumberIsUnset) {
     }
 }
 
-TEST(TargetSettingAdvancedSettings, HueAndSaturationOfTheTwoLevelsAreNotConfused) {
+TEST(TargetSettingAdvancedSettings, HueAndSaturationOfTheSettingsAreNotThoseOfSixColors) {
     const Settings outer = filledHavingRead("<hue><red>1</red></hue><saturation><cyan>1</cyan></saturation>"
                                             "<lightness><red>1</red></lightness>");
     EXPECT_EQ(describe(outer), describe(filledWithClearFlags()));

@@ -81,7 +81,7 @@ TEST(TargetSettingGamma, EachTypeOfEachChannelReadsAllChildrenAndSetsTheFlag) {
     }
 }
 
-TEST(TargetSettingGamma, EachChannelAloneSetsTheFlagAlsoWhenItIsEmpty) {
+TEST(TargetSettingGamma, EachChannelAloneSetsTheFlagEvenWhenItIsEmpty) {
     for (const auto& [channel, member] : everyChannel) {
         TargetSetting record = filled<TargetSetting>();
         const Gamma before = record.gamma.value;
@@ -104,7 +104,7 @@ TEST(TargetSettingGamma, OtherChildrenAreReadButLeaveTheFlagClear) {
     EXPECT_EQ(compact(record), compact(TargetSetting()));
 }
 
-TEST(TargetSettingGamma, ChannelsAndOtherChildrenBesideTheGammaAreNotRead) {
+TEST(TargetSettingGamma, ChannelsAndOtherChildrenOutsideTheGammaAreNotRead) {
     const auto record =
         parsedFrom<TargetSetting>("<Gamma/>" + elementOfType("Red", "PQ", curveChildren) +
                                   "<PQHLGClipping>Hard</PQHLGClipping><HLGSystemGamma>110</HLGSystemGamma>"
@@ -174,7 +174,7 @@ TEST(TargetSettingGamma, SystemGammaOf0IsWrittenToo) {
     EXPECT_EQ(compact(record), writtenGamma(curveTexts("", "", "") + "<HLGSystemGamma>0</HLGSystemGamma>"));
 }
 
-TEST(TargetSettingGamma, SystemGammaIsReadWhateverTheSwitchSays) {
+TEST(TargetSettingGamma, SystemGammaIsReadRegardlessOfTheSwitch) {
     for (const bool value : {false, true}) {
         TargetSetting record;
         record.writeHLGSystemGamma = value;

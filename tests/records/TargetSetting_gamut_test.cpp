@@ -112,7 +112,7 @@ TEST(TargetSettingGamut, EachCoordinateIsReadAloneAndLeavesTheOthers) {
     }
 }
 
-TEST(TargetSettingGamut, TypeOfAPrimaryIsNotLookedAt) {
+TEST(TargetSettingGamut, TypeOfAPrimaryIsIgnored) {
     for (const char* attribute : {"", R"( Type="")", R"( Type="Coordinate")", R"( Type="Unknown")", R"( type="x")"}) {
         const std::string text = std::string("<Red") + attribute + "><x>1</x><y>2</y></Red>";
         const Gamut expected = {{1, 2}, {}, {}, "", 0};
@@ -138,7 +138,7 @@ TEST(TargetSettingGamut, ClippingIsReadFromTheValueInsideItOnly) {
     EXPECT_EQ(record.gamut.value.gamutClipping, 4294967295U);
 }
 
-TEST(TargetSettingGamut, ChildrenBesideTheGamutAreNotRead) {
+TEST(TargetSettingGamut, ChildrenOutsideTheGamutAreNotRead) {
     const auto record = parsedFrom<TargetSetting>("<Gamut/>" + primariesText + profileText + clippingText);
     EXPECT_EQ(describe(record), describe(withGamut(Gamut())));
 }

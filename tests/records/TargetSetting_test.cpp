@@ -106,7 +106,7 @@ TEST(TargetSetting, EachMemberIsWrittenAloneAndOnlyWhenSet) {
     }
 }
 
-TEST(TargetSetting, NoMemberIsWrittenForTheValueBehindItsClearedFlag) {
+TEST(TargetSetting, MembersWithClearFlagsAreNotWritten) {
     TargetSetting record = filledWithClearFlags();
     record.advancedSettings.value = filled<TargetSetting>().advancedSettings.value;
     EXPECT_EQ(compact(record), R"(<TargetSetting Version="11" MinorVersion="12"/>)");
@@ -185,7 +185,7 @@ TEST(TargetSetting, GrayBalanceIsSetOnlyByATypeWithText) {
     }
 }
 
-TEST(TargetSetting, BothGenerationsAreHeldReadAndWrittenSideBySide) {
+TEST(TargetSetting, ElementsOfBothGenerationsAreReadAndWrittenTogether) {
     const std::string both = R"(<WhitePoint Type="Temperature"><Temperature>6500</Temperature></WhitePoint>)"
                              R"(<WhitePointV7 Type="Standard"><Standard>D65</Standard></WhitePointV7>)"
                              R"(<Gamma><Red Type="PQ"/><Green Type="PQ"/><Blue Type="PQ"/>)"
@@ -207,7 +207,7 @@ TEST(TargetSetting, BothGenerationsAreHeldReadAndWrittenSideBySide) {
     EXPECT_EQ(compact(record), written<TargetSetting>(both));
 }
 
-TEST(TargetSetting, NoGenerationSetsTheOther) {
+TEST(TargetSetting, ElementsOfOneGenerationDoNotSetThoseOfTheOther) {
     const auto newer = parsedFrom<TargetSetting>(R"(<WhitePointV7 Type=""/><GammaV7 Type=""/><GamutV7 Type=""/>)");
     EXPECT_FALSE(newer.whitePoint.hasValue || newer.gamma.hasValue || newer.gamut.hasValue);
     EXPECT_TRUE(newer.whitePointV7.hasValue && newer.gammaV7.hasValue && newer.gamutV7.hasValue);

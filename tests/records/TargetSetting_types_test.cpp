@@ -97,7 +97,7 @@ TEST(TargetSettingTypes, EachTypeWritesItsOwnChildrenAndNoOthers) {
     }
 }
 
-TEST(TargetSettingTypes, EveryTypeReadsAllChildrenAndDropsForeignOnesWhenWrittenBack) {
+TEST(TargetSettingTypes, EveryTypeReadsAllChildrenAndWritesBackOnlyItsOwn) {
     for (const Tagged& tagged : everyElement) {
         for (const std::string& type : everyType) {
             TargetSetting expected;
@@ -145,7 +145,7 @@ TEST(TargetSettingTypes, TypeAloneLeavesTheEarlierValues) {
     }
 }
 
-TEST(TargetSettingTypes, ElementThatIsMissingKeepsTypeAndValuesBehindAClearedFlag) {
+TEST(TargetSettingTypes, MissingElementKeepsTypeAndValuesAndClearsTheFlag) {
     for (const Tagged& tagged : everyElement) {
         TargetSetting record;
         tagged.set(record, "Value");
@@ -156,7 +156,7 @@ TEST(TargetSettingTypes, ElementThatIsMissingKeepsTypeAndValuesBehindAClearedFla
     }
 }
 
-TEST(TargetSettingTypes, ChildrenBesideTheirElementAndInASecondOneAreNotRead) {
+TEST(TargetSettingTypes, ChildrenOutsideTheFirstElementOfTheirNameAreNotRead) {
     for (const Tagged& tagged : everyElement) {
         TargetSetting expected;
         tagged.setType(expected, "Value");

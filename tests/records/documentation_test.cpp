@@ -1,12 +1,13 @@
 #include <tests/support/MarkdownTable.h>
 #include <tests/support/RecordTable.h>
+#include <tests/support/files.h>
+#include <tests/support/lines.h>
 
 #include <lvdata/records/RecordClass.h>
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <set>
 #include <string>
@@ -19,21 +20,13 @@
 namespace lv::test {
 namespace {
 
-namespace fs = std::filesystem;
 using Cells = std::vector<std::string>;
 
 const fs::path folder = fs::path(LVDATA_DOCS_DIR) / "records";
 
 /// The text of a page; one that cannot be read fails the test.
 std::string pageOf(const std::string& name) {
-    const fs::path path = folder / (name + ".md");
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-bool contains(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
+    return contentOf(folder / (name + ".md"));
 }
 
 std::string versionOf(const Description& record) {

@@ -31,12 +31,12 @@ void expectSeenInSixColours() {
     expectSeen<SixColours>([](auto& colours) { colours.yellow = 1; });
 }
 
-TEST(Equality, OfSixColours) {
+TEST(Equality, SeesEveryMemberOfSixColours) {
     expectSeenInSixColours<MonitorParameter::six_colors_t>();
     expectSeenInSixColours<TargetSetting::advanced_settings_t::advanced_settings_six_colors_t>();
 }
 
-TEST(Equality, OfTheStructuresOfParameterSetting) {
+TEST(Equality, SeesEveryMemberOfTheStructuresOfParameterSetting) {
     expectSeen<ParameterSetting::brightness_t>([](auto& brightness) { brightness.type = "Candela"; });
     expectSeen<ParameterSetting::brightness_t>([](auto& brightness) { brightness.value = 1; });
     expectSeen<ParameterSetting::white_point_t>([](auto& whitePoint) { whitePoint.type = "Fixed"; });
@@ -52,7 +52,7 @@ TEST(Equality, OfTheStructuresOfParameterSetting) {
     expectSeen<ParameterSetting::gamut_t>([](auto& gamut) { gamut.clipping = 1; });
 }
 
-TEST(Equality, OfTheStructuresOfProfileData) {
+TEST(Equality, SeesEveryMemberOfTheStructuresOfProfileData) {
     expectSeen<ProfileData::xyz_set_t>([](auto& set) { set.red = {1}; });
     expectSeen<ProfileData::xyz_set_t>([](auto& set) { set.green = {1}; });
     expectSeen<ProfileData::xyz_set_t>([](auto& set) { set.blue = {1}; });
@@ -63,7 +63,7 @@ TEST(Equality, OfTheStructuresOfProfileData) {
     expectSeen<ProfileData::target_curve>([](auto& curve) { curve.lut = {1}; });
 }
 
-TEST(Equality, OfTheStructuresOfTargetSetting) {
+TEST(Equality, SeesEveryMemberOfTheStructuresOfTargetSetting) {
     expectSeen<TargetSetting::level_t>([](auto& level) { level.type = "Value"; });
     expectSeen<TargetSetting::level_t>([](auto& level) { level.value = 1; });
     expectSeen<TargetSetting::standard_t>([](auto& named) { named.type = "Standard"; });
@@ -77,7 +77,7 @@ TEST(Equality, OfTheStructuresOfTargetSetting) {
     expectSeen<TargetSetting::black_level_t>([](auto& tint) { tint.blue = 1; });
 }
 
-TEST(Equality, OfToneCurves) {
+TEST(Equality, SeesEveryMemberOfToneCurves) {
     using Gamma = TargetSetting::gamma_t;
     expectSeen<Gamma::gamma_color>([](auto& color) { color.type = "Lut"; });
     expectSeen<Gamma::gamma_color>([](auto& color) { color.formula = 1; });
@@ -92,7 +92,7 @@ TEST(Equality, OfToneCurves) {
     expectSeen<Gamma>([](auto& gamma) { gamma.importedLutFile.fileName = "a"; });
 }
 
-TEST(Equality, OfGamuts) {
+TEST(Equality, SeesEveryMemberOfGamuts) {
     using Gamut = TargetSetting::gamut_t;
     expectSeen<Gamut::coordinate>([](auto& primary) { primary.x = 1; });
     expectSeen<Gamut::coordinate>([](auto& primary) { primary.y = 1; });
@@ -103,7 +103,7 @@ TEST(Equality, OfGamuts) {
     expectSeen<Gamut>([](auto& gamut) { gamut.gamutClipping = 1; });
 }
 
-TEST(Equality, OfAdvancedSettings) {
+TEST(Equality, SeesEveryMemberOfAdvancedSettings) {
     using Settings = TargetSetting::advanced_settings_t;
     expectSeen<Settings>([](auto& settings) { settings.hue.value = 1; });
     expectSeen<Settings>([](auto& settings) { settings.saturation.hasValue = true; });
@@ -114,7 +114,7 @@ TEST(Equality, OfAdvancedSettings) {
     expectSeen<Settings>([](auto& settings) { settings.sixColorsLightness.value.yellow = 1; });
 }
 
-TEST(Equality, OfRowsAndMaps) {
+TEST(Equality, SeesEveryMemberOfRowsAndMaps) {
     expectSeen<MeasurementDataObject>([](auto& row) { row.RGB = {1}; });
     expectSeen<MeasurementDataObject>([](auto& row) { row.CMYK = {1}; });
     expectSeen<MeasurementDataObject>([](auto& row) { row.XYZ = {1}; });
@@ -136,7 +136,7 @@ TEST(Equality, OfRowsAndMaps) {
 }
 
 /// Nothing of them can be seen in a member that both have.
-TEST(Equality, OfListsSeesTheNumberOfRows) {
+TEST(Equality, SeesTheNumberOfRowsOfLists) {
     MeasurementData longer;
     longer.objects.resize(2);
     MeasurementData shorter;
@@ -147,7 +147,7 @@ TEST(Equality, OfListsSeesTheNumberOfRows) {
     EXPECT_NE(MeasurementData(), shorter);
 }
 
-TEST(Equality, DoesNotSeeMembersThatNoDocumentHolds) {
+TEST(Equality, IgnoresMembersThatAreNeverWritten) {
     MeasurementData parsed;
     parsed.parsed = true;
     EXPECT_EQ(parsed, MeasurementData());

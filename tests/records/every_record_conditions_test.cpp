@@ -64,7 +64,7 @@ std::size_t waysToFail(const Condition& condition, const DescribedNode& node) {
     }
 }
 
-TYPED_TEST(EveryRecordCondition, ThatDoesNotHoldMakesTheNodeVanish) {
+TYPED_TEST(EveryRecordCondition, ThatDoesNotHoldKeepsTheNodeFromBeingWritten) {
     for (const DescribedNode& node : ownNodes(this->root_)) {
         for (const Condition& condition : node->writtenWhen) {
             for (std::size_t way = 0; way < waysToFail(condition, node); ++way) {
@@ -77,7 +77,7 @@ TYPED_TEST(EveryRecordCondition, ThatDoesNotHoldMakesTheNodeVanish) {
     }
 }
 
-TYPED_TEST(EveryRecordCondition, OfSeveralTextsHoldsForEachOfThem) {
+TYPED_TEST(EveryRecordCondition, OnSeveralTextsHoldsForEachOfThem) {
     for (const DescribedNode& node : ownNodes(this->root_)) {
         for (const Condition& condition : node->writtenWhen) {
             for (const std::string& text : condition.texts) {
@@ -111,7 +111,7 @@ TYPED_TEST(EveryRecordCondition, ThatGatesReadingMakesTheNodeBeIgnored) {
     }
 }
 
-TYPED_TEST(EveryRecordCondition, OfAFlagDecidesWhetherTheNodeIsWritten) {
+TYPED_TEST(EveryRecordCondition, OnAFlagDecidesWhetherTheNodeIsWritten) {
     for (const DescribedNode& node : ownNodes(this->root_)) {
         if (node->isOptional) {
             for (std::size_t way = 0; way < waysToFail(*node->flag, node); ++way) {
@@ -125,7 +125,7 @@ TYPED_TEST(EveryRecordCondition, OfAFlagDecidesWhetherTheNodeIsWritten) {
 }
 
 /// Of several elements that set a flag, each is enough.
-TYPED_TEST(EveryRecordCondition, OfAFlagThatSeveralSetHoldsWithOneOfThem) {
+TYPED_TEST(EveryRecordCondition, OnAFlagThatSeveralElementsSetHoldsWithOneOfThem) {
     for (const DescribedNode& node : ownNodes(this->root_)) {
         const bool isAny = node->isOptional && node->flag->kind != Condition::Kind::haveEntries;
         for (const std::string& kept : isAny ? node->flag->subjects : std::vector<std::string>()) {
@@ -141,7 +141,7 @@ TYPED_TEST(EveryRecordCondition, OfAFlagThatSeveralSetHoldsWithOneOfThem) {
     }
 }
 
-TYPED_TEST(EveryRecordCondition, OfLengthsLetsTheseAndNoOthersBeWritten) {
+TYPED_TEST(EveryRecordCondition, OnLengthsLetsExactlyTheseLengthsBeWritten) {
     for (const DescribedNode& node : ownNodes(this->root_)) {
         for (const std::size_t length : node->lengths) {
             for (const std::size_t entries : {length - 1, length, length + 1}) {

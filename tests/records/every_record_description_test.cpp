@@ -47,7 +47,7 @@ TYPED_TEST(EveryRecordDescription, BeginsWithTheRootElementAndItsVersions) {
     }
 }
 
-TYPED_TEST(EveryRecordDescription, NamesNothingTwiceUnderOneParent) {
+TYPED_TEST(EveryRecordDescription, NamesEachElementOnceUnderOneParent) {
     const Description root = TypeParam::describe();
     for (const DescribedNode& node : withDescendants(DescribedNode(root))) {
         std::set<std::string> steps;
@@ -72,7 +72,7 @@ TYPED_TEST(EveryRecordDescription, KnowsEverySubjectOfACondition) {
     }
 }
 
-TYPED_TEST(EveryRecordDescription, SaysOfEachNodeWhatGoesTogether) {
+TYPED_TEST(EveryRecordDescription, HasConsistentFactsForEachNode) {
     const Description root = TypeParam::describe();
     for (const DescribedNode& node : withDescendants(DescribedNode(root))) {
         EXPECT_EQ(node->name.empty(), node->place == Description::Place::text) << node.name();

@@ -75,7 +75,7 @@ TYPED_TEST(EveryRecordEquality, DoesNotSeeWhatNoDocumentHolds) {
     EXPECT_TRUE(record == TypeParam());
 }
 
-TYPED_TEST(EveryRecordEquality, OfPropertiesComparesFlagAndValue) {
+TYPED_TEST(EveryRecordEquality, ComparesFlagAndValueOfProperties) {
     const property<TypeParam> unset;
     property<TypeParam> flagged;
     flagged.hasValue = true;

@@ -23,7 +23,7 @@ TYPED_TEST(EveryRecordMembers, AreThoseOfTheDescription) {
     EXPECT_NO_THROW(static_cast<void>(boundTo(record)));
 }
 
-TYPED_TEST(EveryRecordMembers, AreNotThoseOfTheDescriptionWithoutOneOfThem) {
+TYPED_TEST(EveryRecordMembers, DifferFromADescriptionWithoutOneOfThem) {
     TypeParam record;
     const Members all = MemberList::listOf(record);
     for (std::size_t index = 0; index < all.size(); ++index) {
@@ -54,7 +54,7 @@ std::string changeOne(T& value, std::size_t place) {
     return changed.path();
 }
 
-TYPED_TEST(EveryRecordMembers, AreAllComparedSaveThoseThatAreInNoDocument) {
+TYPED_TEST(EveryRecordMembers, AreAllComparedExceptThoseThatAreNeverWritten) {
     const auto record = filled<TypeParam>();
     TypeParam other = record;
     EXPECT_TRUE(record == other);

@@ -25,7 +25,7 @@ std::string withCaseChanged(std::string text) {
     return text;
 }
 
-TYPED_TEST(EveryRecordParsing, ElementOfAnotherNameIsRefusedWithEveryMemberUnchanged) {
+TYPED_TEST(EveryRecordParsing, ElementWithADifferentNameIsRefusedWithEveryMemberUnchanged) {
     const std::string name = this->rootName();
     const std::vector<std::string> others = {"Other",    withCaseChanged(name),           name + "X",
                                              "X" + name, name.substr(0, name.size() - 1), "p:" + name};
@@ -106,14 +106,14 @@ TYPED_TEST(EveryRecordParsing, EmptyVersionAttributesCountAsMissing) {
     }
 }
 
-TYPED_TEST(EveryRecordParsing, ForeignVersionIsAcceptedAndWrittenBack) {
+TYPED_TEST(EveryRecordParsing, OtherVersionIsAcceptedAndWrittenBack) {
     const auto record = parsed<TypeParam>('<' + this->rootName() + R"( Version="7"/>)");
     EXPECT_EQ(record.version, (property<unsigned int>{7, true}));
     EXPECT_EQ(record.minorVersion, (property<unsigned int>{TypeParam().minorVersion.value, false}));
     EXPECT_EQ(compact(record), withRootAttribute(compact(TypeParam()), "Version", "7"));
 }
 
-TYPED_TEST(EveryRecordParsing, ForeignMinorVersionIsAcceptedAndWrittenBack) {
+TYPED_TEST(EveryRecordParsing, OtherMinorVersionIsAcceptedAndWrittenBack) {
     const auto record = parsed<TypeParam>('<' + this->rootName() + R"( MinorVersion="7"/>)");
     EXPECT_EQ(record.version, (property<unsigned int>{TypeParam().version.value, false}));
     EXPECT_EQ(record.minorVersion, (property<unsigned int>{7, true}));
@@ -145,7 +145,7 @@ TYPED_TEST(EveryRecordParsing, FirstOfRepeatedChildrenWins) {
     EXPECT_EQ(describe(record), describe(filledAndParsedBack<TypeParam>()));
 }
 
-TYPED_TEST(EveryRecordParsing, OrderOfTheChildrenIsFree) {
+TYPED_TEST(EveryRecordParsing, ChildrenAreReadInAnyOrder) {
     const auto record = parsed<TypeParam>(withChildrenReversed(compact(filled<TypeParam>())));
     EXPECT_EQ(describe(record), describe(filledAndParsedBack<TypeParam>()));
 }

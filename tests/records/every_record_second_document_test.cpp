@@ -85,7 +85,7 @@ class EveryRecordSecondDocument : public EveryRecordTest<Record> {};
 
 TYPED_TEST_SUITE(EveryRecordSecondDocument, EveryRecord, RecordName);
 
-TYPED_TEST(EveryRecordSecondDocument, ReplacesWhatTheFirstOneGave) {
+TYPED_TEST(EveryRecordSecondDocument, ReplacesTheValuesOfTheFirst) {
     for (const auto& [first, second] : pairsOf(this->rootName())) {
         auto record = parsed<TypeParam>(first);
         ASSERT_TRUE(record.parseXMLString(second));
@@ -93,7 +93,7 @@ TYPED_TEST(EveryRecordSecondDocument, ReplacesWhatTheFirstOneGave) {
     }
 }
 
-TYPED_TEST(EveryRecordSecondDocument, ThereIsOneForEveryMember) {
+TYPED_TEST(EveryRecordSecondDocument, ExistsForEveryMember) {
     std::set<std::string> changed;
     for (const auto& [first, second] : pairsOf(this->rootName())) {
         changed.merge(changedMembers(describe(parsed<TypeParam>(first)), describe(parsed<TypeParam>(second))));

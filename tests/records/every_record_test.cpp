@@ -40,7 +40,7 @@ TYPED_TEST(EveryRecordRoundTrip, FreshRecordHasEveryFlagClear) {
     EXPECT_FALSE(fresh.writeHLGSystemGamma);
 }
 
-TYPED_TEST(EveryRecordRoundTrip, RootElementBearsTheNameOfTheClass) {
+TYPED_TEST(EveryRecordRoundTrip, RootElementHasTheNameOfTheClass) {
     EXPECT_EQ(compact(TypeParam()).rfind('<' + this->rootName() + R"( Version=")", 0), 0U);
 }
 

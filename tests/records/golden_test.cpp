@@ -80,11 +80,11 @@ TEST_P(GoldenDocument, IsPrintedAsExpected) {
     EXPECT_EQ(parsedFrom(input())->toXMLString(true, true), expected());
 }
 
-TEST_P(GoldenDocument, ExpectedTextIsPrintedAsItself) {
+TEST_P(GoldenDocument, ExpectedTextIsPrintedUnchanged) {
     EXPECT_EQ(parsedFrom(expected())->toXMLString(true, true), expected());
 }
 
-TEST_P(GoldenDocument, CompactTextSaysTheSame) {
+TEST_P(GoldenDocument, CompactTextReadsAsTheSameRecord) {
     const std::string compactText = parsedFrom(input())->toXMLString(false, false);
     EXPECT_EQ(parsedFrom(compactText)->toXMLString(true, true), expected());
 }

@@ -1,22 +1,18 @@
 #pragma once
 
+#include <tests/support/files.h>
+
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <system_error>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 // The documents of golden/<Record>/. `<name>.xml` is read into a fresh record of that class, `<name>.expected.xml` is
 // the text that it then prints; beside that, `<name>.hlg.expected.xml` is what it prints with `writeHLGSystemGamma`
 // set.
 
 namespace lv::test {
-
-namespace fs = std::filesystem;
 
 inline constexpr const char* documentEnd = ".xml";
 inline constexpr const char* expectedEnd = ".expected.xml";
@@ -32,11 +28,13 @@ inline constexpr const char* expectedEnd = ".expected.xml";
     return entries;
 }
 
-/// The text of a file; one that cannot be read fails the test.
-[[nodiscard]] inline std::string contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
+/// The texts of a record's documents, and those that are expected of them, in the order of their names.
+[[nodiscard]] inline std::vector<std::string> goldenTextsOf(const std::string& record) {
+    std::vector<std::string> texts;
+    for (const fs::path& path : goldenFilesOf(record)) {
+        texts.push_back(contentOf(path));
+    }
+    return texts;
 }
 
 }  // namespace lv::test

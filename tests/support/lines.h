@@ -17,6 +17,11 @@ inline std::vector<std::string> linesOf(const std::string& text) {
     return lines;
 }
 
+/// Whether the text has that part: shorter than a matcher when it has not.
+inline bool contains(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
 /// Takes `end` off the text; false when it does not end so.
 inline bool removeEnd(std::string& text, std::string_view end) {
     const bool found = text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;

@@ -2,10 +2,14 @@
 
 #include "ToolTest.h"
 
+#include <tests/support/lines.h>
+
 #include <algorithm>
 #include <string>
 
 #include <gmock/gmock.h>
+
+using lv::test::contains;
 
 inline const std::string studio = LVDATA_EXAMPLE_DATA "/studio.xml";
 
@@ -27,11 +31,6 @@ inline std::string monitor(const MonitorText& text = {}) {
            text.time +
            "</CalibratedTime><BasicData Version='3' MinorVersion='0'><JustCalibratedWhite>114132400|120027400|130626000"
            "</JustCalibratedWhite></BasicData></ColorMode></CalibrationModeResult></MonitorInfo>";
-}
-
-/// Whether a page or a picture has that text: shorter than a matcher when it has not.
-inline bool has(const std::string& page, const std::string& text) {
-    return page.find(text) != std::string::npos;
 }
 
 /// A test of a subcommand that tells of monitors.

@@ -70,7 +70,7 @@ TEST_F(OutputToPipe, WritesLargeText) {
     EXPECT_EQ(written(), std::string(1000, 'x'));
 }
 
-TEST_F(OutputToPipe, TellsBeforeItWrites) {
+TEST_F(OutputToPipe, CallsBackBeforeItWrites) {
     tool::Output output(writer());
     std::string before = "nothing";
     output.callBeforeWriting([this, &before] { before = "before: " + written(); });
@@ -94,7 +94,7 @@ TEST_F(OutputToPipe, IsWrittenBeforeAMessage) {
     EXPECT_EQ(before, "one");
 }
 
-TEST_F(OutputToPipe, TellsThatTheReaderIsGone) {
+TEST_F(OutputToPipe, ReportsThatTheReaderIsGone) {
     tool::Output output(writer());
     closeReader();
     output.write("one");

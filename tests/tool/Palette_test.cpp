@@ -52,12 +52,12 @@ private:
     int output_;
 };
 
-TEST_F(ColorTest, IsOnByItselfOnATerminal) {
+TEST_F(ColorTest, IsOnByDefaultOnATerminal) {
     EXPECT_TRUE(tool::isColored(ColorChoice::automatic));
     EXPECT_FALSE(tool::isColored(ColorChoice::never));
 }
 
-TEST_F(ColorTest, IsOffByItselfElsewhere) {
+TEST_F(ColorTest, IsOffByDefaultElsewhere) {
     const int file = ::open("/dev/null", O_WRONLY);  // NOLINT(cppcoreguidelines-pro-type-vararg)
     ::dup2(file, STDOUT_FILENO);
     ::close(file);
@@ -65,7 +65,7 @@ TEST_F(ColorTest, IsOffByItselfElsewhere) {
     EXPECT_TRUE(tool::isColored(ColorChoice::always));
 }
 
-TEST_F(ColorTest, HeedsNoColorUnlessItIsEmpty) {
+TEST_F(ColorTest, FollowsTheVariableNoColorUnlessItIsEmpty) {
     ::setenv("NO_COLOR", "1", 1);
     EXPECT_FALSE(tool::isColored(ColorChoice::automatic));
     EXPECT_TRUE(tool::isColored(ColorChoice::always));
@@ -73,7 +73,7 @@ TEST_F(ColorTest, HeedsNoColorUnlessItIsEmpty) {
     EXPECT_TRUE(tool::isColored(ColorChoice::automatic));
 }
 
-TEST_F(ColorTest, HeedsTheKindOfTerminal) {
+TEST_F(ColorTest, DependsOnTheKindOfTerminal) {
     ::setenv("TERM", "dumb", 1);
     EXPECT_FALSE(tool::isColored(ColorChoice::automatic));
     ::unsetenv("TERM");

@@ -10,7 +10,7 @@ namespace {
 using namespace std::chrono_literals;
 using tool::progressText;
 
-TEST(ProgressText, TellsWhatIsKnown) {
+TEST(ProgressText, ShowsWhatIsKnown) {
     EXPECT_EQ(progressText(0, std::nullopt, 0s), "0 files");
     EXPECT_EQ(progressText(0, 500, 1s), "0 of 500 files");
     EXPECT_EQ(progressText(120, std::nullopt, 3s), "120 files, 40/s");
@@ -109,7 +109,7 @@ TEST_F(InputCountTest, CountsWhatCannotBeWalked) {
     EXPECT_EQ(totalOf({{path("empty"), "x.xml"}, {}, false}), 2);
 }
 
-TEST_F(InputCountTest, LeavesListsAloneThatCanBeReadOnlyOnce) {
+TEST_F(InputCountTest, DoesNotReadListsThatCanBeReadOnlyOnce) {
     for (const std::string list : {"-", "/dev/null"}) {
         const tool::InputOptions options{{}, {list}, false};
         const tool::InputCount count(options);

@@ -1,9 +1,10 @@
 #include "Transcript.h"
 
+#include <tests/support/lines.h>
+
 #include <cstddef>
 #include <iterator>
 #include <regex>
-#include <sstream>
 
 namespace {
 
@@ -136,10 +137,5 @@ bool showsStreams(const Lines& shown, const Lines& output, const Lines& error) {
 }
 
 std::vector<std::string> linesOf(const std::string& text) {
-    Lines lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return withoutEmptyEnd(lines);
+    return withoutEmptyEnd(lv::test::linesOf(text));
 }

@@ -102,7 +102,7 @@ TEST_P(BatchTest, GoesOnAfterInputsThatFail) {
     EXPECT_EQ(batch.status, ExitStatus::failed);
 }
 
-TEST_P(BatchTest, NamesTheInputWhateverWentWrong) {
+TEST_P(BatchTest, NamesTheInputInEveryMessage) {
     const auto fail = [](const Input& input) -> std::string {
         if (input.file == "-") {
             throw std::bad_alloc();

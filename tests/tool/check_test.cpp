@@ -76,7 +76,7 @@ TEST_F(Check, LeavesItsInputsAlone) {
     EXPECT_THAT(names(), ElementsAre("error.xml", "good.xml", "remark.xml", "warning.xml"));
 }
 
-TEST_F(Check, FailsOnWhatItIsTold) {
+TEST_F(Check, FailsOnTheSeverityThatIsAskedFor) {
     const auto statusFor = [this](const std::string& failOn, const std::string& file) {
         return check({"--fail-on", failOn, file}).exitCode;
     };
@@ -89,7 +89,7 @@ TEST_F(Check, FailsOnWhatItIsTold) {
     EXPECT_EQ(check({"--fail-on=never", "error.xml"}).output, check({"error.xml"}).output);
 }
 
-TEST_F(Check, GoesOnAfterTroubleAndTheWorstStatusWins) {
+TEST_F(Check, ContinuesAfterErrorsAndHasTheWorstStatus) {
     const Outcome outcome = check({"missing.xml", "warning.xml", "good.xml"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.output,
@@ -99,14 +99,14 @@ TEST_F(Check, GoesOnAfterTroubleAndTheWorstStatusWins) {
     EXPECT_EQ(check({"good.xml", "warning.xml"}).exitCode, 1);
 }
 
-TEST_F(Check, TakesWhatIsBeyondALimitForTrouble) {
+TEST_F(Check, ReportsDocumentsBeyondALimit) {
     const Outcome outcome = check({"--max-elements", "1", "warning.xml"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.output, "0 documents, no findings, 1 could not be read\n");
     EXPECT_EQ(outcome.error, "warning.xml: error: line 2: more than 1 element (limit: --max-elements)\n");
 }
 
-TEST_F(Check, FindsWhatIsNoRecord) {
+TEST_F(Check, ReportsDocumentsThatAreNotRecords) {
     write("text.xml", "Room 4");
     write("nul.xml", good + '\0');
     EXPECT_THAT(check({"text.xml"}).output,
@@ -156,7 +156,7 @@ TEST_F(Check, SaysHowManyFindingsItDoesNotList) {
     EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 1'002);
 }
 
-TEST_F(Check, KeepsHostileTextsToShortLines) {
+TEST_F(Check, CutsLongTextsInFindings) {
     write("hostile.xml", "<AssetInfo><" + std::string(100'000, 'a') + "/><B\x1B[31m\u2028\xFF x='1'/></AssetInfo>");
     const std::string output = check({"--color", "never", "hostile.xml"}).output;
     EXPECT_LT(output.size(), 1'000U);
@@ -165,7 +165,7 @@ TEST_F(Check, KeepsHostileTextsToShortLines) {
     EXPECT_THAT(check({"bytes.xml"}).output, HasSubstr(R"(unknown attribute "\xFF\xFE" is dropped)"));
 }
 
-TEST_F(Check, ColoursItsOutputWhenTold) {
+TEST_F(Check, ColoursItsOutputOnRequest) {
     EXPECT_THAT(check({"--color", "always", "warning.xml"}).output, HasSubstr("\x1B["));
     EXPECT_THAT(check({"--color", "auto", "warning.xml"}).output, Not(HasSubstr("\x1B[")));
 }
@@ -187,7 +187,7 @@ TEST_F(Check, PrintsJSON) {
     })"));
 }
 
-TEST_F(Check, PrintsJSONWithoutFindingsAndInTrouble) {
+TEST_F(Check, PrintsJSONWithoutFindingsAndAfterErrors) {
     json nothing = json::parse(
         R"({"findings": [], "documents": 1, "unreadable": 0, "documents_with_findings": 0, "errors": 0, "warnings": 0, "infos": 0})");
     EXPECT_EQ(parsed(check({"--format=json", "good.xml"})), nothing);

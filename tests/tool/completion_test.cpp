@@ -54,13 +54,13 @@ private:
     }
 };
 
-TEST_F(Completion, OfBashIsAScript) {
+TEST_F(Completion, ForBashIsAScript) {
     EXPECT_EQ(runBash(std::string("bash -n ") + bashScript), done());
     EXPECT_EQ(runBash(std::string("source ") + bashScript + "; complete -p lvdata"),
               printed("complete -F _lvdata lvdata\n"));
 }
 
-TEST_F(Completion, OfBashOffersSubcommandsAndEveryOption) {
+TEST_F(Completion, ForBashOffersSubcommandsAndEveryOption) {
     EXPECT_THAT(bashOffers("lvdata ''"), IsSupersetOf(subcommands()));
     EXPECT_THAT(bashOffers("lvdata -"), UnorderedElementsAreArray(optionsIn(help(""))));
     for (const std::string& subcommand : subcommands()) {
@@ -68,7 +68,7 @@ TEST_F(Completion, OfBashOffersSubcommandsAndEveryOption) {
     }
 }
 
-TEST_F(Completion, OfBashKnowsValues) {
+TEST_F(Completion, ForBashOffersValues) {
     write("some name.xml", "");
     EXPECT_THAT(bashOffers("lvdata format so"), ElementsAre("some name.xml"));
     EXPECT_THAT(bashOffers("lvdata format --compact -o so"), ElementsAre("some name.xml"));
@@ -79,7 +79,7 @@ TEST_F(Completion, OfBashKnowsValues) {
     EXPECT_THAT(bashOffers("lvdata for"), ElementsAre("format"));
 }
 
-TEST_F(Completion, OfFishOffersSubcommandsAndEveryOption) {
+TEST_F(Completion, ForFishOffersSubcommandsAndEveryOption) {
     if (!has("fish")) {
         GTEST_SKIP() << "fish is not installed";
     }
@@ -91,7 +91,7 @@ TEST_F(Completion, OfFishOffersSubcommandsAndEveryOption) {
     }
 }
 
-TEST_F(Completion, OfFishKnowsValues) {
+TEST_F(Completion, ForFishOffersValues) {
     if (!has("fish")) {
         GTEST_SKIP() << "fish is not installed";
     }
@@ -101,7 +101,7 @@ TEST_F(Completion, OfFishKnowsValues) {
     EXPECT_THAT(fishOffers("lvdata format --max-size so"), ElementsAre());
 }
 
-TEST_F(Completion, OfZshNamesEveryOption) {
+TEST_F(Completion, ForZshOffersEveryOption) {
     if (has("zsh")) {
         EXPECT_EQ(runBash(std::string("zsh -n ") + zshScript), done());
     }

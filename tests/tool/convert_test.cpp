@@ -66,7 +66,7 @@ TEST_F(Convert, MakesXMLOfJSON) {
     EXPECT_THAT(convert({"xml", "a.json", "--compact"}).output, EndsWith("<Asset1>one, two</Asset1></AssetInfo>\n"));
 }
 
-TEST_F(Convert, BringsADocumentThereAndBack) {
+TEST_F(Convert, RestoresADocumentFromItsJSON) {
     ASSERT_EQ(convert({"json", LVDATA_EXAMPLE_DATA "/studio.xml", "-o", "studio.json"}), printed(""));
     EXPECT_EQ(convert({"xml", "studio.json"}).output,
               run({"format", "--hlg-system-gamma", LVDATA_EXAMPLE_DATA "/studio.xml"}).output);
@@ -98,7 +98,7 @@ TEST_F(Convert, RefusesJSONBeyondTheLimits) {
               failed("a.json: error: line 2: more than 2 nodes (limit: --max-nodes)"));
 }
 
-TEST_F(Convert, TellsWhatARecordDropsOfJSON) {
+TEST_F(Convert, ReportsWhatARecordDropsOfJSON) {
     const std::string row = R"({"type":"Calibraton","target":{"type":"Lumivale"}})";
     write("a.json", R"({"color_mode_settings":{"color_mode":[)" + row + "]}}");
     const Outcome one = convert({"xml", "a.json"});
@@ -139,7 +139,7 @@ TEST_F(Convert, RefusesOptionsThatDoNotGoTogether) {
     EXPECT_EQ(convert({"yaml", "a.xml"}).exitCode, 2);
 }
 
-TEST_F(Convert, TellsWhatARecordDropsOfXML) {
+TEST_F(Convert, ReportsWhatARecordDropsOfXML) {
     write("a.xml", "<AssetInfo><Owner/><Asset1>Room 4</Asset1></AssetInfo>");
     const Outcome outcome = run({"convert", "--to", "jsonl", "a.xml"});
     EXPECT_EQ(outcome.exitCode, 1);

@@ -1,18 +1,17 @@
 #include "ToolTest.h"
 
+#include <tests/analysis/diff/documents.h>
+
 #include <gmock/gmock.h>
 
 namespace {
 
+using lv::test::documentWithGamma;
 using testing::HasSubstr;
 using testing::StartsWith;
 
 Outcome found(const std::string& text) {
     return {1, text, ""};
-}
-
-std::string gamma(const std::string& value) {
-    return "<ParameterSetting><Gamma Type='Value'><Value>" + value + "</Value></Gamma></ParameterSetting>";
 }
 
 std::string asset(const std::string& text) {
@@ -33,42 +32,47 @@ protected:
 };
 
 TEST_F(DiffCommand, SaysNothingOfEqualRecords) {
-    EXPECT_EQ(diff(gamma("220"), "<!-- the same -->" + gamma(" 0220 ")), done());
+    EXPECT_EQ(diff(documentWithGamma("220"), "<!-- the same -->" + documentWithGamma(" 0220 ")), done());
 }
 
 TEST_F(DiffCommand, ListsDifferencesInALineEach) {
-    EXPECT_EQ(diff(gamma("220"), gamma("240")), found("ParameterSetting/Gamma/Value: 2.2 -> 2.4\n"));
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("240")),
+              found("ParameterSetting/Gamma/Value: 2.2 -> 2.4\n"));
     EXPECT_EQ(diff(asset("a"), "<AssetInfo Version='2'/>"),
               found("AssetInfo/@Version: 1 -> 2\nAssetInfo/Asset1: cleared, was \"a\"\n"));
 }
 
 TEST_F(DiffCommand, LeavesItsInputsAlone) {
-    EXPECT_EQ(diff(gamma("220"), gamma("240")).exitCode, 1);
-    EXPECT_EQ(read("a.xml"), gamma("220"));
-    EXPECT_EQ(read("b.xml"), gamma("240"));
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("240")).exitCode, 1);
+    EXPECT_EQ(read("a.xml"), documentWithGamma("220"));
+    EXPECT_EQ(read("b.xml"), documentWithGamma("240"));
     EXPECT_EQ(names(), (std::vector<std::string>{"a.xml", "b.xml"}));
 }
 
 TEST_F(DiffCommand, ReadsStandardInputOnce) {
-    write("a.xml", gamma("220"));
-    EXPECT_EQ(run({"diff", "a.xml", "-"}, {gamma("240")}), found("ParameterSetting/Gamma/Value: 2.2 -> 2.4\n"));
-    EXPECT_EQ(run({"diff", "-", "a.xml"}, {gamma("240")}), found("ParameterSetting/Gamma/Value: 2.4 -> 2.2\n"));
-    EXPECT_EQ(run({"diff", "-", "-"}, {gamma("240")}),
+    write("a.xml", documentWithGamma("220"));
+    EXPECT_EQ(run({"diff", "a.xml", "-"}, {documentWithGamma("240")}),
+              found("ParameterSetting/Gamma/Value: 2.2 -> 2.4\n"));
+    EXPECT_EQ(run({"diff", "-", "a.xml"}, {documentWithGamma("240")}),
+              found("ParameterSetting/Gamma/Value: 2.4 -> 2.2\n"));
+    EXPECT_EQ(run({"diff", "-", "-"}, {documentWithGamma("240")}),
               failed("lvdata: error: only one of the two documents can be standard input"));
 }
 
 TEST_F(DiffCommand, CountsWhatIsWithinTolerance) {
-    EXPECT_EQ(diff(gamma("220"), gamma("230"), {"--tolerance", "gamma=0.1"}),
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("230"), {"--tolerance", "gamma=0.1"}),
               printed("not listed: 1 within tolerance\n"));
-    EXPECT_EQ(diff(gamma("220"), gamma("231"), {"--tolerance", "gamma=0.1"}),
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("231"), {"--tolerance", "gamma=0.1"}),
               found("ParameterSetting/Gamma/Value: 2.2 -> 2.31\n"));
-    EXPECT_EQ(diff(gamma("220"), gamma("230"), {"--tolerance", "gamma=0.1", "--tolerance", "duv=1,de00=1"}).exitCode,
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("230"),
+                   {"--tolerance", "gamma=0.1", "--tolerance", "duv=1,de00=1"})
+                  .exitCode,
               0);
-    EXPECT_EQ(diff(gamma("220"), gamma("230"), {"--tolerance=duv=1,gamma=0.1"}).exitCode, 0);
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("230"), {"--tolerance=duv=1,gamma=0.1"}).exitCode, 0);
 }
 
 TEST_F(DiffCommand, RefusesAToleranceOfAnUnknownKind) {
-    const Outcome outcome = diff(gamma("220"), gamma("230"), {"--tolerance", "colour=1"});
+    const Outcome outcome = diff(documentWithGamma("220"), documentWithGamma("230"), {"--tolerance", "colour=1"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.output, "");
     EXPECT_THAT(outcome.error,
@@ -77,14 +81,16 @@ TEST_F(DiffCommand, RefusesAToleranceOfAnUnknownKind) {
 }
 
 TEST_F(DiffCommand, LeavesOutIgnoredPaths) {
-    EXPECT_EQ(diff(gamma("220"), gamma("230"), {"--ignore", "ParameterSetting/Gamma"}),
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("230"), {"--ignore", "ParameterSetting/Gamma"}),
               printed("not listed: 1 ignored\n"));
-    EXPECT_EQ(diff(gamma("220"), gamma("230"), {"--ignore", "//Value", "--ignore", "//Fixed"}).exitCode, 0);
-    EXPECT_EQ(diff(gamma("220"), gamma("230"), {"--ignore", ""}).exitCode, 2);
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("230"), {"--ignore", "//Value", "--ignore", "//Fixed"})
+                  .exitCode,
+              0);
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("230"), {"--ignore", ""}).exitCode, 2);
 }
 
 TEST_F(DiffCommand, WritesNothingButJSONOnRequest) {
-    EXPECT_EQ(diff(gamma("220"), gamma("240"), {"--format", "json"}),
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("240"), {"--format", "json"}),
               found("{\n"
                     "  \"differences\": [\n"
                     "    {\n"
@@ -98,7 +104,7 @@ TEST_F(DiffCommand, WritesNothingButJSONOnRequest) {
                     "  \"within_tolerance\": 0,\n"
                     "  \"ignored\": 0\n"
                     "}\n"));
-    const Outcome none = diff(gamma("220"), gamma("220"), {"--format", "json"});
+    const Outcome none = diff(documentWithGamma("220"), documentWithGamma("220"), {"--format", "json"});
     EXPECT_EQ(none.exitCode, 0);
     EXPECT_THAT(none.output, HasSubstr("\"differences\": []"));
 }
@@ -113,14 +119,14 @@ TEST_F(DiffCommand, KeepsTextsOnOneLine) {
 }
 
 TEST_F(DiffCommand, IsColouredOnRequestOnly) {
-    EXPECT_EQ(diff(gamma("220"), gamma("240"), {"--color", "always"}),
+    EXPECT_EQ(diff(documentWithGamma("220"), documentWithGamma("240"), {"--color", "always"}),
               found("\x1b[36mParameterSetting/Gamma/Value\x1b[0m: \x1b[33m2.2 -> 2.4\x1b[0m\n"));
     EXPECT_THAT(diff(asset("a"), "<AssetInfo/>", {"--color", "always"}).output, HasSubstr("\x1b[31mcleared"));
     EXPECT_THAT(diff("<AssetInfo/>", asset("a"), {"--color", "always"}).output, HasSubstr("\x1b[32mset to"));
 }
 
 TEST_F(DiffCommand, RefusesRecordsOfDifferentClasses) {
-    EXPECT_EQ(diff(gamma("220"), asset("a")),
+    EXPECT_EQ(diff(documentWithGamma("220"), asset("a")),
               failed("b.xml: error: records of different classes: ParameterSetting and AssetInfo"));
 }
 

@@ -2,8 +2,7 @@
 #include "Transcript.h"
 #include "help_texts.h"
 
-#include <fstream>
-#include <iterator>
+#include <tests/support/files.h>
 
 #include <gmock/gmock.h>
 
@@ -13,13 +12,9 @@
 namespace {
 
 namespace fs = std::filesystem;
+using lv::test::contentOf;
 using testing::ElementsAre;
 using Lines = std::vector<std::string>;
-
-std::string contentOf(const char* page) {
-    std::ifstream file(page, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::string pageOfTheTool() {
     return contentOf(LVDATA_TOOL_PAGE);
@@ -60,7 +55,7 @@ bool hasItsStatus(const Outcome& outcome) {
 
 class Documentation : public Replay, public testing::WithParamInterface<Transcript> {};
 
-TEST_P(Documentation, ShowsWhatHappens) {
+TEST_P(Documentation, TranscriptIsWhatTheCommandsPrint) {
     const Transcript& transcript = GetParam();
     play(transcript);
     for (std::size_t index = 0; index < transcript.size(); ++index) {
@@ -130,7 +125,7 @@ TEST(Transcripts, HaveCommandsOfSeveralLines) {
     EXPECT_EQ(found[0][1].text, "one \\\ntwo");
 }
 
-TEST(Transcripts, TakeAHereStringForWhatItIs) {
+TEST(Transcripts, DoNotEndAtAHereString) {
     const auto found = transcriptsIn("    $ cat <<< a\n    > a\n");
     ASSERT_EQ(found.size(), 1U);
     EXPECT_THAT(found[0][0].shown, ElementsAre("> a"));

@@ -138,7 +138,7 @@ std::vector<Row> rowsOf(const json& figures, const std::vector<Row>& expected) {
 
 class SameFigures : public MonitorTest, public testing::WithParamInterface<std::string> {};
 
-TEST_P(SameFigures, AreInTheText) {
+TEST_P(SameFigures, AreShownInTheText) {
     const std::vector<Row> expected = rowsOfFile(GetParam());
     std::vector<Row> rows = rowsOfText(made({"show", "--mode", GetParam(), studio}));
     ASSERT_GT(expected.size(), 10U);
@@ -151,7 +151,7 @@ TEST_P(SameFigures, AreInTheText) {
     EXPECT_EQ(rows, expected);
 }
 
-TEST_P(SameFigures, AreInTheJSON) {
+TEST_P(SameFigures, AreShownInTheJSON) {
     const json document = withNumbersAsTexts(made({"show", "--json", "--mode", GetParam(), studio}));
     const std::vector<Row> expected = rowsOfFile(GetParam());
     ASSERT_EQ(document["modes"].size(), 1U);
@@ -233,7 +233,7 @@ TEST_F(FiguresOfSample, OfMapsAreInThePage) {
 }
 
 /// Documents of a fleet are kept without their data; that must not change a figure.
-TEST(Summaries, HaveTheSameLines) {
+TEST(Summaries, OfTextAndPageHaveTheSameLines) {
     std::ifstream file(studio, std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
     const lv::analysis::Catalogue catalogue;

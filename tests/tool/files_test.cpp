@@ -82,7 +82,7 @@ TEST_F(Files, ASymbolicLinkIsFormattedInPlace) {
     EXPECT_EQ(read("in.xml"), tidy);
 }
 
-TEST_F(Files, AFailureBehindASymbolicLinkLeavesTheOldFileWhole) {
+TEST_F(Files, AFailureThroughASymbolicLinkKeepsTheOldFile) {
     fs::create_symlink("large.xml", path("link.xml"));
     EXPECT_EQ(run({"format", "link.xml", "-o", "link.xml"}, {"", "", limitFileSize}),
               failed("link.xml: error: File too large"));
@@ -99,7 +99,7 @@ TEST_F(Files, ASymbolicLinkToNothingGetsItsFile) {
     EXPECT_TRUE(holdsBesides({"link.xml", "new.xml"}));
 }
 
-TEST_F(Files, ACircleOfSymbolicLinksIsReported) {
+TEST_F(Files, ALoopOfSymbolicLinksIsReported) {
     fs::create_symlink("b", path("a"));
     fs::create_symlink("a", path("b"));
     EXPECT_EQ(formatTo("a"), failed("a: error: Too many levels of symbolic links"));
@@ -198,7 +198,7 @@ TEST_F(Files, ClosedStandardStreamsAreReported) {
     EXPECT_EQ(read("out.xml"), tidy);
 }
 
-TEST_F(Files, AFailureIsTheSameWithoutAPlaceToReportIt) {
+TEST_F(Files, AFailureHasTheSameStatusWithClosedStandardError) {
     const auto closeError = [] {
         return ::close(STDERR_FILENO) == 0;
     };

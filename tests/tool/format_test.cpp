@@ -139,7 +139,7 @@ TEST_F(Format, ReportsAFolder) {
     EXPECT_EQ(run({"format", "."}), failed(".: error: Is a directory"));
 }
 
-TEST_F(Format, ReportsTextThatIsNoXmlWithItsLine) {
+TEST_F(Format, ReportsTextThatIsNotXMLWithItsLine) {
     EXPECT_EQ(format("<AssetInfo>\n\n<Asset1></Asset2>\n</AssetInfo>"),
               failed("in.xml: error: line 3: the end tag does not match the start tag"));
     EXPECT_EQ(format("\r\n\r\n<AssetInfo><Asset1></AssetInfo>"),
@@ -150,7 +150,7 @@ TEST_F(Format, ReportsTextThatIsNoXmlWithItsLine) {
     EXPECT_EQ(format("<AssetInfo>\n<Asset1 a='1' a='2'/>"), failed("in.xml: error: line 2: duplicate attribute"));
 }
 
-TEST_F(Format, ReportsTextWithoutAnything) {
+TEST_F(Format, ReportsAnEmptyText) {
     EXPECT_EQ(format(""), failed("in.xml: error: empty document"));
     EXPECT_EQ(format(" \r\n\t\n"), failed("in.xml: error: empty document"));
     EXPECT_EQ(format("\xEF\xBB\xBF"), failed("in.xml: error: empty document"));
@@ -161,7 +161,7 @@ TEST_F(Format, ReportsADocumentWithoutRootElement) {
     EXPECT_EQ(format("<!-- <AssetInfo/> -->\n"), failed("in.xml: error: no root element"));
 }
 
-TEST_F(Format, ReportsANulCharacterWhereverItStands) {
+TEST_F(Format, ReportsANulCharacterAnywhere) {
     const std::string nul(1, '\0');
     EXPECT_EQ(format("<AssetInfo>\n<Asset1>a" + nul + "b</Asset1></AssetInfo>"),
               failed("in.xml: error: line 2: NUL character"));

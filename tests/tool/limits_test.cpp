@@ -1,6 +1,7 @@
 #include "OutputTest.h"
 
 #include <lvdata/xml/Limits.h>
+#include <tests/support/document_with_markup.h>
 #include <tests/support/repeated.h>
 
 #include <fcntl.h>
@@ -9,6 +10,7 @@
 
 namespace {
 
+using lv::test::documentWithMarkup;
 using lv::test::repeated;
 
 /// So many attributes of different names.
@@ -20,13 +22,8 @@ std::string attributes(int count) {
     return result;
 }
 
-/// A document with this in front of "Asset1", which `tidy` prints.
-std::string documentWith(const std::string& markup) {
-    return "<AssetInfo>\n" + markup + "<Asset1>one</Asset1></AssetInfo>";
-}
-
 std::string documentOfSize(std::size_t size) {
-    std::string document = documentWith("");
+    std::string document = documentWithMarkup("");
     document.resize(size, ' ');
     return document;
 }
@@ -86,11 +83,11 @@ TEST_F(SizeLimit, Is64MebibytesUnlessGiven) {
     expectTaken(documentOfSize(67'108'865), {"--max-size", "67108865"});
 }
 
-TEST_F(SizeLimit, EndsWhatHasNoEnd) {
+TEST_F(SizeLimit, StopsEndlessInput) {
     EXPECT_EQ(run({"format", "/dev/zero"}), failed("/dev/zero: error: more than 67108864 bytes (limit: --max-size)"));
 }
 
-TEST_F(SizeLimit, IsOversteppedByOneByteAtMost) {
+TEST_F(SizeLimit, IsExceededByOneByteAtMostWhileReading) {
     write("in.xml", documentOfSize(300'000));
     for (const off_t limit : {0, 10, 65'535, 65'536, 200'000}) {
         const int file = ::open(path("in.xml").c_str(), O_RDONLY);  // NOLINT(cppcoreguidelines-pro-type-vararg)
@@ -106,15 +103,15 @@ TEST_F(SizeLimit, IsOversteppedByOneByteAtMost) {
 using ElementLimit = LimitsTest;
 
 TEST_F(ElementLimit, IsTheLargestNumberTaken) {
-    const std::string document = documentWith("<a>\n<b/></a>\n<c/>");
+    const std::string document = documentWithMarkup("<a>\n<b/></a>\n<c/>");
     expectTaken(document, {"--max-elements", "5"});
     expectRefused(document, {"--max-elements", "4"}, "line 4: more than 4 elements (limit: --max-elements)");
     expectRefused(document, {"--max-elements", "1"}, "line 2: more than 1 element (limit: --max-elements)");
 }
 
 TEST_F(ElementLimit, Is250000UnlessGiven) {
-    expectTaken(documentWith(repeated("<a/>", 249'998)));
-    const std::string more = documentWith(repeated("<a/>", 249'999));
+    expectTaken(documentWithMarkup(repeated("<a/>", 249'998)));
+    const std::string more = documentWithMarkup(repeated("<a/>", 249'999));
     expectRefused(more, {}, "line 2: more than 250000 elements (limit: --max-elements)");
     expectTaken(more, {"--max-elements", "250001"});
 }
@@ -122,15 +119,15 @@ TEST_F(ElementLimit, Is250000UnlessGiven) {
 using NodeLimit = LimitsTest;
 
 TEST_F(NodeLimit, IsTheLargestNumberTaken) {
-    const std::string document = documentWith("<a b='1' c='2'/>\n<!-- d -->e");
+    const std::string document = documentWithMarkup("<a b='1' c='2'/>\n<!-- d -->e");
     expectTaken(document, {"--max-nodes", "8"});
     expectRefused(document, {"--max-nodes", "4"}, "line 3: more than 4 nodes (limit: --max-nodes)");
     expectRefused(document, {"--max-nodes", "0"}, "line 1: more than 0 nodes (limit: --max-nodes)");
 }
 
 TEST_F(NodeLimit, Is1000000UnlessGiven) {
-    expectTaken(documentWith(repeated("x<!>", 499'998) + "<!>"));
-    const std::string more = documentWith(repeated("x<!>", 499'999));
+    expectTaken(documentWithMarkup(repeated("x<!>", 499'998) + "<!>"));
+    const std::string more = documentWithMarkup(repeated("x<!>", 499'999));
     expectRefused(more, {}, "line 2: more than 1000000 nodes (limit: --max-nodes)");
     expectTaken(more, {"--max-nodes", "1000001"});
 }
@@ -138,21 +135,21 @@ TEST_F(NodeLimit, Is1000000UnlessGiven) {
 using AttributeLimit = LimitsTest;
 
 TEST_F(AttributeLimit, IsTheLargestNumberTaken) {
-    const std::string document = documentWith("<a/>\n<a b='1' c='2'/>");
+    const std::string document = documentWithMarkup("<a/>\n<a b='1' c='2'/>");
     expectTaken(document, {"--max-attributes", "2"});
     expectRefused(document, {"--max-attributes", "1"},
                   "line 3: more than 1 attribute per element (limit: --max-attributes)");
 }
 
 TEST_F(AttributeLimit, Is100UnlessGiven) {
-    expectTaken(documentWith("<a" + attributes(100) + "/>"));
-    const std::string more = documentWith("<a" + attributes(101) + "/>");
+    expectTaken(documentWithMarkup("<a" + attributes(100) + "/>"));
+    const std::string more = documentWithMarkup("<a" + attributes(101) + "/>");
     expectRefused(more, {}, "line 2: more than 100 attributes per element (limit: --max-attributes)");
     expectTaken(more, {"--max-attributes", "101"});
 }
 
-TEST_F(AttributeLimit, EndsWhatWouldTakeMinutes) {
-    expectRefused(documentWith("<a" + attributes(300'000) + "/>"), {},
+TEST_F(AttributeLimit, StopsDocumentsThatWouldTakeMinutes) {
+    expectRefused(documentWithMarkup("<a" + attributes(300'000) + "/>"), {},
                   "line 2: more than 100 attributes per element (limit: --max-attributes)");
 }
 
@@ -161,19 +158,19 @@ using ReferenceLimit = LimitsTest;
 const std::string option = "--max-broken-references";
 
 TEST_F(ReferenceLimit, IsTheLargestNumberTaken) {
-    const std::string document = documentWith("<a/>\n<a>&# &#1 </a>");
+    const std::string document = documentWithMarkup("<a/>\n<a>&# &#1 </a>");
     expectTaken(document, {option, "2"});
     expectRefused(document, {option, "1"}, "line 3: more than 1 broken reference per text (limit: " + option + ")");
 }
 
 TEST_F(ReferenceLimit, Is100UnlessGiven) {
-    expectTaken(documentWith("<a>" + repeated("&#", 100) + "</a>"));
-    const std::string more = documentWith("<a>" + repeated("&#", 101) + "</a>");
+    expectTaken(documentWithMarkup("<a>" + repeated("&#", 100) + "</a>"));
+    const std::string more = documentWithMarkup("<a>" + repeated("&#", 101) + "</a>");
     expectRefused(more, {}, "line 2: more than 100 broken references per text (limit: " + option + ")");
     expectTaken(more, {option, "101"});
 }
 
-TEST_F(ReferenceLimit, EndsWhatWouldTakeMinutes) {
+TEST_F(ReferenceLimit, StopsDocumentsThatWouldTakeMinutes) {
     expectRefused("<AssetInfo><Asset1>" + repeated("&#", 10'000'000) + "</Asset1></AssetInfo>", {},
                   "line 1: more than 100 broken references per text (limit: " + option + ")");
 }

@@ -86,19 +86,19 @@ TEST_F(Losses, DoNotOverwriteTheDocumentOnStandardInput) {
     EXPECT_EQ(read("in.xml"), lossy);
 }
 
-TEST_F(Losses, AreNoneWhenOnlySpellingChanges) {
+TEST_F(Losses, AreNotReportedWhenOnlySpellingChanges) {
     write("in.xml", "<BasicData><UsageHours> +042</UsageHours></BasicData>");
     EXPECT_EQ(format({"in.xml", "-o", "in.xml"}), done());
     EXPECT_THAT(read("in.xml"), HasSubstr("<UsageHours>42</UsageHours>"));
 }
 
-TEST_F(Losses, AreNoneInValuesThatAreKept) {
+TEST_F(Losses, AreNotReportedForValuesThatAreKept) {
     write("in.xml", "<CorrelationInfo><CorrelationDate>May \xFF</CorrelationDate></CorrelationInfo>");
     EXPECT_EQ(format({"in.xml"}).exitCode, 0);
     EXPECT_EQ(format({"in.xml"}).error, "");
 }
 
-TEST_F(Losses, AreTenLinesAtMostAndACount) {
+TEST_F(Losses, AreListedInTenLinesAtMostWithACount) {
     write("in.xml", "<AssetInfo>" + repeated("\n<a/>", 10) + "</AssetInfo>");
     const std::string ten = format({"in.xml"}).error;
     EXPECT_THAT(ten, EndsWith("in.xml: warning: line 11: unknown element \"a\" is dropped [301]\n"));
@@ -108,18 +108,18 @@ TEST_F(Losses, AreTenLinesAtMostAndACount) {
     EXPECT_EQ(format({"in.xml"}).error, ten + "in.xml: warning: 4990 more changes, see lvdata check\n");
 }
 
-TEST_F(Losses, OfStandardInputAreNamedSo) {
+TEST_F(Losses, OnStandardInputAreReportedUnderItsName) {
     EXPECT_THAT(run({"format", "-"}, {lossy}).error, testing::StartsWith("<stdin>: warning: line 3: "));
 }
 
-TEST_F(Losses, KeepToOneLine) {
+TEST_F(Losses, AreOnOneLine) {
     write("in.xml", "<AssetInfo><Asset1 lang='a&#10;b'/><B\xFF\u2028/></AssetInfo>");
     EXPECT_THAT(format({"in.xml"}).error, HasSubstr(R"(unknown element "B\xFF\xE2\x80\xA8" is dropped)"));
 }
 
 const std::string gammaLine = "        <HLGSystemGamma>120</HLGSystemGamma>\n";
 
-TEST_F(Losses, LeaveTheHLGSystemGammaAlone) {
+TEST_F(Losses, DoNotIncludeTheHLGSystemGamma) {
     write("in.xml", targetSetting(gammaLine));
     const std::string text = format({"in.xml"}).output;
     EXPECT_THAT(text, HasSubstr("<HLGSystemGamma>120</HLGSystemGamma>"));
@@ -127,13 +127,13 @@ TEST_F(Losses, LeaveTheHLGSystemGammaAlone) {
     EXPECT_EQ(format({"in.xml", "--hlg-system-gamma"}), printed(text));
 }
 
-TEST_F(Losses, AddNoHLGSystemGammaUnlessTold) {
+TEST_F(Losses, AddNoHLGSystemGammaUnlessAskedFor) {
     write("in.xml", targetSetting(""));
     EXPECT_THAT(format({"in.xml"}).output, Not(HasSubstr("HLGSystemGamma")));
     EXPECT_THAT(format({"in.xml", "--hlg-system-gamma"}).output, HasSubstr("<HLGSystemGamma>0</HLGSystemGamma>"));
 }
 
-TEST_F(Losses, OfTheHLGSystemGammaCanBeWanted) {
+TEST_F(Losses, OfTheHLGSystemGammaCanBeAskedFor) {
     write("in.xml", targetSetting(gammaLine));
     const Outcome without = format({"in.xml", "--no-hlg-system-gamma"});
     EXPECT_EQ(without, printed(without.output));

@@ -1,5 +1,7 @@
 #include "ToolTest.h"
 
+#include <tests/support/parameter_names.h>
+
 #include <lvdata/version.h>
 
 #include <algorithm>
@@ -35,7 +37,7 @@ TEST_F(CommandLine, HelpOfASubcommandNamesItsOptions) {
     EXPECT_EQ(help.error, "");
 }
 
-TEST_F(CommandLine, HelpGoesBeforeEverythingElse) {
+TEST_F(CommandLine, HelpTakesPrecedence) {
     EXPECT_EQ(run({"-h"}), run({"--help"}));
     EXPECT_EQ(run({"format", "-h", "missing.xml"}), run({"format", "--help"}));
 }
@@ -118,7 +120,6 @@ const std::vector<Misuse> misuses{
     {"LineBreakInAnArgument", {"format", "a.xml", "x\ny"}, "x\\x0Ay"},
 };
 
-INSTANTIATE_TEST_SUITE_P(CommandLine, BadUsage, testing::ValuesIn(misuses),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(CommandLine, BadUsage, testing::ValuesIn(misuses), lv::test::nameOfParameter);
 
 }  // namespace

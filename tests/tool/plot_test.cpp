@@ -13,7 +13,7 @@ using Plot = MonitorTest;
 TEST_F(Plot, MakesEachPicture) {
     for (const std::string& picture : pictures) {
         const std::string made = this->made({"plot", picture, studio});
-        EXPECT_TRUE(has(made, "<svg ") && has(made, "</svg>")) << picture;
+        EXPECT_TRUE(contains(made, "<svg ") && contains(made, "</svg>")) << picture;
         EXPECT_LT(made.size(), 60'000U) << picture;
         EXPECT_TRUE(this->made({"plot", picture, studio, "--jobs", "2"}) == made);
         for (const std::string& other : pictures) {
@@ -24,7 +24,7 @@ TEST_F(Plot, MakesEachPicture) {
 
 TEST_F(Plot, DrawsDocumentsWithNothingMeasured) {
     for (const std::string& picture : pictures) {
-        EXPECT_TRUE(has(made({"plot", picture, "-"}, {monitor()}), "</svg>")) << picture;
+        EXPECT_TRUE(contains(made({"plot", picture, "-"}, {monitor()}), "</svg>")) << picture;
     }
 }
 
@@ -35,12 +35,13 @@ TEST_F(Plot, DrawsTheModeThatIsAskedFor) {
     EXPECT_EQ(run({"plot", "tone", studio, "--mode", "9"}),
               failed(studio + ": error: no colour mode has the index 9; there are 0, 1, 2, 3, 4"));
     EXPECT_EQ(run({"plot", "tone", "-"}, {"<MonitorInfo/>"}), failed("<stdin>: error: there are no colour modes"));
-    EXPECT_TRUE(has(made({"plot", "uniformity", "-"}, {"<MonitorInfo/>"}), "</svg>"));
+    EXPECT_TRUE(contains(made({"plot", "uniformity", "-"}, {"<MonitorInfo/>"}), "</svg>"));
 }
 
 TEST_F(Plot, DrawsTheFirstModeWhenNoneIsCalibrated) {
     const std::string mode = "<ColorMode Type='SyncSignal'><Index>7</Index></ColorMode>";
-    EXPECT_TRUE(has(made({"plot", "tone", "-"}, {"<ColorModeSettings>" + mode + "</ColorModeSettings>"}), "</svg>"));
+    EXPECT_TRUE(
+        contains(made({"plot", "tone", "-"}, {"<ColorModeSettings>" + mode + "</ColorModeSettings>"}), "</svg>"));
 }
 
 TEST_F(Plot, DrawsBothDiagrams) {
@@ -57,10 +58,10 @@ TEST_F(Plot, DrawsLimitsOnRequest) {
 
 TEST_F(Plot, HasTheUnitsThatItsUserKnows) {
     const std::string map = made({"plot", "uniformity", studio});
-    EXPECT_TRUE(has(made({"plot", "uniformity", studio, "--map-unit", "my unit"}), "my unit"));
+    EXPECT_TRUE(contains(made({"plot", "uniformity", studio, "--map-unit", "my unit"}), "my unit"));
     EXPECT_TRUE(made({"plot", "uniformity", studio, "--grid", "5"}) != map);
-    EXPECT_TRUE(
-        has(made({"plot", "history", "--figure", "white_tristimulus_y", "--y-unit", "my unit", studio}), "my unit"));
+    EXPECT_TRUE(contains(made({"plot", "history", "--figure", "white_tristimulus_y", "--y-unit", "my unit", studio}),
+                         "my unit"));
 }
 
 TEST_F(Plot, DrawsTheHistoryOfAFigure) {
@@ -78,7 +79,7 @@ TEST_F(Plot, DrawsTheHistoryOfAFigure) {
               failed("c.xml: error: is of another monitor than the documents before it"));
 }
 
-TEST_F(Plot, MadeThePicturesOfTheReadme) {
+TEST_F(Plot, MakesThePicturesOfTheReadme) {
     for (const std::string picture : {"gamut", "tone"}) {
         const std::string file = LVDATA_PICTURES "/" + picture + ".svg";
         EXPECT_TRUE(runBash("lvdata plot " + picture + ' ' + studio + " | cmp - " + file) == done())

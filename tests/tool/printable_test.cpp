@@ -36,7 +36,7 @@ TEST_F(Printable, EscapesCharactersThatReorderText) {
     EXPECT_EQ(shown("\u200F\u061C"), "\\xE2\\x80\\x8F\\xD8\\x9C");
 }
 
-TEST_F(Printable, EscapesBytesThatAreNoUtf8) {
+TEST_F(Printable, EscapesBytesThatAreNotUTF8) {
     EXPECT_EQ(shown("a\x85z"), "a\\x85z");                         // no lead byte
     EXPECT_EQ(shown("\xC3z"), "\\xC3z");                           // no second byte
     EXPECT_EQ(shown("\xE2\x82"), "\\xE2\\x82");                    // cut off

@@ -119,13 +119,13 @@ TEST_F(OnATerminal, ProgressIsShownAndErased) {
     EXPECT_EQ(read("output"), std::string(sizes) + sizes);
 }
 
-TEST_F(OnATerminal, ProgressDoesNotDisturbTheOutput) {
+TEST_F(OnATerminal, ProgressDoesNotMixWithTheOutput) {
     const std::string text = recorded("--wait 60 -j1 --color never in in");
     EXPECT_THAT(text, HasSubstr(" left\r\x1b[Kin/deep/b.xml 2\r\n"));
     EXPECT_THAT(text, Not(HasSubstr("leftin")));
 }
 
-TEST_F(OnATerminal, ProgressDoesNotDisturbMessages) {
+TEST_F(OnATerminal, ProgressDoesNotMixWithMessages) {
     EXPECT_THAT(recorded("--wait 60 -j1 in no.xml in >output"), HasSubstr("\r\x1b[Kno.xml: error: "));
 }
 

@@ -1,7 +1,8 @@
+#include "RecordSample.h"
 #include "ToolTest.h"
 
+#include <tests/support/parameter_names.h>
 #include <tests/support/repeated.h>
-#include <tests/support/samples.h>
 
 #include <lvdata/records/EveryRecord.h>
 
@@ -46,7 +47,7 @@ TEST_F(Records, AnUnknownRootElementIsNamedAndTheKnownOnesAreListed) {
               failed("in.xml: error: unknown root element \"Unknown\", known are: " + listOf(recordClasses())));
 }
 
-TEST_F(Records, OfALongNameTheMessageHasTheBeginning) {
+TEST_F(Records, ALongNameIsCutInTheMessage) {
     const auto messageFor = [this](const std::string& name) {
         return run({"format", "-"}, {'<' + name + "/>"}).error;
     };
@@ -57,7 +58,7 @@ TEST_F(Records, OfALongNameTheMessageHasTheBeginning) {
     EXPECT_LT(messageFor(std::string(1'000'000, 'a')).size(), 1'000);
 }
 
-TEST_F(Records, ALongNameOfBytesThatOnlyGoOnWithACharacterIsCutAllTheSame) {
+TEST_F(Records, ALongNameOfContinuationBytesIsCutAsWell) {
     const Outcome outcome = run({"format", "-"}, {'<' + std::string(200, '\x9C') + "/>"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_THAT(outcome.error, HasSubstr('"' + lv::test::repeated("\\x9C", 57) + "...\", known"));
@@ -71,48 +72,27 @@ TEST_F(Records, ANameIsComparedExactly) {
     }
 }
 
-TEST_F(Records, AnElementOfARecordIsNoRecord) {
+TEST_F(Records, AnElementOfARecordIsNotARecord) {
     EXPECT_EQ(run({"format", "-"}, {"<Asset1>x</Asset1>"}).exitCode, 2);
     EXPECT_EQ(run({"format", "-"}, {"<List><AssetInfo/></List>"}).exitCode, 2);
 }
 
-TEST_F(Records, AHostileNameKeepsToOneLine) {
+TEST_F(Records, AnyNameIsShownOnOneLine) {
     const Outcome outcome = run({"format", "-"}, {"<A\u0085\u2028B\x9B\x85/>"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_THAT(outcome.error, HasSubstr("\"A\\xC2\\x85\\xE2\\x80\\xA8B\\x9B\\x85\", known"));
     EXPECT_EQ(std::count(outcome.error.begin(), outcome.error.end(), '\n'), 1);
 }
 
-/// A document just as the tool prints it, compact and without declaration.
-struct Sample {
-    std::string name;
-    std::string (*document)();
-};
+class RecordContent : public ToolTest, public testing::WithParamInterface<RecordSample> {};
 
-void PrintTo(const Sample& sample, std::ostream* out) {
-    *out << sample.name;
-}
-
-class RecordContent : public ToolTest, public testing::WithParamInterface<Sample> {};
-
-TEST_P(RecordContent, GoesThroughWhole) {
+TEST_P(RecordContent, IsKeptCompletely) {
     const std::vector<std::string> command{"format", "-", "--compact", "--no-declaration"};
     const std::string document = GetParam().document();
     EXPECT_EQ(run(command, {document}), printed(document + '\n'));
 }
 
-/// Without the elements that are left out unless they are asked for.
-template <class Record>
-std::string printedSample() {
-    return lv::test::compact(lv::test::filledAndParsedBack<Record>());
-}
-
-template <class... Records>
-std::vector<Sample> samplesOf(lv::RecordTypes<Records...> /*list*/) {
-    return {{Records::rootElementName, &printedSample<Records>}...};
-}
-
-INSTANTIATE_TEST_SUITE_P(Records, RecordContent, testing::ValuesIn(samplesOf(lv::EveryRecord())),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Records, RecordContent, testing::ValuesIn(recordSamples(lv::EveryRecord())),
+                         lv::test::nameOfParameter);
 
 }  // namespace

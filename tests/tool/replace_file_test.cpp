@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 using ReplaceFile = OutputTest;
 
-TEST_F(ReplaceFile, OutputReplacesALongerFileWhole) {
+TEST_F(ReplaceFile, OutputReplacesALongerFileCompletely) {
     write("out.xml", large());
     EXPECT_EQ(formatTo("out.xml"), done());
     EXPECT_EQ(read("out.xml"), tidy);
@@ -101,7 +101,7 @@ TEST_F(ReplaceFile, WriteProtectionIsRespected) {
     EXPECT_TRUE(holdsBesides({"out.xml"}));
 }
 
-TEST_F(ReplaceFile, ABadInputLeavesTheOldFileWhole) {
+TEST_F(ReplaceFile, ABadInputKeepsTheOldFile) {
     write("out.xml", "old");
     for (const std::string input : {"broken.xml", "missing.xml", "."}) {
         EXPECT_EQ(run({"format", input, "-o", "out.xml"}).exitCode, 2);
@@ -117,7 +117,7 @@ TEST_F(ReplaceFile, ABadInputMakesNoNewFile) {
     EXPECT_TRUE(holdsBesides({}));
 }
 
-TEST_F(ReplaceFile, AFailureWhileWritingLeavesTheOldFileWhole) {
+TEST_F(ReplaceFile, AFailureWhileWritingKeepsTheOldFile) {
     const Surroundings limited{"", "", limitFileSize};
     write("out.xml", "old");
     EXPECT_EQ(run({"format", "large.xml", "-o", "out.xml"}, limited), failed("out.xml: error: File too large"));
@@ -143,7 +143,7 @@ std::function<bool()> signalAfter(int signal, int milliseconds) {
     };
 }
 
-TEST_F(ReplaceFile, ASignalAtAnyTimeLeavesNothingHalfDone) {
+TEST_F(ReplaceFile, ASignalAtAnyTimeLeavesTheOldOrTheNewFile) {
     write("out.xml", "old");
     ASSERT_EQ(run({"format", "large.xml", "-o", "whole.xml"}), done());
     for (int milliseconds = 0; milliseconds < 60; milliseconds += 2) {

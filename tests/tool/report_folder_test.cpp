@@ -31,13 +31,13 @@ TEST_F(ReportFolder, HasAPageForEachMonitorAndATable) {
     EXPECT_EQ(run({"report", "in", "-o", "out/"}), done());
     EXPECT_THAT(namesIn("out"), ElementsAre("Desk-2.html", "Wall-1.html", "index.html"));
     const std::string index = read("out/index.html");
-    EXPECT_TRUE(has(index, "Desk-2.html"));
-    EXPECT_TRUE(has(index, "Wall-1.html"));
+    EXPECT_TRUE(contains(index, "Desk-2.html"));
+    EXPECT_TRUE(contains(index, "Wall-1.html"));
     EXPECT_LT(index.find("Desk-2.html"), index.find("Wall-1.html"));
     const std::string page = read("out/Wall-1.html");
-    EXPECT_TRUE(has(page, "a.xml"));
-    EXPECT_TRUE(has(page, "c.xml"));
-    EXPECT_FALSE(has(page, "b.xml"));
+    EXPECT_TRUE(contains(page, "a.xml"));
+    EXPECT_TRUE(contains(page, "c.xml"));
+    EXPECT_FALSE(contains(page, "b.xml"));
 }
 
 /// A set with one limit.
@@ -48,8 +48,8 @@ std::string limitsWith(const std::string& limit) {
 TEST_F(ReportFolder, HasTheVerdictsOfMaps) {
     write("map.json", limitsWith(R"("brightness_mean", "maximum": 0)"));
     EXPECT_EQ(run({"report", studio, "--limits", "map.json", "-o", "maps/"}), done());
-    EXPECT_TRUE(has(read("maps/Studio-wall-27W-000417.html"), "1 outside"));
-    EXPECT_TRUE(has(read("maps/index.html"), "✗ Fail</span>"));
+    EXPECT_TRUE(contains(read("maps/Studio-wall-27W-000417.html"), "1 outside"));
+    EXPECT_TRUE(contains(read("maps/index.html"), "✗ Fail</span>"));
 }
 
 /// The table of a calibration is a result, too.
@@ -63,14 +63,14 @@ TEST_F(ReportFolder, HasTheVerdictsOfModesWithTables) {
                          table + "</RedLUT></MonitorParameter></ColorMode></CalibrationModeResult></MonitorInfo>");
     write("white.json", limitsWith(R"("white_delta_uv", "maximum": 1)"));
     EXPECT_EQ(run({"report", "lut.xml", "--limits", "white.json", "-o", "tables/"}), done());
-    EXPECT_TRUE(has(read("tables/u.html"), " Incomplete</span>"));
-    EXPECT_TRUE(has(read("tables/index.html"), " Incomplete</span>"));
+    EXPECT_TRUE(contains(read("tables/u.html"), " Incomplete</span>"));
+    EXPECT_TRUE(contains(read("tables/index.html"), " Incomplete</span>"));
 }
 
 TEST_F(ReportFolder, GivesTheHeadingToTheTable) {
     EXPECT_EQ(run({"report", "in", "-o", "out/", "--title", "Spring"}), done());
-    EXPECT_TRUE(has(read("out/index.html"), "<title>Spring"));
-    EXPECT_TRUE(has(read("out/Wall-1.html"), "<title>Wall"));
+    EXPECT_TRUE(contains(read("out/index.html"), "<title>Spring"));
+    EXPECT_TRUE(contains(read("out/Wall-1.html"), "<title>Wall"));
 }
 
 TEST_F(ReportFolder, IsMadeAgainInTheSamePlace) {
@@ -102,7 +102,7 @@ TEST_F(ReportFolder, LeavesOutAMonitorWithoutTheMode) {
     EXPECT_EQ(run({"report", "in", "-o", "out/", "--mode", "2"}),
               failed("in/b.xml: error: no colour mode has the index 2; there are none"));
     EXPECT_THAT(namesIn("out"), ElementsAre("Wall-1.html", "index.html"));
-    EXPECT_FALSE(has(read("out/index.html"), "u-2"));
+    EXPECT_FALSE(contains(read("out/index.html"), "u-2"));
 }
 
 TEST_F(ReportFolder, TakesListsOfDocuments) {

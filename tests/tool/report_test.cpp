@@ -23,29 +23,29 @@ std::size_t count(const std::string& text, const std::string& part) {
 TEST_F(Report, IsAPageOfOneMonitor) {
     const std::string page = made({"report", studio});
     EXPECT_EQ(page.rfind("<!DOCTYPE html>", 0), 0U);
-    EXPECT_TRUE(has(page, "<title>Studio wall"));
-    EXPECT_TRUE(has(page, "27W-000417"));
+    EXPECT_TRUE(contains(page, "<title>Studio wall"));
+    EXPECT_TRUE(contains(page, "27W-000417"));
     EXPECT_EQ(count(page, "<html"), 1U);
 }
 
 TEST_F(Report, ReadsStandardInputAndPipes) {
     write("in.xml", monitor());
-    EXPECT_TRUE(has(made({"report", "-"}, {monitor()}), "<title>Wall"));
-    EXPECT_TRUE(has(runBash("lvdata report <(cat in.xml)").output, "<title>Wall"));
-    EXPECT_TRUE(has(runBash("lvdata report - < in.xml").output, "<title>Wall"));
+    EXPECT_TRUE(contains(made({"report", "-"}, {monitor()}), "<title>Wall"));
+    EXPECT_TRUE(contains(runBash("lvdata report <(cat in.xml)").output, "<title>Wall"));
+    EXPECT_TRUE(contains(runBash("lvdata report - < in.xml").output, "<title>Wall"));
 }
 
 TEST_F(Report, HasTheHeadingAndTheDateThatAreAskedFor) {
-    EXPECT_FALSE(has(made({"report", studio}), "Spring"));
-    EXPECT_TRUE(has(made({"report", studio, "--title", "Spring <1>"}), "<title>Spring &lt;1&gt;"));
-    EXPECT_TRUE(has(made({"report", studio, "--date", "1 May"}), "1 May"));
+    EXPECT_FALSE(contains(made({"report", studio}), "Spring"));
+    EXPECT_TRUE(contains(made({"report", studio, "--title", "Spring <1>"}), "<title>Spring &lt;1&gt;"));
+    EXPECT_TRUE(contains(made({"report", studio, "--date", "1 May"}), "1 May"));
     EXPECT_TRUE(made({"report", studio, "--date", ""}) == made({"report", studio}));
 }
 
 TEST_F(Report, HasTheDayOfTodayWhenAskedFor) {
     write("in.xml", monitor());
     const std::string command = "lvdata report --date now in.xml";
-    EXPECT_TRUE(has(runBash("SOURCE_DATE_EPOCH=951782400 " + command).output, "2000-02-29"));
+    EXPECT_TRUE(contains(runBash("SOURCE_DATE_EPOCH=951782400 " + command).output, "2000-02-29"));
     EXPECT_THAT(runBash("export TZ=UTC0; before=$(date +%F); page=$(" + command +
                         "); [[ $page == *$before* || $page == *$(date +%F)* ]] && echo yes")
                     .output,
@@ -56,24 +56,24 @@ TEST_F(Report, HasTheDayOfTodayWhenAskedFor) {
     }
 }
 
-TEST_F(Report, TellsOfOneModeOnRequest) {
+TEST_F(Report, ShowsOneModeOnRequest) {
     const std::string all = made({"report", studio});
     const std::string one = made({"report", studio, "--mode", "3"});
     EXPECT_GT(count(all, "<th>Contrast<"), count(one, "<th>Contrast<"));
-    EXPECT_TRUE(has(one, "Proof"));
+    EXPECT_TRUE(contains(one, "Proof"));
     EXPECT_EQ(run({"report", studio, "--mode", "9"}),
               failed(studio + ": error: no colour mode has the index 9; there are 0, 1, 2, 3, 4"));
     EXPECT_EQ(run({"report", studio, "--mode", "x"}).exitCode, 2);
 }
 
 TEST_F(Report, HasTheUnitsThatItsUserKnows) {
-    EXPECT_FALSE(has(made({"report", studio}), "my unit"));
-    EXPECT_TRUE(has(made({"report", studio, "--y-unit", "my unit"}), "my unit"));
-    EXPECT_TRUE(has(made({"report", studio, "--map-unit", "my unit"}), "my unit"));
+    EXPECT_FALSE(contains(made({"report", studio}), "my unit"));
+    EXPECT_TRUE(contains(made({"report", studio, "--y-unit", "my unit"}), "my unit"));
+    EXPECT_TRUE(contains(made({"report", studio, "--map-unit", "my unit"}), "my unit"));
     EXPECT_TRUE(made({"report", studio, "--grid", "5"}) != made({"report", studio}));
 }
 
-TEST_F(Report, IsJudgedByTheLimitsThatAreAskedFor) {
+TEST_F(Report, UsesTheLimitsThatAreAskedFor) {
     const std::string page = made({"report", studio});
     EXPECT_TRUE(made({"report", studio, "--limits", "default"}) == page);
     EXPECT_TRUE(made({"report", studio, "--limits", "iso14861"}) != page);
@@ -104,7 +104,7 @@ TEST_F(Report, FailsOnLimitsOfItsPageOnly) {
     write("own.json", R"({"name": "own", "title": "Own", "notice": "", "limits": [)" + limit + "]}");
     write("in.xml", monitor());
     EXPECT_EQ(run({"report", studio, "--limits", "own.json", "-o", "out.html", "--fail-on-limits"}), done());
-    EXPECT_TRUE(has(read("out.html"), "3 of 3 figures within the limits"));
+    EXPECT_TRUE(contains(read("out.html"), "3 of 3 figures within the limits"));
     EXPECT_EQ(run({"report", "in.xml", "--limits", "own.json", "-o", "out.html", "--fail-on-limits"}).exitCode, 1);
 }
 
@@ -129,7 +129,7 @@ TEST_F(Report, HasTheHistoryOfOneMonitor) {
     write("old.xml", monitor({"Attic", "1", "u-1", "2023-04-01T09:31:00"}));
     const std::string page = made({"report", "new.xml", "old.xml"});
     for (const std::string text : {"<title>Wall", "old.xml", "new.xml", "2023-04-01"}) {
-        EXPECT_TRUE(has(page, text)) << text;
+        EXPECT_TRUE(contains(page, text)) << text;
     }
     EXPECT_TRUE(made({"report", "old.xml", "new.xml"}) == page);
     EXPECT_TRUE(made({"report", "."}) == page);
@@ -140,7 +140,7 @@ TEST_F(Report, NamesDocumentsWithoutTheirFolders) {
     fs::create_directory(path("secret"));
     write("in.xml", monitor());
     write("secret/in.xml", monitor());
-    EXPECT_FALSE(has(made({"report", "secret/in.xml"}), "secret"));
+    EXPECT_FALSE(contains(made({"report", "secret/in.xml"}), "secret"));
     EXPECT_TRUE(made({"report", path("secret/in.xml")}) == made({"report", "in.xml"}));
     EXPECT_EQ(run({"report", "secret/in.xml", "--mode", "9"}),
               failed("secret/in.xml: error: no colour mode has the index 9; there are 2"));
@@ -155,7 +155,7 @@ TEST_F(Report, KnowsAMonitorByItsSerialNumberAndModel) {
     write("a.xml", configuration("1"));
     write("b.xml", configuration("1"));
     write("c.xml", configuration("2"));
-    EXPECT_TRUE(has(made({"report", "a.xml", "b.xml"}), "</html>"));
+    EXPECT_TRUE(contains(made({"report", "a.xml", "b.xml"}), "</html>"));
     EXPECT_EQ(run({"report", "a.xml", "b.xml", "c.xml"}).exitCode, 2);
 }
 
@@ -201,7 +201,7 @@ TEST_F(Report, GoesOnAfterABadDocument) {
 TEST_F(Report, MakesAPageOfEveryRecordOfAMonitor) {
     for (const std::string root :
          {"MonitorInfo", "MonitorConfiguration", "ColorModeSettings", "CalibrationModeResult", "CandelaMap"}) {
-        EXPECT_TRUE(has(made({"report", "-"}, {'<' + root + "/>"}), "</html>")) << root;
+        EXPECT_TRUE(contains(made({"report", "-"}, {'<' + root + "/>"}), "</html>")) << root;
     }
 }
 

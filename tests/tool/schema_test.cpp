@@ -32,7 +32,7 @@ TEST_F(Schema, IsWrittenToAFile) {
     EXPECT_EQ(read("out.xsd"), schemaFile("AssetInfo.xsd"));
 }
 
-TEST_F(Schema, OfAnUnknownRootElementIsRefusedWithTheKnownOnes) {
+TEST_F(Schema, ForAnUnknownRootElementIsRefusedWithTheKnownOnes) {
     const Outcome outcome = run({"schema", "--xsd", "Monitor"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.output, "");

@@ -1,8 +1,9 @@
+#include "RecordSample.h"
 #include "ShowTest.h"
 
 #include <tests/support/documents.h>
+#include <tests/support/parameter_names.h>
 #include <tests/support/repeated.h>
-#include <tests/support/samples.h>
 
 #include <lvdata/records/EveryRecord.h>
 
@@ -144,17 +145,7 @@ TEST_F(ShowContent, CutsLongNamesInTheTableAlone) {
     EXPECT_THAT(shown(document, {"--mode", "1"}), StartsWith("Mode 1, " + name + "\n"));
 }
 
-/// A document of a record class, with everything that it can hold.
-struct Sample {
-    std::string name;
-    std::string (*document)();
-};
-
-void PrintTo(const Sample& sample, std::ostream* out) {
-    *out << sample.name;
-}
-
-class ShownRecord : public ToolTest, public testing::WithParamInterface<Sample> {};
+class ShownRecord : public ToolTest, public testing::WithParamInterface<RecordSample> {};
 
 TEST_P(ShownRecord, IsTextForATerminal) {
     EXPECT_THAT(run({"show", "--full", "-"}, {GetParam().document()}).output, HasSubstr(GetParam().name + '\n'));
@@ -169,17 +160,7 @@ TEST_P(ShownRecord, IsTextForATerminal) {
     }
 }
 
-template <class Record>
-std::string sampleOf() {
-    return lv::test::compact(lv::test::filledAndParsedBack<Record>());
-}
-
-template <class... Records>
-std::vector<Sample> samplesOf(lv::RecordTypes<Records...> /*list*/) {
-    return {{Records::rootElementName, &sampleOf<Records>}...};
-}
-
-INSTANTIATE_TEST_SUITE_P(Records, ShownRecord, testing::ValuesIn(samplesOf(lv::EveryRecord())),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Records, ShownRecord, testing::ValuesIn(recordSamples(lv::EveryRecord())),
+                         lv::test::nameOfParameter);
 
 }  // namespace

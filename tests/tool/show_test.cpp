@@ -191,7 +191,7 @@ TEST_F(Show, HasEveryElementWhenAskedTo) {
                 AllOf(StartsWith("Mode 3, Proof\n"), HasSubstr("\n\nMonitorInfo\n  UUID: 6f1d2c9a")));
 }
 
-TEST_F(Show, CountsFindingsAndSucceedsAllTheSame) {
+TEST_F(Show, CountsFindingsAndStillSucceeds) {
     EXPECT_THAT(shown("<AssetInfo Version='1' MinorVersion='0'><Owner>x</Owner></AssetInfo>"),
                 AllOf(HasSubstr("Findings      "), HasSubstr(" (lvdata check)\n"), Not(HasSubstr(noFindings))));
 }

@@ -1,5 +1,7 @@
 #include <lvdata/xml/Limits.h>
 
+#include <tests/support/document_with_markup.h>
+
 #include <limits>
 #include <string>
 
@@ -10,6 +12,7 @@ namespace {
 using lv::Excess;
 using lv::findExcess;
 using lv::Limits;
+using lv::test::documentWithMarkup;
 using What = lv::Excess::What;
 
 /// No limit but this one.
@@ -26,11 +29,6 @@ std::string found(const std::string& text, std::size_t Limits::*member, std::siz
     return excess ? std::to_string(excess->line) + ": " + excess->toString() : "";
 }
 
-/// A document with this before "Asset1".
-std::string documentWith(const std::string& markup) {
-    return "<AssetInfo>\n" + markup + "<Asset1>one</Asset1></AssetInfo>";
-}
-
 TEST(Limits, AreThoseThatTheDocumentationNames) {
     const Limits limits;
     EXPECT_EQ(limits.bytes, 67'108'864U);
@@ -40,15 +38,15 @@ TEST(Limits, AreThoseThatTheDocumentationNames) {
     EXPECT_EQ(limits.brokenReferences, 100U);
 }
 
-TEST(Limits, OfBytesIsTheLargestSize) {
+TEST(Limits, ForBytesIsTheLargestSizeAccepted) {
     EXPECT_EQ(found("<a/>", &Limits::bytes, 4), "");
     EXPECT_EQ(found("<a/>", &Limits::bytes, 3), "0: more than 3 bytes");
     EXPECT_EQ(found("<a/>", &Limits::bytes, 1), "0: more than 1 byte");
     EXPECT_EQ(found("", &Limits::bytes, 0), "");
 }
 
-TEST(Limits, OfElementsIsTheLargestNumber) {
-    const std::string document = documentWith("<!-- <a/> --><![CDATA[<a/>]]><a>\n<b/></a>\n<c d='<e/>'></c>");
+TEST(Limits, ForElementsIsTheLargestNumberAccepted) {
+    const std::string document = documentWithMarkup("<!-- <a/> --><![CDATA[<a/>]]><a>\n<b/></a>\n<c d='<e/>'></c>");
     EXPECT_EQ(found(document, &Limits::elements, 5), "");
     EXPECT_EQ(found(document, &Limits::elements, 4), "4: more than 4 elements");
     EXPECT_EQ(found(document, &Limits::elements, 2), "3: more than 2 elements");
@@ -56,8 +54,8 @@ TEST(Limits, OfElementsIsTheLargestNumber) {
     EXPECT_EQ(found(document, &Limits::elements, 0), "1: more than 0 elements");
 }
 
-TEST(Limits, OfNodesIsTheLargestNumber) {
-    const std::string document = documentWith("<a b='1' c='2'/>\n<!-- d -->e<!f>\n <![CDATA[g]]>");
+TEST(Limits, ForNodesIsTheLargestNumberAccepted) {
+    const std::string document = documentWithMarkup("<a b='1' c='2'/>\n<!-- d -->e<!f>\n <![CDATA[g]]>");
     EXPECT_EQ(found(document, &Limits::nodes, 10), "");
     EXPECT_EQ(found(document, &Limits::nodes, 7), "4: more than 7 nodes");
     EXPECT_EQ(found(document, &Limits::nodes, 6), "3: more than 6 nodes");
@@ -67,45 +65,46 @@ TEST(Limits, OfNodesIsTheLargestNumber) {
     EXPECT_EQ(found(document, &Limits::nodes, 0), "1: more than 0 nodes");
 }
 
-TEST(Limits, OfNodesDoesNotCountEndTagsAndBlanks) {
-    EXPECT_EQ(found(documentWith("<a> </a b='1'> \n "), &Limits::nodes, 4), "");
+TEST(Limits, ForNodesDoesNotCountEndTagsAndBlanks) {
+    EXPECT_EQ(found(documentWithMarkup("<a> </a b='1'> \n "), &Limits::nodes, 4), "");
 }
 
-TEST(Limits, OfAttributesIsTheLargestNumber) {
-    const std::string document = documentWith("<a/>\n<a b='1' c=\"'>\"/>\n<a d = 'x' e='</a>' f='\"/>'><a g=''/></a>");
+TEST(Limits, ForAttributesIsTheLargestNumberAccepted) {
+    const std::string document =
+        documentWithMarkup("<a/>\n<a b='1' c=\"'>\"/>\n<a d = 'x' e='</a>' f='\"/>'><a g=''/></a>");
     EXPECT_EQ(found(document, &Limits::attributes, 3), "");
     EXPECT_EQ(found(document, &Limits::attributes, 2), "4: more than 2 attributes per element");
     EXPECT_EQ(found(document, &Limits::attributes, 1), "3: more than 1 attribute per element");
 }
 
-TEST(Limits, OfAttributesHoldsForEndTags) {
-    const std::string document = documentWith("<a></a b='1' c='2'>");
+TEST(Limits, ForAttributesAlsoCountsThoseOfEndTags) {
+    const std::string document = documentWithMarkup("<a></a b='1' c='2'>");
     EXPECT_EQ(found(document, &Limits::attributes, 2), "");
     EXPECT_EQ(found(document, &Limits::attributes, 1), "2: more than 1 attribute per element");
 }
 
-TEST(Limits, OfAttributesIsNotForWhatLooksLikeThem) {
+TEST(Limits, ForAttributesIgnoresTextThatOnlyLooksLikeThem) {
     const std::string look = " a='1' b='2' ";
     const std::string markup = "text" + look + "<!--<a" + look + ">--><![CDATA[<a" + look + ">]]><!X" + look + ">";
-    EXPECT_EQ(found(documentWith(markup), &Limits::attributes, 0), "");
+    EXPECT_EQ(found(documentWithMarkup(markup), &Limits::attributes, 0), "");
 }
 
-TEST(Limits, OfBrokenReferencesIsTheLargestNumber) {
-    const std::string document = documentWith("<a>&# &#1 </a>\n<a>&#65;&#65 &#x &#65\n&#;&#66;</a>");
+TEST(Limits, ForBrokenReferencesIsTheLargestNumberAccepted) {
+    const std::string document = documentWithMarkup("<a>&# &#1 </a>\n<a>&#65;&#65 &#x &#65\n&#;&#66;</a>");
     EXPECT_EQ(found(document, &Limits::brokenReferences, 3), "");
     EXPECT_EQ(found(document, &Limits::brokenReferences, 2), "3: more than 2 broken references per text");
     EXPECT_EQ(found(document, &Limits::brokenReferences, 1), "2: more than 1 broken reference per text");
 }
 
-TEST(Limits, OfBrokenReferencesHoldsForAttributes) {
-    const std::string document = documentWith("<a b='&#&#;'\nc='&#<a>&#'\nd=\"&#'\"/>");
+TEST(Limits, ForBrokenReferencesAlsoCountsThoseInAttributes) {
+    const std::string document = documentWithMarkup("<a b='&#&#;'\nc='&#<a>&#'\nd=\"&#'\"/>");
     EXPECT_EQ(found(document, &Limits::brokenReferences, 2), "");
     EXPECT_EQ(found(document, &Limits::brokenReferences, 1), "3: more than 1 broken reference per text");
 }
 
-TEST(Limits, OfBrokenReferencesIsNotForWhatHoldsNone) {
+TEST(Limits, ForBrokenReferencesIgnoresMarkupThatHoldsNone) {
     const std::string markup = "<!--&#&#--><![CDATA[&#&#]]><!X &#&#>&lt;&amp;#";
-    EXPECT_EQ(found(documentWith(markup), &Limits::brokenReferences, 0), "");
+    EXPECT_EQ(found(documentWithMarkup(markup), &Limits::brokenReferences, 0), "");
 }
 
 TEST(Excess, SaysWhatAndWhere) {
@@ -117,7 +116,7 @@ TEST(Excess, SaysWhatAndWhere) {
     EXPECT_EQ(excess->line, 2);
 }
 
-TEST(Excess, OfBytesIsWhereTheFirstTooManyStands) {
+TEST(Excess, OfBytesIsAtTheFirstByteTooMany) {
     const auto excess = findExcess("<a>\n<b/></a>", only(&Limits::bytes, 7));
     ASSERT_TRUE(excess);
     EXPECT_EQ(excess->what, What::bytes);

@@ -34,7 +34,7 @@ std::string nested(std::size_t depth) {
     return text;
 }
 
-TEST(XMLDocument, FreshOneIsAnEmptyDocumentOfItsOwn) {
+TEST(XMLDocument, NewDocumentIsEmptyAndOwned) {
     const XMLDocument document;
     EXPECT_TRUE(document.isValid());
     EXPECT_EQ(document.type(), 1);
@@ -48,7 +48,7 @@ TEST_F(XMLDocumentOfAAndB, CompactTextHasNoDeclarationAndNoLineBreaks) {
     EXPECT_EQ(document_.toXMLString(false, false), "<A><B>5</B></A>");
 }
 
-TEST_F(XMLDocumentOfAAndB, CompactTextStandsDirectlyBehindTheDeclaration) {
+TEST_F(XMLDocumentOfAAndB, CompactTextFollowsTheDeclarationDirectly) {
     EXPECT_EQ(document_.toXMLString(true, false), declaration + "<A><B>5</B></A>");
 }
 
@@ -76,13 +76,13 @@ TEST(XMLDocumentAppendChild, AppendsAtDocumentLevelAndReturnsTheElement) {
     EXPECT_EQ(document.toXMLString(false, false), "<A/><B/>");
 }
 
-TEST(XMLDocumentRootElement, IsTheFirstElementWhateverItsNameAndWhateverStandsBeforeIt) {
+TEST(XMLDocumentRootElement, IsTheFirstElementRegardlessOfItsNameAndOfWhatPrecedesIt) {
     XMLDocument document;
     ASSERT_TRUE(document.parseXMLString("<?xml version='1.0'?>\n<!DOCTYPE any>\n<!-- comment -->\n<any/><other/>"));
     EXPECT_EQ(document.rootElement().elementName(), "any");
 }
 
-TEST(XMLDocumentRootElement, IsInvalidWhereThereIsNoElement) {
+TEST(XMLDocumentRootElement, IsInvalidWithoutAnElement) {
     XMLDocument document;
     ASSERT_TRUE(document.parseXMLString("<!-- comment -->"));
     EXPECT_FALSE(document.rootElement().isValid());
@@ -108,7 +108,7 @@ TEST(XMLDocumentParse, ReplacesWhatTheDocumentHeld) {
     EXPECT_EQ(document.toXMLString(false, false), "<B/>");
 }
 
-TEST(XMLDocumentParse, RefusesTextThatIsNotWellFormedAndTellsReasonAndLine) {
+TEST(XMLDocumentParse, RefusesMalformedTextWithReasonAndLine) {
     struct Case {
         std::string text;
         std::string reason;
@@ -159,7 +159,7 @@ TEST(XMLDocumentParse, FailureEmptiesTheDocument) {
     }
 }
 
-TEST(XMLDocumentParse, SuccessForgetsAnEarlierFailure) {
+TEST(XMLDocumentParse, SuccessClearsAnEarlierFailure) {
     XMLDocument document;
     EXPECT_FALSE(document.parseXMLString("<A>\n<B>"));
     EXPECT_TRUE(document.parseXMLString("<A/>"));
@@ -224,7 +224,7 @@ TEST(XMLDocumentBorrowed, WithoutADocumentDoesNothing) {
     EXPECT_STREQ(printer.CStr(), "<A>text</A>");
 }
 
-TEST(XMLDocumentParse, ByteOrderMarkIsPassedOverAndNotPrinted) {
+TEST(XMLDocumentParse, ByteOrderMarkIsIgnoredAndNotPrinted) {
     XMLDocument document;
     ASSERT_TRUE(document.parseXMLString("\xEF\xBB\xBF<A/>"));
     EXPECT_EQ(document.rootElement().elementName(), "A");

@@ -89,14 +89,14 @@ TEST(XMLElementAppendChild, TheNewChildTakesChildrenAndAttributes) {
     EXPECT_EQ(document.text(), R"(<A><B Type="Value"><C>5</C></B></A>)");
 }
 
-TEST(XMLElementAppendChild, EqualNamesStandSideBySideInTheOrderOfTheCalls) {
+TEST(XMLElementAppendChild, ChildrenOfOneNameAreInTheOrderOfTheCalls) {
     const ParsedDocument document("<A/>");
     document.root().appendChildInt("B", 2);
     document.root().appendChildInt("B", 1);
     EXPECT_EQ(document.text(), "<A><B>2</B><B>1</B></A>");
 }
 
-TEST(XMLElementAppendChildString, EmptyTextIsATextNodeToo) {
+TEST(XMLElementAppendChildString, EmptyTextIsAlsoATextNode) {
     const ParsedDocument document("<A/>");
     document.root().appendChildString("B", "");
     document.root().appendChildString("C", property<std::string>{"", true}, false);
@@ -112,7 +112,7 @@ TEST(XMLElementAppendChildString, SpecialCharactersAreEscapedAndReadBack) {
     EXPECT_EQ(childText(ParsedDocument(written.text()), "B"), special);
 }
 
-TEST(XMLElementAppendChildString, UnicodeTextIsWrittenAsItStands) {
+TEST(XMLElementAppendChildString, UnicodeTextIsWrittenUnchanged) {
     const ParsedDocument document("<A/>");
     document.root().appendChildString("B", "\xC2\xB5 \xE7\xB7\x91 \xF0\x9F\x8E\xA8");
     EXPECT_EQ(document.text(), "<A><B>\xC2\xB5 \xE7\xB7\x91 \xF0\x9F\x8E\xA8</B></A>");

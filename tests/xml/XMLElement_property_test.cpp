@@ -67,7 +67,7 @@ TEST(XMLElementStringProperty, ReadFromAnElementWithoutTextKeepsItsValueAndItsFl
     }
 }
 
-TEST(XMLElementArrayProperty, SplitsAtTheBarWhateverSeparatorIsGiven) {
+TEST(XMLElementArrayProperty, AlwaysSplitsAtTheBar) {
     const ParsedDocument parsed("<A>1|2,3<B>4|5,6</B></A>");
     property<std::vector<int>> numbers;
     property<std::vector<unsigned int>> counts;
@@ -81,7 +81,7 @@ TEST(XMLElementArrayProperty, SplitsAtTheBarWhateverSeparatorIsGiven) {
     EXPECT_EQ(counts.value, (std::vector<unsigned int>{4, 5}));
 }
 
-TEST(XMLElementArrayProperty, OfSeparatorsAloneIsSetAndEmpty) {
+TEST(XMLElementArrayProperty, IsSetAndEmptyForSeparatorsAlone) {
     property<std::vector<int>> numbers{{9}, false};
     ParsedDocument("<A>||</A>").root().getIntArray(numbers, "|");
     EXPECT_EQ(numbers, (property<std::vector<int>>{{}, true}));

@@ -40,7 +40,7 @@ TYPED_TEST(XMLElementReading, GivesTheTextOfANamedChildAndReturnsTheChild) {
     EXPECT_EQ(out, TypeParam::value());
 }
 
-TYPED_TEST(XMLElementReading, OfRepeatedChildrenTheFirstCounts) {
+TYPED_TEST(XMLElementReading, TheFirstOfRepeatedChildrenIsRead) {
     const std::string text = TypeParam::text;
     const ParsedDocument parsed("<A><C/><B>" + text + "</B><B>0</B></A>");
     auto out = TypeParam::otherValue();
@@ -93,7 +93,7 @@ TEST(XMLElementGetStringValue, EmptyTextIsTextAndEmptiesOut) {
     EXPECT_EQ(out, "");
 }
 
-TEST(XMLElementGetStringValue, TakesTheTextAsXmlMeansIt) {
+TEST(XMLElementGetStringValue, ReadsEntitiesSectionsAndCommentsAsXMLDefinesThem) {
     struct Case {
         const char* content;
         const char* text;
@@ -210,7 +210,7 @@ TEST(XMLElementGetIntArray, ConvertsEachPieceAsLexicalCastDoes) {
     EXPECT_EQ(counts, (std::vector<unsigned int>{4294967295U, 4294967295U, 0}));
 }
 
-TEST(XMLElementGetIntArray, OfANamedChildSplitsAtTheBarWhateverSeparatorIsGiven) {
+TEST(XMLElementGetIntArray, ForANamedChildAlwaysSplitsAtTheBar) {
     const ParsedDocument parsed("<A><Comma>1,2</Comma><Bar>1|2</Bar></A>");
     std::vector<int> numbers = {9};
     std::vector<unsigned int> counts = {9};

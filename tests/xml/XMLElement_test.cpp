@@ -40,7 +40,7 @@ TEST(XMLElementGetElement, GivesTheFirstChildOfThatName) {
     EXPECT_EQ(text, "2");
 }
 
-TEST(XMLElementGetElement, IsInvalidWhereNoChildHasThatName) {
+TEST(XMLElementGetElement, IsInvalidWhenNoChildHasThatName) {
     const ParsedDocument document("<A>text<!-- B --><C><B/></C></A>");
     for (const char* const name : {"B", "A", "c", "text", ""}) {
         EXPECT_FALSE(document.root().getElement(name).isValid()) << name;
@@ -66,7 +66,7 @@ TEST(XMLElementGetElements, GivesTheChildrenOfThatNameInDocumentOrderAndSkipsOth
     EXPECT_EQ(texts(document.root().getElements("B")), (std::vector<std::string>{"3", "1", "2"}));
 }
 
-TEST(XMLElementGetElements, IsEmptyWhereNoChildHasThatName) {
+TEST(XMLElementGetElements, IsEmptyWhenNoChildHasThatName) {
     EXPECT_TRUE(ParsedDocument("<A><b/></A>").root().getElements("B").empty());
     EXPECT_TRUE(ParsedDocument("<B/>").root().getElements("B").empty());
 }

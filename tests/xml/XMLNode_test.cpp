@@ -50,7 +50,7 @@ TEST_F(XMLNodeOfDocument, TypeIsZeroForAnythingElse) {
     EXPECT_EQ(XMLNode(element()->LastChild()).type(), 0);
 }
 
-TEST_F(XMLNodeOfDocument, HandsTheHandleOutAsItCame) {
+TEST_F(XMLNodeOfDocument, ReturnsTheHandleItWasMadeWith) {
     tinyxml2::XMLNode* const node = element();
     XMLNode wrapper(node);
     const XMLNode& constWrapper = wrapper;

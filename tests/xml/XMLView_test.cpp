@@ -67,7 +67,7 @@ TEST(XMLView, IsSafeWhenInvalid) {
     EXPECT_FALSE(none.next().isValid());
 }
 
-TEST(XMLView, OfADocumentThatWasReadOrIsReadAfterwards) {
+TEST(XMLView, ShowsADocumentBeforeAndAfterItIsRead) {
     const std::string text = "<CandelaMap><Uniformity><Values>1|2|3</Values></Uniformity></CandelaMap>";
     const auto valuesOf = [&](bool isViewedBefore) {
         lv::ParsedDocument document(text);

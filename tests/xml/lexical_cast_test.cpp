@@ -101,7 +101,7 @@ TEST(LexicalCastToUnsigned, MinusNegatesModuloTwoToThe32) {
     EXPECT_EQ(lexical_cast<unsigned int>("-0"), 0U);
 }
 
-TEST(LexicalCast, TextThatBeginsWithNoDigitGivesZero) {
+TEST(LexicalCast, TextWithoutALeadingDigitGivesZero) {
     for (const char* const text : {"abc", "-", "+", "+-5", "-+5", "--5", "- 5", ".5", "|5", "", "true"}) {
         EXPECT_EQ(lexical_cast<int>(text), 0) << text;
         EXPECT_EQ(lexical_cast<unsigned int>(text), 0U) << text;
@@ -128,7 +128,7 @@ TEST(LexicalCast, SkipsTheSixAsciiWhiteSpaceCharactersAndNoOtherByte) {
     }
 }
 
-TEST(LexicalCast, EveryByteBehindANumberEndsItUnlessItIsADigit) {
+TEST(LexicalCast, EveryByteAfterANumberEndsItUnlessItIsADigit) {
     for (int byte = 0; byte < 256; ++byte) {
         expectAsExtracted(std::string("1") + static_cast<char>(byte) + "2");
     }

@@ -37,7 +37,7 @@ TEST(SplitString, EmptyTextYieldsOneEmptyPiece) {
     EXPECT_EQ(split_string("", "::"), Pieces{""});
 }
 
-TEST(SplitString, LongerSeparatorResumesOneCharacterBehindItsStart) {
+TEST(SplitString, LongerSeparatorResumesOneCharacterAfterItsStart) {
     EXPECT_EQ(split_string("a::b::c", "::"), (Pieces{"a", ":b", ":c"}));
     EXPECT_EQ(split_string("a:::b", "::"), (Pieces{"a", "", ":b"}));
     EXPECT_EQ(split_string("1, 2, 3", ", "), (Pieces{"1", " 2", " 3"}));
@@ -49,7 +49,7 @@ TEST(SplitString, EmptySeparatorGivesTheWholeTextAsOnePiece) {
     EXPECT_EQ(split_string("", ""), Pieces{""});
 }
 
-TEST(SplitString, BytesHaveNoMeaningOfTheirOwn) {
+TEST(SplitString, AnyByteMayBePartOfPieceOrSeparator) {
     EXPECT_EQ(split_string("\xC2\xB5|\xFF", "|"), (Pieces{"\xC2\xB5", "\xFF"}));
     const std::string withNul("a\0b|c", 5);
     EXPECT_EQ(split_string(withNul, "|"), (Pieces{std::string("a\0b", 3), "c"}));

@@ -2,13 +2,10 @@
 
 #include <tests/analysis/catalogue.h>
 #include <tests/differential/Damage.h>
+#include <tests/support/golden.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,12 +23,6 @@ using lv::analysis::Findings;
 using lv::test::catalogue;
 
 namespace {
-
-std::string textOf(const std::filesystem::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
-}
 
 std::string shapeless(const tinyxml2::XMLNode& node);
 
@@ -128,15 +119,12 @@ bool expectAgreement(const std::string& text) {
 }
 
 std::vector<std::string> goldenDocuments() {
-    std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(LVDATA_GOLDEN_DIR)) {
-        if (entry.path().extension() == ".xml") {
-            files.push_back(entry.path());
+    std::vector<std::string> texts;
+    for (const auto& folder : lv::test::goldenFilesOf("")) {
+        for (const std::string& text : lv::test::goldenTextsOf(folder.filename().string())) {
+            texts.push_back(text);
         }
     }
-    std::sort(files.begin(), files.end());
-    std::vector<std::string> texts;
-    std::transform(files.begin(), files.end(), std::back_inserter(texts), &textOf);
     return texts;
 }
 
@@ -147,13 +135,13 @@ int casesAsked() {
 
 }  // namespace
 
-TEST(Completeness, OfEveryGoldenDocument) {
+TEST(Completeness, HasAFindingForEachLossInGoldenDocuments) {
     for (const std::string& text : goldenDocuments()) {
         expectAgreement(text);
     }
 }
 
-TEST(Completeness, OfWhatRecordsPrint) {
+TEST(Completeness, HasAFindingForEachLossInPrintedRecords) {
     for (const std::string& text : goldenDocuments()) {
         const Document document(text, catalogue());
         if (document.refusal() == nullptr) {
@@ -163,7 +151,7 @@ TEST(Completeness, OfWhatRecordsPrint) {
     }
 }
 
-TEST(Completeness, OfDamagedDocuments) {
+TEST(Completeness, HasAFindingForEachLossInDamagedDocuments) {
     const std::vector<std::string> documents = goldenDocuments();
     differential::Damage damage(20261122);
     int read = 0;

@@ -61,7 +61,7 @@ std::string oddText(std::mt19937& random) {
 
 }  // namespace
 
-TEST(Numbers, AreJudgedAsTheyAreRead) {
+TEST(Numbers, AreCheckedAsTheyAreRead) {
     std::mt19937 random(20261122);
     for (int count = 0; count < 20'000; ++count) {
         expectTrueJudgement(oddText(random));
@@ -71,7 +71,7 @@ TEST(Numbers, AreJudgedAsTheyAreRead) {
     }
 }
 
-TEST(Numbers, NextToALimitAreJudgedAsTheyAreRead) {
+TEST(Numbers, NearALimitAreCheckedAsTheyAreRead) {
     for (const std::int64_t limit : {0LL, 2147483647LL, -2147483648LL, 4294967295LL, -4294967295LL}) {
         for (std::int64_t number = limit - 3; number <= limit + 3; ++number) {
             expectTrueJudgement(std::to_string(number));
@@ -95,7 +95,7 @@ TEST(Numbers, SignedHaveTheirOwnLimits) {
     EXPECT_EQ(judgeNumber("-0", true), NumberText::otherSpelling);
 }
 
-TEST(Numbers, AreJudgedByWhatIsAroundThem) {
+TEST(Numbers, AreCheckedInTheirContext) {
     EXPECT_EQ(judgeNumber("", false), NumberText::empty);
     EXPECT_EQ(judgeNumber(" ", false), NumberText::noNumber);
     EXPECT_EQ(judgeNumber("+", true), NumberText::noNumber);

@@ -30,20 +30,20 @@ std::string dated(const std::string& text) {
 
 }  // namespace
 
-TEST(Plausibility, OfTables) {
+TEST(Plausibility, IsCheckedForTables) {
     EXPECT_THAT(findingsIn(table("0|5|5|4294967295")), IsEmpty());
     EXPECT_THAT(findingsIn(table("0|5|4|3")), ElementsAre("402 line 2 /ProfileData/RedTargetCurve: entry 3 is 4, less "
                                                           "than the one before it, 5"));
     EXPECT_THAT(findingsIn(table("0|5|05|04")), testing::Contains(StartsWith("402 line 2")));
 }
 
-TEST(Plausibility, OfFaultyTablesIsLeftToOtherRules) {
+TEST(Plausibility, IsNotCheckedForFaultyTables) {
     EXPECT_THAT(findingsIn(table("0|5||6")), ElementsAre(StartsWith("108 ")));
     EXPECT_THAT(findingsIn(table("0|5|-1")), ElementsAre(StartsWith("103 ")));
     EXPECT_THAT(findingsIn(table("5|x")), ElementsAre(StartsWith("101 ")));
 }
 
-TEST(Plausibility, OfChromaticities) {
+TEST(Plausibility, IsCheckedForChromaticities) {
     const auto white = [](int x, int y) {
         return findingsIn("<TargetSetting>\n<WhitePoint Type='Coordinate'><x>" + std::to_string(x) + "</x><y>" +
                           std::to_string(y) + "</y></WhitePoint></TargetSetting>");
@@ -52,7 +52,7 @@ TEST(Plausibility, OfChromaticities) {
     EXPECT_THAT(white(4000, 6001), ElementsAre("401 line 2 /TargetSetting/WhitePoint: the sum of x and y is above 1"));
 }
 
-TEST(Plausibility, OfWhites) {
+TEST(Plausibility, IsCheckedForWhites) {
     EXPECT_THAT(findingsIn(target(3127, 3290)), IsEmpty());
     EXPECT_THAT(findingsIn(target(6400, 3300)), IsEmpty()) << "on a corner";
     EXPECT_THAT(findingsIn(target(0, 0)), IsEmpty()) << "not set";
@@ -60,7 +60,7 @@ TEST(Plausibility, OfWhites) {
                 ElementsAre("406 line 2 /TargetSetting: the white point is outside the triangle of the primaries"));
 }
 
-TEST(Plausibility, OfIndexes) {
+TEST(Plausibility, IsCheckedForIndexes) {
     const auto row = [](const std::string& index) {
         return "<ColorMode><Index>" + index + "</Index></ColorMode>\n";
     };
@@ -72,7 +72,7 @@ TEST(Plausibility, OfIndexes) {
     EXPECT_THAT(findings("01"), testing::Contains(StartsWith("403 line 4 ")));
 }
 
-TEST(Plausibility, OfMaps) {
+TEST(Plausibility, IsCheckedForMaps) {
     const auto maps = [](const std::string& brightness) {
         return findingsIn("<CandelaMap><Uniformity><Values>1|2|3</Values></Uniformity><Brightness>\n<Values>" +
                           brightness + "</Values></Brightness></CandelaMap>");
@@ -81,7 +81,7 @@ TEST(Plausibility, OfMaps) {
     EXPECT_THAT(maps("4|5"), ElementsAre("404 line 2 /CandelaMap: Brightness has 2 entries, and Uniformity 3"));
 }
 
-TEST(Plausibility, OfDates) {
+TEST(Plausibility, IsCheckedForDates) {
     EXPECT_THAT(findingsIn(dated("2024-03-17T09:31:00Z")), IsEmpty());
     EXPECT_THAT(findingsIn(dated("")), IsEmpty());
     EXPECT_THAT(findingsIn(dated("17.3.2024")),

@@ -18,7 +18,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-TEST(StructureFindings, OfUnknownElementsWithAGuess) {
+TEST(StructureFindings, NameUnknownElementsAndASimilarName) {
     const auto findings = [](const std::string& name) {
         return findingsIn("<BasicData>\n<" + name + "/></BasicData>");
     };
@@ -30,21 +30,21 @@ TEST(StructureFindings, OfUnknownElementsWithAGuess) {
     EXPECT_THAT(findings("UsageHoursxxxxx"), ElementsAre(testing::Not(HasSubstr("did you mean"))));
 }
 
-TEST(StructureFindings, OfUnknownAttributes) {
+TEST(StructureFindings, NameUnknownAttributes) {
     EXPECT_THAT(findingsIn("<AssetInfo version='1'>\n<Asset1 lang='en'/></AssetInfo>"),
                 ElementsAre("302 line 1 /AssetInfo/@version: unknown attribute \"version\" is dropped; did you mean "
                             "\"Version\"?",
                             "302 line 2 /AssetInfo/Asset1/@lang: unknown attribute \"lang\" is dropped"));
 }
 
-TEST(StructureFindings, OfElementsInTheWrongPlace) {
+TEST(StructureFindings, NameElementsInTheWrongPlace) {
     EXPECT_THAT(
         findingsIn("<MonitorInfo>\n<Asset1/></MonitorInfo>"),
         ElementsAre("309 line 2 /MonitorInfo/Asset1: element \"Asset1\" is in the wrong place and is dropped; it "
                     "belongs in MonitorInfo/AssetInfo"));
 }
 
-TEST(StructureFindings, OfRepeatedElements) {
+TEST(StructureFindings, NameRepeatedElements) {
     EXPECT_THAT(findingsIn("<AssetInfo>\n<Asset1>a</Asset1>\n<Asset1>b</Asset1></AssetInfo>\n<AssetInfo/>"),
                 ElementsAre("303 line 3 /AssetInfo/Asset1: element \"Asset1\" is repeated: this one is dropped",
                             "004 line 4 : not well-formed XML: something follows the root element; the record may hold "
@@ -52,7 +52,7 @@ TEST(StructureFindings, OfRepeatedElements) {
                             "303 line 4 /AssetInfo: a second root element \"AssetInfo\" is dropped"));
 }
 
-TEST(StructureFindings, OfKeyedElements) {
+TEST(StructureFindings, NameFaultyKeyedElements) {
     const auto measured = [](const std::string& key) {
         return "\n<MeasuredXYZ" + key + ">1|2|3</MeasuredXYZ>";
     };
@@ -67,7 +67,7 @@ TEST(StructureFindings, OfKeyedElements) {
                     "dropped"));
 }
 
-TEST(StructureFindings, OfArraysThatCountOnlyTogether) {
+TEST(StructureFindings, NameArraysThatAreValidOnlyTogether) {
     std::string document = "<ProfileData>";
     for (const std::string color : {"Red", "Green", "Blue", "White", "Black"}) {
         document += "\n<MeasuredXYZ Color='" + color + "'>1|2" + (color == "Blue" ? "" : "|3") + "</MeasuredXYZ>";
@@ -83,7 +83,7 @@ TEST(StructureFindings, OfArraysThatCountOnlyTogether) {
     }
 }
 
-TEST(StructureFindings, OfRowsWithTheirNumber) {
+TEST(StructureFindings, NameRowsByTheirNumber) {
     EXPECT_THAT(
         findingsIn("<MeasurementData>\n<Measurements><RGB>1|2|3</RGB></Measurements>\n<Measurements/>\n"
                    "<Measurements><RGB>1|2</RGB></Measurements>\n</MeasurementData>"),
@@ -92,7 +92,7 @@ TEST(StructureFindings, OfRowsWithTheirNumber) {
                     "it is dropped"));
 }
 
-TEST(StructureFindings, OfConditionsNameThem) {
+TEST(StructureFindings, NameTheConditionThatIsNotMet) {
     EXPECT_THAT(
         findingsIn("<ParameterSetting><WhitePoint Type='Temprature'>\n<Temperature>6500</Temperature>"
                    "</WhitePoint></ParameterSetting>"),
@@ -105,7 +105,7 @@ TEST(StructureFindings, OfConditionsNameThem) {
             StartsWith("306 line 2 /ParameterSetting/Gamma/Value: \"Value\" is dropped: it is only read when ")));
 }
 
-TEST(StructureFindings, OfCommentsAndTexts) {
+TEST(StructureFindings, NameCommentsAndTextsThatAreLost) {
     EXPECT_THAT(
         findingsIn("<!--1--><!DOCTYPE x>\n<AssetInfo>\n<!--2-->\n<Asset1>a<!--3-->b</Asset1>\n<Asset2>c</Asset2>d"
                    "</AssetInfo>\n<!--4-->"),
@@ -117,7 +117,7 @@ TEST(StructureFindings, OfCommentsAndTexts) {
                     "307 line 6 : a comment is dropped: \"4\""));
 }
 
-TEST(StructureFindings, OfWhatIsAdded) {
+TEST(StructureFindings, NameWhatARoundTripAdds) {
     EXPECT_THAT(findingsIn("<AssetInfo Version='1'/>", CheckOptions{}),
                 ElementsAre("310 line 1 /AssetInfo: attribute \"MinorVersion\" is missing and is added as \"0\""));
     EXPECT_THAT(findingsIn("<AssetInfo Version='7' MinorVersion='2'/>", CheckOptions{}),
@@ -125,7 +125,7 @@ TEST(StructureFindings, OfWhatIsAdded) {
                             "312 line 1 /AssetInfo/@MinorVersion: MinorVersion is 2, and this library's is 0"));
 }
 
-TEST(StructureFindings, OfEachSeverityAreListedUpToALimit) {
+TEST(StructureFindings, AreListedUpToALimitForEachSeverity) {
     CheckOptions options;
     options.mostListed = 3;
     const std::string remarks = repeated("<Measurements><RGB>01|2|3</RGB></Measurements>", 10);
@@ -152,7 +152,7 @@ TEST(StructureFindings, HaveLinesAfterMarkupOfManyLines) {
                 ElementsAre(StartsWith("301 line 8 ")));
 }
 
-TEST(StructureFindings, KeepToAFewBytesEach) {
+TEST(StructureFindings, UseFewBytesEach) {
     const std::string name(1'000'000, 'a');
     const std::string text = "<AssetInfo><" + name + ' ' + name + "='" + name + "'/><Asset1 " + name + "=''/>" + name +
                              "<!--" + name + "--></AssetInfo>";
@@ -162,7 +162,7 @@ TEST(StructureFindings, KeepToAFewBytesEach) {
     }
 }
 
-TEST(StructureFindings, OfHostileNumbersTakeTimeInProportion) {
+TEST(StructureFindings, TakeTimeInProportionToTheirNumber) {
     const std::string rows = repeated("<Measurements><RGB>1|2|3</RGB><Frob a='1'/></Measurements>", 50'000);
     const Findings findings = check("<MeasurementData>" + rows + "</MeasurementData>", catalogue());
     EXPECT_EQ(findings.warnings, 50'000U);
@@ -173,7 +173,7 @@ TEST(StructureFindings, OfHostileNumbersTakeTimeInProportion) {
               0U);
 }
 
-TEST(StructureFindings, OfTextThatOnlyAStrictParserRefuses) {
+TEST(StructureFindings, NameTextThatOnlyAStrictParserRefuses) {
     const auto isRefused = [](const std::string& text) {
         const auto findings = findingsIn(text);
         return findings.size() == 1 && findings.front().rfind("004 line 2 ", 0) == 0;
@@ -185,13 +185,13 @@ TEST(StructureFindings, OfTextThatOnlyAStrictParserRefuses) {
     EXPECT_TRUE(isRefused("<AssetInfo/>\n</b><AssetInfo/>"));
 }
 
-TEST(StructureFindings, OfAnotherEncodingThanUTF8) {
+TEST(StructureFindings, NameAnEncodingOtherThanUTF8) {
     EXPECT_THAT(findingsIn("<?xml version='1.0' encoding='ISO-8859-1'?><AssetInfo/>"),
                 ElementsAre("003 line 1 : declares the encoding \"ISO-8859-1\", but is read as UTF-8"));
     EXPECT_THAT(findingsIn("<?xml version='1.0' encoding='utf-8'?><AssetInfo/>"), ElementsAre());
 }
 
-TEST(StructureFindings, OfTypesThatDoNotBelongToAText) {
+TEST(StructureFindings, NameTheConditionOnTheTypeAndASimilarType) {
     EXPECT_THAT(
         findingsIn("<ProfileData>\n<RedTargetCurve Type='lut'>1|2</RedTargetCurve></ProfileData>"),
         testing::Contains(testing::HasSubstr("it is only read when ../@Type is \"Formula\" or \"Lut\", but that "

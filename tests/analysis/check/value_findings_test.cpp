@@ -24,7 +24,7 @@ const std::string mapsPath = " line 3 /CandelaMap/Uniformity/Values: ";
 
 }  // namespace
 
-TEST(ValueFindings, OfTheNumberInAnElement) {
+TEST(ValueFindings, NameFaultyNumbersInElements) {
     EXPECT_THAT(findingsIn(usageHours("7")), IsEmpty());
     EXPECT_THAT(findingsIn(usageHours("x7")),
                 ElementsAre("101" + usageHoursPath + "\"x7\" is not a number, reads as 0"));
@@ -39,7 +39,7 @@ TEST(ValueFindings, OfTheNumberInAnElement) {
     EXPECT_THAT(findingsIn(usageHours("07")), ElementsAre("105" + usageHoursPath + "\"07\" is written back as 7"));
 }
 
-TEST(ValueFindings, OfTheNumberInAnAttribute) {
+TEST(ValueFindings, NameFaultyNumbersInAttributes) {
     EXPECT_THAT(findingsIn("<AssetInfo\n Version='one'/>"),
                 ElementsAre("101 line 2 /AssetInfo/@Version: \"one\" is not a number, reads as 0"));
     EXPECT_THAT(findingsIn("<AssetInfo Version=''/>"),
@@ -47,7 +47,7 @@ TEST(ValueFindings, OfTheNumberInAnAttribute) {
                             "\"1\" is written"));
 }
 
-TEST(ValueFindings, OfSwitches) {
+TEST(ValueFindings, NameFaultySwitches) {
     const auto findings = [](const std::string& text) {
         return findingsIn("<ProfilePolicy>\n<Create3DLut>" + text + "</Create3DLut></ProfilePolicy>");
     };
@@ -60,7 +60,7 @@ TEST(ValueFindings, OfSwitches) {
     EXPECT_THAT(findings("1"), ElementsAre("106" + path + R"("1" is neither "true" nor "false", reads as false)"));
 }
 
-TEST(ValueFindings, OfArraysAreOneForEachKindOfFault) {
+TEST(ValueFindings, AreOneForEachKindOfFaultInAnArray) {
     EXPECT_THAT(findingsIn(maps("1|2|3")), IsEmpty());
     EXPECT_THAT(
         findingsIn(maps("1|x|y|-2|99999999999|4.5|06|")),
@@ -73,20 +73,20 @@ TEST(ValueFindings, OfArraysAreOneForEachKindOfFault) {
                     "104" + mapsPath + "entry 6: what follows the number in \"4.5\" is ignored, reads as 4"));
 }
 
-TEST(ValueFindings, OfEmptyEntriesWhereverTheyAre) {
+TEST(ValueFindings, NameEmptyEntriesAnywhereInAnArray) {
     EXPECT_THAT(findingsIn(maps("|1")), ElementsAre(HasSubstr("108" + mapsPath + "entry 1 is empty")));
     EXPECT_THAT(findingsIn(maps("1||2||3")),
                 ElementsAre(HasSubstr("108" + mapsPath + "entry 2 (and 1 more) is empty")));
 }
 
-TEST(ValueFindings, OfTheArrayInARow) {
+TEST(ValueFindings, NameArraysInRows) {
     EXPECT_THAT(findingsIn("<MeasurementData>\n<Measurements><RGB>1|2|3</RGB></Measurements>\n"
                            "<Measurements><XYZ>1|-2|3,5</XYZ></Measurements></MeasurementData>"),
                 ElementsAre("104 line 3 /MeasurementData/Measurements[2]/XYZ: entry 3: what follows the number in "
                             "\"3,5\" is ignored, reads as 3"));
 }
 
-TEST(ValueFindings, OfTextThatDoesNotSurvive) {
+TEST(ValueFindings, NameTextThatIsNotKept) {
     EXPECT_THAT(findingsIn("<AssetInfo><Asset1>a&#13;b</Asset1></AssetInfo>"),
                 ElementsAre("109 line 1 /AssetInfo/Asset1: \"a\rb\" is written back as \"a\rb\""));
     EXPECT_THAT(findingsIn("<AssetInfo><Asset1>&#32;</Asset1></AssetInfo>"), ElementsAre(HasSubstr("109 line 1")));

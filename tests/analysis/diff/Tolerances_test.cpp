@@ -1,10 +1,12 @@
 #include <lvdata/analysis/diff/Tolerances.h>
 
 #include <tests/analysis/diff/differences.h>
+#include <tests/analysis/diff/documents.h>
 
 #include <gmock/gmock.h>
 
 using lv::analysis::Tolerances;
+using lv::test::documentWithGamma;
 
 namespace {
 
@@ -54,12 +56,9 @@ TEST(Tolerances, StaysAsItIsWhenAPartIsWrong) {
 }
 
 TEST(Tolerances, HoldForNumbers) {
-    const auto gamma = [](const std::string& value) {
-        return "<ParameterSetting><Gamma Type='Value'><Value>" + value + "</Value></Gamma></ParameterSetting>";
-    };
-    EXPECT_EQ(listed(gamma("220"), gamma("230"), "gamma=0.1"), 0U);
-    EXPECT_EQ(listed(gamma("220"), gamma("209"), "gamma=0.1"), 1U);
-    EXPECT_EQ(listed(gamma("220"), gamma("220"), "gamma=0"), 0U);
+    EXPECT_EQ(listed(documentWithGamma("220"), documentWithGamma("230"), "gamma=0.1"), 0U);
+    EXPECT_EQ(listed(documentWithGamma("220"), documentWithGamma("209"), "gamma=0.1"), 1U);
+    EXPECT_EQ(listed(documentWithGamma("220"), documentWithGamma("220"), "gamma=0"), 0U);
 }
 
 TEST(Tolerances, HoldForEachEntryOfATable) {

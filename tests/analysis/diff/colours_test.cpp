@@ -1,4 +1,5 @@
 #include <tests/analysis/diff/differences.h>
+#include <tests/analysis/diff/documents.h>
 
 #include <gmock/gmock.h>
 
@@ -6,6 +7,7 @@ using lv::analysis::ColourChange;
 using lv::analysis::Difference;
 using lv::analysis::DiffOptions;
 using lv::test::diffOf;
+using lv::test::measurementSeries;
 
 namespace {
 
@@ -37,10 +39,6 @@ std::string limited(const std::string& white, const std::string& red) {
 
 std::string row(const std::string& rgb, const std::string& xyz) {
     return "<Measurements><RGB>" + rgb + "</RGB><XYZ>" + xyz + "</XYZ></Measurements>";
-}
-
-std::string series(const std::string& rows) {
-    return "<MeasurementData>" + rows + "</MeasurementData>";
 }
 
 std::string modeOf(const std::string& content) {
@@ -104,14 +102,14 @@ TEST(DiffOfTristimulusValues, IsRelativeToTheWhiteOfTheProfile) {
     EXPECT_EQ(change.reason, "");
 }
 
-TEST(DiffOfTristimulusValues, OfTheSecondSetIsRelativeToItsOwnWhite) {
+TEST(DiffOfTristimulusValues, ForTheLimited109SetIsRelativeToItsOwnWhite) {
     EXPECT_EQ(colourChange(limited(d65, grey), limited(d65, otherGrey)).whiteBefore,
               "MeasuredXYZ Limited109White of the same ProfileData");
 }
 
 TEST(DiffOfTristimulusValues, IsRelativeToTheWhiteRowOfTheSeries) {
     const auto measured = [](const std::string& xyz) {
-        return series(row("128|128|128", xyz) + row("255|255|255", d65));
+        return measurementSeries(row("128|128|128", xyz) + row("255|255|255", d65));
     };
     const ColourChange change = colourChange(measured(grey), measured(otherGrey));
     EXPECT_EQ(change.whiteBefore, "the row with RGB 255, 255, 255 of the same series");
@@ -120,7 +118,7 @@ TEST(DiffOfTristimulusValues, IsRelativeToTheWhiteRowOfTheSeries) {
 
 TEST(DiffOfTristimulusValues, TakesTheWhiteOfTheProfileOfTheSameModeOtherwise) {
     const auto measured = [](const std::string& xyz) {
-        return modeOf(series(row("128|128|128", xyz)) + profile(d65, grey));
+        return modeOf(measurementSeries(row("128|128|128", xyz)) + profile(d65, grey));
     };
     EXPECT_EQ(colourChange(measured(grey), measured(otherGrey)).whiteAfter,
               "MeasuredXYZ White of the ProfileData of the same mode");
@@ -128,18 +126,18 @@ TEST(DiffOfTristimulusValues, TakesTheWhiteOfTheProfileOfTheSameModeOtherwise) {
 
 TEST(DiffOfTristimulusValues, IsNotKnownWithoutAWhite) {
     const std::string white = row("255|255|255", d65);
-    const std::string before = series(row("128|128|128", grey));
-    EXPECT_EQ(colourChange(before, series(row("128|128|128", otherGrey))).reason, "no white is stated");
-    const auto one = diffOf(before + "", series(row("128|128|128", otherGrey) + white)).differences;
+    const std::string before = measurementSeries(row("128|128|128", grey));
+    EXPECT_EQ(colourChange(before, measurementSeries(row("128|128|128", otherGrey))).reason, "no white is stated");
+    const auto one = diffOf(before + "", measurementSeries(row("128|128|128", otherGrey) + white)).differences;
     EXPECT_EQ(one.front().colour->reason, "no white is stated before the change");
-    const auto other = diffOf(series(row("128|128|128", otherGrey) + white), before).differences;
+    const auto other = diffOf(measurementSeries(row("128|128|128", otherGrey) + white), before).differences;
     EXPECT_EQ(other.front().colour->reason, "no white is stated after the change");
     EXPECT_FALSE(other.front().colour->size);
 }
 
-TEST(DiffOfTristimulusValues, IsNotKnownOfTheWhiteItself) {
+TEST(DiffOfTristimulusValues, IsNotKnownForTheWhiteItself) {
     const auto white = [](const std::string& xyz) {
-        return series(row("255|255|255", xyz));
+        return measurementSeries(row("255|255|255", xyz));
     };
     EXPECT_EQ(colourChange(white(d65), white("95047000|99000000|108883000")).reason,
               "it is the reference white itself");
@@ -150,7 +148,7 @@ TEST(DiffOfTristimulusValues, IsNotKnownOfTheWhiteItself) {
 
 TEST(DiffOfTristimulusValues, DoesNotTakeBlackForAWhite) {
     const auto measured = [](const std::string& xyz) {
-        return series(row("128|128|128", xyz) + row("255|255|255", "0|0|0"));
+        return measurementSeries(row("128|128|128", xyz) + row("255|255|255", "0|0|0"));
     };
     EXPECT_EQ(colourChange(measured(grey), measured(otherGrey)).reason, "no white is stated");
 }

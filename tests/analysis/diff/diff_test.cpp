@@ -1,6 +1,7 @@
 #include <lvdata/analysis/diff/diff.h>
 
 #include <tests/analysis/diff/differences.h>
+#include <tests/analysis/diff/documents.h>
 
 #include <gmock/gmock.h>
 
@@ -13,6 +14,8 @@
 #include <ctime>
 
 using lv::test::differencesOf;
+using lv::test::documentWithGamma;
+using lv::test::measurementSeries;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -29,10 +32,6 @@ std::string modes(const std::string& rows) {
 std::string mode(const std::string& index, const std::string& name) {
     return "<ColorMode Type=''>" + (index.empty() ? "" : "<Index>" + index + "</Index>") + "<Name>" + name +
            "</Name></ColorMode>";
-}
-
-std::string series(const std::string& rows) {
-    return "<MeasurementData>" + rows + "</MeasurementData>";
 }
 
 std::string row(const std::string& rgb, const std::string& pqr) {
@@ -57,10 +56,7 @@ TEST(Diff, HasAttributes) {
 }
 
 TEST(Diff, ShowsNaturalValuesExactly) {
-    const auto gamma = [](const std::string& value) {
-        return "<ParameterSetting><Gamma Type='Value'><Value>" + value + "</Value></Gamma></ParameterSetting>";
-    };
-    EXPECT_THAT(differencesOf(gamma("220"), gamma("205")),
+    EXPECT_THAT(differencesOf(documentWithGamma("220"), documentWithGamma("205")),
                 ElementsAre("changed ParameterSetting/Gamma/Value: 2.2 -> 2.05 by -0.15"));
 }
 
@@ -77,12 +73,12 @@ TEST(Diff, ShowsUnitsThatAreKnown) {
 }
 
 TEST(Diff, ShowsStoredIntegersWhereTheFactorIsNotAPowerOfTen) {
-    EXPECT_THAT(differencesOf(series("<Measurements><RGB>1|2|3</RGB></Measurements>"),
-                              series("<Measurements><RGB>1|2|4</RGB></Measurements>")),
+    EXPECT_THAT(differencesOf(measurementSeries("<Measurements><RGB>1|2|3</RGB></Measurements>"),
+                              measurementSeries("<Measurements><RGB>1|2|4</RGB></Measurements>")),
                 ElementsAre("cleared MeasurementData/Measurements[RGB='1|2|3']",
                             "set MeasurementData/Measurements[RGB='1|2|4']"));
-    EXPECT_THAT(differencesOf(series(row("1|2|3", "1|1|1") + row("1|2|3", "1|1|1")),
-                              series(row("1|2|3", "1|1|1") + row("1|2|5", "1|1|1"))),
+    EXPECT_THAT(differencesOf(measurementSeries(row("1|2|3", "1|1|1") + row("1|2|3", "1|1|1")),
+                              measurementSeries(row("1|2|3", "1|1|1") + row("1|2|5", "1|1|1"))),
                 ElementsAre("changed MeasurementData/Measurements[2]/RGB: 1, 2, 3 1/255 -> 1, 2, 5 1/255, "
                             "entries 3 -> 3, 1 differ, most at 2: 3 -> 5 by 2 1/255"));
 }
@@ -122,7 +118,7 @@ TEST(Diff, MatchesRowsOfOneIndexInTheirOrder) {
                 ElementsAre("cleared CalibrationModeResult/ColorMode[not(Index)][2]"));
 }
 
-TEST(Diff, NoticesAnotherOrderOfRows) {
+TEST(Diff, NoticesAChangedOrderOfRows) {
     EXPECT_THAT(differencesOf(modes(mode("1", "a") + mode("2", "b")), modes(mode("2", "b") + mode("1", "a"))),
                 ElementsAre("reordered CalibrationModeResult/ColorMode"));
     EXPECT_THAT(differencesOf(modes(mode("2", "b")), modes(mode("1", "a") + mode("2", "b"))),
@@ -130,26 +126,27 @@ TEST(Diff, NoticesAnotherOrderOfRows) {
 }
 
 TEST(Diff, MatchesMeasurementsByRGB) {
-    EXPECT_THAT(differencesOf(series(row("1|1|1", "1|1|1") + row("2|2|2", "1|1|1")),
-                              series(row("0|0|0", "1|1|1") + row("2|2|2", "1|1|1"))),
+    EXPECT_THAT(differencesOf(measurementSeries(row("1|1|1", "1|1|1") + row("2|2|2", "1|1|1")),
+                              measurementSeries(row("0|0|0", "1|1|1") + row("2|2|2", "1|1|1"))),
                 ElementsAre("cleared MeasurementData/Measurements[RGB='1|1|1']",
                             "set MeasurementData/Measurements[RGB='0|0|0']"));
 }
 
-TEST(Diff, MatchesMeasurementsByCMYKWhenRGBDoesNotTellThemApart) {
+TEST(Diff, MatchesMeasurementsByCMYKWhenRGBIsNotUnique) {
     const auto inks = [](const std::string& cmyk, const std::string& pqr) {
         return "<Measurements><CMYK>" + cmyk + "</CMYK><PQR>" + pqr + "</PQR></Measurements>";
     };
-    EXPECT_THAT(
-        differencesOf(series(inks("1|1|1|1", "1|1|1") + inks("2|2|2|2", "0|0|0")), series(inks("2|2|2|2", "0|0|0"))),
-        ElementsAre("cleared MeasurementData/Measurements[CMYK='1|1|1|1']"));
+    EXPECT_THAT(differencesOf(measurementSeries(inks("1|1|1|1", "1|1|1") + inks("2|2|2|2", "0|0|0")),
+                              measurementSeries(inks("2|2|2|2", "0|0|0"))),
+                ElementsAre("cleared MeasurementData/Measurements[CMYK='1|1|1|1']"));
 }
 
 TEST(Diff, MatchesOtherMeasurementsByPlace) {
     const std::string plain = "<Measurements><PQR>1|1|1</PQR></Measurements>";
-    EXPECT_THAT(differencesOf(series(plain + row("2|2|2", "1|1|1")), series(row("2|2|2", "1|1|1"))),
-                ElementsAre("set MeasurementData/Measurements[1]/RGB: 2, 2, 2 1/255",
-                            "cleared MeasurementData/Measurements[2]"));
+    EXPECT_THAT(
+        differencesOf(measurementSeries(plain + row("2|2|2", "1|1|1")), measurementSeries(row("2|2|2", "1|1|1"))),
+        ElementsAre("set MeasurementData/Measurements[1]/RGB: 2, 2, 2 1/255",
+                    "cleared MeasurementData/Measurements[2]"));
 }
 
 TEST(Diff, SummarisesTables) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tests/analysis/catalogue.h>
+
 #include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/diff/diff.h>
 
@@ -9,11 +11,6 @@
 #include <vector>
 
 namespace lv::test {
-
-inline const analysis::Catalogue& catalogue() {
-    static const analysis::Catalogue all;
-    return all;
-}
 
 /// What the records of two documents differ in.
 inline analysis::Diff diffOf(const std::string& before, const std::string& after,

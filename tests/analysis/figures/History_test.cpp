@@ -52,7 +52,7 @@ std::string latestOf(const std::vector<std::string>& times) {
 
 }  // namespace
 
-TEST(History, TellsMonitorsApart) {
+TEST(History, DistinguishesMonitors) {
     MonitorInfo monitor;
     EXPECT_EQ(identityOf(monitor), "");
     monitor.monitorConfiguration.value.model.set("M");
@@ -98,7 +98,7 @@ TEST(History, HasAPointForEachDocumentWithTheMode) {
     EXPECT_EQ(series.points[1].figure.text(0), "900");
 }
 
-TEST(History, OfAnUnknownFigureOrModeIsEmpty) {
+TEST(History, IsEmptyForAnUnknownFigureOrMode) {
     const std::vector<Snapshot> snapshots = {snapshotOf("a", "", {modeOf("1", "", 1)})};
     EXPECT_EQ(seriesOf(historyOf(snapshots, "1"), "nothing"), nullptr);
     EXPECT_TRUE(historyOf(snapshots, "9").empty());

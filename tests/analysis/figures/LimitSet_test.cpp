@@ -79,7 +79,7 @@ TEST(Limits, AreInclusive) {
     EXPECT_EQ(markOf(3, {"contrast", 2, 4, ""}), Mark::passes);
 }
 
-TEST(Limits, JudgeAFigureAsItIsShown) {
+TEST(Limits, ApplyToAFigureAsItIsShown) {
     EXPECT_EQ(markOf(2.0049, {"contrast", {}, 2, ""}), Mark::passes);  // shown as 2.00
     EXPECT_EQ(markOf(2.0051, {"contrast", {}, 2, ""}), Mark::fails);   // 2.01
     EXPECT_EQ(markOf(1.9951, {"contrast", 2, {}, ""}), Mark::passes);
@@ -187,7 +187,7 @@ TEST(LimitSet, IsJSON) {
     EXPECT_THAT(complaintOf(std::string(100000, '[')), "1: the text is an array, not an object");
 }
 
-TEST(KnownLimitSets, AreAll) {
+TEST(KnownLimitSets, AreAllListed) {
     std::vector<std::string> names;
     for (const LimitSet& set : knownLimitSets()) {
         names.push_back(set.name);
@@ -206,7 +206,7 @@ TEST(KnownLimitSets, SayThatTheStandardsThemselvesWereNotRead) {
     }
 }
 
-TEST(KnownLimitSets, SayThatTheyAreNoTest) {
+TEST(KnownLimitSets, SayThatTheyAreNotATestAgainstAStandard) {
     for (const LimitSet& set : knownLimitSets()) {
         EXPECT_THAT(set.notice, HasSubstr("no test against")) << set.name;
         for (const FigureLimit& limit : set.limits) {

@@ -71,7 +71,7 @@ TEST(ModeFigures, HaveTheWhiteOfTheProfileDataOtherwise) {
     EXPECT_EQ(figuresOf(result).measuredY.text(3), "100.000");
 }
 
-TEST(ModeFigures, OfASetOfAnotherLengthSaySo) {
+TEST(ModeFigures, SayThatASetHasTheWrongLength) {
     CalibrationModeResultObject result = resultOf(1);
     setMeasured(result, {1, 2}, {1, 2, 3, 4});
     const ModeFigures mode = figuresOf(result);

@@ -187,7 +187,7 @@ TEST(SeriesFigures, KeepWhatWasShownAndMeasured) {
     EXPECT_TRUE(patch.deltaE2000.value);
 }
 
-TEST(SeriesFigures, OfOnePatchAreThatPatch) {
+TEST(SeriesFigures, ForOnePatchAreThoseOfThatPatch) {
     const SeriesFigures series = seriesOfGreys({0.5});
     EXPECT_EQ(series.mean.value, series.patches.at(0).deltaE2000.value);
     EXPECT_EQ(series.percentile95.value, series.mean.value);
@@ -213,7 +213,7 @@ TEST(SeriesFigures, HaveThePercentileByNearestRank) {
     EXPECT_EQ(nineteen.percentile95.value, nineteen.patches.at(18).deltaE2000.value);
 }
 
-TEST(SeriesFigures, OfHLGCoupleTheChannels) {
+TEST(SeriesFigures, ForHLGCombineTheChannels) {
     ColorModeSettingsObject setting = settingWithGamma(200);
     auto& gamma = setting.targetSetting.value.gamma.value;
     gamma.red.type = gamma.green.type = gamma.blue.type = types::targetCurve::hlg;
@@ -227,7 +227,7 @@ TEST(SeriesFigures, OfHLGCoupleTheChannels) {
     EXPECT_THAT(seriesOf(one, setting).mean.text(2), HasSubstr("no HLG system gamma"));
 }
 
-TEST(SeriesFigures, OfExtremesDoNotFail) {
+TEST(SeriesFigures, ForExtremeNumbersAreComputedWithoutFailure) {
     const std::vector<double> huge = {4294.967295, 4294.967295, 4294.967295};
     const std::vector<double> least = {-2147.483648, -2147.483648, -2147.483648};
     CalibrationModeResultObject result = simpleResult();

@@ -61,11 +61,11 @@ TEST(Figure, IsANumberOrSaysWhyThereIsNone) {
     EXPECT_EQ((Figure{{}, "no black"}.text(2)), "n/a (no black)");
 }
 
-TEST(ModeFigures, OfNothingAreNone) {
+TEST(ModeFigures, AreEmptyWithoutRecords) {
     EXPECT_TRUE(figuresOf(std::vector<ColorModeSettingsObject>(), {}).empty());
 }
 
-TEST(ModeFigures, OfAModeWithoutResultSaySo) {
+TEST(ModeFigures, SayThatAModeHasNoResult) {
     const ModeFigures mode = figuresOf({settingWithCoordinate()}, {}).at(0);
     EXPECT_EQ(mode.measuredY.text(2), "n/a (no calibration result)");
     EXPECT_EQ(mode.blackY.text(2), "n/a (no calibration result)");
@@ -76,7 +76,7 @@ TEST(ModeFigures, OfAModeWithoutResultSaySo) {
     EXPECT_EQ(mode.measurements, 0U);
 }
 
-TEST(ModeFigures, HaveWhatTellsTheModeApart) {
+TEST(ModeFigures, HaveWhatIdentifiesTheMode) {
     const ModeFigures mode = figuresOf({settingOf("Other", 7, "Photo")}, {}).at(0);
     EXPECT_EQ(mode.index, "7");
     EXPECT_EQ(mode.name, "Photo");
@@ -110,14 +110,14 @@ TEST(ModeFigures, JoinSettingsAndResultsByTheirIndex) {
     EXPECT_EQ(modes.at(1).measuredY.text(0), "n/a (no white was measured)");
 }
 
-TEST(ModeFigures, OfResultsWithoutSettingsComeLast) {
+TEST(ModeFigures, ListResultsWithoutSettingsLast) {
     const auto modes = figuresOf({settingOf("Standard", 2, "a")}, {resultOf(1, "b")});
     EXPECT_THAT(namesOf(modes), ElementsAre("2 a ", "1 b "));
     EXPECT_EQ(modes.at(1).type, "Calibration");
     EXPECT_EQ(modes.at(1).targetBrightness, "");
 }
 
-TEST(ModeFigures, OfRowsOfOneIndexAreJoinedInTheirOrder) {
+TEST(ModeFigures, JoinRowsOfOneIndexInTheirOrder) {
     std::vector<CalibrationModeResultObject> results{resultOf(1), resultOf(1), resultOf(1, "c")};
     results[0].calibratedTime.set("first");
     results[1].calibratedTime.set("second");
@@ -126,7 +126,7 @@ TEST(ModeFigures, OfRowsOfOneIndexAreJoinedInTheirOrder) {
     EXPECT_THAT(namesOf(modes), ElementsAre("1 a first", "1 b second", "1 c third"));
 }
 
-TEST(ModeFigures, OfRowsWithoutAnIndexAreNotJoined) {
+TEST(ModeFigures, DoNotJoinRowsWithoutAnIndex) {
     ColorModeSettingsObject setting = settingOf("", 1, "a");
     CalibrationModeResultObject result = resultOf(1, "b");
     setting.index = result.index = {};
@@ -135,7 +135,7 @@ TEST(ModeFigures, OfRowsWithoutAnIndexAreNotJoined) {
 
 // Targets of calibrations.
 
-TEST(ModeFigures, OfAnEmptyTargetHaveNoTexts) {
+TEST(ModeFigures, HaveNoTextsForAnEmptyTarget) {
     const ModeFigures mode = figuresOf(TargetSetting());
     EXPECT_EQ(mode.targetBrightness + mode.targetBlack + mode.targetWhite + mode.targetWhiteStandard +
                   mode.targetGamma + mode.targetGamut,
@@ -233,7 +233,7 @@ TEST(ModeFigures, HaveAnExponentWithoutNeedlessZeros) {
     EXPECT_EQ(exponent(4294967295), "42949672.95");
 }
 
-TEST(ModeFigures, TellPrimariesFromTheNativeGamut) {
+TEST(ModeFigures, DistinguishPrimariesFromTheNativeGamut) {
     TargetSetting target;
     target.gamut.set({{6400, 3300}, {3000, 6000}, {1500, 600}, "", 0});
     EXPECT_EQ(figuresOf(target).targetGamut, "primaries");
@@ -276,7 +276,7 @@ TEST(ModeFigures, HaveParametersThatFollowTheSignal) {
     EXPECT_EQ(mode.targetGamut, "SyncSignal");
 }
 
-TEST(ModeFigures, OfAnUnknownTypeHaveNoTarget) {
+TEST(ModeFigures, HaveNoTargetForAnUnknownType) {
     ParameterSetting parameters;
     parameters.brightness.set({types::brightness::candela, 140});
     EXPECT_EQ(figuresOf(parameters, "Other").targetBrightness, "");

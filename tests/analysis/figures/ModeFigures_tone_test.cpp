@@ -116,7 +116,7 @@ TEST(ToneFigures, NeedBlackAndWhite) {
     EXPECT_TRUE(toneOf(greys(5, 5, 5)).steps.empty());
 }
 
-TEST(ToneFigures, OfStepsThatAreNotBrighterThanBlackHaveNoGamma) {
+TEST(ToneFigures, HaveNoGammaForStepsThatAreNotBrighterThanBlack) {
     EXPECT_EQ(toneOf(greys(10, 10, 110)).steps.at(1).gamma.text(2), "n/a (not brighter than black)");
     EXPECT_EQ(toneOf(greys(10, 10, 110)).meanGamma.text(2),
               "n/a (no grey patch from 10 % to 90 % of the signal is brighter than black)");
@@ -159,7 +159,7 @@ TEST(ToneFigures, TakeTheFirstTargetThatThereIs) {
     EXPECT_EQ(curveOf(setting, result), "LStar, LStar, table (grey against green's)");
 }
 
-TEST(ToneFigures, OfParametersHaveAnExponentOrAName) {
+TEST(ToneFigures, HaveAnExponentOrANameForParameters) {
     ColorModeSettingsObject setting = settingOf(types::colorMode::standard);
     setting.parameterSetting.value.gamma.value.type = types::gamma::value;
     setting.parameterSetting.value.gamma.value.value = 240;
@@ -181,7 +181,7 @@ TEST(ToneFigures, TakeTablesOfBothKinds) {
     EXPECT_EQ(curveOf(settingWith(gamma)), "");
 }
 
-TEST(ToneFigures, MixNoHLG) {
+TEST(ToneFigures, HaveNoTargetCurveWhenHLGIsMixedWithAnotherType) {
     TargetSetting::gamma_t gamma = gammaOf("HLG", 0, 0, 0);
     gamma.hlgSystemGamma = 120;
     EXPECT_EQ(curveOf(settingWith(gamma)), "HLG");

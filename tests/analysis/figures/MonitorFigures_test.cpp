@@ -71,7 +71,7 @@ TEST(MapFigures, HaveNoCentreOtherwise) {
     EXPECT_EQ(mapOf({1, 0, 3}, 3).centre.text(0), "0");
 }
 
-TEST(MapFigures, OfNoMapSaySo) {
+TEST(MapFigures, SayThatThereIsNoMap) {
     EXPECT_EQ(mapFigures("Brightness", {}, {}).minimum.text(0), "n/a (no map)");
     CandelaMapEntry entry;
     entry.values = {1};
@@ -80,7 +80,7 @@ TEST(MapFigures, OfNoMapSaySo) {
     EXPECT_EQ(mapOf({}).mean.text(0), "n/a (the map has no entries)");
 }
 
-TEST(MonitorFigures, HaveWhatIsToldOfTheMonitor) {
+TEST(MonitorFigures, HaveTheTextsOfTheMonitor) {
     const MonitorFigures figures = lv::test::studioFigures();
     EXPECT_EQ(figures.uuid, "6f1d2c9a-52c7-4b0e-9a57-0d3c5b7e4417");
     EXPECT_EQ(figures.name, "Studio wall");
@@ -101,7 +101,7 @@ TEST(MonitorFigures, HaveAssetsThatAreSetAndNotEmpty) {
     EXPECT_THAT(monitorFigures(monitor).assets, ElementsAre("second", "last"));
 }
 
-TEST(MonitorFigures, OfNothingAreEmpty) {
+TEST(MonitorFigures, AreEmptyWithoutRecords) {
     const MonitorFigures figures = monitorFigures({});
     EXPECT_EQ(figures.uuid + figures.name + figures.model + figures.serial, "");
     EXPECT_TRUE(figures.modes.empty());
@@ -112,7 +112,7 @@ TEST(MonitorFigures, OfNothingAreEmpty) {
     EXPECT_EQ(monitorFigures(monitor).uniformity.minimum.text(0), "n/a (no map)");
 }
 
-TEST(MonitorOf, TakesAPartForTheWhole) {
+TEST(MonitorOf, MakesAMonitorOfAPartialRecord) {
     const lv::MonitorInfo studio = lv::test::studioMonitor();
     const lv::MonitorConfiguration& configuration = studio.monitorConfiguration.value;
     EXPECT_TRUE(*monitorOf(studio) == studio);

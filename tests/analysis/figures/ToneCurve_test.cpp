@@ -59,7 +59,7 @@ TEST(ToneCurve, IsFoundByItsName) {
     EXPECT_EQ(curveNamed("BT.1886")->label, "BT.1886");
 }
 
-TEST(ToneCurve, HasNoOtherNames) {
+TEST(ToneCurve, IsNotFoundByOtherNames) {
     for (const char* const name : {"", "Native", "0", "-2.2", "2.2x", "11", "1e3", "nan", "inf", "2,2", "****"}) {
         EXPECT_FALSE(curveNamed(name)) << name;
     }
@@ -67,7 +67,7 @@ TEST(ToneCurve, HasNoOtherNames) {
 
 // By hand, of the formulas that lvdata/analysis/colour/transfer.h names.
 
-TEST(ToneCurve, IsThatOfItsStandard) {
+TEST(ToneCurve, FollowsItsStandard) {
     EXPECT_EQ(lightOfName("sRGB", 0.5), "0.21404");     // ((0.5 + 0.055) / 1.055)^2.4
     EXPECT_EQ(lightOfName("LStar", 0.5), "0.18419");    // ((50 + 16) / 116)^3
     EXPECT_EQ(lightOfName("BT.1886", 0.5), "0.18946");  // 0.5^2.4, black being 0
@@ -86,7 +86,7 @@ TEST(ToneCurve, NeedsAUnitWhereTheStandardIsAbsolute) {
     EXPECT_NEAR(*lightOf(*curveNamed("PQ"), 0.4, absolute).value, 0.32380, 0.00001);
 }
 
-TEST(ToneCurve, OfDICOMEndsAtBlackAndWhite) {
+TEST(ToneCurve, ForDICOMEndsAtBlackAndWhite) {
     EXPECT_EQ(lightOfName("GSDF", 0, {100, 0.5, true}), "0.00000");
     EXPECT_EQ(lightOfName("GSDF", 1, {100, 0.5, true}), "1.00000");
     const std::string reason = "n/a (black and white are not within the 0.05 to 4000 cd/m² of DICOM PS3.14)";
@@ -94,7 +94,7 @@ TEST(ToneCurve, OfDICOMEndsAtBlackAndWhite) {
     EXPECT_EQ(lightOfName("GSDF", 0.5, {4001, 1, true}), reason);
 }
 
-TEST(ToneCurve, OfHLGHasASystemGamma) {
+TEST(ToneCurve, ForHLGHasASystemGamma) {
     ToneCurve curve = *curveNamed("HLG");
     EXPECT_EQ(lightOf(curve, 0.5, relative).text(2),
               "n/a (the target has no HLG system gamma, and the unit of Y is not recorded)");
@@ -105,6 +105,6 @@ TEST(ToneCurve, OfHLGHasASystemGamma) {
     EXPECT_EQ(lightOf(curve, 0.5, relative).text(5), "0.00694");  // the square
 }
 
-TEST(ToneCurve, OfNoRangeIsNotAvailable) {
+TEST(ToneCurve, IsNotAvailableWithoutARange) {
     EXPECT_FALSE(lightOf(*curveNamed("BT.1886"), 0.5, {1, 1, false}).value);
 }

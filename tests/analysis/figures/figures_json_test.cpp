@@ -101,7 +101,7 @@ TEST(FiguresJSON, HasTheKeysOfThePage) {
     EXPECT_GT(keys.size(), 40U);
 }
 
-TEST(FiguresJSON, OfNothingIsWhole) {
+TEST(FiguresJSON, IsCompleteWithoutFigures) {
     const json root = json::parse(figuresJSON({}));
     EXPECT_TRUE(root["modes"].empty());
     MonitorFigures one;
@@ -129,7 +129,7 @@ TEST(FiguresJSON, IsOneLine) {
     EXPECT_LT(figuresJSON(studioFigures()).size(), 100000U);
 }
 
-TEST(FiguresJSON, HasTheDigitsThatThePageTells) {
+TEST(FiguresJSON, HasTheDigitsThatTheDocumentationStates) {
     MonitorFigures monitor;
     ModeFigures& mode = monitor.modes.emplace_back();
     mode.tone.steps.push_back({0.5, 0.25, {0.2, ""}, {2, ""}, {{1, 1.1, 0.9}}});

@@ -77,7 +77,7 @@ TEST(FigureLines, AreThoseOfThePage) {
     EXPECT_EQ(rows, allLines().size());
 }
 
-TEST(FigureLines, HaveKeysOfTheirOwn) {
+TEST(FigureLines, HaveUniqueKeys) {
     const std::vector<std::string>& keys = figureKeys();
     EXPECT_EQ(std::set<std::string>(keys.begin(), keys.end()).size(), keys.size());
     EXPECT_EQ(keys.size(), allLines().size());
@@ -159,7 +159,7 @@ TEST(FigureLines, HaveFractionsInPerCent) {
     EXPECT_EQ(textsOf(lineOf(mode, "gamut_bt2020_area_uv")).at(1), "n/a (not computed)");
 }
 
-TEST(FigureLines, OfAMapHaveItsName) {
+TEST(FigureLines, HaveTheNameOfTheirMap) {
     MapFigures map = mapOf("Brightness");
     map.unit = "cd/m²";
     map.mean = {1032.24, ""};

@@ -2,17 +2,15 @@
 
 #include <lvdata/analysis/figures/MonitorFigures.h>
 
-#include <tests/support/golden.h>
-
-#include <filesystem>
-#include <string>
+#include <tests/analysis/studio_text.h>
 
 namespace lv::test {
 
-/// The monitor of the sample document.
+/// The monitor of the sample document, which prints all that the document has.
 [[nodiscard]] inline MonitorInfo studioMonitor() {
     MonitorInfo monitor;
-    EXPECT_TRUE(monitor.parseXML(contentOf(std::filesystem::path(LVDATA_SAMPLES_DIR) / "studio.xml")));
+    EXPECT_TRUE(monitor.parseXML(studioText()));
+    monitor.writeHLGSystemGamma = true;
     return monitor;
 }
 

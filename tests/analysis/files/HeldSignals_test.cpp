@@ -18,7 +18,7 @@ int raiseWhileHeld(int signal) {
     return held.arrived() ? 1 : 2;
 }
 
-TEST(HeldSignals, DoAtTheEndWhatTheyWouldHaveDone) {
+TEST(HeldSignals, TakeEffectAtTheEnd) {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         const int status = inChild([signal] {
             raiseWhileHeld(signal);
@@ -43,7 +43,7 @@ TEST(HeldSignals, AreSeenWhenTheyArrive) {
     }
 }
 
-TEST(HeldSignals, LeaveIgnoredOnesAlone) {
+TEST(HeldSignals, DoNotChangeIgnoredSignals) {
     const int status = inChild([] {
         static_cast<void>(std::signal(SIGHUP, SIG_IGN));  // as nohup does
         return raiseWhileHeld(SIGHUP);
@@ -52,7 +52,7 @@ TEST(HeldSignals, LeaveIgnoredOnesAlone) {
     EXPECT_EQ(WEXITSTATUS(status), 2);
 }
 
-TEST(HeldSignals, LeaveThoseAloneThatTheProgramHolds) {
+TEST(HeldSignals, DoNotChangeSignalsThatTheProgramBlocks) {
     const int status = inChild([] {
         const HeldSignals outer;
         const int result = raiseWhileHeld(SIGINT);

@@ -46,7 +46,7 @@ TEST(TemporaryFile, TakesThePlaceOfAnother) {
     EXPECT_EQ(folder.names(), Names{"out"});
 }
 
-TEST(TemporaryFile, GoesWithAFolderThatIsRenamed) {
+TEST(TemporaryFile, StaysInAFolderThatIsRenamed) {
     const Folder folder;
     fs::create_directory(folder.path("before"));
     const Descriptor place = opened(folder.path("before"));
@@ -63,7 +63,7 @@ TEST(TemporaryFile, GoesWithAFolderThatIsRenamed) {
     EXPECT_TRUE(fs::is_empty(folder.path("before")));
 }
 
-TEST(TemporaryFile, HasANameThatNoneHas) {
+TEST(TemporaryFile, HasAUniqueName) {
     const Folder folder;
     const Descriptor place = opened(folder.path("."));
     const TemporaryFile one(place.get(), 0600);

@@ -54,7 +54,7 @@ TEST(ReadFile, SaysWhyItCannotRead) {
     EXPECT_EQ(readFile(folder.path("."), 1).error, std::errc::is_a_directory);
 }
 
-TEST(ReadDescriptor, ReadsFromWhereItStands) {
+TEST(ReadDescriptor, ReadsFromTheCurrentPosition) {
     const Folder folder;
     folder.write("in", "0123456789");
     const int file = ::open(folder.path("in").c_str(), O_RDONLY);  // NOLINT(cppcoreguidelines-pro-type-vararg)
@@ -171,7 +171,7 @@ TEST(WriteFile, KeepsAttributes) {
     EXPECT_EQ(folder.read("out"), "new");
 }
 
-TEST(WriteFile, IsDoneWholeOrNotAtAllWhenASignalArrives) {
+TEST(WriteFile, IsCompleteOrNotDoneWhenASignalArrives) {
     const Folder folder;
     folder.write("out", "old");
     const std::string text(200'000'000, 'x');

@@ -98,7 +98,7 @@ constexpr const char* needsRoot = "only root can make files of others";
 constexpr const char* needsLists = "no access lists in the folder for temporary files";
 constexpr const char* needsAttributes = "no extended attributes in the folder for temporary files";
 
-TEST_F(Rights, OfOnesOwnFileAreKept) {
+TEST_F(Rights, AreKeptForOwnFiles) {
     for (const mode_t mode : {0600U, 0640U, 0666U, 0755U, 04755U, 02755U, 01644U}) {
         const Descriptor old = make("old", mode);
         const Descriptor file = make("new", 0600);
@@ -107,7 +107,7 @@ TEST_F(Rights, OfOnesOwnFileAreKept) {
     }
 }
 
-TEST_F(Rights, OfOthersAreKeptByRoot) {
+TEST_F(Rights, AreKeptForFilesOfOthersByRoot) {
     if (::geteuid() != 0) {
         GTEST_SKIP() << needsRoot;
     }
@@ -119,7 +119,7 @@ TEST_F(Rights, OfOthersAreKeptByRoot) {
     EXPECT_EQ(bitsOf(file), 06755U);
 }
 
-TEST_F(Rights, OfTheGroupAreKeptWhereTheOwnerCannotBe) {
+TEST_F(Rights, OfTheGroupAreKeptWhenTheOwnerCannotBe) {
     if (::geteuid() != 0) {
         GTEST_SKIP() << needsRoot;
     }
@@ -131,7 +131,7 @@ TEST_F(Rights, OfTheGroupAreKeptWhereTheOwnerCannotBe) {
     EXPECT_EQ(bitsOf(file), 0664U) << "without the bits that let a program run as its owner or group";
 }
 
-TEST_F(Rights, OfAGroupThatCannotBeKeptAreThoseOfEverybody) {
+TEST_F(Rights, AreThoseOfOthersWhenTheGroupCannotBeKept) {
     if (::geteuid() != 0) {
         GTEST_SKIP() << needsRoot;
     }
@@ -193,7 +193,7 @@ TEST_F(Rights, AreRefusedWithAnAttributeThatCannotBeKept) {
     }
 }
 
-TEST_F(Rights, DoNotComeWithWhatVouchesForTheContent) {
+TEST_F(Rights, DoNotIncludeAttributesThatSignTheContent) {
     const Descriptor old = make("old", 0755);
     using namespace std::string_literals;
     // One capability, as the system stores it: revision 2, permitted CAP_NET_BIND_SERVICE.

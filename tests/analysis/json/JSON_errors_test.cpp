@@ -160,7 +160,7 @@ TEST(JSONErrors, EndNestingAtOnce) {
               "line 1: asset_info.asset1: text expected, not an array");
 }
 
-TEST(JSONErrors, AreAlsoThereOnTheWayToJSON) {
+TEST(JSONErrors, AreReportedWhenWritingJSONToo) {
     lv::AssetInfo asset;
     asset.asset2.set("\xed\xa0\x80");
     const analysis::JSONResult result = analysis::toJSON(asset, catalogue());

@@ -68,7 +68,7 @@ TEST(JSONRoundTrip, KeepsEveryGoldenDocument) {
     EXPECT_GT(documents, 100U);
 }
 
-TEST(JSONRoundTrip, KeepsDocumentsWithEachDescribedThingWritten) {
+TEST(JSONRoundTrip, KeepsDocumentsWithEveryDescribedElement) {
     for (const auto& entry : catalogue().entries()) {
         expectLossless(CompleteDocument(*entry.facts).text());
         for (const DescribedNode& node : ownNodes(*entry.facts)) {

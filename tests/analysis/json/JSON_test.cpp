@@ -38,7 +38,7 @@ public:
 
 }  // namespace
 
-TEST(JSON, MirrorsTheDocument) {
+TEST(JSON, HasTheStructureOfTheDocument) {
     EXPECT_EQ(prettyOf("<CandelaMap><Uniformity><Values>1|2</Values></Uniformity></CandelaMap>"),
               "{\n"
               "  \"candela_map\": {\n"
@@ -105,7 +105,7 @@ TEST(JSON, UsesTheQuantityThatCounts) {
     EXPECT_EQ(firstEntry("1"), "0.5");
 }
 
-TEST(JSON, LeavesFactorsThatAreNoPowersOfTen) {
+TEST(JSON, KeepsIntegersWhoseFactorIsNotAPowerOfTen) {
     const std::string json = compactOf(
         "<TargetSetting><Gamma><Red Type='Lut'><Lut>0|65535</Lut></Red><Green Type='Lut24'><Lut24>16777215</Lut24>"
         "</Green></Gamma></TargetSetting>");
@@ -114,7 +114,7 @@ TEST(JSON, LeavesFactorsThatAreNoPowersOfTen) {
         << json;
 }
 
-TEST(JSON, IsWhatItsPageShows) {
+TEST(JSON, IsWhatItsDocumentationShows) {
     const std::string page = contentOf(LVDATA_DOCS_DIR "/json.md");
     const auto block = [&](const std::string& language) {
         const std::string fence = "```" + language + '\n';
@@ -181,7 +181,7 @@ TEST(JSON, SetsTheSwitchWhenAKeyIsThereThatItGoverns) {
     EXPECT_FALSE(switchOf(R"({"monitor_parameter": {"hlg_system_gamma": 1.2}})"));
 }
 
-TEST(JSON, DriftsNowhere) {
+TEST(JSON, IsUnchangedByRepeatedRoundTrips) {
     std::string json =
         R"({"measurement_data":{"version":2,"minor_version":0,"measurements":[{"rgb":[255,0,1],)"
         R"("cmyk":[0.33,0.29,0,1],"xyz":[-0.7,-0.3,-2147.483648],"cielab":[0.000001,-0.000001,2147.483647],)"
@@ -193,7 +193,7 @@ TEST(JSON, DriftsNowhere) {
     EXPECT_EQ(json, first);
 }
 
-TEST(JSON, TakesALongListInItsStride) {
+TEST(JSON, KeepsAListOfAHundredThousandRows) {
     constexpr int rows = 100000;
     std::string json = R"({"measurement_data":{"version":2,"minor_version":0,"measurements":[)";
     for (int row = 0; row < rows; ++row) {

@@ -52,6 +52,6 @@ TEST(Fleet, SortsMonitorsByName) {
                 ElementsAre(Files{"2"}, Files{"1"}));
 }
 
-TEST(Fleet, TakesEachDocumentOfAnUnknownMonitorForItself) {
+TEST(Fleet, TreatsEachDocumentWithoutAMonitorAsItsOwnMonitor) {
     EXPECT_THAT(filesOf({documentOf("1", "", ""), documentOf("2", "", "")}), ElementsAre(Files{"1"}, Files{"2"}));
 }

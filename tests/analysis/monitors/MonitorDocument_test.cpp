@@ -16,12 +16,12 @@ using lv::test::catalogue;
 using testing::HasSubstr;
 
 Document studio() {
-    return {lv::test::contentOf(std::filesystem::path(LVDATA_SAMPLES_DIR) / "studio.xml"), catalogue()};
+    return {lv::test::studioText(), catalogue()};
 }
 
 }  // namespace
 
-TEST(MonitorDocument, TellsWhoseItIsAndWhen) {
+TEST(MonitorDocument, HasItsMonitorAndItsTime) {
     const auto read = monitorDocument(studio(), "studio.xml");
     ASSERT_TRUE(read);
     EXPECT_EQ(read->identity, "6f1d2c9a-52c7-4b0e-9a57-0d3c5b7e4417");
@@ -49,7 +49,7 @@ TEST(MonitorDocument, KeepsItsLinesWithoutItsData) {
     }
 }
 
-TEST(MonitorDocument, IsToldWhole) {
+TEST(MonitorDocument, HasFiguresFindingsAndJSONWhenWhole) {
     const Document document = studio();
     const auto whole = wholeDocument({"a.xml", "", {}}, document, catalogue());
     EXPECT_EQ(whole.snapshot.document, "a.xml");

@@ -77,7 +77,7 @@ TEST(Drawing, SaysWhatThereIsNot) {
     EXPECT_THAT(figure.reason, StartsWith("there is no figure 'taste'; there are white_x, "));
 }
 
-TEST(Drawing, ComplainsAboutWhatDoesNotBelongToThePicture) {
+TEST(Drawing, RefusesOptionsThatDoNotBelongToThePicture) {
     EXPECT_EQ(complaintAbout({}), "");
     EXPECT_EQ(complaintAbout({PictureKind::tone, "", Plane::xy, false, ""}), "plane is for gamut only");
     EXPECT_EQ(complaintAbout(requestOf(PictureKind::tone, "", "contrast")), "figure is for history only");

@@ -27,7 +27,7 @@ TEST(HistoryPicture, HasAPointForEachDocument) {
     EXPECT_LT(points[3].number("cy"), points[0].number("cy"));
 }
 
-TEST(HistoryPicture, TellsPointsOutsideTheLimit) {
+TEST(HistoryPicture, MarksPointsOutsideTheLimit) {
     const ParsedPicture picture(historyPicture(sampleSeries(), &atMost));
     EXPECT_EQ(picture.only("path", "lv-over").title, "2024-11-20T08:00:00: 1.61, outside the limit");
     EXPECT_EQ(picture.all("circle", "lv-measured").size(), 3U);
@@ -44,7 +44,7 @@ TEST(HistoryPicture, HasLinesAndABandOfTheLimit) {
     EXPECT_NEAR(band.number("y") + band.number("height"), lines[1].points()[0].y, 0.01);
 }
 
-TEST(HistoryPicture, WithoutDatesIsEven) {
+TEST(HistoryPicture, WithoutDatesHasEvenSteps) {
     HistorySeries series = sampleSeries();
     series.points[1].when = "some time";
     const auto points = ParsedPicture(historyPicture(series, nullptr)).all("circle", "lv-measured");
@@ -60,7 +60,7 @@ TEST(HistoryPicture, HasNoPointWithoutAValue) {
     EXPECT_EQ(ParsedPicture(historyPicture(series, nullptr)).all("circle", "lv-measured").size(), 3U);
 }
 
-TEST(HistoryPicture, OfOneDocumentHasAPoint) {
+TEST(HistoryPicture, ForOneDocumentHasOnePoint) {
     HistorySeries series = sampleSeries();
     series.points.resize(1);
     const ParsedPicture picture(historyPicture(series, &atMost));

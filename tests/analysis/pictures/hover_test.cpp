@@ -20,7 +20,7 @@ TEST(HoverTexts, HaveWordsOfAllTextsOnce) {
     EXPECT_EQ(withoutRepetitions({"1 of 2", "3 of 4 in all"}), " of \n1 2\n3 4 in all");
 }
 
-TEST(HoverTexts, LeaveOutWordsOfTheTextBefore) {
+TEST(HoverTexts, LeaveOutWordsOfThePreviousText) {
     EXPECT_EQ(withoutRepetitions({"1 a 2 x", "2 a 2 x", "", "2 a 3 x y", "2 a 3 x y"}), " a  x\n1 2\n2 \n\n2 3 y\n2  ");
 }
 

@@ -71,7 +71,7 @@ TEST(MapPicture, IsLightWhereValuesAreGreat) {
     EXPECT_TRUE(isOf(picture, "lv-r0", cornerOf(picture, 20)));  // 91, the least
 }
 
-TEST(MapPicture, OfEqualEntriesHasOneColour) {
+TEST(MapPicture, HasOneColourForEqualEntries) {
     MapFigures map = noisyMap(4, 2);
     map.values = {7, 7, 7, 7};
     const ParsedPicture picture(mapPicture(map));
@@ -86,7 +86,7 @@ TEST(MapPicture, WithoutAShapeIsWrappedAndSaysSo) {
     EXPECT_EQ(picture.hoverTexts()[1].rfind("Entry 2: ", 0), 0U) << picture.hoverTexts()[1];
 }
 
-TEST(MapPicture, OfManyEntriesHasMeans) {
+TEST(MapPicture, ShowsMeansOfManyEntries) {
     MapFigures map = noisyMap(10000, 100);
     map.values.assign(10000, 5);
     const ParsedPicture picture(mapPicture(map));

@@ -93,7 +93,7 @@ TEST(PatchesPicture, HasLinesForMeanAndLimits) {
     EXPECT_TRUE(ParsedPicture(patchesPicture(sampleMode(), nullptr)).all("path", "lv-limit").empty());
 }
 
-TEST(PatchesPicture, TellsBarsAboveTheLimit) {
+TEST(PatchesPicture, MarksBarsAboveTheLimit) {
     const LimitSet limits = lv::test::sampleLimits();
     const ParsedPicture picture(patchesPicture(modeWith({2.4, 2.6}), &limits));
     EXPECT_EQ(heightsOf(picture, "lv-over").size(), 1U);

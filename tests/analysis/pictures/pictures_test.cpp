@@ -66,35 +66,35 @@ AllFigures nothing() {
 
 }  // namespace
 
-TEST(Pictures, OfASampleAreSound) {
+TEST(Pictures, OfASampleAreValid) {
     expectSound(lv::test::sampleFigures());
 }
 
-TEST(Pictures, OfNothingAreSoundAndSayWhy) {
+TEST(Pictures, WithoutDataAreValidAndSayWhy) {
     expectSound(nothing());
     for (const NamedPicture& picture : everyPicture(nothing())) {
         EXPECT_TRUE(ParsedPicture(picture.text).says("Nothing to show: ")) << picture.name;
     }
 }
 
-TEST(Pictures, OfOneOrTwoOfEachAreSound) {
+TEST(Pictures, OfOneOrTwoValuesAreValid) {
     expectSound(lv::test::manyFigures(1));
     expectSound(lv::test::manyFigures(2));
 }
 
-TEST(Pictures, OfManyAreSoundAndSmall) {
+TEST(Pictures, OfManyValuesAreValidAndSmall) {
     expectSound(lv::test::manyFigures(1024));
     expectSound(lv::test::manyFigures(10000));
 }
 
-TEST(Pictures, OfExtremeNumbersAreSound) {
+TEST(Pictures, OfExtremeNumbersAreValid) {
     for (const double number : extremes) {
         SCOPED_TRACE(number);
         expectSound(lv::test::figuresOf(number));
     }
 }
 
-TEST(Pictures, OfOddTextsAreSound) {
+TEST(Pictures, OfUnusualTextsAreValid) {
     const std::vector<std::string> texts{"<script>alert('1 & \"2\"')</script>",
                                          std::string(10000, '<'),
                                          std::string(10000, ' '),

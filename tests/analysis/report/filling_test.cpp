@@ -21,13 +21,13 @@ TEST(Filling, EscapesTextsAndAttributes) {
     EXPECT_EQ(filledMark("<b>"), "<span class=\"mark a&quot;b\">x &lt;b&gt;</span>");
 }
 
-TEST(Filling, TakesNoTextForATemplate) {
+TEST(Filling, DoesNotExpandPlaceholdersInTexts) {
     EXPECT_NE(filledMark("{{symbol}} {{> mark.html}}").find("{{symbol}} {{&gt; mark.html}}"), std::string::npos);
     const View text = View::Members{{"text", "{{> mark.html}}"}, {"full", ""}};
     EXPECT_EQ(filled("text", text), "{{&gt; mark.html}}");
 }
 
-TEST(Filling, TakesAnEmptyTextForNotThere) {
+TEST(Filling, TreatsAnEmptyTextAsMissing) {
     const View text = View::Members{{"text", "short"}, {"full", ""}};
     EXPECT_EQ(filled("text", text), "short");
     const View shortened = View::Members{{"text", "short"}, {"full", "short and long"}};
@@ -44,7 +44,7 @@ TEST(EscapedForHTML, ReplacesWhatNoPageCanHold) {
     EXPECT_EQ(escapedForHTML(std::string("\0", 1)), "\uFFFD");
 }
 
-TEST(EscapedForScript, StandsForTheSameValue) {
+TEST(EscapedForScript, HasTheSameValueAsJSON) {
     const std::string json = "{ \"a b\": [ 1, 2 ],\n \"q\\\" \\\\\": \"</script> <!-- \\\" x\" }";
     const std::string escaped = escapedForScript(json);
     EXPECT_EQ(nlohmann::json::parse(escaped), nlohmann::json::parse(json));

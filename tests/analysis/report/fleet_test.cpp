@@ -51,7 +51,7 @@ TEST(Fleet, HasTheStyleOfSortableTablesButNotOfPictures) {
     EXPECT_THAT(style, Not(HasSubstr(".lv-line")));
 }
 
-TEST(Fleet, TellsTheWorstMeanOfAllModes) {
+TEST(Fleet, ShowsTheWorstMeanOfAllModes) {
     EXPECT_EQ(fleetOf({fleetEntry({worseDocument()}, lv::test::defaultForm())}).text("//tbody/tr/td[6]"), "87.25");
     EXPECT_EQ(fleetOf({entryOf("a.html", {}, 1)}).text("//tbody/tr/td[6]"), "n/a (nothing measured)");
 }

@@ -32,7 +32,7 @@ std::string scriptsOf(const HTMLPage& page) {
 
 }  // namespace
 
-TEST(ReportOfEvilNames, HasNoElementOfTheirs) {
+TEST(ReportOfEvilNames, HasNoElementsFromNames) {
     const HTMLPage page(evilPage());
     EXPECT_EQ(page.count("//script"), 2U);
     EXPECT_EQ(page.count("//img"), 0U);
@@ -40,14 +40,14 @@ TEST(ReportOfEvilNames, HasNoElementOfTheirs) {
     EXPECT_EQ(scriptsOf(page), scriptsOf(HTMLPage(pageOf(lv::MonitorInfo()))));
 }
 
-TEST(ReportOfEvilNames, ShowsThemAsTheyAre) {
+TEST(ReportOfEvilNames, ShowsNamesUnchanged) {
     const HTMLPage page(evilPage());
     EXPECT_EQ(page.texts("//h1").front(), std::string(evil).substr(0, 120));
     const auto data = nlohmann::json::parse(page.text("//script[@id='data']"));
     EXPECT_EQ(data.at("monitor_info").at("uuid"), evil);
 }
 
-TEST(ReportOfEvilNames, HasNoMarkupOfTheirsInAnyPlace) {
+TEST(ReportOfEvilNames, HasNoMarkupFromNamesAnywhere) {
     for (const char* const markup : {"<script>alert", "<img", "<!--", "</svg><script"}) {
         EXPECT_EQ(evilPage().find(markup), std::string::npos) << markup;
     }

@@ -1,6 +1,6 @@
 #include "report_pages.h"
 
-#include <tests/support/golden.h>
+#include <tests/analysis/catalogue.h>
 
 #include <lvdata/analysis/check/check.h>
 #include <lvdata/analysis/json/JSON.h>
@@ -11,16 +11,6 @@ namespace lv::test {
 namespace {
 
 using analysis::ReportedDocument;
-
-const analysis::Catalogue& catalogue() {
-    static const analysis::Catalogue all;
-    return all;
-}
-
-const std::string& studioText() {
-    static const std::string text = contentOf(fs::path(LVDATA_SAMPLES_DIR) / "studio.xml");
-    return text;
-}
 
 /// Gives each element of that name another text.
 void replaceTexts(std::string& document, const std::string& element, const std::string& text) {
@@ -91,10 +81,6 @@ ReportedDocument reportedDocument(const std::string& text, const std::string& na
     reported.findings = analysis::checkDocument(document);
     reported.json = analysis::toJSON(document.record(), catalogue(), {true, false}).text;
     return reported;
-}
-
-MonitorInfo studioMonitor() {
-    return parsed(studioText());
 }
 
 ReportedDocument reportedDocument(const MonitorInfo& monitor, const std::string& name) {

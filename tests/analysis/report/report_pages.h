@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tests/analysis/figures/studio.h>
+
 #include <lvdata/analysis/report/report.h>
 #include <lvdata/records/MonitorInfo.h>
 
@@ -11,9 +13,6 @@ namespace lv::test {
 
 /// A document of the text, as `lvdata report` hands it over.
 [[nodiscard]] analysis::ReportedDocument reportedDocument(const std::string& text, const std::string& name);
-
-/// The monitor of examples/data/studio.xml.
-[[nodiscard]] MonitorInfo studioMonitor();
 
 /// A document of the record.
 [[nodiscard]] analysis::ReportedDocument reportedDocument(const MonitorInfo& monitor, const std::string& name);

@@ -1,7 +1,8 @@
 #include "HTMLPage.h"
 #include "report_pages.h"
 
-#include <tests/support/golden.h>
+#include <tests/analysis/studio_text.h>
+#include <tests/support/lines.h>
 
 #include <lvdata/analysis/check/check.h>
 #include <lvdata/analysis/pictures/pictures.h>
@@ -19,6 +20,7 @@ using lv::MonitorInfo;
 using lv::analysis::FigureLine;
 using lv::analysis::ModeFigures;
 using lv::analysis::ReportedDocument;
+using lv::test::contains;
 using lv::test::HTMLPage;
 using lv::test::pageOf;
 using lv::test::reportedDocument;
@@ -31,8 +33,7 @@ using testing::Not;
 using testing::SizeIs;
 
 const ReportedDocument& studio() {
-    static const ReportedDocument document =
-        reportedDocument(lv::test::contentOf(lv::test::fs::path(LVDATA_SAMPLES_DIR) / "studio.xml"), "studio.xml");
+    static const ReportedDocument document = reportedDocument(lv::test::studioText(), "studio.xml");
     return document;
 }
 
@@ -47,10 +48,6 @@ const ModeFigures& photo() {
 
 HTMLPage pageWith(const ReportedDocument& document, const lv::analysis::ReportForm& form) {
     return HTMLPage(lv::analysis::reportPage({document}, form));
-}
-
-bool has(const std::string& page, const std::string& text) {
-    return page.find(text) != std::string::npos;
 }
 
 /// The page of the example, judged by one limit of the figure.
@@ -81,7 +78,7 @@ std::vector<std::string> gamutCells() {
 
 }  // namespace
 
-TEST(Report, TellsWhichMonitorItIsAbout) {
+TEST(Report, NamesTheMonitor) {
     EXPECT_EQ(studioPage().text("//head/title"), "Studio wall");
     EXPECT_EQ(studioPage().text("//h1"), "Studio wall");
     EXPECT_THAT(studioPage().texts("//header//dd"),
@@ -90,7 +87,7 @@ TEST(Report, TellsWhichMonitorItIsAbout) {
                             "2024-05-02T10:07:00", "studio.xml"));
 }
 
-TEST(Report, TellsWhoMeasured) {
+TEST(Report, SaysWhoMeasured) {
     const auto facts = studioPage().texts("//section[@id='mode-1']//dl[@class='facts']//dd");
     EXPECT_THAT(facts, Contains("2024-05-02T09:31:00"));
     EXPECT_THAT(facts, Contains(photo().measuredBy.sensorName + ", serial number " + photo().measuredBy.sensorSerial));
@@ -112,7 +109,7 @@ TEST(Report, HasASectionForEachModeWithAResult) {
                 ElementsAre("Desktop", "Follow signal"));
 }
 
-TEST(Report, CanTellOfOneModeAlone) {
+TEST(Report, CanShowOneModeAlone) {
     lv::analysis::ReportForm form = lv::test::defaultForm();
     form.mode = "3";
     const HTMLPage page = pageWith(studio(), form);
@@ -142,7 +139,7 @@ TEST(Report, HasAVerdictOfMapsAlone) {
     EXPECT_THAT(page.text("//section[@id='summary']"), HasSubstr("No colour mode has a calibration result."));
 }
 
-TEST(Report, LeadsToEverySection) {
+TEST(Report, LinksToEverySection) {
     const auto targets = studioPage().texts("//nav//a/@href");
     EXPECT_THAT(targets, SizeIs(testing::Ge(19)));
     for (const std::string& target : targets) {
@@ -150,13 +147,13 @@ TEST(Report, LeadsToEverySection) {
     }
 }
 
-TEST(Report, HasNoIdTwice) {
+TEST(Report, HasUniqueIds) {
     std::vector<std::string> ids = studioPage().texts("//@id");
     std::sort(ids.begin(), ids.end());
     EXPECT_EQ(std::adjacent_find(ids.begin(), ids.end()), ids.end());
 }
 
-TEST(Report, ShowsEachFigureAsItsLineTellsIt) {
+TEST(Report, ShowsEachFigureAsItsLineDoes) {
     std::vector<std::string> gamut;
     for (const FigureLine& line : lv::analysis::figureLines(photo())) {
         if (line.group == "Gamut") {
@@ -251,7 +248,7 @@ TEST(Report, HasTheFiguresThatDoNotPassInTheSummary) {
 }
 
 /// Findings of documents before the latest are not looked for, so nothing is said of them.
-TEST(Report, TellsTheFindingsOfTheLatestDocumentAlone) {
+TEST(Report, ShowsTheFindingsOfTheLatestDocumentAlone) {
     const HTMLPage page(lv::analysis::reportPage(lv::test::threeYears(), lv::test::defaultForm()));
     EXPECT_THAT(page.texts("//section[@id='record']//thead//th"), ElementsAre("Document", "Last calibration"));
     EXPECT_THAT(page.texts("//section[@id='record']//tbody/tr[1]/td"), ElementsAre("2022-05-02T10:07:00"));
@@ -261,9 +258,9 @@ TEST(Report, DoesNotCallADocumentLosslessWhenFindingsAreNotListed) {
     ReportedDocument document = studio();
     const lv::analysis::Rule* const kept = lv::analysis::findRule(*lv::analysis::lossOptions().ignored.begin());
     document.findings = {{{kept, lv::analysis::Severity::info, 1, "/", "kept"}}, 0, 0, 1};
-    EXPECT_TRUE(has(pageOf(document), "would lose nothing"));
+    EXPECT_TRUE(contains(pageOf(document), "would lose nothing"));
     document.findings.infos = 2;
-    EXPECT_FALSE(has(pageOf(document), "would lose nothing"));
+    EXPECT_FALSE(contains(pageOf(document), "would lose nothing"));
 }
 
 TEST(Report, HoldsTheRecordAsJSON) {

@@ -33,7 +33,7 @@ TEST(JSONSchema, MovesThePointOfTheRange) {
                 HasSubstr(R"("type": "number", "minimum": -2147.483648, "maximum": 2147.483647}, "minItems": 9)"));
 }
 
-TEST(JSONSchema, KeepsWholeNumbersWhoseFactorIsNoPowerOfTen) {
+TEST(JSONSchema, KeepsIntegersWhoseFactorIsNotAPowerOfTen) {
     EXPECT_THAT(schemaOf("MeasurementData"),
                 HasSubstr(R"("rgb": {"description": "Meaning: RGB code value as a fraction of 255, times 255.", )"
                           R"("type": "array", "items": {"type": "integer", "minimum": 0, "maximum": 4294967295}, )"

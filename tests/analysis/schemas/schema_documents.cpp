@@ -21,11 +21,6 @@ std::vector<fs::path> samplesOf(const std::string& record) {
 
 }  // namespace
 
-const analysis::Catalogue& catalogue() {
-    static const analysis::Catalogue all;
-    return all;
-}
-
 std::vector<NamedDocument> storedDocuments(const std::string& record) {
     std::vector<fs::path> paths = samplesOf(record);
     for (const fs::path& path : goldenFilesOf(record)) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tests/analysis/catalogue.h>
+
 #include <tests/support/DescribedNode.h>
 
 #include <string>
@@ -16,9 +18,6 @@ struct NamedDocument {
     std::string name;
     std::string text;
 };
-
-/// What records have of everything, made once.
-[[nodiscard]] const analysis::Catalogue& catalogue();
 
 /// The expected golden documents of the record, and its samples.
 [[nodiscard]] std::vector<NamedDocument> storedDocuments(const std::string& record);

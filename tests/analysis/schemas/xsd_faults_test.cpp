@@ -116,7 +116,7 @@ TEST(XSDFaults, AreRefusedEverywhere) {
 }
 
 /// A key that is there twice, or is none of those; a text of another length.
-TEST(XSDFaults, OfKeyedElementsAreRefused) {
+TEST(XSDFaults, InKeyedElementsAreRefused) {
     const XMLSchema schema(analysis::xsd(*catalogue().find("ProfileData")->shape));
     const auto documentWith = [](const std::string& key, const std::string& black) {
         std::string text = R"(<ProfileData Version="2" MinorVersion="0">)";
@@ -134,7 +134,7 @@ TEST(XSDFaults, OfKeyedElementsAreRefused) {
     EXPECT_NE(schema.refusalOf(documentWith("Other", "")), "");
 }
 
-TEST(XSDFaults, OfWhatMustBeThereAreRefused) {
+TEST(XSDFaults, InRequiredElementsAreRefused) {
     const XMLSchema schema(analysis::xsd(*catalogue().find("CorrelationInfo")->shape));
     EXPECT_EQ(schema.refusalOf(R"(<CorrelationInfo Version="1" MinorVersion="0"/>)"), "");
     EXPECT_NE(schema.refusalOf(R"(<CorrelationInfo Version="1"/>)"), "");

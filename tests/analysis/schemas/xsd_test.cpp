@@ -34,7 +34,7 @@ TEST(XSD, AcceptsTheStoredDocuments) {
     }
 }
 
-TEST(XSD, AcceptsWhatAnyConditionsLetRecordsPrint) {
+TEST(XSD, AcceptsWhatRecordsPrintUnderAnyConditions) {
     for (const analysis::Catalogue::Entry& entry : catalogue().entries()) {
         const XMLSchema schema(analysis::xsd(*entry.shape));
         for (const DescribedNode& node : withDescendants(DescribedNode(*entry.facts))) {

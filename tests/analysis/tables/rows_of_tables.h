@@ -1,7 +1,7 @@
 #pragma once
 
 #include <tests/analysis/any_record.h>
-#include <tests/support/golden.h>
+#include <tests/analysis/studio_text.h>
 
 #include <lvdata/analysis/Document.h>
 #include <lvdata/analysis/json/JSONWriter.h>
@@ -31,10 +31,6 @@ inline std::vector<nlohmann::json> rowsOf(analysis::Table table, const std::stri
         rows.push_back(nlohmann::json::parse(line));
     }
     return rows;
-}
-
-inline std::string studio() {
-    return contentOf(LVDATA_SAMPLES_DIR "/studio.xml");
 }
 
 inline std::string csvOf(analysis::Table table, const std::string& xml) {

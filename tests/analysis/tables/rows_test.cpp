@@ -11,7 +11,7 @@ using nlohmann::json;
 using testing::HasSubstr;
 
 TEST(Tables, HaveARowForAMonitor) {
-    const auto rows = rowsOf(Table::monitors, studio());
+    const auto rows = rowsOf(Table::monitors, studioText());
     ASSERT_EQ(rows.size(), 1U);
     EXPECT_EQ(rows[0]["file"], "a.xml");
     EXPECT_EQ(rows[0]["uuid"], "6f1d2c9a-52c7-4b0e-9a57-0d3c5b7e4417");
@@ -38,7 +38,7 @@ TEST(Tables, HaveTheIntervalOfTheKindOfTheSchedule) {
 }
 
 TEST(Tables, HaveARowForEachMode) {
-    const auto rows = rowsOf(Table::modes, studio());
+    const auto rows = rowsOf(Table::modes, studioText());
     ASSERT_EQ(rows.size(), 5U);
     EXPECT_EQ(rows[0]["type"], "Standard");
     EXPECT_EQ(rows[0]["mode_index"], 0);
@@ -101,9 +101,9 @@ TEST(Tables, JoinModesOfTheSameIndexInTheirOrder) {
 }
 
 TEST(Tables, HaveTheFiguresOfAModeWithTheirDigits) {
-    const auto rows = rowsOf(Table::modes, studio());
+    const auto rows = rowsOf(Table::modes, studioText());
     const json figures = json::parse(analysis::figuresJSON(
-        analysis::monitorFigures(*analysis::monitorOf(analysis::Document(studio(), catalogue()).record()))));
+        analysis::monitorFigures(*analysis::monitorOf(analysis::Document(studioText(), catalogue()).record()))));
     ASSERT_EQ(rows.size(), figures["modes"].size());
     for (std::size_t mode = 0; mode < rows.size(); ++mode) {
         for (const char* const key : {"white_tristimulus_y", "white_cct", "white_delta_uv", "white_delta_e2000",
@@ -114,7 +114,7 @@ TEST(Tables, HaveTheFiguresOfAModeWithTheirDigits) {
     EXPECT_EQ(rows[0]["patches_delta_e2000_mean"], nullptr);
     EXPECT_EQ(rows[4]["patches_delta_e2000_mean"], 1.10);
     EXPECT_EQ(rows[4]["white_cct"], 6497);
-    EXPECT_THAT(csvOf(Table::modes, studio()), HasSubstr(",1000.6680,6497,0.0001,0.08,1.10,5.37\r\n"));
+    EXPECT_THAT(csvOf(Table::modes, studioText()), HasSubstr(",1000.6680,6497,0.0001,0.08,1.10,5.37\r\n"));
 }
 
 TEST(Tables, HaveARowForEachPatch) {
@@ -132,7 +132,7 @@ TEST(Tables, HaveARowForEachPatch) {
     EXPECT_EQ(rows[1]["cmyk_k"], 0.01);
     EXPECT_EQ(rows[1]["lab_b"], -0.000003);
     EXPECT_EQ(rows[1]["rgb_r"], nullptr);
-    const auto ofStudio = rowsOf(Table::patches, studio());
+    const auto ofStudio = rowsOf(Table::patches, studioText());
     ASSERT_FALSE(ofStudio.empty());
     EXPECT_EQ(ofStudio.front()["source"], "calibration_mode_result");
     EXPECT_EQ(ofStudio.front()["mode_index"], 2);

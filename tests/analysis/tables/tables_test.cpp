@@ -84,7 +84,7 @@ TEST(Tables, SayWhatTheValuesOfTheirColumnsAre) {
     for (const analysis::TableDescription& table : analysis::tables()) {
         KindsSink sink(table.columns);
         for (const std::string& text :
-             {studio(), assets, patches, scheduleOfKind("1"), scheduleOfKind("2"), scheduleOfKind("3")}) {
+             {studioText(), assets, patches, scheduleOfKind("1"), scheduleOfKind("2"), scheduleOfKind("3")}) {
             const analysis::Document document(text, catalogue());
             ASSERT_EQ(document.refusal(), nullptr);
             analysis::addRows(table.table, document.record(), "a.xml", sink);
@@ -94,7 +94,7 @@ TEST(Tables, SayWhatTheValuesOfTheirColumnsAre) {
     }
 }
 
-TEST(Tables, HaveNoRowsOfDocumentsWithoutSuchThings) {
+TEST(Tables, HaveNoRowsForDocumentsWithoutTheirData) {
     for (const analysis::TableDescription& table : analysis::tables()) {
         EXPECT_TRUE(rowsOf(table.table, "<CorrelationInfo/>").empty()) << table.name;
     }
@@ -107,7 +107,7 @@ TEST(Tables, HaveEveryKeyInEveryRow) {
             names.insert(std::string(column.name));
         }
         EXPECT_EQ(names.size(), table.columns.size()) << table.name;
-        for (const json& row : rowsOf(table.table, studio())) {
+        for (const json& row : rowsOf(table.table, studioText())) {
             std::set<std::string> keys;
             for (const auto& item : row.items()) {
                 keys.insert(item.key());
@@ -117,7 +117,7 @@ TEST(Tables, HaveEveryKeyInEveryRow) {
     }
 }
 
-TEST(Tables, AreKnownByTheirPlace) {
+TEST(Tables, AreFoundByTheirKind) {
     for (const analysis::TableDescription& table : analysis::tables()) {
         EXPECT_EQ(&analysis::tableDescription(table.table), &table);
     }

@@ -47,7 +47,7 @@ TEST_F(ChildFinderTest, FindsTheFirstOfEachNameInAnyOrder) {
     EXPECT_EQ(textOf(children.find("c")), "4");
 }
 
-TEST_F(ChildFinderTest, AMissingNameHindersNoOther) {
+TEST_F(ChildFinderTest, AMissingNameDoesNotHideTheOthers) {
     ChildFinder children(parent());
     EXPECT_EQ(textOf(children.find("a")), "1");
     EXPECT_EQ(children.find("e"), nullptr);

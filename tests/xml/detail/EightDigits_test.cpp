@@ -7,7 +7,7 @@
 namespace lv::detail {
 namespace {
 
-TEST(EightDigits, CountsTheDigitsInFrontOfEveryOtherCharacter) {
+TEST(EightDigits, CountsTheDigitsBeforeEveryOtherCharacter) {
     for (unsigned int count = 0; count <= EightDigits::size; ++count) {
         for (int other = 0; other < 256; ++other) {
             std::string text(EightDigits::size, '7');
@@ -21,14 +21,14 @@ TEST(EightDigits, CountsTheDigitsInFrontOfEveryOtherCharacter) {
     EXPECT_EQ(EightDigits("89898989").count(), 8U);
 }
 
-TEST(EightDigits, FurtherDigitsBehindTheFirstOtherCharacterDoNotCount) {
+TEST(EightDigits, DigitsAfterTheFirstOtherCharacterDoNotCount) {
     EXPECT_EQ(EightDigits("12|34|56").count(), 2U);
     EXPECT_EQ(EightDigits("|1234567").count(), 0U);
     EXPECT_EQ(EightDigits("\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF").count(), 0U);
     EXPECT_EQ(EightDigits("1\xC6\xC6\xC6\xC6\xC6\xC6\xC6").count(), 1U);
 }
 
-TEST(EightDigits, ValueIsThatOfTheDigitsInFront) {
+TEST(EightDigits, ValueIsThatOfTheLeadingDigits) {
     const std::string digits = "98765432";
     std::uint32_t expected = 0;
     for (unsigned int count = 1; count <= EightDigits::size; ++count) {
@@ -37,7 +37,7 @@ TEST(EightDigits, ValueIsThatOfTheDigitsInFront) {
     }
 }
 
-TEST(EightDigits, ValueKnowsEveryDigitInEveryPlace) {
+TEST(EightDigits, ValueIsRightForEveryDigitInEveryPlace) {
     std::uint32_t place = 10000000;
     for (unsigned int index = 0; index < EightDigits::size; ++index, place /= 10) {
         for (char digit = '0'; digit <= '9'; ++digit) {

@@ -22,7 +22,7 @@ TEST(EqualPieces, ReadsAPieceOfTheirLength) {
     }
 }
 
-TEST(EqualPieces, RefusesPiecesOfAnotherLength) {
+TEST(EqualPieces, RefusesPiecesOfADifferentLength) {
     for (std::size_t count = 1; count < EightDigits::size; ++count) {
         const EqualPieces pieces(count, '|');
         int number = -7;

@@ -51,7 +51,7 @@ std::string atOnce(bool pretty) {
     return printer.text();
 }
 
-TEST(Output, TheTextIsTheSameAmongNodesAndAtOnce) {
+TEST(Output, TheTextIsTheSameThroughNodesAndDirectly) {
     for (const bool pretty : {false, true}) {
         EXPECT_EQ(atOnce(pretty), asNodes(pretty));
     }
@@ -59,7 +59,7 @@ TEST(Output, TheTextIsTheSameAmongNodesAndAtOnce) {
     EXPECT_NE(asNodes(false).find("<Nothing/><Number>-17</Number>"), std::string::npos);
 }
 
-TEST(Output, NothingTakesEverything) {
+TEST(Output, AnInvalidElementIgnoresWhatIsWritten) {
     const Output nothing;
     EXPECT_FALSE(nothing.exists());
     EXPECT_FALSE(nothing.append("Child").exists());
@@ -69,7 +69,7 @@ TEST(Output, NothingTakesEverything) {
     EXPECT_FALSE(Output(nullptr).exists());
 }
 
-TEST(Output, OnlyAnElementAmongNodesIsANode) {
+TEST(Output, OnlyAnElementMadeOfNodesIsANode) {
     const XMLDocument document;
     const XMLElement root = document.appendChild("Root");
     const Output child = Output(toElement(root)).append("Child");

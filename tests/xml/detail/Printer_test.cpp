@@ -54,7 +54,7 @@ TEST(Printer, ALongCDataSectionStaysOne) {
     EXPECT_EQ(printed(document, true), "<a><![CDATA[" + longText + "]]></a>");
 }
 
-TEST(Printer, WhatIsPrintedAtOnceAndNodesFollowEachOther) {
+TEST(Printer, DirectTextAndNodesArePrintedInTheirOrder) {
     tinyxml2::XMLDocument document;
     ASSERT_EQ(document.Parse("<b/>"), tinyxml2::XML_SUCCESS);
     Printer printer(true);

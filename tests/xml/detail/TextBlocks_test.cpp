@@ -34,7 +34,7 @@ TEST(TextBlocks, KeepTextsOfEveryLengthInTheirOrder) {
     EXPECT_EQ(blocks.joined(), expected);
 }
 
-TEST(TextBlocks, ATextGoesOnInTheNextBlock) {
+TEST(TextBlocks, ATextContinuesInTheNextBlock) {
     for (const std::size_t before : {0U, 1U, 4080U, 4095U, 4096U}) {
         for (const std::size_t size : {1U, 16U, 17U, 4096U, 5000U, 100000U}) {
             TextBlocks blocks;

@@ -41,7 +41,7 @@ TEST_F(WrapperMarkTest, AMarkArrivesWhereItIsPassedDirectly) {
     EXPECT_FALSE(isMarkedWhenPassed(root()));
 }
 
-TEST_F(WrapperMarkTest, NobodyCanPassItOn) {
+TEST_F(WrapperMarkTest, AMarkIsLostWhenTheWrapperIsPassedOn) {
     EXPECT_FALSE(isMarkedWhenPassedOn(WrapperMark::asParsed(node())));
     EXPECT_FALSE(isMarkedWhenMovedOn(WrapperMark::asParsed(node())));
 }
@@ -61,7 +61,7 @@ TEST_F(WrapperMarkTest, NothingCanBeMarked) {
     EXPECT_EQ(WrapperMark::asParsed(nullptr).get(), nullptr);
 }
 
-TEST_F(WrapperMarkTest, AMarkedParentIsNoParsedElementAndTheReverse) {
+TEST_F(WrapperMarkTest, AMarkedParentIsNotAParsedElementAndViceVersa) {
     XMLElement parent = root();
     WrapperMark::markParent(parent);
     EXPECT_TRUE(WrapperMark::isMarkedParent(parent));

@@ -21,7 +21,7 @@ TEST(ParseNumber, StopsAtTheEndOfTheViewNotAtTheEndOfTheTextAroundIt) {
     EXPECT_EQ(parseNumber<unsigned int>(std::string_view("123456").substr(2, 3)), 345U);
 }
 
-TEST(ParseNumber, ViewsThatEndBehindSpaceOrSignGiveZero) {
+TEST(ParseNumber, ViewsThatEndAfterSpaceOrSignGiveZero) {
     EXPECT_EQ(parseNumber<int>(std::string_view()), 0);
     EXPECT_EQ(parseNumber<int>(std::string_view("  5").substr(0, 2)), 0);
     EXPECT_EQ(parseNumber<int>(std::string_view("-5").substr(0, 1)), 0);
@@ -81,7 +81,7 @@ TEST(ParseNumbers, GiveWhatThePiecesGiveOneByOne) {
     }
 }
 
-TEST(ParseNumbers, EveryLengthOfNumberInEveryPlace) {
+TEST(ParseNumbers, ReadEveryLengthOfNumberInEveryPlace) {
     const std::string digits = "123456789012";
     for (std::size_t first = 0; first <= digits.size(); ++first) {
         for (std::size_t second = 0; second <= digits.size(); ++second) {
@@ -92,7 +92,7 @@ TEST(ParseNumbers, EveryLengthOfNumberInEveryPlace) {
     }
 }
 
-TEST(ParseNumbers, SeparatorsOfNoneAndOfSeveralCharacters) {
+TEST(ParseNumbers, TakeSeparatorsOfNoneAndOfSeveralCharacters) {
     for (const char* separator : {"", "|", ",", ", ", "12", "--"}) {
         for (const char* text : {"1, 2, 3", "1|2", "9123124", "1--2---3", ", "}) {
             EXPECT_EQ(parsed<int>(text, separator), converted<int>(text, separator)) << text << " at " << separator;
@@ -107,7 +107,7 @@ TEST(ParseNumbers, AMinusSeparatesAsAnyOtherCharacterDoes) {
     }
 }
 
-TEST(ParseNumbers, SignsInEveryPlace) {
+TEST(ParseNumbers, ReadSignsInEveryPlace) {
     for (const char* text : {"-1|2|3", "1|-2|3", "1|2|-3", "-1|-2|-3", "-12345678|-123456789|-1", "-|1", "1|-", "--1|5",
                              "-1 |5", "1|-2147483648", "1|-2147483649", "-0|0"}) {
         EXPECT_EQ(parsed<int>(text), converted<int>(text)) << text;
@@ -133,7 +133,7 @@ void expectAlikeAtTheEndOfMemory(const std::string& text) {
     EXPECT_EQ(parsed<Number>({characters.data(), characters.size()}), converted<Number>(text)) << text;
 }
 
-TEST(ParseNumbers, TextsOfEveryLengthEndWithTheirMemory) {
+TEST(ParseNumbers, DoNotReadBeyondTheEndOfTheText) {
     const std::string negative = "-1|-22|-333|-4444|-55555|-666666|-7777777|-88888888|-999999999|-1000000000";
     const std::string mixed = "1|22|333|4444|55555|666666|7777777|88888888|999999999|-1000000000|0||-0|00000000012";
     for (const std::string& text : {negative, mixed}) {
@@ -153,7 +153,7 @@ std::string numbers(std::size_t count, std::size_t digits, const std::string& si
     return text;
 }
 
-TEST(ParseNumbers, LongArraysOfEveryLengthOfNumberAndSign) {
+TEST(ParseNumbers, ReadLongArraysOfEveryLengthOfNumberAndSign) {
     for (std::size_t digits = 1; digits <= 11; ++digits) {
         for (const char* const sign : {"", "-"}) {
             for (const std::size_t count : {20U, 1023U, 1024U, 1025U, 3000U}) {
@@ -163,7 +163,7 @@ TEST(ParseNumbers, LongArraysOfEveryLengthOfNumberAndSign) {
     }
 }
 
-TEST(ParseNumbers, TakeTheMemoryThatTheyNeed) {
+TEST(ParseNumbers, ReserveOnlyTheMemoryTheyNeed) {
     for (const std::size_t count : {3U, 256U, 1000U, 3000U}) {
         std::vector<int> values;
         parseNumbers(numbers(count, 6, ""), "|", values);
@@ -171,7 +171,7 @@ TEST(ParseNumbers, TakeTheMemoryThatTheyNeed) {
     }
 }
 
-TEST(ParsePlainNumbers, RefuseWhateverElseStandsInTheText) {
+TEST(ParsePlainNumbers, RefuseAnyOtherCharacter) {
     std::vector<int> values = {7};
     for (const char* const text :
          {"+1", ".5", "1|.5", ".12345678901|1", "1|.12345678901", " 1", "x", "--1", "-", "1 |2", "1|2x", "1|+2", "1|-",

@@ -16,7 +16,7 @@ std::string written(Number number) {
     return {text.data(), writeDecimal(number, text.data())};
 }
 
-TEST(WriteDecimal, EveryNumberOfFourDigitsInEveryPlace) {
+TEST(WriteDecimal, WritesEveryNumberOfFourDigitsInEveryPlace) {
     for (unsigned int number = 0; number < 10000; ++number) {
         ASSERT_EQ(written(number), std::to_string(number));
         ASSERT_EQ(written(number * 10000), std::to_string(number * 10000));
@@ -25,7 +25,7 @@ TEST(WriteDecimal, EveryNumberOfFourDigitsInEveryPlace) {
     }
 }
 
-TEST(WriteDecimal, TheFirstAndTheLastNumberOfEveryLength) {
+TEST(WriteDecimal, WritesTheFirstAndTheLastNumberOfEveryLength) {
     for (std::uint64_t power = 10; power <= 10'000'000'000; power *= 10) {
         for (const std::uint64_t number : {power / 10, power / 10 + 1, power - 1}) {
             const auto stored = static_cast<unsigned int>(number);
@@ -35,7 +35,7 @@ TEST(WriteDecimal, TheFirstAndTheLastNumberOfEveryLength) {
     }
 }
 
-TEST(WriteDecimal, NegativeNumbers) {
+TEST(WriteDecimal, WritesNegativeNumbers) {
     EXPECT_EQ(written(-1), "-1");
     EXPECT_EQ(written(std::numeric_limits<int>::min()), "-2147483648");
 }

@@ -100,7 +100,7 @@ TEST(ParsedArray, IsReadWhereItWasParsed) {
     EXPECT_FALSE(isReadInPlace("<r><a> 5|6</a></r>")) << "the test itself";
 }
 
-TEST(ParsedArray, WhateverIsNotPlainIsReadTheLongWay) {
+TEST(ParsedArray, ThatIsNotPlainIsReadByTheGeneralParser) {
     for (const char* const text :
          {"<r><a>5&#54;</a></r>", "<r><a>5\r\n6</a></r>", "<r><a>5|6 \n</a></r>", "<r><a> 5</a></r>",
           "<r><a>5<!-- 6 -->7</a></r>", "<r><a><!-- 6 -->7</a></r>", "<r><a><![CDATA[5]]></a></r>",
@@ -110,7 +110,7 @@ TEST(ParsedArray, WhateverIsNotPlainIsReadTheLongWay) {
     }
 }
 
-TEST(ParsedArray, IsMissedWhereThereIsNoText) {
+TEST(ParsedArray, IsNotFoundWithoutText) {
     for (const char* const text : {"<r><a></a></r>", "<r><a/>5</r>", "<r><a />5|6</r>", "<r><a x='1'/>5</r>",
                                    "<r><a> \n</a></r>", "<r><a>\v</a></r>", "<r><a x='5'></a></r>"}) {
         EXPECT_EQ(asParsed(text), (Result{false, {77}})) << text;
@@ -122,7 +122,7 @@ TEST(ParsedArray, IsMissedWhereThereIsNoText) {
 
 /// A value of an attribute that holds entities leaves its last characters after it, where the rest of the tag is looked
 /// for: here they look like one, with a text and an end tag.
-TEST(ParsedArray, TheRestOfAValueIsNotTakenForTheText) {
+TEST(ParsedArray, DoesNotReadTheRestOfAnAttributeValue) {
     for (const char* const value : {"&quot;>1</", "&apos;>7</", "&gt;&gt;>1</a", "&amp;&amp;>1|2</a", "&lt;&lt;>1</a",
                                     "\r\n\r\n\r\n\r\n\r\n>1</"}) {
         const std::string text = std::string("<r><a x='") + value + "'>5|6</a></r>";
@@ -134,7 +134,7 @@ TEST(ParsedArray, TheRestOfAValueIsNotTakenForTheText) {
     }
 }
 
-TEST(ParsedArray, ALongOneAndAllLengthsOfItsText) {
+TEST(ParsedArray, IsReadAtEveryLengthOfItsText) {
     std::string array = "1|-22|333|-4444|55555|-666666|7777777|-88888888|999999999|-1000000000";
     for (; !array.empty(); array.pop_back()) {
         std::string text = "<r><a>";

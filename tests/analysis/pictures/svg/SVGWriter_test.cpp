@@ -53,7 +53,7 @@ TEST(SVGWriter, MovesAPartOfAFileDown) {
     EXPECT_EQ(svg.document(), "<g transform=\"translate(0,20)\">\n<rect x=\"1\"/>\n</g>\n");
 }
 
-TEST(Shapes, AreInStepsThatDoNotDrift) {
+TEST(Shapes, HaveRoundedStepsThatAddUpToThePoints) {
     EXPECT_EQ(
         lv::analysis::svg::pathThrough({{0, 0}, {10.04, 10}, {20.08, 0}, {20.08, 30}, {30.12, 30}, {39.96, 29.5}}),
         "M0,0l10,10,10.1-10v30h10l9.9-.5");

@@ -43,7 +43,7 @@ TEST(Scale, EndsAtItsPixels) {
     }
 }
 
-TEST(Scale, HasItsMiddleForWhatHasNoPlace) {
+TEST(Scale, GivesItsMiddleForValuesWithoutAPlace) {
     EXPECT_DOUBLE_EQ(Scale({0, 1}, {100, 300}).at(notANumber), 200);
     EXPECT_DOUBLE_EQ(Scale({5, 5}, {100, 300}).at(5), 200);
     EXPECT_DOUBLE_EQ(Scale({notANumber, 1}, {100, 300}).at(1), 200);

@@ -34,7 +34,7 @@ TEST(ValueText, HasAsManyDigitsAsAsked) {
     EXPECT_EQ(valueText(123456789, 1), "123456789.0");
 }
 
-TEST(ValueText, OfLongNumbersHasAnExponent) {
+TEST(ValueText, HasAnExponentForLongNumbers) {
     EXPECT_EQ(valueText(1234567890123.0, 2), "1.23e12");
     EXPECT_EQ(valueText(-1e300, 2), "-1e300");
     EXPECT_EQ(valueText(9.999e20, 2), "1e21");

@@ -89,7 +89,7 @@ TEST(Thinned, KeepsTheExtremesOfNoise) {
     }
 }
 
-TEST(Thinned, CopesWithPointsInOnePlace) {
+TEST(Thinned, AcceptsPointsInOnePlace) {
     EXPECT_LE(thinned(std::vector<Point>(100000, Point{3, 3})).size(), mostPoints);
 }
 

@@ -46,7 +46,7 @@ TEST(Ticks, AreMultiplesOfOneTwoOrFive) {
     }
 }
 
-TEST(Ticks, StandWhereTheirLabelsSay) {
+TEST(Ticks, AreAtTheValuesOfTheirLabels) {
     for (const Tick& tick : ticksOf({0, 1}, 10)) {
         double labelled = 0;
         std::from_chars(tick.label.data(), tick.label.data() + tick.label.size(), labelled);
@@ -67,16 +67,16 @@ TEST(Ticks, LeaveARangeThatHasTicksAtItsEnds) {
     EXPECT_NEAR(scale.range.last, 0.3, 1e-12);
 }
 
-TEST(Ticks, OfARangeWithoutWidthAreOne) {
+TEST(Ticks, AreOnlyOneForARangeWithoutWidth) {
     EXPECT_EQ(joined(ticksOf({5, 5}, 4)), "5");
     EXPECT_EQ(joined(toTicks({5, 5}, 4).ticks), "5");
 }
 
-TEST(Ticks, OfARangeTooNarrowForItsNumbersAreOne) {
+TEST(Ticks, AreOnlyOneForARangeTooNarrowForItsNumbers) {
     EXPECT_EQ(ticksOf({1e16, 1e16 + 2}, 4).size(), 1U);
 }
 
-TEST(Ticks, OfWhatIsNotARangeAreOne) {
+TEST(Ticks, AreOnlyOneForAnInvalidRange) {
     const double infinity = std::numeric_limits<double>::infinity();
     const double huge = std::numeric_limits<double>::max();
     for (const Range& range : {Range{0, infinity}, Range{std::nan(""), 1}, Range{1, 0}, Range{-huge, huge}}) {
