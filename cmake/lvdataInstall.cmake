@@ -30,7 +30,7 @@ if(BUILD_SHARED_LIBS)
     set(_lvdata_pc_requires "")
     set(_lvdata_pc_cflags "")
 else()
-    set(_lvdata_pc_requires "Requires.private: tinyxml2\n")
+    set(_lvdata_pc_requires "Requires.private: tinyxml2 >= ${LVDATA_TINYXML2_MINIMUM}\n")
     set(_lvdata_pc_cflags " -DLVDATA_STATIC")
     install(
         FILES cmake/lvdataTinyXML2.cmake
