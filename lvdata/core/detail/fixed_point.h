@@ -51,8 +51,8 @@ template <class Number>
 /// \param factor  at least 1
 [[nodiscard]] double quotient(std::uint32_t stored, std::uint32_t factor);
 
-/// Whether the processor rounds a quotient of doubles to a double at once. x87 has registers with more bits: it rounds to
-/// those, and once more where the result is stored.
+/// Whether the processor rounds a quotient of doubles to a double at once. x87 has registers with more bits: it rounds
+/// to those, and once more where the result is stored.
 inline constexpr bool roundsOnce = FLT_EVAL_METHOD == 0 || FLT_EVAL_METHOD == 1;
 
 /// The double that a fixed-point number stands for: the same on every processor.

@@ -7,8 +7,8 @@
 
 namespace lv::detail {
 
-/// A number that is not negative, exact: 96 bits before the point and 96 after it. Rounds to any number of bits, so that
-/// tests can say what every kind of processor would compute. Uses integers alone, a digit of 32 bits at a time.
+/// A number that is not negative, exact: 96 bits before the point and 96 after it. Rounds to any number of bits, so
+/// that tests can say what every kind of processor would compute. Uses integers alone, a digit of 32 bits at a time.
 class ExactNumber {
 public:
     /// A value that is not negative and has no bits beyond those kept.
