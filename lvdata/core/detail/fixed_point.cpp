@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace lv::detail {
 namespace {
@@ -45,11 +46,15 @@ Magnitude rounded(const Magnitude& exact) {
     return {kept + (up ? 1 : 0), exact.exponent + lost};  // of up to 2^53
 }
 
-/// A value that is not 0, without its sign.
+/// A value that is not 0, without its sign. Those below the least normal number come out up to twice as large as that
+/// number, which is still nothing beside one half.
 Magnitude magnitudeOf(double value) {
-    int exponent = 0;
-    const double fraction = std::frexp(std::fabs(value), &exponent);  // from 0.5 to 1
-    return {static_cast<std::uint64_t>(std::ldexp(fraction, doubleBits)), exponent - doubleBits};
+    static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == sizeof(std::uint64_t));
+    constexpr int fractionBits = doubleBits - 1;  // the highest bit of the mantissa is not stored
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &value, sizeof(bits));
+    const auto exponent = static_cast<int>(bits >> fractionBits & lowBits(11));
+    return {(bits & lowBits(fractionBits)) | std::uint64_t{1} << fractionBits, exponent - 1023 - fractionBits};
 }
 
 /// The magnitude (upper * 2^32 + lower) * 2^exponent, whose lower part has 32 bits. Bits beyond 64 become a sticky bit.
