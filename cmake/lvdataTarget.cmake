@@ -36,6 +36,20 @@ function(lvdata_configure_target target)
     _lvdata_set_instrumentation(${target})
 endfunction()
 
+# A shared library of this target shows only what its sources mark as visible, and nothing of the static libraries in it.
+function(lvdata_hide_symbols target)
+    set_target_properties(
+        ${target} PROPERTIES
+        POSITION_INDEPENDENT_CODE ON
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+    )
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL SHARED_LIBRARY AND NOT APPLE)
+        target_link_options(${target} PRIVATE "LINKER:--exclude-libs,ALL")
+    endif()
+endfunction()
+
 include(CheckIPOSupported)
 check_ipo_supported(RESULT _lvdata_ipo_supported OUTPUT _lvdata_ipo_output LANGUAGES CXX)
 

@@ -2,7 +2,7 @@
 
 #include <lvdata/records/MonitorInfo.h>
 
-// Compiled with `lv` renamed: this is the record over the plain sources beside this file.
+// Part of a shared library of its own: this is the record over the plain sources beside this file.
 
 namespace benchmarks {
 

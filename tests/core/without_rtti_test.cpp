@@ -18,5 +18,9 @@ TEST(WithoutRtti, DocumentsAndWrappersOfAnApplicationAreTaken) {
     EXPECT_EQ(parameter.redLUT.value, (std::vector<unsigned int>{1, 2, 3}));
 }
 
+TEST(WithoutRtti, RecordsOfAnApplicationArePrinted) {
+    EXPECT_EQ(ownListPrintedWithoutRtti(), "<List Version=\"1\" MinorVersion=\"2\"/>");
+}
+
 }  // namespace
 }  // namespace lv::test

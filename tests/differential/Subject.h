@@ -7,13 +7,13 @@
 namespace differential {
 
 /// A record of either style, with what the test compares.
-class Subject {
+class [[gnu::visibility("default")]] Subject {
 public:
     Subject() = default;
     virtual ~Subject() = default;
     Subject(const Subject&) = delete;
     Subject& operator=(const Subject&) = delete;
-    Subject(Subject&&) = delete;
+    Subject(Subject &&) = delete;
     Subject& operator=(Subject&&) = delete;
 
     /// Gives every member a value of its own.
@@ -30,14 +30,8 @@ public:
 /// How a fresh record of each name is made.
 using Makers = std::map<std::string, std::unique_ptr<Subject> (*)()>;
 
+/// Of the library, and of its records over plain code: all that the shared library of these shows.
+[[nodiscard]] Makers librarySubjects();
+[[nodiscard, gnu::visibility("default")]] Makers plainSubjects();
+
 }  // namespace differential
-
-// One function, defined in one source that is compiled once in each style.
-
-namespace lv::test {
-[[nodiscard]] differential::Makers subjects();
-}
-
-namespace plain_lv::test {
-[[nodiscard]] differential::Makers subjects();
-}

@@ -18,7 +18,7 @@ constexpr std::size_t documentsPerRecord = 600;
 
 /// Documents that the record accepts: its sample in several forms, and the golden ones.
 std::vector<std::string> wholeDocuments(const std::string& record) {
-    const auto sample = plain_lv::test::subjects().at(record)();
+    const auto sample = plainSubjects().at(record)();
     sample->fill();
     const std::string text = sample->print(false);
     std::vector<std::string> documents = lv::test::goldenTextsOf(record);
@@ -33,8 +33,8 @@ std::vector<std::string> wholeDocuments(const std::string& record) {
 class Pair {
 public:
     explicit Pair(const std::string& record)
-        : library_(lv::test::subjects().at(record)()),
-          plain_(plain_lv::test::subjects().at(record)()) {}
+        : library_(librarySubjects().at(record)()),
+          plain_(plainSubjects().at(record)()) {}
 
     void fill() {
         library_->fill();
@@ -72,7 +72,7 @@ protected:
 
 std::vector<std::string> everyName() {
     std::vector<std::string> names;
-    for (const auto& [name, maker] : lv::test::subjects()) {
+    for (const auto& [name, maker] : librarySubjects()) {
         names.push_back(name);
     }
     return names;

@@ -1,5 +1,6 @@
 #include <tests/support/without_rtti.h>
 
+#include <lvdata/core/DataArrayObject.h>
 #include <lvdata/xml/XMLDocument.h>
 
 #include <tinyxml2.h>
@@ -18,7 +19,23 @@ public:
     using XMLNode::XMLNode;
 };
 
+/// Not one of the library's records: those that derive from one need RTTI.
+class OwnList : public DataArrayObject<int> {
+public:
+    OwnList() : DataArrayObject(1, 2) {}
+
+    bool parseXMLElement(XMLElement element) override { return element.elementName() == "List"; }
+
+    XMLElement appendXMLElement(XMLNode& parent) const override {
+        return appendVersionAttribute(appendRootXMLElement("List", parent));
+    }
+};
+
 }  // namespace
+
+std::string ownListPrintedWithoutRtti() {
+    return OwnList().toXMLString(false, false);
+}
 
 std::string printedWithoutRtti(const DataObject& record) {
     OwnDocument document;

@@ -13,4 +13,7 @@ namespace lv::test {
 /// The same for reading; whether the record was read.
 [[nodiscard]] bool parsedWithoutRtti(DataObject& record, const std::string& text);
 
+/// The text of a record of its own, which derives from none of the library's.
+[[nodiscard]] std::string ownListPrintedWithoutRtti();
+
 }  // namespace lv::test

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace lv::detail {
 namespace {
@@ -45,20 +46,28 @@ Magnitude rounded(const Magnitude& exact) {
     return {kept + (up ? 1 : 0), exact.exponent + lost};  // of up to 2^53
 }
 
-/// A value that is not 0, without its sign.
+/// A value that is not 0, without its sign. Those below the least normal number come out up to twice as large as that
+/// number, which is still nothing beside one half.
 Magnitude magnitudeOf(double value) {
-    int exponent = 0;
-    const double fraction = std::frexp(std::fabs(value), &exponent);  // from 0.5 to 1
-    return {static_cast<std::uint64_t>(std::ldexp(fraction, doubleBits)), exponent - doubleBits};
+    static_assert(std::numeric_limits<double>::is_iec559 && sizeof(double) == sizeof(std::uint64_t));
+    constexpr int fractionBits = doubleBits - 1;  // the highest bit of the mantissa is not stored
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &value, sizeof(bits));
+    const auto exponent = static_cast<int>(bits >> fractionBits & lowBits(11));
+    return {(bits & lowBits(fractionBits)) | std::uint64_t{1} << fractionBits, exponent - 1023 - fractionBits};
 }
 
-/// The product has up to 85 bits; those beyond 64 become a sticky bit.
+/// The magnitude (upper * 2^32 + lower) * 2^exponent, whose lower part has 32 bits. Bits beyond 64 become a sticky bit.
+Magnitude joined(std::uint64_t upper, std::uint64_t lower, int exponent) {
+    const int lost = std::max(bitLength(upper) - 32, 0);
+    return {upper << (32 - lost) | withStickyBit(lower, lost), exponent + lost};
+}
+
+/// The product has up to 85 bits.
 Magnitude product(const Magnitude& value, std::uint32_t factor) {
     const std::uint64_t lower = (value.mantissa & lowBits(32)) * factor;
     const std::uint64_t upper = (value.mantissa >> 32U) * factor + (lower >> 32U);
-    const int lost = std::max(bitLength(upper) - 32, 0);
-    const std::uint64_t low = withStickyBit(lower & lowBits(32), lost);
-    return rounded({upper << (32 - lost) | low, value.exponent + lost});
+    return rounded(joined(upper, lower & lowBits(32), value.exponent));
 }
 
 constexpr int leastExponent = -63;                 // below it the product is less than one half by far
@@ -110,6 +119,19 @@ std::optional<std::int64_t> nearestStep(double value, std::uint32_t factor) {
     const std::uint64_t half = std::uint64_t{1} << (-1 - scaled.exponent);  // at most 2^62, so the sum has 64 bits
     const auto steps = static_cast<std::int64_t>((scaled.mantissa + half) >> -scaled.exponent);
     return value < 0.0 ? -steps : steps;
+}
+
+/// The quotient gets at least 64 bits, and one that says whether the division left something over.
+double quotient(std::uint32_t stored, std::uint32_t factor) {
+    if (stored == 0) {
+        return 0.0;
+    }
+    const int shift = 64 - bitLength(stored);
+    const std::uint64_t dividend = std::uint64_t{stored} << shift;
+    const std::uint64_t rest = dividend % factor << 32U;
+    const std::uint64_t lower = rest / factor | (rest % factor != 0 ? 1U : 0U);
+    const Magnitude nearest = rounded(joined(dividend / factor, lower, -32 - shift));
+    return std::ldexp(static_cast<double>(nearest.mantissa), nearest.exponent);
 }
 
 }  // namespace lv::detail

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cfloat>
 #include <cstdint>
 #include <limits>
 #include <optional>
@@ -45,10 +46,26 @@ template <class Number>
     return fits ? std::optional<Number>(static_cast<Number>(*step)) : std::nullopt;
 }
 
-/// The double that a fixed-point number stands for.
+/// The double next to `stored / factor`; of two that are equally near, the one whose last bit is 0. Computed with
+/// integers.
+/// \param factor  at least 1
+[[nodiscard]] double quotient(std::uint32_t stored, std::uint32_t factor);
+
+/// Whether the processor rounds a quotient of doubles to a double at once. x87 has registers with more bits: it rounds
+/// to those, and once more where the result is stored.
+inline constexpr bool roundsOnce = FLT_EVAL_METHOD == 0 || FLT_EVAL_METHOD == 1;
+
+/// The double that a fixed-point number stands for: the same on every processor.
+/// \param factor  as for `to_fixed`
 template <class Number>
 [[nodiscard]] double from_fixed(Number stored, double factor) {
-    return static_cast<double>(stored) / factor;
+    if constexpr (roundsOnce) {
+        return static_cast<double>(stored) / factor;
+    } else {
+        const auto bits = static_cast<std::uint32_t>(stored);
+        const auto divisor = static_cast<std::uint32_t>(factor);
+        return stored < 0 ? -quotient(0U - bits, divisor) : quotient(bits, divisor);
+    }
 }
 
 /// A whole table of numbers, entry by entry; any length.

@@ -4,6 +4,8 @@
 
 namespace lv::detail {
 
+static_assert(TINYXML2_MAJOR_VERSION > 8 || (TINYXML2_MAJOR_VERSION == 8 && TINYXML2_MINOR_VERSION >= 1),
+              "lvdata needs tinyxml2 8.1 or newer");
 static_assert(alignof(tinyxml2::XMLNode) >= 4, "the lowest bits of a node's address are free for marks");
 
 tinyxml2::XMLNode* toNode(const XMLNode& wrapper) {

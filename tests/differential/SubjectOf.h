@@ -1,9 +1,11 @@
+#pragma once
+
 #include <tests/differential/Subject.h>
 #include <tests/support/every_record.h>
 
 namespace lv::test {
-namespace {
 
+/// A record of the style that this is compiled in.
 template <class Record>
 class SubjectOf final : public differential::Subject {
 public:
@@ -22,14 +24,8 @@ std::unique_ptr<differential::Subject> make() {
 }
 
 template <class... Records>
-differential::Makers makersOf(::testing::Types<Records...> /*list*/) {
+[[nodiscard]] differential::Makers makersOf(::testing::Types<Records...> /*list*/) {
     return {{Records::rootElementName, &make<Records>}...};
-}
-
-}  // namespace
-
-differential::Makers subjects() {
-    return makersOf(EveryRecord());
 }
 
 }  // namespace lv::test
