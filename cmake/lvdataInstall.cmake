@@ -39,12 +39,19 @@ else()
     )
 endif()
 
-# The prefix is told relative to the file's own place, so that the installed tree can be moved.
-set(_lvdata_pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
-file(RELATIVE_PATH _lvdata_pc_to_prefix "/${_lvdata_pc_dir}" "/.")
-configure_file(cmake/lvdata.pc.in "${PROJECT_BINARY_DIR}/lvdata.pc" @ONLY)
+# Its paths are absolute, so it is completed by the installation: cmake --install may be given another prefix.
+set(_lvdata_pc "${PROJECT_BINARY_DIR}/lvdata.pc")
+set(_lvdata_pc_prefix "@CMAKE_INSTALL_PREFIX@")
+foreach(directory IN ITEMS LIBDIR INCLUDEDIR)
+    cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_${directory} BASE_DIRECTORY "\${prefix}" OUTPUT_VARIABLE _lvdata_pc_${directory})
+endforeach()
+configure_file(cmake/lvdata.pc.in "${_lvdata_pc}.in" @ONLY)
 install(
-    FILES "${PROJECT_BINARY_DIR}/lvdata.pc"
-    DESTINATION ${_lvdata_pc_dir}
+    CODE "configure_file([[${_lvdata_pc}.in]] [[${_lvdata_pc}]] @ONLY)"
+    COMPONENT lvdata_Development
+)
+install(
+    FILES "${_lvdata_pc}"
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
     COMPONENT lvdata_Development
 )
