@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # For the scripts beside this file, which source it.
 
+# shellcheck disable=SC2034 # used by those who source this file
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
 jobs="$(nproc)"
 
