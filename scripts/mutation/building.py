@@ -66,7 +66,7 @@ class Tree:
         sanitizers = SANITIZERS if AREAS[area].is_sanitized else ""
         configure += [f"-DCMAKE_{kind}_LINKER_FLAGS={sanitizers}" for kind in ("EXE", "SHARED")]
         configure += [f"-DLVDATA_{what}=OFF" for what in ("BUILD_TOOL", "BUILD_EXAMPLES", "INSTALL")]
-        subprocess.run(configure, cwd=self.copy, check=True, stdout=subprocess.DEVNULL)
+        subprocess.run(configure, cwd=self.copy, check=True, capture_output=True)
 
     def add_to_cmake(self, area, sources):
         library = "lvdata_analysis" if area == "analysis" else "lvdata_objects"

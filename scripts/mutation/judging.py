@@ -1,10 +1,12 @@
 """Runs test programs on mutants: those tests that reach a mutant, the quickest first."""
 
 import collections
+import concurrent.futures
 import dataclasses
 import math
 import os
 import pathlib
+import re
 import resource
 import subprocess
 import sys
@@ -25,7 +27,8 @@ class Case:
     program: str
     name: str
     seconds: float
-    reached: frozenset
+    reached: frozenset  # by itself
+    reached_by_suite: frozenset  # what is computed once is reached by the first test of a suite only
 
 
 def run(command, seconds, memory=0, **environment):
@@ -55,24 +58,31 @@ class Judge:
     def __init__(self, area, tree, most):
         self.memory = 0 if AREAS[area].is_sanitized else MEMORY
         self.programs = {program: next((tree.tree / "tests").rglob(program)) for program in tree.programs}
-        self.cases = [case for program in tree.programs for case in self.find_cases(program, most + 1)]
+        with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+            suites = [(program, suite, most + 1) for program in tree.programs for suite in self.suites(program)]
+            self.cases = [case for cases in pool.map(lambda suite: self.cases_of(*suite), suites) for case in cases]
         self.by_mutant = collections.defaultdict(list)
-        for case in sorted(self.cases, key=lambda case: case.seconds):
-            for mutant in case.reached:
-                self.by_mutant[mutant].append(case)
+        ordered = sorted(self.cases, key=lambda case: case.seconds)
+        for case, mutant in [(case, mutant) for case in ordered for mutant in case.reached]:
+            self.by_mutant[mutant].append(case)
+        for case, mutant in [(case, mutant) for case in ordered for mutant in case.reached_by_suite - case.reached]:
+            self.by_mutant[mutant].append(case)
 
-    def find_cases(self, program, size):
-        """Runs all tests of a program once. What is reached before the first of them is reached by all."""
+    def suites(self, program):
+        listed = subprocess.run([self.programs[program], "--gtest_list_tests"], check=True, capture_output=True, text=True)
+        return [line.split()[0] for line in listed.stdout.splitlines() if re.match(r"[\w/]+\.", line)]
+
+    def cases_of(self, program, suite, size):
+        """Runs the tests of a suite. What is reached before the first of them is reached by all."""
         with tempfile.TemporaryDirectory() as folder:
             reached, out = pathlib.Path(folder) / "reached", pathlib.Path(folder) / "out"
             reached.write_bytes(bytes(size))
             names = {"LVDATA_MUTANTS_REACHED": str(reached), "LVDATA_MUTANTS_OUT": str(out), "LVDATA_MUTANTS_SIZE": str(size)}
-            if not run([self.programs[program]], 3600, **names):
-                sys.exit(f"mutate: {program} fails without a mutant")
+            if not run([self.programs[program], f"--gtest_filter={suite}*"], 3600, **names):
+                sys.exit(f"mutate: {program} fails without a mutant: {suite}*")
             lines = [line.split("\t") for line in out.read_text(encoding="utf-8").splitlines()]
-        by_all = frozenset(map(int, lines[0][2].split()))
-        for name, milliseconds, mutants in lines[1:]:
-            yield Case(program, name, int(milliseconds) / 1000, by_all | frozenset(map(int, mutants.split())))
+        together = frozenset(int(mutant) for line in lines for mutant in line[2].split())
+        return [Case(program, name, int(time) / 1000, frozenset(map(int, own.split())), together) for name, time, own in lines[1:]]
 
     def passes(self, cases, number):
         """Whether tests pass with the mutant of that number."""
@@ -86,12 +96,11 @@ class Judge:
         return True
 
     def outcome(self, mutant):
-        """Of one that is compiled in: "killed" or "survived"; nothing when no test reaches it. What is computed once for
-        all tests is reached by the first of them only, so a survivor meets them all."""
+        """Of one that is compiled in: "killed" or "survived"; nothing when no test reaches it."""
         cases = self.by_mutant[mutant.number]
         if not cases:
             return ""
-        return "survived" if self.passes(cases, mutant.number) and self.passes(self.cases, mutant.number) else "killed"
+        return "survived" if self.passes(cases, mutant.number) else "killed"
 
     def outcome_alone(self, tree, mutant, others):
         """Of one that is compiled by itself: as above, or "invalid". Tests that reach other mutants of the file run first."""

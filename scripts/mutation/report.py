@@ -12,11 +12,11 @@ def tell(mutant, outcome):
 
 
 def figures(outcomes, listed):
-    """How many mutants were killed, are kept, survived; those that do not compile do not count."""
+    """How many mutants were killed, are kept, survived, do not compile."""
     counted = collections.Counter(
         "kept" if outcome == "survived" and mutant.key in listed else outcome for mutant, outcome in outcomes
     )
-    return {name: counted[name] for name in ("killed", "kept", "survived")}
+    return {name: counted[name] for name in ("killed", "kept", "survived", "invalid")}
 
 
 def print_all(area, outcomes, listed, is_whole):
@@ -32,12 +32,18 @@ def print_all(area, outcomes, listed, is_whole):
     return not wrong
 
 
-def write(area, outcomes, listed, arguments):
-    """Stores the figures of an area where scripts/quality finds them."""
+def write(outcomes, listed):
+    """Stores the figures of each folder where scripts/quality finds them: how many mutants it has, and what is known."""
     path = SOURCE / "docs" / "quality" / "mutation.json"
     stored = json.loads(path.read_text(encoding="utf-8")) if path.exists() else {}
-    stored[area] = figures(outcomes, listed)
-    if arguments.sample:
-        stored[area]["sample"] = f"{arguments.sample} chosen with seed {arguments.seed}"
+    by_folder = collections.defaultdict(list)
+    for mutant, outcome in outcomes:
+        by_folder[folder_of(mutant)].append((mutant, outcome))
+    for folder, its_outcomes in by_folder.items():
+        stored[folder] = {"found": len(its_outcomes), **figures(its_outcomes, listed)}
     path.parent.mkdir(exist_ok=True)
     path.write_text(json.dumps(stored, indent=4, sort_keys=True) + "\n", encoding="utf-8")
+
+
+def folder_of(mutant):
+    return mutant.path.rpartition("/")[0]
