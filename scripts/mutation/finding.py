@@ -7,24 +7,26 @@ import re
 # Operations of a visit; a statement that calls one, or a function named visit..., is what the record says of a member.
 OPERATIONS = "field|value|attribute|constant|text|array|structure|group|record|rows|keyed|derive"
 VISITS = re.compile(rf"(?:^|[.\s=(!])(?:{OPERATIONS}|(?:detail::)?visit\w*)\(")
-ACTION = re.compile(r"(?!return\b|static_assert\b)[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(]")
+ACTION = re.compile(r"(?!return\b|static_assert\b)(?:[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(])")
 DECLARED = re.compile(r"(?:const )?(?:bool|auto) \w+ = ")
 ANSWER = re.compile(r" (?:\|\||&&|==|!=|<|>=?) |(?:^|[.\s!])(?:exists|empty)\(\)$|^(?:true|false|any|found)$")
 
 GATE = re.compile(r"\.(?:readWhen|writeWhen|when)\((?!HLGSwitch)|\bderive\([\w.]+, (?=(?:notEmpty|haveEntries)\()")
-CONDITION = re.compile(r"\bif \(")
+CONDITION = re.compile(r"\bif \((?![^()]* = )")
 CHOICE = re.compile(r"(?:\breturn|[^=!<>]=) ([^;{}?=]*?(?: == [^;{}?=]*?)?) \? ")
+UNCLOSED = re.compile(r"^.*\((?=(?:[^()]|\((?:[^()]|\([^()]*\))*\))*$)", re.DOTALL)
 ALWAYS = re.compile(r"\b(\w+)\.always\(\)")
 OPERATORS = (" = ", "|| ", "&& ", " ||", " &&")  # around one of its letters
 LOGICAL = re.compile(r" (\|\||&&) ")
 STRING = r'(?:(?<!\w)R"\((?s:.*?)\)"|"(?:[^"\\\n]|\\.)*")'
 LITERAL = re.compile(r'R?"[_\n]*"(?:\s+R?"[_\n]*")*')  # where letters are hidden; several beside each other are one
+ATTRIBUTE = r"\[\[[^\[\]]*\]\]"
 LETTER = r"(?<!\w)'(?:[^'\\\n]|\\.)+'"
-HIDDEN = re.compile(rf"//[^\n]*|/\*(?s:.*?)\*/|(?m:^[ ]*#(?:[^\n]|\\\n)*)|{STRING}|{LETTER}")
+HIDDEN = re.compile(rf"//[^\n]*|/\*(?s:.*?)\*/|(?m:^[ ]*#(?:[^\n]|\\\n)*)|{ATTRIBUTE}|{STRING}|{LETTER}")
 TEXT_FOLLOWS = re.compile(r"""(?:[!=]= |\bconstant\("_*", |\b(?:one|none)Of\([^;()]*)$""")  # else it is the name of an element or an attribute
 TYPE = re.compile(r"\btypes::(?!tableScale)\w+::\w+")  # a constant that is a text
 ROOT_NAME = re.compile(r"(?<=[ (])(?:Record::)?rootElementName\b")
-NUMBER = re.compile(r"(?<![\w.<\[])(?:0x[0-9A-F]+|\d+(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
+NUMBER = re.compile(r"(?<![\w.<\['])(?:0x[0-9A-F]+|\d[\d']*(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
 LENGTH = re.compile(r"(?<=\.size\(\) [=>]= )[A-Za-z][\w:.]*(?:\(\))?")
 ENTRIES = re.compile(r"(?:(?<=[=,] )\{\s*|\boneOf\(kind, )((?!with)[a-z][\w:]*(?:,\s+[a-z][\w:]*)*)\s*[})]")
 CONSTANT = re.compile(r"constexpr (?!auto\b)")
@@ -160,7 +162,8 @@ def gates(code):
     for match in CONDITION.finditer(code):
         yield inverted("condition", match.end(), closing(code, match.end()))
     for match in CHOICE.finditer(code):
-        yield inverted("condition", match.start(1), match.end(1))
+        start = match.end(1) - len(UNCLOSED.sub("", match.group(1)))
+        yield inverted("condition", start, match.end(1))
     for match in ALWAYS.finditer(code):
         io = match.group(1)
         before = f"mutation::pick<std::decay_t<decltype({io})>>(@, {io}, "
@@ -184,9 +187,9 @@ def texts(code, text):
 def changed_number(original):
     """What a number becomes: something near, and a factor another power of ten, too."""
     is_factor = "." in original or "e" in original
-    if not is_factor or float(original) + 1 != float(original):
+    if not is_factor or float(original.replace("'", "")) + 1 != float(original.replace("'", "")):
         yield f"{original} + 1"
-    if is_factor and float(original) != 0:
+    if is_factor and float(original.replace("'", "")) != 0:
         yield f"{original} * 10"
 
 

@@ -5,13 +5,15 @@ import re
 from .finding import CONSTANT, closing, masked, statements
 
 CONSTANT_FUNCTION = re.compile(r"\bconstexpr\b[^;={]*\)[^;={]*(?:\{|(?=;))")
+CONSTANT_AUTO = re.compile(r"(?:inline |static )*constexpr auto\b")
 
 
 def constant_functions(code):
-    """The bodies of constexpr functions: (start, end) of each."""
+    """The bodies of constexpr functions, and what constants without a type are computed from: (start, end) of each."""
     for match in CONSTANT_FUNCTION.finditer(code):
         if match.group().endswith("{"):
             yield match.end(), closing(code, match.end())
+    yield from ((start, end) for start, end in statements(code) if CONSTANT_AUTO.match(code, start))
 
 
 def chosen(mutant, functions):
