@@ -250,7 +250,7 @@ def find(path, text):
     """The mutants of a source, outer ones first; `path` names it in their keys. Assertions stay as they are: each has a
     test that sees the program end."""
     code = masked(text)
-    code = ASSERTION.sub(lambda match: "".join(letter if letter in "\n(){};" else "_" for letter in match.group()), code)
+    code = ASSERTION.sub(lambda match: "".join(letter if letter in "\n(){};" else " " for letter in match.group()), code)
     found = [mutant for start, end in statements(code) for mutant in in_statement(code, start, end)]
     found += [*gates(code), *operands(code), *texts(code, text), *numbers(code), *lengths(code), *entries(code)]
     found += [*comparisons(code), *characters(code, text), *loops(code)]
