@@ -1,15 +1,13 @@
-"""Reads scripts/mutants-kept.txt: the mutants that may survive, each with its reason."""
+"""Reads kept.txt: the mutants that may survive, each with its reason."""
 
 import pathlib
 import sys
-
-FILE = pathlib.Path(__file__).resolve().parent.parent / "mutants-kept.txt"
 
 
 def read():
     """{key: reason}. In the file the reason stands below the key, indented."""
     result, key = {}, ""
-    for line in FILE.read_text(encoding="utf-8").splitlines():
+    for line in pathlib.Path(__file__).with_name("kept.txt").read_text(encoding="utf-8").splitlines():
         if line.startswith(" "):
             result[key] = f"{result[key]} {line.strip()}".strip()
         elif line and not line.startswith("#"):

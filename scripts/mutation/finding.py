@@ -1,10 +1,4 @@
-"""Finds what scripts/mutate changes in a source, and writes the changes into it.
-
-A mutant is a change at one place. Compiling each by itself would take hours, so all mutants of the records are compiled
-in at once: every place is wrapped in an expression that is what it was, but for the run whose environment names the
-mutant's number. Where much is computed at compile time that is not possible. There each mutant is compiled by itself, and
-more can be changed: `find_further`.
-"""
+"""Finds what can be changed in a source: mutants, each a change at one place."""
 
 import collections
 import dataclasses
@@ -13,111 +7,39 @@ import re
 # Operations of a visit; a statement that calls one, or a function named visit..., is what the record says of a member.
 OPERATIONS = "field|value|attribute|constant|text|array|structure|group|record|rows|keyed|derive"
 VISITS = re.compile(rf"(?:^|[.\s=(!])(?:{OPERATIONS}|(?:detail::)?visit\w*)\(")
-ACTION = re.compile(r"(?!return\b|static_assert\b)[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(]")
+ACTION = re.compile(r"(?!return\b|static_assert\b)(?:[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(])")
 DECLARED = re.compile(r"(?:const )?(?:bool|auto) \w+ = ")
 ANSWER = re.compile(r" (?:\|\||&&|==|!=|<|>=?) |(?:^|[.\s!])(?:exists|empty)\(\)$|^(?:true|false|any|found)$")
 
 GATE = re.compile(r"\.(?:readWhen|writeWhen|when)\((?!HLGSwitch)|\bderive\([\w.]+, (?=(?:notEmpty|haveEntries)\()")
-CONDITION = re.compile(r"\bif \(")
+CONDITION = re.compile(r"\bif \((?![^()]* = )")
 CHOICE = re.compile(r"(?:\breturn|[^=!<>]=) ([^;{}?=]*?(?: == [^;{}?=]*?)?) \? ")
+UNCLOSED = re.compile(r"^.*\((?=(?:[^()]|\((?:[^()]|\([^()]*\))*\))*$)", re.DOTALL)
 ALWAYS = re.compile(r"\b(\w+)\.always\(\)")
 OPERATORS = (" = ", "|| ", "&& ", " ||", " &&")  # around one of its letters
 LOGICAL = re.compile(r" (\|\||&&) ")
-LITERAL = re.compile(r'"[^"\n]*"')
+STRING = r'(?:(?<!\w)R"\((?s:.*?)\)"|"(?:[^"\\\n]|\\.)*")'
+LITERAL = re.compile(r'R?"[_\n]*"(?:\s+R?"[_\n]*")*')  # where letters are hidden; several beside each other are one
+ATTRIBUTE = r"\[\[[^\[\]]*\]\]"
+LETTER = r"(?<!\w)'(?:[^'\\\n]|\\.)+'"
+HIDDEN = re.compile(rf"//[^\n]*|/\*(?s:.*?)\*/|(?m:^[ ]*#(?:[^\n]|\\\n)*)|{ATTRIBUTE}|{STRING}|{LETTER}")
 TEXT_FOLLOWS = re.compile(r"""(?:[!=]= |\bconstant\("_*", |\b(?:one|none)Of\([^;()]*)$""")  # else it is the name of an element or an attribute
 TYPE = re.compile(r"\btypes::(?!tableScale)\w+::\w+")  # a constant that is a text
 ROOT_NAME = re.compile(r"(?<=[ (])(?:Record::)?rootElementName\b")
-NUMBER = re.compile(r"(?<![\w.<\[])(?:0x[0-9A-F]+|\d+(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
+NUMBER = re.compile(r"(?<![\w.<\['])(?:0x[0-9A-F]+|\d[\d']*(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
 LENGTH = re.compile(r"(?<=\.size\(\) [=>]= )[A-Za-z][\w:.]*(?:\(\))?")
 ENTRIES = re.compile(r"(?:(?<=[=,] )\{\s*|\boneOf\(kind, )((?!with)[a-z][\w:]*(?:,\s+[a-z][\w:]*)*)\s*[})]")
 CONSTANT = re.compile(r"constexpr (?!auto\b)")
 
+ASSERTION = re.compile(r"\b(?:static_)?assert\([^;]*;")
 COMPARISON = re.compile(r" (<=?|>=?) (?=[\w(*&-])")
-CHARACTER = re.compile(r"(?<=[ (])'(?:[^'\\\\]|\\\\.)'")
+CHARACTER = re.compile(r"(?<=[ (])'_+'")
 LOOP = re.compile(r"\b(?:while \(|for \([^;()]*(?:\([^()]*\)[^;()]*)*; )")
-
-# What mutants of either header need.
-CONDITIONS = """
-// A result that a call would have had, or nothing.
-template <class Call>
-auto unless(int mutant, Call call) -> decltype(call()) {
-    if constexpr (std::is_default_constructible_v<decltype(call())>) {
-        if (on(mutant)) {
-            return {};
-        }
-    }
-    return call();
-}
-
-// The opposite of an answer; what a visit that describes answers has none.
-template <class Answer>
-auto opposite(int mutant, const Answer& answer) {
-    if constexpr (std::is_same_v<Answer, bool>) {
-        return on(mutant) != answer;
-    } else {
-        return answer;
-    }
-}
-
-// The opposite of a gate's condition, which says the same as before.
-template <class Gate>
-struct Inverted : Gate {
-    int mutant;
-
-    Inverted(int number, const Gate& gate) : Gate(gate), mutant(number) {}
-
-    [[nodiscard]] bool holds() const { return on(mutant) != Gate::holds(); }
-};
-
-template <class Gate>
-Inverted<Gate> inverted(int mutant, const Gate& gate) {
-    return {mutant, gate};
-}
-
-}  // namespace lv::mutation
-"""
-
-SINGLE_MUTATION_HEADER = """#pragma once
-
-#include <type_traits>
-
-namespace lv::mutation {
-
-// Only the mutant that is compiled is in the source.
-constexpr bool on(int /*mutant*/) {
-    return true;
-}
-
-template <class T>
-constexpr T pick(int /*mutant*/, const T& changed, const T& /*original*/) {
-    return changed;
-}
-""" + CONDITIONS
-
-MUTATION_HEADER = """#pragma once
-
-#include <cstdlib>
-#include <type_traits>
-
-namespace lv::mutation {
-
-// Whether this run is that of the mutant of that number.
-inline bool on(int mutant) {
-    static const char* const text = std::getenv("LVDATA_MUTANT");
-    static const int active = text != nullptr ? std::atoi(text) : 0;
-    return mutant == active;
-}
-
-template <class T>
-T pick(int mutant, const T& changed, const T& original) {
-    return on(mutant) ? changed : original;
-}
-""" + CONDITIONS
 
 
 @dataclasses.dataclass
 class Mutant:
-    """Code at one place, wrapped in `before` and `after`, where @ stands for the mutant's number."""
+    """Code at one place, wrapped in `before` and `after`, where @ stands for whether it is changed in this run."""
 
     kind: str
     start: int
@@ -126,15 +48,23 @@ class Mutant:
     after: str
     change: str  # what becomes of the code, for people
     number: int = 0
+    path: str = ""
     key: str = ""  # names the mutant without its line, so that it stays the same when the file changes elsewhere
     line: int = 0
+    last_line: int = 0
 
 
 def masked(text):
     """The text, of the same length, with comments and preprocessor lines blank and letters in quotes hidden."""
-    hide = re.compile(r"//[^\n]*|/\*.*?\*/|^#[^\n]*", re.DOTALL | re.MULTILINE)
-    text = hide.sub(lambda match: re.sub(r"[^\n]", " ", match.group()), text)
-    return LITERAL.sub(lambda match: '"' + "_" * (len(match.group()) - 2) + '"', text)
+
+    def hidden(match):
+        found = match.group()
+        if found.endswith(("'", '"')) and not found.startswith(("//", "/*", "#", " ")):
+            start = found.index(found[-1]) + 1
+            return found[:start] + re.sub(r"[^\n]", "_", found[start:-1]) + found[-1]
+        return re.sub(r"[^\n]", " ", found)
+
+    return HIDDEN.sub(hidden, text)
 
 
 def closing(code, position):
@@ -168,11 +98,11 @@ def statements(code):
 
 
 def removed(kind, start, end):
-    return Mutant(kind, start, end + 1, "if (!mutation::on(@)) { ", " }", "removed")
+    return Mutant(kind, start, end + 1, "if (!@) { ", " }", "removed")
 
 
 def inverted(kind, start, end):
-    return Mutant(kind, start, end, "(mutation::on(@) != (", "))", "inverted")
+    return Mutant(kind, start, end, "(@ != (", "))", "inverted")
 
 
 def in_statement(code, start, end):
@@ -215,7 +145,7 @@ def operands(code):
     seen = set()
     code = code.replace("\n", " ")
     for match in LOGICAL.finditer(code):
-        neutral = "(!mutation::on(@) && (" if match.group(1) == "||" else "(mutation::on(@) || ("
+        neutral = "(!@ && (" if match.group(1) == "||" else "(@ || ("
         left = operand(code, match.start() - 1, -1) + 1
         right = operand(code, match.end(), 1)
         for start, end in ((left, match.start()), (match.end(), right)):
@@ -232,7 +162,8 @@ def gates(code):
     for match in CONDITION.finditer(code):
         yield inverted("condition", match.end(), closing(code, match.end()))
     for match in CHOICE.finditer(code):
-        yield inverted("condition", match.start(1), match.end(1))
+        start = match.end(1) - len(UNCLOSED.sub("", match.group(1)))
+        yield inverted("condition", start, match.end(1))
     for match in ALWAYS.finditer(code):
         io = match.group(1)
         before = f"mutation::pick<std::decay_t<decltype({io})>>(@, {io}, "
@@ -242,7 +173,8 @@ def gates(code):
 def texts(code, text):
     for match in LITERAL.finditer(code):
         original = text[match.start() : match.end()]
-        changed = original[:-1] + 'X"'
+        end = ')"' if re.search(r'R"[_\n]*"$', match.group()) else '"'
+        changed = original.removesuffix(end) + "X" + end
         kind = "text" if TEXT_FOLLOWS.search(code[: match.start()]) else "name"
         yield Mutant(kind, *match.span(), f"mutation::pick<const char*>(@, {changed}, ", ")", f"becomes {changed}")
     for match in TYPE.finditer(code):
@@ -255,9 +187,9 @@ def texts(code, text):
 def changed_number(original):
     """What a number becomes: something near, and a factor another power of ten, too."""
     is_factor = "." in original or "e" in original
-    if not is_factor or float(original) + 1 != float(original):
+    if not is_factor or float(original.replace("'", "")) + 1 != float(original.replace("'", "")):
         yield f"{original} + 1"
-    if is_factor and float(original) != 0:
+    if is_factor and float(original.replace("'", "")) != 0:
         yield f"{original} * 10"
 
 
@@ -289,80 +221,60 @@ def entries(code):
             yield Mutant("entry", start, end, before, ")", "left out")
 
 
-def replaced(kind, match, group, by):
-    """The code of a group becomes something else: only for mutants that are compiled by themselves."""
-    start, end = match.span(group)
-    return Mutant(kind, start, end, f"{by} /*", "*/", f"becomes {by}")
-
-
 def comparisons(code):
-    """Comparisons that are off by one, characters that are the next ones, and loops that end at once."""
+    """Comparisons that are off by one."""
     opposite = {"<": "<=", "<=": "<", ">": ">=", ">=": ">"}
     for match in COMPARISON.finditer(code):
+        operator = match.group(1)
         if "template" not in code[code.rfind("\n", 0, match.start()) : match.start()]:
-            yield replaced("comparison", match, 1, opposite[match.group(1)])
+            after = f" mutation::OffByOne{{@}} {operator}"
+            yield Mutant("comparison", *match.span(1), "", after, f"becomes {opposite[operator]}")
+
+
+def characters(code, text):
+    """Characters that are the next ones."""
     for match in CHARACTER.finditer(code):
-        yield Mutant("character", *match.span(), "static_cast<char>(1 + ", ")", "becomes the next character")
+        before = f"mutation::pick<char>(@, {text[match.start() : match.end()]} + 1, "
+        yield Mutant("character", *match.span(), before, ")", "becomes the next character")
+
+
+def loops(code):
+    """Loops that end at once."""
     for match in LOOP.finditer(code):
         end = code.index(";", match.end()) if match.group().startswith("for") else closing(code, match.end())
         if code[match.end() : end].strip():
-            yield Mutant("loop", match.end(), end, "!mutation::on(@) && (", ")", "does not run")
+            yield Mutant("loop", match.end(), end, "!@ && (", ")", "does not run")
 
 
 def find(path, text):
-    """The mutants of a source, outer ones first; `path` names it in their keys."""
+    """The mutants of a source, outer ones first; `path` names it in their keys. Assertions stay as they are: each has a
+    test that sees the program end."""
     code = masked(text)
+    code = ASSERTION.sub(lambda match: "".join(letter if letter in "\n(){};" else " " for letter in match.group()), code)
     found = [mutant for start, end in statements(code) for mutant in in_statement(code, start, end)]
     found += [*gates(code), *operands(code), *texts(code, text), *numbers(code), *lengths(code), *entries(code)]
-    return named(path, text, found)
+    found += [*comparisons(code), *characters(code, text), *loops(code)]
+    return named(path, text, code, found)
 
 
-def find_further(path, text):
-    """The same with what can only be changed where each mutant is compiled by itself. Assertions stay as they are: each
-    has a test that sees the program end."""
-    code = re.sub(r"\bassert\([^;]*;", lambda match: re.sub(r"[^\n]", " ", match.group()), masked(text))
-    found = [mutant for start, end in statements(code) for mutant in in_statement(code, start, end)]
-    found += [*gates(code), *operands(code), *texts(code, text), *numbers(code), *lengths(code), *comparisons(code)]
-    return named(path, text, found)
-
-
-def named(path, text, found):
+def named(path, text, code, found):
     """Sorts the mutants and gives them their lines and keys."""
     found.sort(key=lambda mutant: (mutant.start, -mutant.end))
     times = collections.Counter()
     for mutant in found:
+        mutant.path = str(path)
         mutant.line = text.count("\n", 0, mutant.start) + 1
-        key = f"{path}: {mutant.kind}: {described(text, mutant)}"
+        mutant.last_line = text.count("\n", 0, mutant.end) + 1
+        key = f"{path}: {mutant.kind}: {described(text, code, mutant)}"
         times[key] += 1
         mutant.key = key if times[key] == 1 else f"{key} ({times[key]})"
     return found
 
 
-def described(text, mutant):
-    """What is changed in which line, on one line."""
+def described(text, code, mutant):
+    """What is changed in which line, on one line and without comments."""
     place = " ".join(text[mutant.start : mutant.end].split())
-    line = " ".join(text.splitlines()[mutant.line - 1].split())
+    length = len(code.split("\n")[mutant.line - 1].rstrip())
+    line = " ".join(text.split("\n")[mutant.line - 1][:length].split())
     where = "" if line.rstrip(";") == place.rstrip(";") else f" in {line}"
     return f"{place} {mutant.change}{where}"
-
-
-def insertions(mutants):
-    """Yields (position, text) in the order of writing: where several meet, what ends comes before what begins."""
-    pieces = []
-    for order, mutant in enumerate(mutants):
-        pieces.append((mutant.start, 1, order, mutant.before.replace("@", str(mutant.number))))
-        pieces.append((mutant.end, 0, -order, mutant.after))
-    return [(position, piece) for position, _, _, piece in sorted(pieces)]
-
-
-def instrument(text, mutants):
-    """The text with all mutants compiled in."""
-    code = masked(text)
-    changed = [start for start, end in statements(code) if any(start <= mutant.start < end for mutant in mutants)]
-    cuts = {start: len("constexpr") for start in changed if CONSTANT.match(code, start)}  # of what is now computed
-    pieces = sorted([(start, "const") for start in cuts] + insertions(mutants), key=lambda piece: piece[0])
-    result, last = ["#include <lvdata/mutation.h>\n#include <type_traits>\n"], 0
-    for position, piece in pieces:
-        result += [text[last:position], piece]
-        last = position + (cuts[position] if position in cuts else 0)
-    return "".join(result) + text[last:]
