@@ -1,7 +1,7 @@
 # How every target of this project is compiled.
 include_guard()
 
-# One flag a line; scripts/check-headers reads the same file.
+# One flag a line.
 set(_lvdata_warning_file "${CMAKE_CURRENT_LIST_DIR}/warning-flags.txt")
 file(STRINGS "${_lvdata_warning_file}" _lvdata_warning_flags)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${_lvdata_warning_file}")
@@ -34,6 +34,9 @@ function(lvdata_configure_target target)
     set_target_properties(${target} PROPERTIES CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF)
     _lvdata_set_warnings(${target})
     _lvdata_set_instrumentation(${target})
+    if(LVDATA_OPTIMISE_LIBRARY_ONLY AND NOT target MATCHES "^lvdata(_objects)?$")
+        target_compile_options(${target} PRIVATE $<${_lvdata_is_gnu_like}:-O0>)
+    endif()
 endfunction()
 
 # A shared library of this target shows only what its sources mark as visible, and nothing of the static libraries in it.

@@ -20,14 +20,3 @@ fail() {
 heading() {
     printf '\n== %s\n' "$*"
 }
-
-# The C++ files of the project, relative to its root; one a line.
-cpp_files() {
-    find "$source_dir"/{lvdata,tools,python,examples,benchmarks,tests,fuzz} -name '*.h' -o -name '*.cpp' |
-        sed "s|^$source_dir/||" | LC_ALL=C sort
-}
-
-# The headers of the library as they are included ("lvdata/xml/property.h"); one a line.
-library_headers() {
-    cpp_files | grep -E '^lvdata/.*\.h$'
-}
