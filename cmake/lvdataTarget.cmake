@@ -39,9 +39,10 @@ endfunction()
 include(CheckIPOSupported)
 check_ipo_supported(RESULT _lvdata_ipo_supported OUTPUT _lvdata_ipo_output LANGUAGES CXX)
 
-# Interprocedural optimisation where the toolchain has it, in the optimised configurations.
+# Interprocedural optimisation where the toolchain has it, in the optimised configurations. Who builds may say for all
+# targets whether they want it, by CMAKE_INTERPROCEDURAL_OPTIMIZATION.
 function(lvdata_optimise_across_files target)
-    if(NOT _lvdata_ipo_supported)
+    if(NOT _lvdata_ipo_supported OR DEFINED CMAKE_INTERPROCEDURAL_OPTIMIZATION)
         return()
     endif()
     foreach(configuration IN ITEMS RELEASE RELWITHDEBINFO MINSIZEREL)

@@ -29,5 +29,5 @@ cpp_files() {
 
 # The headers of the library as they are included ("lvdata/xml/property.h"); one a line.
 library_headers() {
-    cpp_files | grep -E '^lvdata/.*\.h$'
+    cpp_files | grep -E '^lvdata/.*\.h$' | grep -v /windows/
 }
