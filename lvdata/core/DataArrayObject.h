@@ -1,11 +1,16 @@
 #pragma once
 
 #include <lvdata/core/DataObject.h>
-#include <lvdata/export.h>
 
 #include <vector>
 
 namespace lv {
+
+// What an application makes of the template is not in the library: a DLL cannot offer it. Elsewhere it must be visible,
+// so that all parts of a program agree on the type.
+#if !defined(_WIN32)
+#pragma GCC visibility push(default)
+#endif
 
 /// The base of the records that hold a list of like rows instead of a fixed set of values.
 ///
@@ -15,7 +20,7 @@ namespace lv {
 ///
 /// \tparam Row  the type of one row, such as `MeasurementDataObject`
 template <class Row>
-class LVDATA_EXPORT DataArrayObject : public DataObject {
+class DataArrayObject : public DataObject {
 public:
     /// The rows in document order, reached directly: fill them before printing, read them after parsing. The record
     /// says which rows are written and which are kept when read.
@@ -29,5 +34,9 @@ protected:
     /// Takes the version numbers of the record's class; the list is empty.
     using DataObject::DataObject;
 };
+
+#if !defined(_WIN32)
+#pragma GCC visibility pop
+#endif
 
 }  // namespace lv

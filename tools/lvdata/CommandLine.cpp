@@ -2,10 +2,12 @@
 
 #include "Failure.h"
 #include "Output.h"
+#include "system.h"
 
 #include <lvdata/version.h>
 
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 #include <string>
 
@@ -26,6 +28,12 @@ std::string reasonOf(const CLI::App& application, const CLI::ParseError& error) 
     return unknown.empty() ? error.what() : "unknown subcommand or option: " + unknown.front();
 }
 
+/// As the parser takes them: the last one first, without the name of the program.
+std::vector<std::string> argumentsInReverse(int argumentCount, char** arguments) {
+    const std::vector<std::string> words = wordsOf(argumentCount, arguments);
+    return words.empty() ? words : std::vector<std::string>(words.rbegin(), std::prev(words.rend()));
+}
+
 }  // namespace
 
 CommandLine::CommandLine(const std::vector<SubcommandAdder>& subcommands)
@@ -40,7 +48,7 @@ CommandLine::CommandLine(const std::vector<SubcommandAdder>& subcommands)
 
 ExitStatus CommandLine::run(int argumentCount, char** arguments) {
     try {
-        application_.parse(argumentCount, arguments);
+        application_.parse(argumentsInReverse(argumentCount, arguments));
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0) {
             throw Failure(program, reasonOf(application_, error));

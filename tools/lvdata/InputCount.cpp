@@ -15,7 +15,7 @@ namespace {
 
 bool canBeReadTwice(const std::string& list) {
     std::error_code ignored;
-    return list != standardStream && std::filesystem::is_regular_file(list, ignored);
+    return list != standardStream && std::filesystem::is_regular_file(std::filesystem::u8path(list), ignored);
 }
 
 /// False at the end. What cannot be walked counts, too: it becomes a message.

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "system.h"
+
 #include <mutex>
 #include <set>
 #include <string>
-#include <utility>
-
-#include <sys/types.h>
 
 namespace tool {
 
@@ -20,10 +19,8 @@ public:
     void refuseToOverwrite(const std::string& file) const;
 
 private:
-    using Identity = std::pair<dev_t, ino_t>;
-
     mutable std::mutex mutex_;
-    std::set<Identity> files_;
+    std::set<FileIdentity> files_;
 };
 
 }  // namespace tool

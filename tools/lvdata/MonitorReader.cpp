@@ -18,7 +18,7 @@ using lv::analysis::ReportedDocument;
 /// Not a pipe, and not standard input.
 bool canBeReadAgain(const std::string& file) {
     std::error_code ignored;
-    return file != standardStream && std::filesystem::is_regular_file(file, ignored);
+    return file != standardStream && std::filesystem::is_regular_file(std::filesystem::u8path(file), ignored);
 }
 
 }  // namespace

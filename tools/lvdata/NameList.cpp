@@ -2,12 +2,13 @@
 
 #include "Failure.h"
 #include "files.h"
+#include "system.h"
+
+#include <lvdata/analysis/files/system_files.h>
 
 #include <array>
+#include <filesystem>
 #include <utility>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace tool {
 namespace {
@@ -22,7 +23,7 @@ NameList::NameList(const std::string& file, char separator) : file_(file), separ
         return;
     }
     try {
-        opened_.emplace(::open(file.c_str(), O_RDONLY));  // NOLINT(cppcoreguidelines-pro-type-vararg)
+        opened_.emplace(lv::analysis::openForReading(std::filesystem::u8path(file)));
     } catch (const std::system_error& error) {
         fail(error.code().message());
     }
@@ -62,9 +63,8 @@ bool NameList::readMore() {
     }
     std::array<char, 4096> block{};
     try {
-        const int descriptor = opened_ ? opened_->get() : STDIN_FILENO;
-        const auto got =
-            static_cast<std::size_t>(lv::analysis::checked(::read(descriptor, block.data(), block.size())));
+        const int descriptor = opened_ ? opened_->get() : standardInput;
+        const std::size_t got = lv::analysis::readSome(descriptor, block.data(), block.size());
         text_.append(block.data(), got);
         atEnd_ = got == 0;
     } catch (const std::system_error& error) {

@@ -6,6 +6,7 @@
 #include <lvdata/analysis/files/files.h>
 
 #include <cstddef>
+#include <filesystem>
 #include <system_error>
 #include <utility>
 
@@ -59,7 +60,7 @@ void Output::prepareForMessage() {
 
 void writeResult(const std::string& file, std::string_view text) {
     if (file != standardStream) {
-        throwUnless(lv::analysis::writeFile(file, text), file);
+        throwUnless(lv::analysis::writeFile(std::filesystem::u8path(file), text), file);
         return;
     }
     Output output;

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "system.h"
+
 #include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-
-#include <unistd.h>
 
 namespace tool {
 
@@ -20,7 +20,7 @@ public:
 class Output {
 public:
     /// The signal SIGPIPE must be ignored, so that a closed pipe is an error of writing.
-    explicit Output(int descriptor = STDOUT_FILENO) : descriptor_(descriptor) {}
+    explicit Output(int descriptor = standardOutput) : descriptor_(descriptor) {}
 
     /// Writes what is left and ignores failure: call `flush` before, to learn of it.
     ~Output();
@@ -39,7 +39,7 @@ public:
     /// Writes everything now, before a message on standard error. Throws as `flush` does.
     void prepareForMessage();
 
-    [[nodiscard]] bool isTerminal() const { return ::isatty(descriptor_) == 1; }
+    [[nodiscard]] bool isTerminal() const { return tool::isTerminal(descriptor_); }
 
     /// From now on calls this before each time that text is written; an empty function ends that.
     void callBeforeWriting(std::function<void()> function) { beforeWriting_ = std::move(function); }

@@ -2,14 +2,13 @@
 
 #include "choice_option.h"
 #include "environment.h"
-
-#include <unistd.h>
+#include "system.h"
 
 namespace tool {
 namespace {
 
 bool terminalIsColored() {
-    return ::isatty(STDOUT_FILENO) == 1 && terminalUnderstandsEscapes() && environmentVariable("NO_COLOR").empty();
+    return isTerminal(standardOutput) && terminalUnderstandsEscapes() && environmentVariable("NO_COLOR").empty();
 }
 
 /// The parameters of the escape sequence "select graphic rendition".

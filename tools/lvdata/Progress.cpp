@@ -1,12 +1,11 @@
 #include "Progress.h"
 
 #include "environment.h"
+#include "system.h"
 
 #include <cmath>
 #include <iostream>
 #include <utility>
-
-#include <unistd.h>
 
 namespace tool {
 namespace {
@@ -74,7 +73,7 @@ void Progress::hide() {
 }
 
 Progress::Write terminalWriter() {
-    if (::isatty(STDERR_FILENO) != 1 || !terminalUnderstandsEscapes()) {
+    if (!isTerminal(standardError) || !terminalUnderstandsEscapes()) {
         return {};
     }
     return [](std::string_view text) {

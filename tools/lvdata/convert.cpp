@@ -32,7 +32,7 @@ struct Options {
 bool namesOneDocument(const InputOptions& inputs) {
     std::error_code ignored;  // what cannot be looked at is reported when it is read
     return inputs.paths.size() == 1 && inputs.lists.empty() &&
-           !std::filesystem::is_directory(inputs.paths.front(), ignored);
+           !std::filesystem::is_directory(std::filesystem::u8path(inputs.paths.front()), ignored);
 }
 
 /// Puts the texts of the documents together, one after the other.
@@ -92,7 +92,8 @@ ExitStatus reportLosses(const Converted& converted, Output& output) {
 /// An input is not overwritten with something else than the same document.
 void refuseToOverwrite(const Options& options, const Converted& converted) {
     std::error_code ignored;
-    if (options.output == standardStream || !std::filesystem::equivalent(converted.name, options.output, ignored)) {
+    if (options.output == standardStream || !std::filesystem::equivalent(std::filesystem::u8path(converted.name),
+                                                                         std::filesystem::u8path(options.output), ignored)) {
         return;
     }
     if (options.conversion.target != Target::xml) {

@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "Failure.h"
 #include "environment.h"
+#include "system.h"
 
 #include <charconv>
 #include <ctime>
@@ -28,16 +29,12 @@ std::optional<std::tm> dayOf(std::string_view seconds) {
     std::time_t time = 0;
     const char* const end = std::next(seconds.data(), static_cast<std::ptrdiff_t>(seconds.size()));
     const auto [stop, error] = std::from_chars(seconds.data(), end, time);
-    std::tm day{};
     const bool isTime = error == std::errc() && stop == end && 0 <= time && time <= latest;
-    return isTime && ::gmtime_r(&time, &day) != nullptr ? std::optional(day) : std::nullopt;
+    return isTime ? timeInUTC(time) : std::nullopt;
 }
 
 std::tm today() {
-    const std::time_t time = std::time(nullptr);
-    std::tm day{};
-    ::localtime_r(&time, &day);
-    return day;
+    return localTime(std::time(nullptr)).value_or(std::tm{});
 }
 
 }  // namespace

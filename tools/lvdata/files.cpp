@@ -2,10 +2,11 @@
 
 #include "Failure.h"
 #include "limit_options.h"
+#include "system.h"
 
 #include <lvdata/analysis/files/files.h>
 
-#include <unistd.h>
+#include <filesystem>
 
 namespace tool {
 std::string inputName(const std::string& file) {
@@ -13,8 +14,8 @@ std::string inputName(const std::string& file) {
 }
 
 std::string readInput(const std::string& file, std::size_t limit) {
-    auto content = file == standardStream ? lv::analysis::readDescriptor(STDIN_FILENO, limit + 1)
-                                          : lv::analysis::readFile(file, limit + 1);
+    auto content = file == standardStream ? lv::analysis::readDescriptor(standardInput, limit + 1)
+                                          : lv::analysis::readFile(std::filesystem::u8path(file), limit + 1);
     if (!content) {
         throw Failure(inputName(file), content.error.message());
     }

@@ -52,9 +52,10 @@ Findings lossesOf(const Document& document, const FormatOptions& options) {
 /// Whether the output is the file that the input was read from, under any of its names.
 bool isInPlace(const FormatOptions& options) {
     std::error_code ignored;
+    const std::filesystem::path output = std::filesystem::u8path(options.output);
     const std::string input = options.input == standardStream ? "/dev/stdin" : options.input;
-    return options.output != standardStream && std::filesystem::is_regular_file(options.output, ignored) &&
-           std::filesystem::equivalent(input, options.output, ignored);
+    return options.output != standardStream && std::filesystem::is_regular_file(output, ignored) &&
+           std::filesystem::equivalent(std::filesystem::u8path(input), output, ignored);
 }
 
 ExitStatus format(const FormatOptions& options) {

@@ -48,8 +48,9 @@ struct Options {
 
 /// Whether the output is a folder: one that is there, or a name that ends with "/".
 bool isFolder(const std::string& output) {
+    const std::filesystem::path path = std::filesystem::u8path(output);
     std::error_code ignored;
-    return output.back() == '/' || std::filesystem::is_directory(output, ignored);
+    return !path.has_filename() || std::filesystem::is_directory(path, ignored);
 }
 
 ReportForm formOf(const Options& options, const LimitSet& limits) {

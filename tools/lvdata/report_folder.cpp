@@ -55,7 +55,7 @@ void makeAll(const std::vector<MonitorDocuments>& monitors, const PageMaker& mak
 /// Writes pages into a folder.
 class FolderWriter {
 public:
-    FolderWriter(const std::string& folder, const InputFiles& inputs) : folder_(folder), inputs_(inputs) {
+    FolderWriter(const std::string& folder, const InputFiles& inputs) : folder_(fs::u8path(folder)), inputs_(inputs) {
         std::error_code error;
         fs::create_directories(folder_, error);
         if (error) {
@@ -65,7 +65,7 @@ public:
 
     /// A file that is not such a page stays.
     void write(const std::string& page, const std::string& text) const {
-        const std::string file = folder_ / page;
+        const std::string file = (folder_ / fs::u8path(page)).u8string();
         inputs_.refuseToOverwrite(file);
         refuseUnlessPage(file);
         writeResult(file, text);
@@ -73,7 +73,7 @@ public:
 
 private:
     static void refuseUnlessPage(const std::string& file) {
-        const std::string why = lv::analysis::whyNotOverwritten(file);
+        const std::string why = lv::analysis::whyNotOverwritten(fs::u8path(file));
         if (!why.empty()) {
             throw Failure(file, why);
         }

@@ -4,8 +4,8 @@
 #include "Failure.h"
 #include "Output.h"
 #include "messages.h"
+#include "system.h"
 
-#include <csignal>
 #include <exception>
 #include <new>
 
@@ -21,23 +21,15 @@ int report(const Failure& failure) {
     return numberOf(ExitStatus::failed);
 }
 
-/// Ends as a command does that does not look after closed pipes.
-int endByClosedPipe() {
-    static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
-    static_cast<void>(std::raise(SIGPIPE));
-    return numberOf(ExitStatus::failed);  // where the signal is blocked
-}
-
 }  // namespace
 
 int runCommand(const std::function<ExitStatus()>& command) {
     try {
-        // These are then errors of write(), which are cleaned up after: a file that grows too large, a closed pipe.
-        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
-        static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+        prepareProcess();
         return numberOf(command());
     } catch (const ClosedPipe&) {
-        return endByClosedPipe();
+        endByClosedPipe();
+        return numberOf(ExitStatus::failed);  // where the signal is blocked
     } catch (const Failure& failure) {
         return report(failure);
     } catch (const std::bad_alloc&) {

@@ -3,6 +3,7 @@
 #include <lvdata/analysis/files/files.h>
 
 #include <cstddef>
+#include <filesystem>
 #include <system_error>
 
 namespace lv::analysis {
@@ -38,7 +39,7 @@ LimitSetResult findLimitSet(const std::string& nameOrFile) {
             return {set, 0, ""};
         }
     }
-    const FileContent content = readFile(nameOrFile, mostBytes + 1);
+    const FileContent content = readFile(std::filesystem::u8path(nameOrFile), mostBytes + 1);
     const std::string complaint = complaintAbout(content);
     return complaint.empty() ? readLimitSet(content.text) : LimitSetResult{std::nullopt, 0, complaint};
 }

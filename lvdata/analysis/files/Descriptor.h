@@ -1,11 +1,11 @@
 #pragma once
 
+#include <lvdata/analysis/files/system_files.h>
+
 #include <cerrno>
 #include <string>
 #include <system_error>
 #include <utility>
-
-#include <unistd.h>
 
 namespace lv::analysis {
 
@@ -26,7 +26,7 @@ public:
 
     ~Descriptor() {
         if (descriptor_ != closed) {
-            ::close(descriptor_);
+            closeDescriptor(descriptor_);
         }
     }
 
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] int get() const { return descriptor_; }
 
     /// Closes now; throws when the last bytes could not be stored.
-    void close() { checked(::close(std::exchange(descriptor_, closed))); }
+    void close() { checked(closeDescriptor(std::exchange(descriptor_, closed))); }
 
 private:
     static constexpr int closed = -1;

@@ -24,7 +24,7 @@ bool isFolder(const fs::directory_entry& entry) {
 /// Also a file that cannot be opened, so that reading it tells why.
 bool isDocument(const fs::directory_entry& entry) {
     std::error_code ignored;
-    return isDocumentName(entry.path().filename().native()) && !entry.is_directory(ignored) && !entry.is_other(ignored);
+    return isDocumentName(entry.path().filename().u8string()) && !entry.is_directory(ignored) && !entry.is_other(ignored);
 }
 
 }  // namespace
@@ -33,7 +33,7 @@ void DocumentWalk::start(const std::string& path) {
     levels_.clear();
     emptyFolder_.clear();
     std::error_code ignored;
-    if (!fs::is_directory(path, ignored)) {
+    if (!fs::is_directory(fs::u8path(path), ignored)) {
         given_ = Found{path, {}, {}};
         return;
     }
@@ -67,7 +67,7 @@ std::optional<DocumentWalk::Found> DocumentWalk::nextInFolder() {
         }
         const Entry entry = std::move(level.entries.back());
         level.entries.pop_back();
-        std::string path = fs::path(level.folder) / entry.name;
+        std::string path = (fs::u8path(level.folder) / fs::u8path(entry.name)).u8string();
         if (!entry.isFolder) {
             return Found{std::move(path), {}, {}};
         }
@@ -90,10 +90,10 @@ std::optional<DocumentWalk::Found> DocumentWalk::enter(const std::string& folder
 
 DocumentWalk::Level DocumentWalk::readFolder(const std::string& folder) {
     Level level{folder, {}};
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(fs::u8path(folder))) {
         const bool folderInside = isFolder(entry);
         if (folderInside || isDocument(entry)) {
-            level.entries.push_back({entry.path().filename(), folderInside});
+            level.entries.push_back({entry.path().filename().u8string(), folderInside});
         }
     }
     std::sort(level.entries.begin(), level.entries.end(),

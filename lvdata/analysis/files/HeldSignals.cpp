@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <csignal>
 
 namespace lv::analysis {
 namespace {
@@ -16,26 +17,31 @@ bool isIgnored(int signal) {
 
 }  // namespace
 
-HeldSignals::HeldSignals() {
-    ::pthread_sigmask(SIG_BLOCK, nullptr, &before_);
-    ::sigemptyset(&held_);
+struct HeldSignals::State {
+    sigset_t held{};
+    sigset_t before{};
+};
+
+HeldSignals::HeldSignals() : state_(std::make_unique<State>()) {
+    ::pthread_sigmask(SIG_BLOCK, nullptr, &state_->before);
+    ::sigemptyset(&state_->held);
     for (const int signal : endingSignals) {
-        if (!isIgnored(signal) && ::sigismember(&before_, signal) == 0) {
-            ::sigaddset(&held_, signal);
+        if (!isIgnored(signal) && ::sigismember(&state_->before, signal) == 0) {
+            ::sigaddset(&state_->held, signal);
         }
     }
-    ::pthread_sigmask(SIG_BLOCK, &held_, nullptr);
+    ::pthread_sigmask(SIG_BLOCK, &state_->held, nullptr);
 }
 
 HeldSignals::~HeldSignals() {
-    ::pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+    ::pthread_sigmask(SIG_SETMASK, &state_->before, nullptr);
 }
 
 bool HeldSignals::arrived() const {
     sigset_t waiting{};
     ::sigpending(&waiting);
     return std::any_of(endingSignals.begin(), endingSignals.end(), [&](int signal) {
-        return ::sigismember(&held_, signal) == 1 && ::sigismember(&waiting, signal) == 1;
+        return ::sigismember(&state_->held, signal) == 1 && ::sigismember(&waiting, signal) == 1;
     });
 }
 

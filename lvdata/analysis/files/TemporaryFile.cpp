@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace lv::analysis {
 namespace {
@@ -40,15 +41,6 @@ void stopIfArrived(const HeldSignals& held) {
 }
 
 }  // namespace
-
-void writeAll(int descriptor, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t written = ::write(descriptor, text.data(), text.size());
-        if (written >= 0 || errno != EINTR) {
-            text.remove_prefix(static_cast<std::size_t>(checked(written)));
-        }
-    }
-}
 
 TemporaryFile::TemporaryFile(int folder, mode_t mode) : folder_(folder), descriptor_(createIn(folder, mode, name_)) {}
 

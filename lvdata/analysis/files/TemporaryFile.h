@@ -10,9 +10,6 @@
 
 namespace lv::analysis {
 
-/// Writes all of the text; throws `std::system_error` when not all of it can be written.
-void writeAll(int descriptor, std::string_view text);
-
 /// A new file with a name of its own, ".lvdata-XXXXXX", in an open folder. It is removed at the end unless it was
 /// stored under another name. Functions throw `std::system_error`.
 ///

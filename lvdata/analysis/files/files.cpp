@@ -1,40 +1,27 @@
 #include <lvdata/analysis/files/Descriptor.h>
-#include <lvdata/analysis/files/Place.h>
-#include <lvdata/analysis/files/TemporaryFile.h>
 #include <lvdata/analysis/files/files.h>
-#include <lvdata/analysis/files/rights.h>
+#include <lvdata/analysis/files/system_files.h>
 
 #include <algorithm>
 #include <array>
-
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace lv::analysis {
 namespace {
 
 using Path = std::filesystem::path;
-using Status = struct stat;
 
 /// Up to so many bytes; less when there are no more.
 std::string readUpTo(std::size_t most, int descriptor) {
     std::string text;
     std::array<char, 65536> block{};
     while (text.size() < most) {
-        const std::size_t wanted = std::min(block.size(), most - text.size());
-        const ssize_t got = ::read(descriptor, block.data(), wanted);
+        const std::size_t got = readSome(descriptor, block.data(), std::min(block.size(), most - text.size()));
         if (got == 0) {
             break;
         }
-        if (got > 0 || errno != EINTR) {
-            text.append(block.data(), static_cast<std::size_t>(checked(got)));
-        }
+        text.append(block.data(), got);
     }
     return text;
-}
-
-Descriptor openForReading(const Path& path) {
-    return Descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));  // NOLINT(cppcoreguidelines-pro-type-vararg)
 }
 
 template <class Read>
@@ -56,60 +43,10 @@ SaveResult resultOf(const Write& write) {
     }
 }
 
-Status statusOf(int descriptor) {
-    Status status = {};
-    checked(::fstat(descriptor, &status));
-    return status;
-}
-
-bool isStandardOutput(const Status& file) {
-    Status output = {};
-    return ::fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == file.st_dev && output.st_ino == file.st_ino;
-}
-
-/// Puts a new file in the place of the old one, or where none is.
-void replace(const Place& place, const Descriptor* old, std::string_view text) {
-    TemporaryFile file(place.folder(), old == nullptr ? 0666 : 0600);
-    file.write(text);
-    if (old != nullptr) {
-        adoptRights(file.descriptor(), old->get());
-    }
-    file.storeAs(place.name());
-}
-
-void writeInto(Descriptor file, std::string_view text) {
-    writeAll(file.get(), text);
-    file.close();
-}
-
-void writeExisting(const Place& place, Descriptor existing, std::string_view text) {
-    const Status status = statusOf(existing.get());
-    if (isStandardOutput(status)) {
-        writeAll(STDOUT_FILENO, text);
-    } else if (!S_ISREG(status.st_mode)) {
-        writeInto(std::move(existing), text);
-    } else if (place.isLinkOfSystem()) {
-        throw std::system_error(EOPNOTSUPP, std::generic_category(), "cannot replace the open file of another process");
-    } else {
-        replace(place, &existing, text);
-    }
-}
-
-void writeTo(const Path& path, std::string_view text) {
-    const Place place(path);
-    if (const auto own = place.ownDescriptor()) {
-        writeAll(*own, text);
-    } else if (auto existing = place.openForWriting()) {
-        writeExisting(place, std::move(*existing), text);
-    } else {
-        replace(place, nullptr, text);
-    }
-}
-
 }  // namespace
 
 FileContent readFile(const Path& path, std::size_t most) {
-    return contentOf([&] { return readUpTo(most, openForReading(path).get()); });
+    return contentOf([&] { return readUpTo(most, Descriptor(openForReading(path)).get()); });
 }
 
 FileContent readDescriptor(int descriptor, std::size_t most) {

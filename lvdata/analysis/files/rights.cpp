@@ -9,6 +9,7 @@
 
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 namespace lv::analysis {
 namespace {

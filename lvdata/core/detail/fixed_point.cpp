@@ -1,4 +1,5 @@
 #include <lvdata/core/detail/fixed_point.h>
+#include <lvdata/xml/detail/bits.h>
 
 #include <algorithm>
 #include <cmath>
@@ -21,11 +22,6 @@ struct Magnitude {
 
 std::uint64_t lowBits(int count) {
     return (std::uint64_t{1} << count) - 1;
-}
-
-/// The number of bits up to the highest that is set; the mantissa is not 0.
-int bitLength(std::uint64_t mantissa) {
-    return 64 - __builtin_clzll(mantissa);
 }
 
 /// Without the lowest bits, of which the lowest that is left stands for all: set when one of them was.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <lvdata/xml/detail/bits.h>
+
 #include <cstddef>
 #include <cstdint>
 
@@ -17,7 +19,7 @@ public:
     [[nodiscard]] std::size_t count() const {
         // The top bit of each byte beyond 9. A carry out of such a byte only disturbs those after it.
         const std::uint64_t others = ((digits_ + everyByte * beyondNine) | digits_) & (everyByte * topBit);
-        return others == 0 ? size : static_cast<std::size_t>(__builtin_ctzll(others)) / 8;
+        return others == 0 ? size : static_cast<std::size_t>(trailingZeros(others)) / 8;
     }
 
     /// The number that the first `count` digits make; at least one.
