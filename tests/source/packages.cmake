@@ -1,0 +1,20 @@
+# Fails unless the packages that scripts/bootstrap installs are those for which docs/dependencies.md has a reason.
+file(STRINGS "${source_dir}/scripts/bootstrap" lines REGEX "^    [a-z0-9+. -]+$|packages\\+=\\([a-z]")
+string(REGEX REPLACE "[^;]*packages\\+=\\(" "" lines "${lines}")
+string(REGEX MATCHALL "[a-z0-9+.-]+" installed "${lines}")
+
+file(STRINGS "${source_dir}/docs/dependencies.md" lines REGEX "^\\|.*`")
+set(explained "")
+foreach(line IN LISTS lines)
+    string(REGEX REPLACE "^\\|[^|]*\\|([^|]*)\\|.*" "\\1" names "${line}")
+    string(REGEX MATCHALL "`[a-z0-9+.-]+`" names "${names}")
+    list(APPEND explained ${names})
+endforeach()
+list(TRANSFORM explained REPLACE "`" "")
+
+list(SORT installed)
+list(SORT explained)
+list(REMOVE_DUPLICATES explained)
+if(NOT installed STREQUAL explained)
+    message(FATAL_ERROR "scripts/bootstrap installs\n ${installed}\nand docs/dependencies.md explains\n ${explained}")
+endif()
