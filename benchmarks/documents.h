@@ -30,7 +30,7 @@ struct Document {
 /// Calibrated colour modes of nothing but look-up tables: 0.9 MB of long arrays.
 [[nodiscard]] Document arraysDocument();
 
-/// A MonitorParameter whose element holds that many children it does not know, in front of all that it does.
+/// A MonitorParameter whose element holds that many children it does not know, before all that it does.
 [[nodiscard]] std::string unknownChildrenText(unsigned int children);
 
 /// A MeasurementData of that many rows.

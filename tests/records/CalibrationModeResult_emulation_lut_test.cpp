@@ -24,7 +24,7 @@ Row rowFrom(const std::string& children) {
     return parsed<CalibrationModeResult>(documentWith(children)).objects.at(0);
 }
 
-/// What a row with this table has behind its profile.
+/// What a row with this table has after its profile.
 std::string writtenBehindTheProfile(const Table& table) {
     CalibrationModeResult record;
     record.objects.resize(1);

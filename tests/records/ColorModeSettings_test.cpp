@@ -27,7 +27,7 @@ struct Number {
 const std::array everyNumber = {Number{"Index", &ColorModeSettingsObject::index},
                                 Number{"Availability", &ColorModeSettingsObject::availability}};
 
-/// The document of one row without a type, with these children in front of its policy.
+/// The document of one row without a type, with these children before its policy.
 std::string writtenRow(const std::string& children) {
     return written<ColorModeSettings>(R"(<ColorMode Type="">)" + children + defaultPolicy + "</ColorMode>");
 }

@@ -61,7 +61,7 @@ ProfileData complete(bool flag) {
     return record;
 }
 
-/// The elements of all nine colours, save that one of them holds this text.
+/// The elements of all nine colours; one of them holds this text.
 std::string allColoursBut(const std::string& color, const std::string& text) {
     std::string children;
     for (const auto& each : everyColour) {

@@ -20,7 +20,7 @@ namespace lv::test {
 /// The elements and their attributes, without what is written between them.
 [[nodiscard]] std::string withoutTexts(const std::string& text);
 
-/// Behind each element that holds text alone another one of its name, with another text.
+/// After each element that holds text alone another one of its name, with another text.
 [[nodiscard]] std::string withRepeatedLeaves(const std::string& text);
 
 /// Around each child of an element unknown elements and comments, and in each element an unknown attribute.
@@ -29,7 +29,7 @@ namespace lv::test {
 /// The root's children inside one more element.
 [[nodiscard]] std::string withChildrenOneLevelDeeper(const std::string& text);
 
-/// The children of an element in reverse order, save where some share a name and their order means something.
+/// The children of an element in reverse order, except where some share a name and their order matters.
 [[nodiscard]] std::string withChildrenReversed(const std::string& text);
 
 }  // namespace lv::test

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-/// What a run of the tool left behind.
+/// What a run of the tool left.
 struct Outcome {
     int exitCode;
     std::string output;

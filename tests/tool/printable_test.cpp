@@ -46,7 +46,7 @@ TEST_F(Printable, EscapesBytesThatAreNotUTF8) {
     EXPECT_EQ(shown("\xC0\x8A"), "\\xC0\\x8A");                    // a line feed in two bytes
     EXPECT_EQ(shown("\xE0\x80\x8A\xF0\x80\x80\x8A"), "\\xE0\\x80\\x8A\\xF0\\x80\\x80\\x8A");  // in three and four
     EXPECT_EQ(shown("\xED\xA0\x80"), "\\xED\\xA0\\x80");                                      // a surrogate
-    EXPECT_EQ(shown("\xF4\x90\x80\x80\xF5"), "\\xF4\\x90\\x80\\x80\\xF5");  // behind the last character
+    EXPECT_EQ(shown("\xF4\x90\x80\x80\xF5"), "\\xF4\\x90\\x80\\x80\\xF5");  // after the last character
 }
 
 }  // namespace

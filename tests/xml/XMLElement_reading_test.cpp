@@ -16,7 +16,7 @@ std::string document(const std::string& text) {
     return "<A><B>" + text + "</B></A>";
 }
 
-/// What an element can hold that is no text of its own.
+/// What an element can hold that is not its own text.
 const std::vector<const char*> noTexts = {
     "<A/>", "<A></A>", "<A>  \n </A>", "<A><!-- 5 --></A>", "<A><B>5</B></A>", "<A><B/>5</A>", "<A a='5'/>"};
 
