@@ -1,4 +1,5 @@
 # The target lvdata_reference: what Doxygen reads in the public headers, as XML. A member without a comment is an error.
+include_guard(GLOBAL)
 find_program(LVDATA_DOXYGEN doxygen REQUIRED)
 get_directory_property(headers DIRECTORY "${PROJECT_SOURCE_DIR}/lvdata" DEFINITION LVDATA_PUBLIC_HEADERS)
 list(REMOVE_ITEM headers export.h lvdata.h) # the macro, and a list of headers
