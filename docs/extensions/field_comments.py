@@ -7,5 +7,6 @@ def remove_alias(app, what, name, found, options, lines):
 
 
 def setup(app):
+    app.setup_extension("sphinx.ext.autodoc")
     app.connect("autodoc-process-docstring", remove_alias)
     return {"parallel_read_safe": True}
