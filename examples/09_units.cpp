@@ -3,15 +3,18 @@
 #include <lvdata/lvdata.h>
 
 #include <iostream>
-#include <string>
 
 namespace {
 
-/// What a stored number means: "985000 is 0.985, gain of a channel".
-std::string meaningOf(unsigned int stored, const lv::Quantity& quantity) {
-    const std::string unit = quantity.unit == lv::unknownUnit ? " (unit not recorded)" : ' ' + std::string(quantity.unit);
-    std::string text = std::to_string(stored) + " is " + std::to_string(stored / static_cast<double>(quantity.factor));
-    return text + (quantity.unit.empty() ? "" : unit) + ", " + std::string(quantity.meaning);
+/// Prints what a stored number means: "985000 is 0.985, gain of a channel".
+void explain(unsigned int stored, const lv::Quantity& quantity) {
+    std::cout << stored << " is " << stored / static_cast<double>(quantity.factor);
+    if (quantity.unit == lv::unknownUnit) {
+        std::cout << " (unit not recorded)";
+    } else if (!quantity.unit.empty()) {
+        std::cout << ' ' << quantity.unit;
+    }
+    std::cout << ", " << quantity.meaning << '\n';
 }
 
 }  // namespace
@@ -23,9 +26,9 @@ int main() {
     std::cout << "stored " << parameter.redGain.value << ", value " << parameter.redGain_x() << '\n';
 
     // The quantity of a member says what the integer means. The comment of the member names it.
-    std::cout << meaningOf(parameter.redGain.value, lv::quantities::gain) << '\n';
-    std::cout << meaningOf(75, lv::quantities::percent) << '\n';
-    std::cout << meaningOf(349600000, lv::quantities::tristimulus) << '\n';
+    explain(parameter.redGain.value, lv::quantities::gain);
+    explain(75, lv::quantities::percent);
+    explain(349600000, lv::quantities::tristimulus);
 
     // The same table has two scales: set isHDRLUT first, since it decides which one is used.
     parameter.isHDRLUT.set(lv::types::tableScale::hdr);

@@ -27,7 +27,7 @@ def shell_environment(prefix: Path) -> dict[str, str]:
     libraries = prefix / os.environ["LVDATA_LIBRARY_FOLDER"]
     return {
         **{name: value for name, value in os.environ.items() if not name.startswith("LVDATA_")},
-        "PATH": f"{prefix / 'bin'}:{os.environ['PATH']}",
+        "PATH": f"{prefix / 'bin'}:{os.environ['LVDATA_BUILD_DIR']}/examples:{os.environ['PATH']}",
         "PKG_CONFIG_PATH": str(libraries / "pkgconfig"),
         "LD_LIBRARY_PATH": str(libraries),
         "LC_ALL": "C.UTF-8",
