@@ -95,3 +95,9 @@ def test_cmake_projects_are_configured(block: Block, tmp_path: Path, prefix: Pat
     command = ["cmake", "-S", str(tmp_path), "-B", str(tmp_path / "build"), *paths]
     done = subprocess.run(command, capture_output=True, text=True)
     assert done.returncode == 0, done.stderr
+
+
+def test_the_tour_shows_every_record() -> None:
+    page = next(page for page in PAGES if page.name == "tour.md")
+    tree = next(block for block in blocks_of(page) if block.language == "text")
+    assert {name for name in re.findall(r"\w+", tree.text) if name in RECORDS} == RECORDS
