@@ -17,6 +17,8 @@ extensions = ["breathe", "myst_parser", "complete_theme", "field_comments", "sou
 myst_heading_anchors = 4
 myst_enable_extensions = ["deflist"]
 highlight_language = "none"
+default_role = "literal"  # of the comments in the Python sources
+smartquotes = False
 primary_domain = "cpp"
 
 breathe_default_project = "lvdata"
