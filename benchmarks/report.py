@@ -110,16 +110,30 @@ def analysis_tables(results, times):
     yield from table("Cost of 100,000 rows to 25,000", ["ratio"], growth_of_analysis(times))
 
 
-def bar(left, top, length, label, colour):
+#: Colours for light pages and for dark ones. The chart has a background of its own, so it is legible on any page.
+CHART_STYLE = """<style>
+svg{--paper:#ffffff;--ink:#1f2328;--lvdata:#00795a;--pugixml:#0072b2;--plain:#946200}
+@media screen and (prefers-color-scheme:dark){
+svg{--paper:#1b1e23;--ink:#e6e8eb;--lvdata:#2fc79a;--pugixml:#56b4e9;--plain:#e69f00}
+}
+.paper{fill:#ffffff;fill:var(--paper)}
+text{fill:#1f2328;fill:var(--ink)}
+.lvdata{fill:#00795a;fill:var(--lvdata)}
+.pugixml{fill:#0072b2;fill:var(--pugixml)}
+.plain{fill:#946200;fill:var(--plain)}
+</style>
+<rect class="paper" width="100%" height="100%"/>"""
+
+
+def bar(left, top, length, label, style):
     return (
-        f'<rect x="{left}" y="{top}" width="{length:.1f}" height="14" fill="{colour}"/>'
+        f'<rect class="{style}" x="{left}" y="{top}" width="{length:.1f}" height="14"/>'
         f'<text x="{left + length + 6:.1f}" y="{top + 11}">{label}</text>'
     )
 
 
 def chart(times):
     """Horizontal bars, one for each ratio; those beyond the width are cut and say their number."""
-    colours = {"lvdata": "#2a7", "pugixml": "#68c", "plain": "#c96"}
     unit, widest, top = 40, 400, 30
     parts = []
     for title, ratios in ratio_rows(times):
@@ -128,12 +142,12 @@ def chart(times):
                 continue
             style = title.split(", ")[1]
             parts.append(f'<text x="4" y="{top + 11}">{title}, {document}</text>')
-            parts.append(bar(180, top, min(value * unit, widest), f"{value:.2f}", colours[style]))
+            parts.append(bar(180, top, min(value * unit, widest), f"{value:.2f}", style))
             top += 18
     heading = '<text x="4" y="18" font-weight="bold">Time as a multiple of the XML library alone</text>'
     return (
-        f'<svg xmlns="http://www.w3.org/2000/svg" width="640" height="{top + 8}" '
-        f'font-family="sans-serif" font-size="11">\n{heading}\n' + "\n".join(parts) + "\n</svg>\n"
+        f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 640 {top + 8}" width="640" height="{top + 8}" '
+        f'font-family="sans-serif" font-size="11">\n{CHART_STYLE}\n{heading}\n' + "\n".join(parts) + "\n</svg>\n"
     )
 
 

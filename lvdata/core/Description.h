@@ -50,7 +50,7 @@ struct LVDATA_EXPORT Condition {
     /// A rule in words, for `rule`; otherwise empty.
     std::string rule{};
 
-    /// The condition in words: `../@Type is "PQ" or "HLG"`.
+    /// The condition in words: `../\@Type is "PQ" or "HLG"`.
     [[nodiscard]] std::string toString() const;
 };
 

@@ -21,6 +21,8 @@ struct Quantity {
 
     /// Each quantity has a name of its own.
     friend constexpr bool operator==(const Quantity& left, const Quantity& right) { return left.name == right.name; }
+
+    /// The opposite of `==`.
     friend constexpr bool operator!=(const Quantity& left, const Quantity& right) { return !(left == right); }
 };
 

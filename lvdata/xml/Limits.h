@@ -39,7 +39,13 @@ struct Limits {
 /// What a document has more of than a limit allows, and where.
 struct Excess {
     /// What there is too much of. Each is called as its member of `Limits`.
-    enum class What { bytes, elements, nodes, attributes, brokenReferences };
+    enum class What {
+        bytes,             ///< The size of the text.
+        elements,          ///< All elements.
+        nodes,             ///< All elements, attributes, texts, comments and other markup.
+        attributes,        ///< The attributes of one element.
+        brokenReferences,  ///< The broken references in one text or one attribute.
+    };
 
     /// What there is too much of.
     What what = What::bytes;

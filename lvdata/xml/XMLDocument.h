@@ -25,10 +25,16 @@ public:
     /// Deletes the document if the wrapper owns it; a borrowed one stays.
     ~XMLDocument() override;
 
-    // Neither copied nor moved: the document would be deleted twice.
+    /// Not copied: the document would be deleted twice.
     XMLDocument(const XMLDocument&) = delete;
+
+    /// Not copied.
     XMLDocument& operator=(const XMLDocument&) = delete;
+
+    /// Not moved: wrappers into the document are not to dangle.
     XMLDocument(XMLDocument&&) = delete;
+
+    /// Not moved.
     XMLDocument& operator=(XMLDocument&&) = delete;
 
     /// Replaces the content by that of `text`, a whole XML document in UTF-8. Wrappers into the earlier content dangle.
