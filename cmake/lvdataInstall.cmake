@@ -39,7 +39,7 @@ else()
     )
 endif()
 
-# The prefix is told relative to the file's own place, so that the installed tree can be moved.
+# The prefix is given relative to the file's own place, so that the installed tree can be moved.
 set(_lvdata_pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH _lvdata_pc_to_prefix "/${_lvdata_pc_dir}" "/.")
 configure_file(cmake/lvdata.pc.in "${PROJECT_BINARY_DIR}/lvdata.pc" @ONLY)

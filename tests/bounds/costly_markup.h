@@ -7,7 +7,7 @@
 
 namespace lv::test {
 
-/// An unknown element with attributes of different names, in a document with an "Asset1" behind it.
+/// An unknown element with attributes of different names, in a document with an "Asset1" after it.
 [[nodiscard]] inline std::string documentWithAttributes(int count, const std::string& further = "") {
     std::string element = "<a";
     for (int attribute = 0; attribute < count; ++attribute) {

@@ -4,7 +4,7 @@
 
 #include <lvdata/records/ParameterSetting.h>
 
-// Bytes that are no text: NUL, broken UTF-8, UTF-16.
+// Bytes that are not text: NUL, broken UTF-8, UTF-16.
 
 namespace lv::test {
 namespace {

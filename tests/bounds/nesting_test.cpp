@@ -15,7 +15,7 @@ namespace {
 /// at which it stops.
 constexpr std::size_t deepest = TINYXML2_MAX_ELEMENT_DEPTH - 2;
 
-/// A document of AssetInfo that nests so many elements and holds "Asset1" behind them.
+/// A document of AssetInfo that nests so many elements and holds "Asset1" after them.
 std::string nested(std::size_t elements) {
     const std::size_t unknown = elements - 1;
     return documentOf<AssetInfo>(repeated("<a>", unknown) + repeated("</a>", unknown) + "<Asset1>one</Asset1>");

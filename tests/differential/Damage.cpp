@@ -79,7 +79,7 @@ void Damage::blankText(std::string& document) {
     document.replace(text.begin, below(2) == 0 ? text.size : 0, anyOf(blanks()));
 }
 
-/// Makes an element the root's last child, with its end already in its start tag and its text behind that.
+/// Makes an element the root's last child, with its end already in its start tag and its text after that.
 void Damage::closeEarly(std::string& document) {
     const Span tag = anyStartTag(document);
     const Span text{tag.begin + tag.size, document.find('<', tag.begin + tag.size) - tag.begin - tag.size};

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-// What documents hold that nobody expects.
+// Unexpected content of documents.
 
 namespace differential {
 
@@ -16,13 +16,13 @@ namespace differential {
 /// Characters that are escaped in a text.
 [[nodiscard]] const std::vector<std::string>& entities();
 
-/// In front of a text or in its place.
+/// Before a text or instead of it.
 [[nodiscard]] const std::vector<std::string>& blanks();
 
-/// Put into a start tag, behind its name or in front of its end.
+/// Put into a start tag, after its name or before its end.
 [[nodiscard]] const std::vector<std::string>& oddInTags();
 
-/// Put in front of the root element.
+/// Put before the root element.
 [[nodiscard]] const std::vector<std::string>& oddInFront();
 
 }  // namespace differential

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-// What parsing does in every record: what is refused, what is passed over, what is kept.
+// What parsing does in every record: what is refused, what is ignored, what is kept.
 
 namespace lv::test {
 namespace {

@@ -20,7 +20,7 @@ std::string attributes(int count) {
     return result;
 }
 
-/// A document with this in front of "Asset1", which `tidy` prints.
+/// A document with this before "Asset1", which `tidy` prints.
 std::string documentWith(const std::string& markup) {
     return "<AssetInfo>\n" + markup + "<Asset1>one</Asset1></AssetInfo>";
 }

@@ -56,7 +56,7 @@ private:
         return true;
     }
 
-    /// Walks backwards: a ';' serves the last "&#" in front of it.
+    /// Walks backwards: a ';' serves the last "&#" before it.
     void countReferences(const std::string& text) {
         std::size_t count = 0;
         bool ended = false;

@@ -71,7 +71,7 @@ TEST(XMLElementGetElements, IsEmptyWhereNoChildHasThatName) {
     EXPECT_TRUE(ParsedDocument("<B/>").root().getElements("B").empty());
 }
 
-/// A node that is no element, or no node at all.
+/// A node that is not an element, or no node at all.
 struct OtherNode {
     const char* name;
     tinyxml2::XMLNode* (*pick)(tinyxml2::XMLDocument& document);

@@ -21,7 +21,7 @@ int report(const Failure& failure) {
     return numberOf(ExitStatus::failed);
 }
 
-/// Ends as a command does that does not look after closed pipes.
+/// Ends the process as the signal does for commands that do not handle closed pipes.
 int endByClosedPipe() {
     static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
     static_cast<void>(std::raise(SIGPIPE));
@@ -32,7 +32,8 @@ int endByClosedPipe() {
 
 int runCommand(const std::function<ExitStatus()>& command) {
     try {
-        // These are then errors of write(), which are cleaned up after: a file that grows too large, a closed pipe.
+        // Then write() fails with an error, and temporary files are removed: a file that grows too large, a closed
+        // pipe.
         static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
         static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
         return numberOf(command());

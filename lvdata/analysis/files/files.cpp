@@ -16,7 +16,7 @@ namespace {
 using Path = std::filesystem::path;
 using Status = struct stat;
 
-/// Up to so many bytes; less when there are no more.
+/// Up to that many bytes; fewer at the end.
 std::string readUpTo(std::size_t most, int descriptor) {
     std::string text;
     std::array<char, 65536> block{};
@@ -67,7 +67,7 @@ bool isStandardOutput(const Status& file) {
     return ::fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == file.st_dev && output.st_ino == file.st_ino;
 }
 
-/// Puts a new file in the place of the old one, or where none is.
+/// Replaces the file with a new one, or creates it.
 void replace(const Place& place, const Descriptor* old, std::string_view text) {
     TemporaryFile file(place.folder(), old == nullptr ? 0666 : 0600);
     file.write(text);
