@@ -27,10 +27,10 @@ struct Document {
 /// Hundreds of colour modes with their targets and no tables: 0.8 MB of short elements.
 [[nodiscard]] Document wideDocument();
 
-/// Calibrated colour modes of nothing but look-up tables: 0.9 MB of long arrays.
+/// Calibrated colour modes with only look-up tables: 0.9 MB of long arrays.
 [[nodiscard]] Document arraysDocument();
 
-/// A MonitorParameter whose element holds that many children it does not know, before all that it does.
+/// A MonitorParameter whose element holds that many unknown children, before all known ones.
 [[nodiscard]] std::string unknownChildrenText(unsigned int children);
 
 /// A MeasurementData of that many rows.

@@ -1,6 +1,6 @@
 #pragma once
 
-// LVDATA_EXPORT marks what the library offers to applications; everything else stays hidden inside the shared library.
+// LVDATA_EXPORT marks the public interface of the library; everything else stays hidden inside the shared library.
 //
 // The build defines one of two names beside it, and nobody else needs to: LVDATA_STATIC wherever a static library is
 // built or used (CMake targets and pkg-config files pass it on), LVDATA_BUILDING while the shared library itself is

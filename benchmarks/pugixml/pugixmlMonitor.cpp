@@ -11,7 +11,7 @@
 namespace benchmarks {
 namespace {
 
-/// Elements that hold nothing but text keep it in their own node.
+/// Elements that hold only text keep it in their own node.
 constexpr unsigned int parseOptions = pugi::parse_default | pugi::parse_embed_pcdata;
 constexpr unsigned int printOptions = pugi::format_raw | pugi::format_no_declaration;
 

@@ -9,11 +9,11 @@
 
 namespace lv::analysis {
 
-/// What documents of each record class can contain, prepared once for all functions of this library. It never changes,
-/// so any number of threads may use one. Making it takes some milliseconds.
+/// The possible content of the documents of each record class, prepared once for all functions of this library. It
+/// never changes, so any number of threads may use it. Making it takes some milliseconds.
 class Catalogue {
 public:
-    /// What it has of one record class.
+    /// The entry of one record class.
     struct Entry {
         const RecordClass* recordClass;            ///< The class.
         std::unique_ptr<const Description> facts;  ///< Its description,

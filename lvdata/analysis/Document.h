@@ -24,15 +24,15 @@ struct Refusal {
     };
 
     Kind kind;           ///< What is wrong.
-    int line;            ///< Where that was noticed, counted from 1; 0 when no line applies.
+    int line;            ///< The line of the error, counted from 1; 0 when no line applies.
     std::string reason;  ///< In a few words; may hold the name of the root element, which can be as long as the text.
 };
 
-/// A text that was read as a record, kept for those who look at both: the record, and everything that the text holds.
+/// A text that was read as a record, for functions that need both: the record, and everything in the text.
 ///
 /// The record's switch `writeHLGSystemGamma` is set when the text has an element "HLGSystemGamma" that the switch
-/// governs, so that printing the record keeps it. Look for the limits of hostile texts before (`findExcess`).
-/// One thread at a time.
+/// governs, so that printing the record keeps it. Check untrusted texts against limits first (`findExcess`). Only one
+/// thread at a time may use it.
 class Document {
 public:
     /// Reads the text. The catalogue must outlive the document.
@@ -41,8 +41,8 @@ public:
     /// Why there is no record; null when there is one, and only then may the other functions be called.
     [[nodiscard]] const Refusal* refusal() const { return refusal_ ? &*refusal_ : nullptr; }
 
-    /// What a strict parser says of the text. A document that is not well-formed can have a record all the same, which
-    /// may then hold less than the text.
+    /// The result of a strict parser. Even a document that is not well-formed can have a record, which may then hold
+    /// less than the text.
     [[nodiscard]] const XMLVerdict& verdict() const { return verdict_; }
 
     /// The class of the record and what its documents can contain.
@@ -71,13 +71,13 @@ private:
     std::optional<Tree> source_{};
 };
 
-/// Whether the switch `writeHLGSystemGamma` decides that elements of this shape are written.
+/// Whether the switch `writeHLGSystemGamma` determines that elements of this shape are written.
 [[nodiscard]] bool isGovernedByHLGSwitch(const Shape& shape);
 
 /// Whether a document has an element "HLGSystemGamma" that the switch governs.
 [[nodiscard]] bool hasHLGSystemGamma(const XMLView& document, const Shape& root);
 
-/// `unknown root element "Asset", known are: AssetInfo, BasicData, ...`
+/// `unknown root element "Asset"; known: AssetInfo, BasicData, ...`
 [[nodiscard]] std::string unknownRootElement(std::string_view name);
 
 }  // namespace lv::analysis

@@ -17,7 +17,7 @@ bool isKeyedSo(const Node& element, const Description& facts) {
     return key != nullptr && key->text == facts.keyText;
 }
 
-/// Of several with the same key the last with a text, or else the first.
+/// If several have the same key, the last one with a text, or else the first.
 const Node* keyedElement(const Node& parent, const Description& facts) {
     const Node* found = nullptr;
     for (const Node& child : childrenOf(parent)) {
@@ -53,7 +53,7 @@ Position parentOf(const Position& position) {
     return {position.shape->parent(), parent, parent == nullptr ? nullptr : parent->parent};
 }
 
-/// The text of what is at the position, as it stands in the document; null when it is missing or has none.
+/// The text at the position, as it is in the document; null when it is missing or has no text.
 const Node* ownText(const Position& position) {
     const bool isElement = position.node != nullptr && position.node->kind == Node::Kind::element;
     return isElement ? textOf(*position.node) : position.node;
@@ -89,7 +89,7 @@ bool isEmpty(const Position& position) {
     return valueAt(position).empty();
 }
 
-/// The worst of the answers for each subject, or the best when one subject is enough.
+/// The worst answer of all subjects, or the best one if one subject is enough.
 template <class Ask>
 Answer ofSubjects(const Question& question, const Position& position, bool oneIsEnough, Ask ask) {
     const Answer decisive = oneIsEnough ? Answer::yes : Answer::no;

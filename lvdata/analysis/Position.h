@@ -21,7 +21,7 @@ struct Position {
 /// The position of a subject of a question that is asked at `asked`.
 [[nodiscard]] Position subjectAt(const Question::Subject& subject, const Position& asked);
 
-/// What a record holds of it after reading, as text: the text of a string, a number in plain decimal, "true" or
+/// The value that a record holds after reading it, as text: the text of a string, a number in plain decimal, "true" or
 /// "false", an array as it stands. The text of a fresh record where the document has none.
 [[nodiscard]] std::string valueAt(const Position& position);
 
@@ -29,10 +29,10 @@ struct Position {
 /// arrays as they stand.
 [[nodiscard]] std::string inPlainForm(std::string_view text, Description::Content content);
 
-/// An answer about a document. Some rules are said in words alone, so that nobody but the record can answer.
+/// An answer about a document. Some rules exist only in words, so that only the record can answer.
 enum class Answer { no, yes, unknown };
 
-/// What holds for all records of a document.
+/// Settings that apply to all records of a document.
 struct Circumstances {
     bool hlgSwitch = false;  ///< `DataObject::writeHLGSystemGamma` of the record that is printed.
 };
@@ -40,11 +40,11 @@ struct Circumstances {
 /// The answer to a question that is asked at a position.
 [[nodiscard]] Answer answer(const Question& question, const Position& position, const Circumstances& circumstances);
 
-/// The first question whose answer is no; null when there is none.
+/// The first question with the answer no; null when there is none.
 [[nodiscard]] const Question* firstDenied(const std::vector<Question>& questions, const Position& position,
                                           const Circumstances& circumstances);
 
-/// The quantity that counts at the position; null for what is not a number.
+/// The quantity that applies at the position; null for anything but numbers.
 [[nodiscard]] const Quantity* quantityAt(const Position& position);
 
 /// The number of entries of an array's text: of pieces between "|" that are not empty.

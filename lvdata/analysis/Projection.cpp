@@ -72,7 +72,7 @@ void projectOwnText(const Node& element, const Shape& shape, Sink& sink) {
     projectText(position, text == nullptr ? std::string_view() : text->text, sink);
 }
 
-/// Walks along the children of an element that is an object.
+/// Visits the children of an element that is an object.
 class Members {
 public:
     Members(const Node& element, const Shape& shape, Sink& sink)
@@ -147,7 +147,7 @@ private:
         }
     }
 
-    /// An element that has only its key says nothing: it is written always.
+    /// An element that has only its key has no information: it is written always.
     void takeKeyedOne(const Node& node, const Shape& anyKey) {
         const Node* const key = attributeOf(node, anyKey.facts().keyAttribute);
         const Shape* const keyed = key == nullptr ? nullptr : shape_.element(node.name, key->text);

@@ -8,18 +8,18 @@
 namespace lv::analysis {
 
 /// Gives the natural values of a document that a record printed (`Tree::ofPrinted`) to a sink: one object whose only
-/// key is that of the root element. docs/json.md tells what becomes of what. Walks along the document once.
+/// key is that of the root element. docs/json.md describes the conversion. Visits the document once.
 void project(const Tree& printed, const Shape& root, Sink& sink);
 
 /// The same of one element of such a document, without a key.
 void projectElement(const Node& element, const Shape& shape, Sink& sink);
 
-/// Whether elements of this shape are a plain value and not an object: all that they can have is a text, and the
-/// attribute that is their key.
+/// Whether elements of this shape are a plain value and not an object: they can only have a text, and the attribute
+/// that is their key.
 [[nodiscard]] bool isPlain(const Shape& shape);
 
-/// What the text of the element is: the element itself, or the one of its texts that is read now, or else the first.
-/// Null when it has none.
+/// The shape of the element's text: the element itself, or the one of its texts that is read now, or else the first.
+/// Null when it has no text.
 [[nodiscard]] const Shape* textShapeAt(const Position& element);
 
 /// The key of a keyed element in the object of all of them: "limited109_red".

@@ -36,7 +36,7 @@ Shape::Shape(const Description& facts, const Shape* parent, std::size_t index)
     }
 }
 
-/// When all shapes are there, since conditions look at any of them.
+/// Called when all shapes exist, since conditions refer to any of them.
 void Shape::prepareQuestions() {
     writtenWhen_ = questionsOf(facts_.writtenWhen);
     readWhen_ = questionsOf(facts_.readWhen);

@@ -12,21 +12,21 @@ namespace lv::analysis {
 
 class Shape;
 
-/// A condition of a description whose subjects are looked up: prepared for being asked of documents.
+/// A condition of a description whose subjects are looked up: prepared for checking documents.
 struct Question {
-    /// The way from where the condition is asked to one of its subjects.
+    /// The path from the place of the condition to one of its subjects.
     struct Subject {
-        std::size_t up = 0;                ///< So many parents up,
+        std::size_t up = 0;                ///< The number of parents to go up,
         std::vector<const Shape*> down{};  ///< then along these.
     };
 
-    const Condition* condition = nullptr;  ///< What is asked.
+    const Condition* condition = nullptr;  ///< The condition.
     std::vector<Subject> subjects{};       ///< One for each of its subjects.
     std::vector<Question> alternatives{};  ///< One for each of its alternatives.
 };
 
-/// A node of a description, prepared for walking along documents: with its parent, its key in JSON, and questions in
-/// place of conditions. It never changes, so any number of threads may use it. Made by `Catalogue`.
+/// A node of a description, prepared for visiting documents: with its parent, its key in JSON, and questions instead of
+/// conditions. It never changes, so any number of threads may use it. Made by `Catalogue`.
 class Shape {
 public:
     /// The root of a description, which must outlive the shape.
@@ -38,7 +38,7 @@ public:
     Shape& operator=(Shape&&) = delete;
     ~Shape() = default;
 
-    /// What the library says of it.
+    /// The library's description of it.
     [[nodiscard]] const Description& facts() const { return facts_; }
 
     /// The shape of the parent element; null for a root.
@@ -50,26 +50,26 @@ public:
     /// `Description::xpathStep`, made once.
     [[nodiscard]] const std::string& step() const { return step_; }
 
-    /// What it can hold, in the order of writing.
+    /// Its possible content, in the order of writing.
     [[nodiscard]] const std::vector<std::unique_ptr<Shape>>& children() const { return children_; }
 
     /// The element of that name whose key, if it has one, is `keyText`; null when there is none.
     [[nodiscard]] const Shape* element(std::string_view name, std::string_view keyText) const;
 
     /// A child element of that name, whatever its key; null when there is none. The search begins at `previous`, one of
-    /// `children` or null, so that it is short for whoever visits a document in the order of writing.
+    /// `children` or null, so that it is short when a document is visited in the order of writing.
     [[nodiscard]] const Shape* firstElement(std::string_view name, const Shape* previous = nullptr) const;
 
     /// The attribute of that name; null when there is none.
     [[nodiscard]] const Shape* attribute(std::string_view name) const;
 
-    /// Whether it has a text of its own: a content, or a child that is its text.
+    /// Whether it has text: a content, or a child that is its text.
     [[nodiscard]] bool takesText() const;
 
     /// The index among the children of its parent.
     [[nodiscard]] std::size_t index() const { return index_; }
 
-    /// `Description::writtenWhen`, `readWhen` and `flag`, prepared. There is no or one question for the flag.
+    /// `Description::writtenWhen`, `readWhen` and `flag`, prepared. For the flag there is at most one question.
     [[nodiscard]] const std::vector<Question>& writtenWhen() const { return writtenWhen_; }
     [[nodiscard]] const std::vector<Question>& readWhen() const { return readWhen_; }
     [[nodiscard]] const std::vector<Question>& flag() const { return flag_; }

@@ -4,17 +4,17 @@
 
 namespace lv::analysis {
 
-/// Takes natural values one after the other: what JSON has, in the order in which a JSON text has it. Texts are views
-/// that are valid during the call.
+/// Takes natural values one after the other: the values of JSON, in the order of a JSON text. Texts are views that are
+/// valid during the call.
 class Sink {
 public:
-    /// What the entries of an array are.
+    /// The type of the entries of an array.
     enum class Entries {
         objects,  ///< Objects.
         numbers,  ///< Numbers.
     };
 
-    /// What a number can be.
+    /// The kinds of numbers.
     enum class NumberKind {
         integer,   ///< A whole number.
         fraction,  ///< A number of a quantity that can have digits after the point; this one may have none.
@@ -27,19 +27,19 @@ public:
     Sink& operator=(Sink&&) = delete;
     virtual ~Sink() = default;
 
-    /// An object begins: up to its `endObject` keys come, each with a value after it.
+    /// An object begins. Until its `endObject`, keys follow, each with a value after it.
     virtual void beginObject() = 0;
 
     /// The key of the value that comes next.
     virtual void key(std::string_view name) = 0;
 
-    /// The object that began last ends.
+    /// The innermost open object ends.
     virtual void endObject() = 0;
 
-    /// An array begins: up to its `endArray` its entries come.
+    /// An array begins. Until its `endArray`, its entries follow.
     virtual void beginArray(Entries entries) = 0;
 
-    /// The array that began last ends.
+    /// The innermost open array ends.
     virtual void endArray() = 0;
 
     /// A text, as bytes: in UTF-8 unless a record holds other bytes.
@@ -51,7 +51,7 @@ public:
     /// True or false.
     virtual void boolean(bool value) = 0;
 
-    /// Nothing.
+    /// The value null.
     virtual void null() = 0;
 };
 

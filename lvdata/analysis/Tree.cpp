@@ -44,7 +44,7 @@ void openElement(TreeBuilder& builder, const XMLView& element) {
     }
 }
 
-/// What comes next in document order, after all open elements that end here were closed; invalid at the end.
+/// The next node in document order; closes all open elements that end here. Invalid at the end.
 XMLView after(XMLView view, std::vector<XMLView>& open, TreeBuilder& builder) {
     while (!view.isValid() && !open.empty()) {
         builder.close();

@@ -16,7 +16,7 @@ namespace lv::analysis {
 struct Node {
     /// What it is.
     enum class Kind {
-        document,   ///< What holds the root element.
+        document,   ///< The parent of the root element.
         element,    ///< An element.
         attribute,  ///< An attribute.
         text,       ///< Text, or a CDATA section.
@@ -83,20 +83,20 @@ private:
 /// none.
 [[nodiscard]] const Node* textOf(const Node& element);
 
-/// A document as a tree of nodes: one form for the documents that are read and for those that records print. Nodes stay
-/// where they are as long as the tree.
+/// A document as a tree of nodes: the same form for documents that are read and documents that records print. Nodes
+/// keep their addresses as long as the tree exists.
 class Tree {
 public:
     /// The nodes of a document that the XML library holds. Names and texts are views into that document, which must
-    /// outlive the tree. Nesting costs no stack.
+    /// outlive the tree. Nesting uses no stack.
     explicit Tree(const XMLView& document);
 
-    /// The nodes of a text that `DataObject::toXMLString` printed, in a quarter of the time that parsing it takes.
-    /// Texts are those of the record: white space and carriage returns are there also where parsing the text would drop
-    /// or change them. Not for any other XML.
+    /// The nodes of a text that `DataObject::toXMLString` printed, in a quarter of the time of parsing it. Texts are
+    /// those of the record: they have white space and carriage returns even where parsing the text would drop or change
+    /// them. Not for any other XML.
     [[nodiscard]] static Tree ofPrinted(std::string text);
 
-    /// What holds the root element.
+    /// The parent of the root element.
     [[nodiscard]] const Node& document() const { return *document_; }
 
     /// The first element at document level; null when there is none.
@@ -106,7 +106,7 @@ private:
     friend class TreeBuilder;
     Tree() = default;
 
-    std::unique_ptr<std::string> printed_{};         // what the views are into; its place never changes
+    std::unique_ptr<std::string> printed_{};         // the text of the views; its address never changes
     std::deque<std::string> unescaped_{};            // texts that held entities
     std::vector<std::unique_ptr<Node[]>> blocks_{};  // NOLINT(*-avoid-c-arrays): of equal size
     std::size_t usedOfLast_ = 0;

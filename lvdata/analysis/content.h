@@ -9,13 +9,13 @@ namespace lv::analysis {
     return content == Description::Content::unsignedArray || content == Description::Content::signedArray;
 }
 
-/// Whether the content is a number or several.
+/// Whether the content is a number or several numbers.
 [[nodiscard]] constexpr bool isNumeric(Description::Content content) {
     return content == Description::Content::unsignedNumber || content == Description::Content::signedNumber ||
            isArray(content);
 }
 
-/// Whether the content is numbers that can be negative.
+/// Whether the content is numbers that may be negative.
 [[nodiscard]] constexpr bool isSigned(Description::Content content) {
     return content == Description::Content::signedNumber || content == Description::Content::signedArray;
 }

@@ -9,14 +9,14 @@ namespace {
 
 constexpr std::string_view digits = "0123456789";
 
-/// Reads along a text, a piece at a time.
+/// Reads a text piece by piece.
 class Pieces {
 public:
     explicit Pieces(std::string_view text) : rest_(text) {}
 
     [[nodiscard]] bool isAtEnd() const { return rest_.empty(); }
 
-    /// Takes at least and at most so many digits. Their value, or -1 when there are fewer.
+    /// Takes digits: at least and at most these numbers of them. Their value, or -1 when there are fewer.
     int number(std::size_t least, std::size_t most) {
         std::size_t length = 0;
         int value = 0;
@@ -30,7 +30,7 @@ public:
         return value;
     }
 
-    /// Takes one of these characters when it comes next. Which, or NUL.
+    /// Takes one of these characters if it comes next, and returns it; otherwise NUL.
     char oneOf(std::string_view characters) {
         if (rest_.empty() || characters.find(rest_.front()) == std::string_view::npos) {
             return '\0';

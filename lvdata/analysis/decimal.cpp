@@ -7,7 +7,7 @@ namespace lv::analysis {
 namespace {
 
 constexpr std::int64_t farExponent = 1'000'000'000'000;  // beyond the length of any text
-constexpr std::size_t digitsOfInt64 = 18;                // so many fit, whatever they are
+constexpr std::size_t digitsOfInt64 = 18;                // any number with so many digits fits
 
 bool isDigit(char character) {
     return character >= '0' && character <= '9';
@@ -20,7 +20,7 @@ struct Decimal {
     std::int64_t pointAfter = 0;
 };
 
-/// "-12" and the like; stops growing far beyond any text.
+/// "-12" and the like; the value stops growing far beyond the length of any text.
 std::int64_t exponentOf(std::string_view text) {
     const bool isNegative = !text.empty() && text.front() == '-';
     std::int64_t exponent = 0;

@@ -18,11 +18,11 @@ namespace lv::analysis {
 /// "a number from -2147.483648 to 2147.483647": what numbers of the shape can be.
 [[nodiscard]] std::string rangeText(const Shape& shape, const Quantity* quantity);
 
-/// "256 or 1024", when an array of the shape counts only with other numbers of entries than that; otherwise empty.
+/// "256 or 1024", when the number of entries is not valid for an array of the shape; otherwise empty.
 [[nodiscard]] std::string expectedEntries(const Shape& shape, std::size_t entries);
 
-/// What keeps an XML document from carrying the text, "a carriage return" or the like; otherwise empty. An attribute
-/// carries a text of nothing but white space, an element does not. The text must be UTF-8.
+/// What an XML document cannot carry in the text, "a carriage return" or the like; otherwise empty. Whitespace-only
+/// text is possible in an attribute, but not in an element. The text must be UTF-8.
 [[nodiscard]] std::string whatXMLCannotCarry(std::string_view text, Description::Place place);
 
 }  // namespace lv::analysis

@@ -34,7 +34,7 @@ std::size_t distance(std::string_view left, std::string_view right) {
 }  // namespace
 
 const std::string* closest(std::string_view word, const std::vector<std::string>& words) {
-    constexpr std::size_t longest = 100;  // names are shorter, and the time goes with the product of both lengths
+    constexpr std::size_t longest = 100;  // names are shorter, and time is proportional to the product of both lengths
     if (word.size() > longest) {
         return nullptr;
     }

@@ -6,8 +6,8 @@
 
 namespace lv::analysis {
 
-/// Of several words the one that was probably meant by a misspelt one, whatever its upper and lower case; null when
-/// none is close. The time goes with the length of all words.
+/// The one of several words that was probably meant by a misspelt word, ignoring case; null when none is close. Time is
+/// proportional to the length of all words.
 [[nodiscard]] const std::string* closest(std::string_view word, const std::vector<std::string>& words);
 
 }  // namespace lv::analysis

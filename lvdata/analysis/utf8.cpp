@@ -48,7 +48,7 @@ bool continues(std::string_view text, const Form& form) {
     return true;
 }
 
-/// How many bytes from here are ASCII, in steps of eight: most documents are nothing else.
+/// How many bytes from here are ASCII, in steps of eight: most documents have only ASCII.
 std::size_t asciiLength(std::string_view text) {
     constexpr std::uint64_t highBits = 0x8080808080808080U;
     std::size_t length = 0;

@@ -80,7 +80,7 @@ XMLVerdict judgeXML(const std::string& text) {
         if (XML_GetErrorCode(parser.get()) == XML_ERROR_NO_MEMORY) {
             throw std::bad_alloc();
         }
-        const bool isText = isUTF8(text);  // other bytes are a matter of their own: they are kept
+        const bool isText = isUTF8(text);  // other bytes are reported separately: they are kept
         verdict.fault = isText ? std::optional(faultOf(parser.get())) : std::nullopt;
     }
     return verdict;

@@ -5,7 +5,7 @@
 
 namespace lv::analysis {
 
-/// What a strict parser of XML 1.0 says of a text.
+/// The result of a strict parser of XML 1.0.
 struct XMLVerdict {
     /// Where the text breaks the rules of XML.
     struct Fault {
@@ -13,11 +13,11 @@ struct XMLVerdict {
         std::string reason{};  ///< "the end tag does not match the start tag".
     };
 
-    std::optional<Fault> fault{};    ///< The first fault; nothing when the text is well-formed, or is not UTF-8.
+    std::optional<Fault> fault{};    ///< The first fault; no value when the text is well-formed, or is not UTF-8.
     std::string declaredEncoding{};  ///< The encoding that the XML declaration names; empty when it names none.
 };
 
-/// Judges the text as UTF-8, whatever encoding it declares. The library's own parser takes more than XML allows, and
+/// Checks the text as UTF-8, whatever encoding it declares. The library's own parser accepts more than XML allows, and
 /// may then read less than the text holds. Entities that the document itself declares are not expanded.
 [[nodiscard]] XMLVerdict judgeXML(const std::string& text);
 

@@ -6,7 +6,7 @@
 
 namespace lv::analysis {
 
-/// The text, cut after some characters: texts can be as long as the document.
+/// The text, shortened, because texts can be as long as the document.
 [[nodiscard]] std::string excerpt(std::string_view text);
 
 /// The same in quotation marks.

@@ -12,22 +12,23 @@ namespace lv {
 #pragma GCC visibility push(default)
 #endif
 
-/// The base of the records that hold a list of like rows instead of a fixed set of values.
+/// The base of the records that hold a list of rows of one type instead of a fixed set of values.
 ///
-/// `Row` is a plain value without a base: it needs a default state and copying. Rows are never printed by themselves;
-/// the record that owns them reads and writes their elements. Parsing replaces the rows and never merges them: a root
-/// element of the right name empties the list first; one with a different name leaves the old rows in place.
+/// `Row` is a plain value type without a base class: it must be default-constructible and copyable. Rows are never
+/// printed by themselves; the record that owns them reads and writes their elements. Parsing replaces the rows and
+/// never merges them: a root element with the right name empties the list first; one with a different name leaves the
+/// rows unchanged.
 ///
 /// \tparam Row  the type of one row, such as `MeasurementDataObject`
 template <class Row>
 class DataArrayObject : public DataObject {
 public:
-    /// The rows in document order, reached directly: fill them before printing, read them after parsing. The record
-    /// says which rows are written and which are kept when read.
+    /// The rows in document order. Access them directly: fill them before printing, read them after parsing. The
+    /// documentation of the record says which rows are written, and which are kept when read.
     std::vector<Row> objects;
 
-    /// Whether this record was ever read from a root element of its own name, even one without rows. Not in documents,
-    /// not compared, and used by nothing in the library.
+    /// Whether this record was ever read from a root element with its own name, even one without rows. It is not part
+    /// of documents, not compared, and not used by the library.
     bool parsed = false;
 
 protected:

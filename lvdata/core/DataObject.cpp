@@ -31,7 +31,7 @@ XMLElement DataObject::appendRootXMLElement(const std::string& name, XMLNode& pa
     return XMLElement(parent.get()).appendChild(name);
 }
 
-// Wrappers are handles: handing them over by value is how the published signatures take them.
+// Wrappers are handles: the published signatures take them by value.
 // NOLINTBEGIN(performance-unnecessary-value-param)
 XMLElement DataObject::appendVersionAttribute(XMLElement element) const {
     detail::Writer io(element);

@@ -15,8 +15,8 @@ namespace lv {
 ///
 /// A record is a plain value: created with its defaults, filled by the application or by parsing, printed any number of
 /// times; a copy shares nothing with its source. In a document it is one element, its root element, at document level
-/// or inside another record's element. One thread at a time, or any number of threads as long as all of them only read
-/// or print it; every call works on its own document.
+/// or inside another record's element. Only one thread may use a record at a time, or any number of threads if all of
+/// them only read or print it; every call works on its own document.
 ///
 /// Failures are return values: only the standard library throws (`std::bad_alloc`), and nothing is logged.
 class LVDATA_EXPORT DataObject {
@@ -25,10 +25,10 @@ public:
     virtual ~DataObject();
 
     /// Reads the record from its root element. False, with the record unchanged, when the element is invalid or has a
-    /// different name (compared exactly). Otherwise true. Every child is optional: one that is there replaces the
-    /// member and sets its flag, a missing one clears the flag and leaves the earlier value in place. A string whose
-    /// element has no text keeps its value with the flag set; a number without text counts as missing. Each record
-    /// states where it differs. Children that the record does not know are ignored.
+    /// different name (compared exactly). Otherwise true. Every child is optional: an existing child replaces the
+    /// member and sets its flag, a missing one clears the flag and keeps the earlier value. A string whose element has
+    /// no text keeps its value with the flag set; a number without text counts as missing. The documentation of each
+    /// record says where it differs. Children that the record does not know are ignored.
     virtual bool parseXMLElement(XMLElement element) = 0;
 
     /// Appends the record as a new last child of `parent`, a document or an element, and returns its root element. The
@@ -39,8 +39,8 @@ public:
     /// refuses the text or `parseXMLElement` refuses the document's first element. `text` may be a member of this
     /// record.
     ///
-    /// When memory runs out (`std::bad_alloc`), each value and each flag is as it was or as the document has it, and a
-    /// list may end in a row read in part. The record stays usable, and parsing once more reads it whole.
+    /// When memory runs out (`std::bad_alloc`), each value and each flag is either unchanged or as in the document, and
+    /// a list may end with an incomplete row. The record stays usable, and parsing again reads it completely.
     bool parseXMLString(const std::string& text);
 
     /// The same as `parseXMLString`, with the reason and the line when the text is refused.
@@ -54,26 +54,26 @@ public:
     XMLElement appendRootXMLElement(const std::string& name, XMLNode& parent) const;
 
     /// Sets the attributes "Version" and "MinorVersion" to the values of `version` and `minorVersion`, whatever their
-    /// flags, and returns the element. Of an invalid element nothing is set.
+    /// flags, and returns the element. Does nothing if the element is invalid.
     XMLElement appendVersionAttribute(XMLElement element) const;
 
     /// Reads both attributes into `version` and `minorVersion`. A missing or empty one clears the flag and keeps the
-    /// number. No number is refused, so a record read from a document of another version writes that document's numbers
-    /// back.
+    /// number. No number is refused: a record read from a document with a different version writes that document's
+    /// numbers back.
     void parseVersionAttribute(XMLElement element);
 
     /// The version of the record's format, attribute "Version" of the root element. A fresh record holds the number of
-    /// its class with a clear flag; after parsing, the flag says whether the document had a number. Written always.
+    /// its class with a clear flag; after parsing, the flag says whether the document had a number. Always written.
     property<unsigned int> version;
 
     /// The minor version of the record's format, attribute "MinorVersion" of the root element. A fresh record holds the
-    /// number of its class with a clear flag; after parsing, the flag says whether the document had a number. Written
-    /// always.
+    /// number of its class with a clear flag; after parsing, the flag says whether the document had a number. Always
+    /// written.
     property<unsigned int> minorVersion;
 
     /// Whether `ParameterSetting` and `TargetSetting` write their element "HLGSystemGamma". The switch of the record
-    /// that is printed counts for all records inside it; their own switches are neither used nor changed. It is not in
-    /// documents, and parsing leaves it as it is.
+    /// that is printed applies to all records inside it; their own switches are neither used nor changed. The switch is
+    /// not part of documents, and parsing does not change it.
     bool writeHLGSystemGamma = false;
 
 protected:

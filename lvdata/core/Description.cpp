@@ -36,7 +36,7 @@ std::string isNone(const Texts& texts) {
     return texts.size() == 1 ? "not " + quoted(texts.front()) : "neither " + joined(quoted(texts), "nor");
 }
 
-/// What a condition says of its subjects; empty for one that has none.
+/// What a condition says about its subjects; empty when it has none.
 std::string predicateOf(const Condition& condition) {
     const bool isOne = condition.subjects.size() == 1;
     const std::string verb = isOne ? "is " : "are ";
@@ -64,12 +64,12 @@ std::string predicateOf(const Condition& condition) {
     return "";
 }
 
-/// One of its subjects is enough.
+/// Whether one of its subjects is enough.
 bool needsOneSubject(const Condition& condition) {
     return condition.kind == Condition::Kind::exists || condition.kind == Condition::Kind::hasText;
 }
 
-/// Whether they say the same, each of one subject.
+/// Whether they say the same about one subject each.
 bool saySame(const std::vector<Condition>& conditions) {
     const std::string predicate = conditions.empty() ? "" : predicateOf(conditions.front());
     return !predicate.empty() && std::all_of(conditions.begin(), conditions.end(), [&](const Condition& condition) {

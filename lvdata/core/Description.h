@@ -12,12 +12,12 @@ namespace lv {
 
 /// A condition on what a record holds, such as `../\@Type is "Value"`.
 ///
-/// Subjects are XPath expressions. They start at the element, attribute or text whose description holds the condition:
-/// "." is the described thing itself, "../\@Type" an attribute of its parent element. They stand for the members that
-/// are read from there. So a condition looks at values as they were read, at the first of several elements, and at the
-/// value that a fresh record has (`Description::defaultText`) where the document has none.
+/// The subjects are XPath expressions. They start at the element, attribute or text whose description has the
+/// condition: "." is the described thing itself, "../\@Type" an attribute of its parent element. They stand for the
+/// members that are read from there. So a condition looks at values as they were read, at the first of several
+/// elements, and, if the document has no value, at the value of a fresh record (`Description::defaultText`).
 struct LVDATA_EXPORT Condition {
-    /// What a condition asks. It decides which of the other members count.
+    /// The kind of condition. It determines which of the other members are used.
     enum class Kind {
         oneOf,        ///< The subject's value is one of `texts`.
         noneOf,       ///< The subject's value is none of `texts`.
@@ -28,17 +28,17 @@ struct LVDATA_EXPORT Condition {
         hasText,      ///< At least one of the subjects is there with a text.
         anyOf,        ///< At least one of `alternatives` holds.
         hlgSwitch,    ///< The record that is printed has `writeHLGSystemGamma` set.
-        rule,         ///< What `rule` says.
+        rule,         ///< The rule in the member `rule` holds.
     };
 
-    /// What the condition asks.
+    /// The kind of condition.
     Kind kind = Kind::exists;
 
-    /// The XPath expressions of what is looked at; empty for `anyOf` and `hlgSwitch`.
+    /// The XPath expressions of the subjects; empty for `anyOf` and `hlgSwitch`.
     std::vector<std::string> subjects{};
 
-    /// What the subject is compared with, for `oneOf` and `noneOf`; otherwise empty. Numbers are in decimal, as in a
-    /// document.
+    /// The texts that the subject is compared with, for `oneOf` and `noneOf`; otherwise empty. Numbers are in decimal,
+    /// as in a document.
     std::vector<std::string> texts{};
 
     /// The number of entries, for `haveEntries`; otherwise 0.
@@ -54,20 +54,21 @@ struct LVDATA_EXPORT Condition {
     [[nodiscard]] std::string toString() const;
 };
 
-/// Everything that the library knows of a record's document: a tree with a node for each element and attribute, in the
-/// order of writing. Each record class makes its own (`TargetSetting::describe()`); `recordClass` finds it by name.
+/// Everything that the library knows about a record's document: a tree with a node for each element and attribute, in
+/// the order of writing. Each record class makes its own (`TargetSetting::describe()`); `recordClass` finds it by name.
 ///
-/// It is made from the very code that reads and writes the record, so it cannot contradict that. A plain value, made
-/// anew by each call.
+/// It is made from the same code that reads and writes the record, so the two cannot differ. A plain value; each call
+/// makes a new one.
 struct LVDATA_EXPORT Description {
-    /// Where the described thing stands in its parent element.
+    /// The place of the described thing in its parent element.
     enum class Place {
         element,    ///< A child element.
         attribute,  ///< An attribute.
-        text,  ///< The parent's own text. Of several in one element, conditions let at most one be read and written.
+        text,  ///< The parent's own text. If an element can have several, conditions allow at most one to be read and
+               ///< written.
     };
 
-    /// What its text is.
+    /// The type of its text.
     enum class Content {
         none,            ///< It has no text: an element that holds others, or nothing.
         string,          ///< Any text.
@@ -78,19 +79,20 @@ struct LVDATA_EXPORT Description {
         signedArray,     ///< Such signed numbers, joined by "|".
     };
 
-    /// How often it stands in its parent.
+    /// How often it occurs in its parent.
     enum class Repetition {
-        once,   ///< Once. Of several, the first is read.
+        once,   ///< Once. If there are several, the first is read.
         rows,   ///< Any number of times, one for each row of a list.
-        byKey,  ///< Once for each text of a key attribute. Of several with the same key, the last with a text is read.
+        byKey,  ///< Once for each text of a key attribute. If several have the same key, the last one with a text is
+                ///< read.
     };
 
-    /// A quantity that takes the place of the usual one when a condition holds.
+    /// A quantity that replaces the usual one when a condition holds.
     struct QuantityWhen {
-        /// When the other quantity counts.
+        /// When the other quantity applies.
         Condition condition;
 
-        /// The quantity that then counts, instead of `Description::quantity`.
+        /// The quantity that then applies, instead of `Description::quantity`.
         Quantity quantity;
     };
 
@@ -100,36 +102,36 @@ struct LVDATA_EXPORT Description {
     /// Whether it is a child element, an attribute or the text of its parent.
     Place place = Place::element;
 
-    /// What its text is.
+    /// The type of its text.
     Content content = Content::none;
 
-    /// What its number or numbers stand for. Nothing for other contents.
+    /// What its number or numbers stand for. No value for other contents.
     std::optional<Quantity> quantity{};
 
-    /// Other quantities, of which the first whose condition holds counts.
+    /// Other quantities: the first one whose condition holds applies.
     std::vector<QuantityWhen> otherQuantities{};
 
-    /// The numbers of entries at which an array counts; empty: any. An array with another number of entries is not
-    /// written, and when it is read it clears its flag.
+    /// The valid numbers of entries of an array; empty: any. An array with a different number of entries is not
+    /// written, and when it is read its flag is cleared.
     std::vector<std::size_t> lengths{};
 
-    /// The text of a fresh record: what a value has that no document gave. "0", "false", or empty for strings and
-    /// arrays; only version numbers begin with something else.
+    /// The text in a fresh record: the value when no document gave one. "0", "false", or empty for strings and arrays;
+    /// only version numbers have another default.
     std::string defaultText{};
 
-    /// A text that is written always; what a document has in its place is not looked at.
+    /// A constant text that is always written; the text in a document is ignored.
     std::optional<std::string> constant{};
 
-    /// How often it stands in its parent.
+    /// How often it occurs in its parent.
     Repetition repetition = Repetition::once;
 
-    /// With `Repetition::byKey`: the name of the key attribute, which is one of `children`, too. Otherwise empty.
+    /// With `Repetition::byKey`: the name of the key attribute, which is also one of `children`. Otherwise empty.
     std::string keyAttribute{};
 
     /// With `Repetition::byKey`: the text of the key attribute. Otherwise empty.
     std::string keyText{};
 
-    /// The class of the record that the element is; empty for any other. Nested records are described whole.
+    /// The class of the record, if the element is a record; otherwise empty. Nested records are described completely.
     std::string record{};
 
     /// The version of a fresh record of that class; 0 for anything else.
@@ -138,7 +140,8 @@ struct LVDATA_EXPORT Description {
     /// The minor version of a fresh record of that class; 0 for anything else.
     unsigned int minorVersion = 0;
 
-    /// Whether it is written only when its flag is set. Otherwise it is written always, or under `writtenWhen` alone.
+    /// Whether it is written only when its flag is set. Otherwise it is written always, or depends only on
+    /// `writtenWhen`.
     bool isOptional = false;
 
     /// All these must hold for it to be written, in addition to what its parents need.
@@ -147,8 +150,9 @@ struct LVDATA_EXPORT Description {
     /// All these must hold for it to be read; otherwise it is ignored as if it were not there.
     std::vector<Condition> readWhen{};
 
-    /// What sets the member's flag when a document is read; the flag is clear otherwise. An array must also have one of
-    /// the `lengths`. Of a row: what keeps it. Nothing for a plain value, which has no flag.
+    /// The condition that sets the member's flag when a document is read; otherwise the flag is clear. An array must
+    /// also have one of the `lengths`. For a row: the condition for keeping it. No value for a plain value, which has
+    /// no flag.
     std::optional<Condition> flag{};
 
     /// Attributes, texts and elements in the order of writing.

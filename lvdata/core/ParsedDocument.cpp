@@ -34,7 +34,7 @@ std::string ParsedDocument::rootElementName() const {
 }
 
 XMLView ParsedDocument::view() {
-    mayReadInPlace_ = false;  // a text that is looked at is moved in memory
+    mayReadInPlace_ = false;  // reading a text through the view moves it in memory
     return XMLView(document_);
 }
 

@@ -4,7 +4,7 @@
 
 /// The primaries of a display with its white and its black, all zero by default. A plain aggregate, copied by value.
 ///
-/// `ProfileData` takes measurements in it and gives them back. It uses only `X`, `Y` and `Z` of each colour.
+/// `ProfileData` takes and returns measurements in this form. It uses only `X`, `Y` and `Z` of each colour.
 struct PrimaryColours {
     colour red;    ///< The red primary.
     colour green;  ///< The green primary.

@@ -19,7 +19,7 @@ ColourMembers all(const detail::Notation<Size>& notation) {
     return {notation.begin(), notation.end()};
 }
 
-/// The members of a colour that the quantity counts; none when it does not count colours.
+/// The members of a colour that the quantity applies to; none when it does not apply to colours.
 ColourMembers colourMembers(const Quantity& quantity) {
     if (quantity == quantities::codeValue) {
         return all(detail::rgb);

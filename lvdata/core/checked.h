@@ -7,27 +7,27 @@
 
 #include <vector>
 
-/// Setters that answer whether a value can be stored.
+/// Setters that check whether a value can be stored, and return the answer.
 ///
 /// The setters of the records whose names end in `_x` store every value: too large ones wrap, NaN becomes 0, and
 /// negative ones drift (see lvdata/core/quantities.h). For values that come from a user or an instrument, call these
-/// functions instead. They take the member itself and its quantity, which the member's comment names:
+/// functions instead. Their arguments are the member itself and its quantity, which is named in the member's comment:
 ///
 ///     if (!lv::trySet(parameter.redGain, gain, lv::quantities::gain)) ...
 ///     if (!lv::trySet(parameter.redLUT, curve, parameter.tableQuantity())) ...
 ///     if (!lv::trySetColour(row.XYZ, measured, lv::quantities::tristimulus)) ...
 ///     if (!lv::trySetChromaticity(whitePoint.x, whitePoint.y, measured)) ...
 ///
-/// - What is stored is the integer next to the value times the factor of the quantity: with the factor 1000000, -0.7 is
-///   -700000. Half-way between two integers it is the one further from zero.
+/// - The stored number is the value times the factor of the quantity, rounded to the nearest integer: with the factor
+///   1000000, -0.7 is -700000. A value half-way between two integers is rounded away from zero.
 /// - The answer is false when a value is NaN or infinite, when its integer does not fit the member (unsigned: 0 to
 ///   4294967295, signed: -2147483648 to 2147483647), and when an array has a length that the member is not written
-///   with. Then nothing is changed.
-/// - The answer is true when everything is stored. A `property` then has its flag set, too.
+///   with. Nothing is changed then.
+/// - The answer is true when everything is stored. The flag of a `property` is then set, too.
 ///
-/// No other range is checked: whether a brightness of 5000 makes sense, the application knows. Types and flags of other
-/// members stay as they are. When memory runs out (`std::bad_alloc`), nothing is changed. The functions keep no state:
-/// threads may call them at the same time, each for a record of its own.
+/// No other range is checked: only the application knows whether a brightness of 5000 makes sense. Types and flags of
+/// other members do not change. When memory runs out (`std::bad_alloc`), nothing is changed. The functions keep no
+/// state: several threads may call them at the same time, each for a different record.
 namespace lv {
 
 /// Stores a value as an unsigned number.
@@ -62,10 +62,10 @@ namespace lv {
 [[nodiscard]] LVDATA_EXPORT bool trySetColour(std::vector<int>& member, const colour& value, const Quantity& quantity);
 
 /// Stores the members `x` and `y` of a colour as `quantities::chromaticity` in the two members of a white point or a
-/// primary: both or, when one of them does not fit, none.
+/// primary: both of them, or none if one does not fit.
 [[nodiscard]] LVDATA_EXPORT bool trySetChromaticity(unsigned int& x, unsigned int& y, const colour& value);
 
-/// The same for a property, whose flag is then set: of a number.
+/// The same for a property that holds a number. Its flag is then set.
 template <class Number>
 [[nodiscard]] bool trySet(property<Number>& member, double value, const Quantity& quantity) {
     const bool isStored = trySet(member.value, value, quantity);

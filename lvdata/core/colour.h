@@ -1,12 +1,10 @@
 #pragma once
 
-/// A colour in several notations side by side: the value type in which the records' `_x` accessors take colours from
-/// the caller and give them back.
+/// A colour in several notations: the type in which the records' `_x` accessors take and return colours.
 ///
-/// An accessor fills or reads only the members of its own notation; in a colour that a getter returns every other
-/// member is zero. No record stores a colour: each keeps scaled integers of its own, so what comes back from an
-/// accessor pair is the value rounded to that scale (see lvdata/core/quantities.h). A plain aggregate, all zero by
-/// default, copied by value.
+/// An accessor fills or reads only the members of its own notation; all other members of a returned colour are zero.
+/// Records do not store a colour but scaled integers, so a value that was set comes back rounded to that scale (see
+/// lvdata/core/quantities.h). A plain aggregate, all zero by default, copied by value.
 struct colour {
     double cyan = 0.0;     ///< Cyan of CMYK as a fraction: 1.0 is 100 %.
     double magenta = 0.0;  ///< Magenta of CMYK as a fraction: 1.0 is 100 %.
@@ -17,14 +15,14 @@ struct colour {
     double green = 0.0;  ///< Green of RGB as a fraction: 1.0 is the code value 255.
     double blue = 0.0;   ///< Blue of RGB as a fraction: 1.0 is the code value 255.
 
-    /// CIE X tristimulus value, as measured; unit not recorded. In `MeasurementDataObject::PQR_x` it carries P.
+    /// CIE X tristimulus value, as measured; unit not recorded. In `MeasurementDataObject::PQR_x` it is P.
     double X = 0.0;
 
     /// CIE Y tristimulus value, as measured; whether it is absolute, in cd/m², is not recorded. In
-    /// `MeasurementDataObject::PQR_x` it carries Q.
+    /// `MeasurementDataObject::PQR_x` it is Q.
     double Y = 0.0;
 
-    /// CIE Z tristimulus value, as measured; unit not recorded. In `MeasurementDataObject::PQR_x` it carries R.
+    /// CIE Z tristimulus value, as measured; unit not recorded. In `MeasurementDataObject::PQR_x` it is R.
     double Z = 0.0;
 
     double x = 0.0;  ///< CIE 1931 chromaticity coordinate x, 0 to 1.

@@ -14,22 +14,22 @@
 /// lvdata/core/checked.h has setters that do:
 ///
 /// - A negative value is stored as 0 in an unsigned number.
-/// - A signed number (XYZ, CIELAB and PQR of a measurement, the emulation matrix) takes negative values. Since one half
-///   is added to them, too, they are stored one step closer to zero than rounding gives: with the factor 1000000, -0.7
-///   becomes -699999. Reading such a number and setting it again moves it one step each time: it drifts toward zero.
+/// - A signed number (XYZ, CIELAB and PQR of a measurement, the emulation matrix) takes negative values. One half is
+///   added to them, too, so they are stored one step closer to zero than rounding gives: with the factor 1000000, -0.7
+///   becomes -699999. Each time such a number is read and set again, it moves one step toward zero.
 /// - A result that does not fit into 32 bits wraps: its low 32 bits are stored. With the factor 1000000 an unsigned
 ///   number holds values up to 4294.967295, a signed one up to 2147.483647 and then reads back as negative: a Y of 4000
 ///   in a measurement comes back as -294.967296.
 /// - NaN, infinities and products of 2^63 and more in magnitude are stored as 0.
 namespace lv::quantities {
 
-/// A number that is stored as it is. Its unit and its meaning are not recorded: the application defines them.
+/// A number that is stored unscaled. Its unit and its meaning are not recorded: the application defines them.
 inline constexpr Quantity number = {"number", 1, unknownUnit, "defined by the application"};
 
 /// One of the two version numbers of a record.
 inline constexpr Quantity version = {"version", 1, "", "version number of the record's format"};
 
-/// A number that only tells things apart: an index, the identifier of a sensor, a kind of schedule.
+/// A number that only identifies something: an index, the identifier of a sensor, a kind of schedule.
 inline constexpr Quantity identifier = {"identifier", 1, "", "a number that identifies something"};
 
 /// One of R, G and B as a fraction of the code value 255.
@@ -38,7 +38,7 @@ inline constexpr Quantity codeValue = {"codeValue", 255, "", "RGB code value as 
 /// One of C, M, Y and K as a fraction, stored in per cent.
 inline constexpr Quantity inkAmount = {"inkAmount", 100, "", "CMYK amount as a fraction of 100 %"};
 
-/// One of CIE X, Y and Z. Unit not recorded: nothing says whether Y is absolute, in cd/m².
+/// One of CIE X, Y and Z. Unit not recorded: Y may be absolute, in cd/m², or relative.
 inline constexpr Quantity tristimulus = {"tristimulus", 1000000, unknownUnit, "CIE XYZ tristimulus value"};
 
 /// One of CIE L*, a* and b*.
@@ -62,7 +62,7 @@ inline constexpr Quantity curveEntry16 = {"curveEntry16", 65535, "", "tone curve
 /// An entry of a tone curve of 24 bits.
 inline constexpr Quantity curveEntry24 = {"curveEntry24", 16777215, "", "tone curve entry as a fraction of 16777215"};
 
-/// The one parameter of a target curve that is given by a formula. What it means is not recorded.
+/// The parameter of a target curve that is given by a formula. Its meaning is not recorded.
 inline constexpr Quantity curveParameter = {"curveParameter", 1000000, unknownUnit, "parameter of a target curve"};
 
 /// An entry of a target curve that is given by a table.
@@ -80,7 +80,7 @@ inline constexpr Quantity gain = {"gain", 1000000, "", "gain of a channel"};
 /// An entry of the emulation matrix.
 inline constexpr Quantity matrixEntry = {"matrixEntry", 1000000, "", "entry of the emulation matrix"};
 
-/// A brightness of the type "Candela". The record says no more than that word: whether it means cd/m² is not recorded.
+/// A brightness of the type "Candela". It is not recorded whether that means cd/m².
 inline constexpr Quantity candela = {"candela", 1, "candela", "brightness"};
 
 /// A brightness of the type "Percent".

@@ -9,7 +9,7 @@ namespace lv {
 
 /// Eight free labels that a user or an organisation attaches to a monitor: inventory numbers, locations and the like.
 ///
-/// The library gives them no meaning. Each is a child of the root element, and is written when it is set, also when its
+/// The library does not interpret them. Each is a child of the root element, and is written when it is set, even if its
 /// text is empty. Version 1.0.
 class LVDATA_EXPORT AssetInfo : public DataObject {
 public:
@@ -40,8 +40,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const AssetInfo& left, const AssetInfo& right);
 [[nodiscard]] inline bool operator!=(const AssetInfo& left, const AssetInfo& right) {

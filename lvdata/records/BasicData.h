@@ -10,11 +10,10 @@
 namespace lv {
 
 /// The circumstances of a calibration run: the monitor's usage time, the sensors, the correlation between them, white
-/// points, and who ran it when with what.
+/// points, executor, date and software.
 ///
-/// All members are children of the root element; only "Type" of the executor stands one level deeper. Numbers are
-/// stored as they are, except the two white points: see lvdata/core/quantities.h for how their accessors convert.
-/// Version 3.0.
+/// All members are children of the root element; only "Type" of the executor is one level deeper. Numbers are stored
+/// unscaled, except the two white points: see lvdata/core/quantities.h for how their accessors convert. Version 3.0.
 class LVDATA_EXPORT BasicData : public DataObject {
 public:
     /// The name of the root element, compared exactly.
@@ -48,7 +47,7 @@ public:
     /// Serial number of the colour sensor that measured, element "ColorSensorSerial", kept as text. Written when set.
     property<std::string> colorSensorSerial;
 
-    /// Correction of the colour sensor that measured, element "ColorSensorCorrection". What the number means is not
+    /// Correction of the colour sensor that measured, element "ColorSensorCorrection". The meaning of the number is not
     /// recorded. Written when set.
     property<unsigned int> colorSensorCorrection;
 
@@ -67,8 +66,8 @@ public:
     /// Identifier of the correlation, element "ColorSensorCorrelationID". Written when set.
     property<unsigned int> colorSensorCorrelationID;
 
-    /// Date of the correlation, element "ColorSensorCorrelationDate": any text, its form is not recorded. Written when
-    /// set.
+    /// Date of the correlation, element "ColorSensorCorrelationDate": any text; the format is not recorded. Written
+    /// when set.
     property<std::string> colorSensorCorrelationDate;
 
     /// Identifier of the correlation matrix in use, element "ColorSensorCorrelationMatrixID". Written when set.
@@ -104,11 +103,11 @@ public:
     /// recorded. Written when set.
     property<std::string> executedDate;
 
-    /// A priority, element "DUEPriority". What the number means is not recorded. Written when set.
+    /// A priority, element "DUEPriority". The meaning of the number is not recorded. Written when set.
     property<unsigned int> DUEPriority;
 
     /// What kind of executor ran the calibration, element "Type" inside "Executor". Written when set, also when empty.
-    /// After parsing, the flag says whether the text that the member then holds is not empty, an earlier text included.
+    /// After parsing, the flag is set if the member holds text, even text from an earlier document.
     property<std::string> executorType;
 
     /// \name The white points as colours
@@ -131,8 +130,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const BasicData& left, const BasicData& right);
 [[nodiscard]] inline bool operator!=(const BasicData& left, const BasicData& right) {

@@ -11,17 +11,17 @@
 
 namespace lv {
 
-/// The outcome of one colour mode's last calibration, element "ColorMode".
+/// The result of one colour mode's last calibration, element "ColorMode".
 ///
-/// Unless said otherwise, a member is a child of that element. The nested records `basicData`, `measurementData` and
+/// Unless stated otherwise, a member is a child of that element. The nested records `basicData`, `measurementData` and
 /// `monitorParameter` are written when their flags are set: if you fill one, set its flag, too. `profileData` is always
 /// written.
 class CalibrationModeResultObject {
 public:
-    /// The emulation look-up table in use. Plain values without flags of their own: when `present` is set, a missing
-    /// number is written as 0.
+    /// The emulation look-up table in use. Plain values without flags: when `present` is set, a missing number is
+    /// written as 0.
     struct EmulationLUT {
-        /// Availability of the table, element "Availability" inside "EmulationLUT". What the number means is not
+        /// Availability of the table, element "Availability" inside "EmulationLUT". The meaning of the number is not
         /// recorded. Written whenever "EmulationLUT" is.
         unsigned int availability = 0;
 
@@ -36,8 +36,8 @@ public:
         bool present = false;
     };
 
-    /// The kind of colour mode, attribute "Type". Always written, whatever the flag; empty in a fresh row. Which texts
-    /// there are is defined by the application.
+    /// The kind of colour mode, attribute "Type". Always written, whatever the flag; empty in a fresh row. The possible
+    /// texts are defined by the application.
     property<std::string> type{};
 
     /// Which colour mode it is, element "Index". Rows are neither merged nor sorted by it. Written when set.
@@ -46,7 +46,7 @@ public:
     /// Name of the colour mode, element "Name". Written when set.
     property<std::string> name{};
 
-    /// When the mode was calibrated, element "CalibratedTime": any text, its form is not recorded. Written when set.
+    /// When the mode was calibrated, element "CalibratedTime": any text; the format is not recorded. Written when set.
     property<std::string> calibratedTime{};
 
     /// The circumstances of the run, element "BasicData". Written when `hasBasicData` is set.
@@ -61,7 +61,7 @@ public:
     /// Whether `measurementData` is set. After parsing: whether its element was found.
     bool hasMeasurementData = false;
 
-    /// Whether the black measurement is valid, element "HasValidMeasuredBlackValue". Written when set, also when false.
+    /// Whether the black measurement is valid, element "HasValidMeasuredBlackValue". Written when set, even if false.
     property<bool> hasValidMeasuredBlackValue{};
 
     /// The monitor's adjustments, element "MonitorParameter". Written when `hasMonitorParameter` is set.
@@ -70,22 +70,22 @@ public:
     /// Whether `monitorParameter` is set. After parsing: whether its element was found.
     bool hasMonitorParameter = false;
 
-    /// What the profile was built from, element "ProfileData". Always written: a row that was read without it gains one
-    /// with default values when it is printed.
+    /// The data that the profile was built from, element "ProfileData". Always written: if a row was read without it,
+    /// printing adds it with default values.
     ProfileData profileData{};
 
-    /// After parsing: whether the element "ProfileData" was found. Writing does not look at it.
+    /// After parsing: whether the element "ProfileData" was found. Writing ignores it.
     bool hasProfileData = false;
 
     /// The emulation look-up table in use, element "EmulationLUT". Written when its member `present` is set.
     EmulationLUT emulationLUT{};
 };
 
-/// The emulation look-up table of a row, under a shorter name.
+/// A shorter name for the emulation look-up table of a row.
 using EmulationLUT = CalibrationModeResultObject::EmulationLUT;
 
-/// The outcomes of the last calibrations, one element "ColorMode" per colour mode in list order. Nothing is merged or
-/// sorted, and every such element makes a row, even an empty one. Version 2.0.
+/// The results of the last calibrations, one element "ColorMode" per colour mode in list order. Nothing is merged or
+/// sorted, and every such element becomes a row, even an empty one. Version 2.0.
 class LVDATA_EXPORT CalibrationModeResult : public DataArrayObject<CalibrationModeResultObject> {
 public:
     /// The name of the root element, compared exactly.
@@ -108,8 +108,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma` and `parsed`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma` and `parsed`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const CalibrationModeResultObject::EmulationLUT& left,
                                             const CalibrationModeResultObject::EmulationLUT& right);

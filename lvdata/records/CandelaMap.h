@@ -10,22 +10,22 @@ namespace lv {
 
 /// One map of luminance values over the screen, inside the element "Uniformity" or "Brightness".
 ///
-/// To have a map written, fill `values` and set `valid`.
+/// A map is written only if `valid` is set: fill `values` and set `valid`.
 struct CandelaMapEntry {
-    /// The values in stored order, element "Values", stored as they are: shape of the grid and unit not recorded.
-    /// Written when `valid`, also when empty.
+    /// The values in stored order, element "Values", unscaled. The shape of the grid and the unit are not recorded.
+    /// Written when `valid` is set, even if empty.
     std::vector<unsigned int> values{};
 
-    /// When the map was last updated, element "UpdatedAt": any text, its form is not recorded. Written when `valid`,
-    /// also when empty.
+    /// When the map was last updated, element "UpdatedAt": any text; the format is not recorded. Written when `valid`
+    /// is set, even if empty.
     std::string updatedAt{};
 
-    /// Whether there is a map; not an element of its own. Set it for the map to be written. Parsing sets it to whether
-    /// `values` then holds any number, an earlier document's included: an update time alone does not make a map.
+    /// Whether there is a map; it has no element. Set it to have the map written. Parsing sets it if `values` then
+    /// holds any number, even one from an earlier document. An update time without numbers is not a map.
     bool valid = false;
 };
 
-/// Two maps of luminance over the screen, flat lists of numbers that are stored as they are.
+/// Two maps of luminance over the screen: flat lists of unscaled numbers.
 ///
 /// The elements "Uniformity" and "Brightness" are always written; they are empty when the map is not valid.
 /// Version 1.0.
@@ -48,16 +48,18 @@ public:
     /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// The map of uniformity, element "Uniformity". The element is always written, its children when the map is valid.
+    /// The map of uniformity, element "Uniformity". The element is always written, its children only when the map is
+    /// valid.
     CandelaMapEntry uniformity;
 
-    /// The map of brightness, element "Brightness". The element is always written, its children when the map is valid.
+    /// The map of brightness, element "Brightness". The element is always written, its children only when the map is
+    /// valid.
     CandelaMapEntry brightness;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const CandelaMapEntry& left, const CandelaMapEntry& right);
 [[nodiscard]] inline bool operator!=(const CandelaMapEntry& left, const CandelaMapEntry& right) {

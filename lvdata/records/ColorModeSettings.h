@@ -12,22 +12,22 @@ namespace lv {
 
 /// One colour mode, element "ColorMode": what it is, and the records that define it.
 ///
-/// The text of `type` alone decides which nested records are written. Their flags do not matter: one that is not set is
-/// written with its defaults. Parsing reads all three, whatever the type; each flag says whether its element was found.
-/// So printing what was read drops the records that do not belong to the type.
+/// Only the text of `type` determines which nested records are written. Their flags do not matter: a record that is not
+/// set is written with its defaults. Parsing reads all three, whatever the type; each flag says whether its element was
+/// found. So reading and printing drops the records that do not belong to the type.
 class ColorModeSettingsObject {
 public:
-    /// The kind of mode, attribute "Type". "Standard", "SyncSignal" and "Calibration", see `types::colorMode`, decide
-    /// what is written; any other text is kept and written back. Always written, whatever the flag.
+    /// The kind of mode, attribute "Type". "Standard", "SyncSignal" and "Calibration", see `types::colorMode`,
+    /// determine what is written; any other text is kept and written back. Always written, whatever the flag.
     property<std::string> type{};
 
-    /// Which mode it is, element "Index". What the number means is not recorded. Written when set.
+    /// The index of the mode, element "Index". The meaning of the number is not recorded. Written when set.
     property<unsigned int> index{};
 
     /// The mode's name, element "Name". Written when set.
     property<std::string> name{};
 
-    /// Availability of the mode, element "Availability". What the number means is not recorded. Written when set.
+    /// Availability of the mode, element "Availability". The meaning of the number is not recorded. Written when set.
     property<unsigned int> availability{};
 
     /// Device parameters, element "ParameterSetting". Written when `type` is "Standard" or "SyncSignal", whatever the
@@ -42,9 +42,9 @@ public:
     property<ProfilePolicy> profilePolicy{};
 };
 
-/// A monitor's colour modes, one element "ColorMode" per mode in list order. Every such element makes a row, even an
-/// empty one. When this record is printed, its own `writeHLGSystemGamma` counts for the parameters and targets of all
-/// rows. Version 2.0.
+/// A monitor's colour modes, one element "ColorMode" per mode in list order. Every such element becomes a row, even an
+/// empty one. When this record is printed, its `writeHLGSystemGamma` applies to the parameters and targets of all rows.
+/// Version 2.0.
 class LVDATA_EXPORT ColorModeSettings : public DataArrayObject<ColorModeSettingsObject> {
 public:
     /// The name of the root element, compared exactly.
@@ -67,8 +67,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma` and `parsed`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma` and `parsed`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const ColorModeSettingsObject& left, const ColorModeSettingsObject& right);
 [[nodiscard]] inline bool operator!=(const ColorModeSettingsObject& left, const ColorModeSettingsObject& right) {

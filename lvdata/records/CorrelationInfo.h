@@ -7,10 +7,10 @@
 
 namespace lv {
 
-/// Against which reference sensor the monitor's own colour sensor was last correlated, and when.
+/// The last correlation of the monitor's built-in colour sensor: the reference sensor and the date.
 ///
-/// All three values are kept as text and not converted, the sensor's identifier included: leading zeros stay. Each is a
-/// child of the root element. Version 1.0.
+/// All three values are kept as text and not converted, not even the sensor's identifier: leading zeros are kept. Each
+/// is a child of the root element. Version 1.0.
 class LVDATA_EXPORT CorrelationInfo : public DataObject {
 public:
     /// The name of the root element, compared exactly.
@@ -36,13 +36,13 @@ public:
     /// Serial number of the reference sensor, element "ReferenceSensorSerial". Written when set.
     property<std::string> referenceSensorSerial;
 
-    /// Date of the correlation, element "CorrelationDate": any text, its form is not recorded. Written when set.
+    /// Date of the correlation, element "CorrelationDate": any text; the format is not recorded. Written when set.
     property<std::string> correlationDate;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const CorrelationInfo& left, const CorrelationInfo& right);
 [[nodiscard]] inline bool operator!=(const CorrelationInfo& left, const CorrelationInfo& right) {

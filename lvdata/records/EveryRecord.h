@@ -20,7 +20,7 @@
 
 namespace lv {
 
-/// A list of record classes, for templates that do something for each of them.
+/// A list of record classes, for templates that process each of them.
 template <class... Records>
 struct RecordTypes {};
 

@@ -16,9 +16,9 @@ namespace lv {
 /// Parsing takes any number of entries. Only a vector of exactly the stated length is written, as a child of
 /// "Measurements"; a row without any such vector is not written at all.
 ///
-/// The accessors convert as lvdata/core/quantities.h says. A getter fills only the members of its own notation; all of
-/// the colour is zero when the vector holds too few entries, and further entries are ignored. A setter replaces its own
-/// vector and nothing else.
+/// The accessors convert as lvdata/core/quantities.h says. A getter fills only the members of its own notation; the
+/// whole colour is zero when the vector holds too few entries, and extra entries are ignored. A setter replaces only
+/// its own vector.
 class LVDATA_EXPORT MeasurementDataObject {
 public:
     /// The RGB that was shown, element "RGB": R, G, B, each stored as `quantities::codeValue`, a code value of which
@@ -37,7 +37,7 @@ public:
     /// with exactly 3 entries.
     std::vector<int> CIELAB{};
 
-    /// A further measured triple, element "PQR": P, Q, R, each stored as `quantities::pqr`, times 1000000; meaning and
+    /// Another measured triple, element "PQR": P, Q, R, each stored as `quantities::pqr`, times 1000000; meaning and
     /// unit not recorded. Written with exactly 3 entries.
     std::vector<int> PQR{};
 
@@ -59,7 +59,7 @@ public:
     [[nodiscard]] colour XYZ_x() const;
 
     /// Replaces `XYZ` by three entries from `X`, `Y` and `Z`. Values beyond 2147.483647 wrap: a Y of 4000 reads back as
-    /// -294.967296. Negative values are kept, but each time they are read and set they move one step toward zero.
+    /// -294.967296. Negative values are kept, but move one step toward zero each time they are read and set.
     void XYZ_x(const colour& measured);
 
     /// Returns `CIELAB` in `L`, `a` and `b`.
@@ -104,8 +104,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma` and `parsed`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma` and `parsed`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const MeasurementDataObject& left, const MeasurementDataObject& right);
 [[nodiscard]] inline bool operator!=(const MeasurementDataObject& left, const MeasurementDataObject& right) {

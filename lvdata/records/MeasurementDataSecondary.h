@@ -7,8 +7,8 @@
 
 namespace lv {
 
-/// A second series of measurements beside `MeasurementData`: the same record under a root element of its own. Neither
-/// record accepts the other's element. Version 2.0.
+/// A second series of measurements, in addition to `MeasurementData`: the same record with a different root element.
+/// Neither record accepts the other's element. Version 2.0.
 class LVDATA_EXPORT MeasurementDataSecondary : public MeasurementData {
 public:
     /// The name of the root element, compared exactly.
@@ -23,8 +23,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma` and `parsed`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma` and `parsed`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const MeasurementDataSecondary& left,
                                             const MeasurementDataSecondary& right);
@@ -32,7 +32,7 @@ public:
     return !(left == right);
 }
 
-/// A series does not compare with one of another root element.
+/// Series with different root elements cannot be compared.
 bool operator==(const MeasurementData& left, const MeasurementDataSecondary& right) = delete;
 bool operator==(const MeasurementDataSecondary& left, const MeasurementData& right) = delete;
 bool operator!=(const MeasurementData& left, const MeasurementDataSecondary& right) = delete;

@@ -11,8 +11,8 @@ namespace lv {
 
 /// A monitor as the application knows it: name, model and serial number, colour modes, schedule, and two settings.
 ///
-/// All members are children of the root element. When this record is printed, its own `writeHLGSystemGamma` counts for
-/// its colour modes. Version 2.0.
+/// All members are children of the root element. When this record is printed, its `writeHLGSystemGamma` applies to its
+/// colour modes. Version 2.0.
 class LVDATA_EXPORT MonitorConfiguration : public DataObject {
 public:
     /// The name of the root element, compared exactly.
@@ -32,13 +32,13 @@ public:
     /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// The monitor's name, element "Name". Written when set, also when empty.
+    /// The monitor's name, element "Name". Written when set, even if empty.
     property<std::string> name;
 
-    /// The monitor's model, element "Model". Written when set, also when empty.
+    /// The monitor's model, element "Model". Written when set, even if empty.
     property<std::string> model;
 
-    /// The monitor's serial number, element "Serial", kept as text. Written when set, also when empty.
+    /// The monitor's serial number, element "Serial", kept as text. Written when set, even if empty.
     property<std::string> serial;
 
     /// The colour modes, element "ColorModeSettings". Always written, whatever the flag. After parsing, the flag says
@@ -49,17 +49,17 @@ public:
     /// After parsing, the flag says whether the element was found.
     property<SelfCalibrationSchedule> selfCalibrationSchedule;
 
-    /// A setting of the monitor, element "StandardModeCalibration". What the number means is not recorded. Written when
-    /// set.
+    /// A setting of the monitor, element "StandardModeCalibration". The meaning of the number is not recorded. Written
+    /// when set.
     property<unsigned int> standardModeCalibration;
 
-    /// A setting of the monitor, element "KeyLock". What the number means is not recorded. Written when set.
+    /// A setting of the monitor, element "KeyLock". The meaning of the number is not recorded. Written when set.
     property<unsigned int> keyLock;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorConfiguration& left, const MonitorConfiguration& right);
 [[nodiscard]] inline bool operator!=(const MonitorConfiguration& left, const MonitorConfiguration& right) {

@@ -13,13 +13,13 @@
 
 namespace lv {
 
-/// Everything stored about one monitor. The outermost record: it holds every other one, directly or inside another.
+/// Everything stored about one monitor. The outermost record: it holds all other records, directly or nested.
 ///
 /// All members are children of the root element. After parsing, the flag of a nested record says whether its element
-/// was found. Five of the six are always written, with their defaults when not set: a document without them gains them
-/// when it is read and printed again. The candela map is written only when it is set.
+/// was found. Five of the six are always written, with their defaults when not set: if a document lacks them, reading
+/// and printing adds them. The candela map is written only when it is set.
 ///
-/// When this record is printed, its own `writeHLGSystemGamma` counts for its configuration. Version 2.2.
+/// When this record is printed, its `writeHLGSystemGamma` applies to its configuration. Version 2.2.
 class LVDATA_EXPORT MonitorInfo : public DataObject {
 public:
     /// The name of the root element, compared exactly.
@@ -55,7 +55,8 @@ public:
     /// Labels that the owner attached to the monitor, element "AssetInfo". Always written, whatever the flag.
     property<AssetInfo> assetInfo;
 
-    /// The last correlation of the monitor's own sensor, element "CorrelationInfo". Always written, whatever the flag.
+    /// The last correlation of the monitor's built-in sensor, element "CorrelationInfo". Always written, whatever the
+    /// flag.
     property<CorrelationInfo> correlationInfo;
 
     /// Maps of luminance over the screen, element "CandelaMap". Written when set.
@@ -63,8 +64,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorInfo& left, const MonitorInfo& right);
 [[nodiscard]] inline bool operator!=(const MonitorInfo& left, const MonitorInfo& right) {

@@ -11,19 +11,19 @@ namespace lv {
 /// The adjustment values read from or written to a monitor: brightness and contrast, the look-up tables of the three
 /// channels, HLG settings, six-colour adjustments, gains and an emulation matrix.
 ///
-/// All members are children of the root element. Fractions are stored as integers, as the document holds them; the `_x`
-/// accessors convert, see lvdata/core/quantities.h. Getters do not look at the flag, setters set it.
+/// All members are children of the root element. Fractions are stored as integers, as in the document; the `_x`
+/// accessors convert them, see lvdata/core/quantities.h. Getters ignore the flag, setters set it.
 ///
-/// A look-up table counts with 256 or 1024 entries, the emulation matrix with 9. With any other number of entries they
-/// are not written, even though a setter accepts them and sets the flag; `trySet` does not. When such an array is read,
-/// its entries stay in memory and its flag is cleared. Version 4.0.
+/// A look-up table must have 256 or 1024 entries, the emulation matrix 9. With any other number of entries they are not
+/// written, although a setter accepts them and sets the flag; `trySet` refuses them. When such an array is read, its
+/// entries stay in memory and its flag is cleared. Version 4.0.
 class LVDATA_EXPORT MonitorParameter : public DataObject {
 public:
     /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "MonitorParameter";
 
-    /// One signed adjustment for each of six colours, stored as it is; unit not recorded. Each is an element of its
-    /// own, a child of the root element; all six are written together.
+    /// One signed adjustment for each of six colours, unscaled; unit not recorded. Each is a child element of the root
+    /// element; all six are written together.
     struct six_colors_t {
         int red = 0;      ///< Element "RedHue", "RedSaturation" or "RedLightness". Unit not recorded.
         int green = 0;    ///< Element "GreenHue", "GreenSaturation" or "GreenLightness". Unit not recorded.
@@ -47,10 +47,10 @@ public:
     /// every record of the class.
     [[nodiscard]] static Description describe();
 
-    /// Brightness, element "Brightness", stored as it is; unit not recorded. Written when set.
+    /// Brightness, element "Brightness", unscaled; unit not recorded. Written when set.
     property<unsigned int> brightness;
 
-    /// Contrast, element "Contrast", stored as it is; unit not recorded. Written when set.
+    /// Contrast, element "Contrast", unscaled; unit not recorded. Written when set.
     property<unsigned int> contrast;
 
     /// Scale of the three look-up tables, element "isHDRLUT": HDR when the value is 1 (`types::tableScale::hdr`),
@@ -73,14 +73,14 @@ public:
     property<std::vector<unsigned int>> blueLUT;
 
     /// System gamma of HLG (ITU-R BT.2100), element "HLGSystemGamma", stored as `quantities::hlgSystemGamma`, times
-    /// 100. Written when set; in this record, `writeHLGSystemGamma` does not matter.
+    /// 100. Written when set; this record ignores `writeHLGSystemGamma`.
     property<unsigned int> hlgSystemGamma;
 
-    /// HLG clipping, element "HLGClipping", stored as it is; unit not recorded. Written when set.
+    /// HLG clipping, element "HLGClipping", unscaled; unit not recorded. Written when set.
     property<unsigned int> hlgClipping;
 
-    /// Hue of six colours, elements "RedHue" to "YellowHue". Unit not recorded. Written when set, then all six. After
-    /// parsing, the flag says whether at least one of them was found; the others keep their earlier values.
+    /// Hue of six colours, elements "RedHue" to "YellowHue". Unit not recorded. Written when set, all six together.
+    /// After parsing, the flag says whether at least one of them was found; the others keep their earlier values.
     property<six_colors_t> hue;
 
     /// Saturation of six colours, elements "RedSaturation" to "YellowSaturation". Unit not recorded. Written when set,
@@ -106,33 +106,33 @@ public:
     /// 1000000. Written when set, with 9 entries.
     property<std::vector<int>> emulationMatrix;
 
-    /// The "Limited109" setting, element "Limited109Setting", stored as it is. What the number means
-    /// is not recorded. Written when set.
+    /// The "Limited109" setting, element "Limited109Setting", unscaled. The meaning of the number is not recorded.
+    /// Written when set.
     property<unsigned int> limited109Setting;
 
     /// \name Look-up tables as fractions
-    /// Set `isHDRLUT` first: its value at the moment of the call chooses the scale. Changing it later changes what the
+    /// Set `isHDRLUT` first: its value at the time of the call determines the scale. Changing it later changes what the
     /// getters return, not what is stored. Normal tables hold values up to 4294.967295, HDR tables up to 4.294967295;
     /// beyond that they wrap.
     /// @{
 
-    /// Returns what an entry of the tables now is: `quantities::hdrTableEntry` when `isHDRLUT` is 1, otherwise
+    /// Returns the quantity of the table entries: `quantities::hdrTableEntry` when `isHDRLUT` is 1, otherwise
     /// `quantities::tableEntry`. For `trySet`, which checks values and lengths.
     [[nodiscard]] const Quantity& tableQuantity() const;
 
-    /// Returns the entries of `redLUT` as fractions, at the scale that `isHDRLUT` now chooses.
+    /// Returns the entries of `redLUT` as fractions, at the scale that `isHDRLUT` now gives.
     [[nodiscard]] std::vector<double> redLUT_x() const;
 
     /// Replaces `redLUT` and sets its flag. Takes any number of entries, but only 256 or 1024 are written.
     void redLUT_x(const std::vector<double>& values);
 
-    /// Returns the entries of `greenLUT` as fractions, at the scale that `isHDRLUT` now chooses.
+    /// Returns the entries of `greenLUT` as fractions, at the scale that `isHDRLUT` now gives.
     [[nodiscard]] std::vector<double> greenLUT_x() const;
 
     /// Replaces `greenLUT` and sets its flag. Takes any number of entries, but only 256 or 1024 are written.
     void greenLUT_x(const std::vector<double>& values);
 
-    /// Returns the entries of `blueLUT` as fractions, at the scale that `isHDRLUT` now chooses.
+    /// Returns the entries of `blueLUT` as fractions, at the scale that `isHDRLUT` now gives.
     [[nodiscard]] std::vector<double> blueLUT_x() const;
 
     /// Replaces `blueLUT` and sets its flag. Takes any number of entries, but only 256 or 1024 are written.
@@ -172,14 +172,14 @@ public:
     [[nodiscard]] std::vector<double> emulationMatrix_x() const;
 
     /// Replaces `emulationMatrix` and sets its flag. Takes any number of entries, but only 9 are written. Negative
-    /// entries are stored one step closer to zero (-0.3 as -299999): they drift toward zero when read and set again and
-    /// again.
+    /// entries are stored one step closer to zero (-0.3 as -299999): they move toward zero each time they are read and
+    /// set.
     void emulationMatrix_x(const std::vector<double>& entries);
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const MonitorParameter::six_colors_t& left,
                                             const MonitorParameter::six_colors_t& right);

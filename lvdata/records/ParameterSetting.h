@@ -8,24 +8,24 @@
 namespace lv {
 
 /// The display parameters that a colour mode is set to: brightness, white point, gamma and gamut, each with a type that
-/// says how it is given, and one setting for the signal range "Limited109".
+/// states its form, and one setting for the signal range "Limited109".
 ///
 /// The four parameters are always written, with their attribute "Type" and the children that belong to the type. Types
 /// are compared exactly; any other text is kept and written back. Parsing reads all children, whatever the type, with
-/// one exception: for "SyncSignal", brightness and gamma read none and the gamut does not read "Fixed". So printing
-/// what was read drops children that do not belong to the type.
+/// one exception: for "SyncSignal", brightness and gamma read none and the gamut does not read "Fixed". So reading and
+/// printing drops children that do not belong to the type.
 ///
-/// Take the texts of types from lvdata/records/types.h, since a misspelt one loses its value when the record is
+/// Use the constants of lvdata/records/types.h for types: with a misspelt type, the value is lost when the record is
 /// printed. The accessors of the gamma convert as lvdata/core/quantities.h says. Version 2.0.
 class LVDATA_EXPORT ParameterSetting : public DataObject {
 public:
     /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "ParameterSetting";
 
-    /// How bright the display is to be.
+    /// The brightness of the display.
     struct brightness_t {
-        /// How the brightness is given, attribute "Type": "Candela", "Percent" or "SyncSignal", see
-        /// `types::brightness`. Always written.
+        /// The form of the brightness, attribute "Type": "Candela", "Percent" or "SyncSignal", see `types::brightness`.
+        /// Always written.
         std::string type{};
 
         /// The brightness, element "Value", in the unit that the type names: stored as `quantities::candela` for
@@ -33,23 +33,22 @@ public:
         unsigned int value = 0;
     };
 
-    /// The white that the display is to have.
+    /// The white point of the display.
     struct white_point_t {
-        /// How the white point is given, attribute "Type": "Temperature" or "Fixed", see `types::whitePoint`.
-        /// Always written.
+        /// The form of the white point, attribute "Type": "Temperature" or "Fixed", see `types::whitePoint`. Always
+        /// written.
         std::string type{};
 
-        /// Colour temperature, element "Temperature", stored as it is; unit not recorded. Written for the type
-        /// "Temperature".
+        /// Colour temperature, element "Temperature", unscaled; unit not recorded. Written for the type "Temperature".
         unsigned int temperature = 0;
 
         /// Name of a standard white point, element "Fixed". Written for the type "Fixed".
         std::string fixed{};
     };
 
-    /// The tone curve that the display is to have.
+    /// The tone curve of the display.
     struct LVDATA_EXPORT gamma_t {
-        /// How the curve is given, attribute "Type": "Value", "Fixed" or "SyncSignal", see `types::gamma`. Always
+        /// The form of the curve, attribute "Type": "Value", "Fixed" or "SyncSignal", see `types::gamma`. Always
         /// written.
         std::string type{};
 
@@ -60,8 +59,8 @@ public:
         /// Written for the type "Fixed".
         std::string fixed{};
 
-        /// Clipping of a PQ or HLG curve, element "PQHLGClipping". Which texts there are is not recorded. Written for
-        /// the type "Fixed" when `fixed` is "PQ" or "HLG".
+        /// Clipping of a PQ or HLG curve, element "PQHLGClipping". The possible texts are not recorded. Written for the
+        /// type "Fixed" when `fixed` is "PQ" or "HLG".
         std::string pqhlgClipping{};
 
         /// System gamma of HLG (ITU-R BT.2100), element "HLGSystemGamma", stored as `quantities::hlgSystemGamma`, times
@@ -81,15 +80,16 @@ public:
         void hlgSystemGamma_x(double exponent);
     };
 
-    /// The gamut that the display is to have.
+    /// The gamut of the display.
     struct gamut_t {
-        /// How the gamut is given, attribute "Type": "Fixed" or "SyncSignal", see `types::gamut`. Always written.
+        /// The form of the gamut, attribute "Type": "Fixed" or "SyncSignal", see `types::gamut`. Always written.
         std::string type{};
 
         /// Name of a standard gamut, element "Fixed". Written for the type "Fixed".
         std::string fixed{};
 
-        /// Gamut clipping, element "Clipping". What the number means is not recorded. Read and written for every type.
+        /// Gamut clipping, element "Clipping". The meaning of the number is not recorded. Read and written for every
+        /// type.
         unsigned int clipping = 0;
     };
 
@@ -123,14 +123,14 @@ public:
     /// was found.
     property<gamut_t> gamut;
 
-    /// Setting for the signal range "Limited109", element "Limited109Setting". What the number means is not recorded.
-    /// Written when set.
+    /// Setting for the signal range "Limited109", element "Limited109Setting". The meaning of the number is not
+    /// recorded. Written when set.
     property<unsigned int> limited109Setting;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const ParameterSetting::brightness_t& left,
                                             const ParameterSetting::brightness_t& right);

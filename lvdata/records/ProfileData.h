@@ -9,8 +9,9 @@
 
 namespace lv {
 
-/// What a colour profile was built from: a description, the measured tristimulus values of the display's primaries,
-/// white and black, once for the full panel and once for the state "Limited109", and a target curve per channel.
+/// The data that a colour profile was built from: a description, the measured tristimulus values of the display's
+/// primaries, white and black, once for the full panel and once for the state "Limited109", and a target curve per
+/// channel.
 ///
 /// All members are children of the root element. Tristimulus values and curves are stored as unsigned integers; the
 /// `_x` accessors convert, see lvdata/core/quantities.h. Version 2.0.
@@ -19,9 +20,9 @@ public:
     /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "ProfileData";
 
-    /// Measured CIE XYZ of five colours, for the full panel or for the state "Limited109". Each colour is an element
-    /// "MeasuredXYZ" of its own, named by its attribute "Color". Of two elements with the same colour the last counts.
-    /// Whether Y is absolute is not recorded.
+    /// Measured CIE XYZ of five colours, for the full panel or for the state "Limited109". Each colour has its own
+    /// element "MeasuredXYZ", identified by its attribute "Color". If two elements have the same colour, the last one
+    /// counts. Whether Y is absolute is not recorded.
     struct xyz_set_t {
         /// X, Y, Z of red, "Color" is "Red" or "Limited109Red": three entries, each stored as
         /// `quantities::tristimulus`, times 1000000. Written when the set's flag is set.
@@ -44,15 +45,15 @@ public:
         std::vector<unsigned int> black{};
     };
 
-    /// The tone curve that one channel is to have. Its type decides which member is the text of its element.
+    /// The target tone curve of one channel. Its type determines which member is the text of its element.
     struct LVDATA_EXPORT target_curve {
-        /// How the curve is given, attribute "Type": "Formula", "Lut" or "LStar" (the lightness curve of CIE 15),
-        /// see `types::profileCurve`. Written when the curve is set and has one of these types; any other curve is
-        /// written as an empty element.
+        /// The form of the curve, attribute "Type": "Formula", "Lut" or "LStar" (the lightness curve of CIE 15), see
+        /// `types::profileCurve`. Written when the curve is set and has one of these types; any other curve is written
+        /// as an empty element.
         std::string type{};
 
-        /// The curve's one parameter, text of the curve's element, stored as `quantities::curveParameter`, times
-        /// 1000000; unit not recorded. Read and written for the type "Formula".
+        /// The curve's parameter, text of the curve's element, stored as `quantities::curveParameter`, times 1000000;
+        /// unit not recorded. Read and written for the type "Formula".
         unsigned int formula = 0;
 
         /// The curve's table of any length, text of the curve's element, each entry stored as `quantities::curveEntry`,
@@ -91,7 +92,7 @@ public:
 
     /// The full panel: five elements "MeasuredXYZ" with "Color" "Red", "Green", "Blue", "White", "Black". Always
     /// written, without numbers when not set, otherwise whatever the lengths. After parsing, the flag says whether all
-    /// five vectors now hold exactly three entries, even if an earlier document gave them.
+    /// five vectors now hold exactly three entries, even if they come from an earlier document.
     property<xyz_set_t> measuredXYZ;
 
     /// The state "Limited109": four elements "MeasuredXYZ" with "Color" "Limited109Red" and so on, without black.
@@ -122,8 +123,8 @@ public:
 
     /// \name The measured sets as colours
     /// Only X, Y and Z of a colour are converted. These sets are unsigned, unlike the XYZ of a measurement: a negative
-    /// value is stored as 0. A getter returns a colour as zero when its vector holds fewer than three entries; further
-    /// entries are ignored, and so is the flag.
+    /// value is stored as 0. A getter returns zero for a colour whose vector holds fewer than three entries; extra
+    /// entries and the flag are ignored.
     /// @{
 
     /// Returns all five colours of `measuredXYZ`.
@@ -141,8 +142,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const ProfileData::xyz_set_t& left, const ProfileData::xyz_set_t& right);
 [[nodiscard]] inline bool operator!=(const ProfileData::xyz_set_t& left, const ProfileData::xyz_set_t& right) {

@@ -7,9 +7,9 @@
 
 namespace lv {
 
-/// How the colour profile of a colour mode is to be made and kept up to date.
+/// Rules for creating and updating the colour profile of a colour mode.
 ///
-/// All members are texts or switches that the library does not interpret: which texts there are is defined by the
+/// All members are texts or booleans that the library does not interpret: the possible texts are defined by the
 /// application. Version 2.0.
 class LVDATA_EXPORT ProfilePolicy : public DataObject {
 public:
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] static Description describe();
 
     /// The rule for updating the profile: attribute "Type" of the element "UpdateRule". Written when set; without it
-    /// the whole element is left out.
+    /// the whole element is omitted.
     property<std::string> updateRule;
 
     /// Description of the profile that the rule produces, element "ProfileDescription" inside "UpdateRule". Written
@@ -52,19 +52,19 @@ public:
     /// Kind of the profile's tone curve, element "ToneCurve". Written when set.
     property<std::string> toneCurve;
 
-    /// Whether the profile reflects black levels, element "ReflectBlackLevels". Written when set, also when false.
+    /// Whether the profile reflects black levels, element "ReflectBlackLevels". Written when set, even if false.
     property<bool> reflectBlackLevels;
 
-    /// Whether to create a 3D look-up table, element "Create3DLut". Written when set, also when false.
+    /// Whether to create a 3D look-up table, element "Create3DLut". Written when set, even if false.
     property<bool> create3DLut;
 
-    /// Whether to create a luminance tag, element "CreateLuminanceTag". Written when set, also when false.
+    /// Whether to create a luminance tag, element "CreateLuminanceTag". Written when set, even if false.
     property<bool> createLuminanceTag;
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const ProfilePolicy& left, const ProfilePolicy& right);
 [[nodiscard]] inline bool operator!=(const ProfilePolicy& left, const ProfilePolicy& right) {

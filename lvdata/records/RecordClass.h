@@ -10,7 +10,7 @@
 
 namespace lv {
 
-/// A record class as a value, for programs that learn only at run time which record they have. It lives as long as the
+/// A record class as a value, for programs that know only at run time which record they have. It lives as long as the
 /// program.
 ///
 ///     lv::ParsedDocument document(text);
@@ -24,7 +24,7 @@ struct RecordClass {
     /// Makes a fresh record of the class; never null.
     std::unique_ptr<DataObject> (*make)();
 
-    /// Returns what a document of the record can contain: the static function `describe` of the class.
+    /// Returns the description of the record's documents: calls the static function `describe` of the class.
     Description (*describe)();
 };
 

@@ -20,7 +20,7 @@ constexpr std::array<unsigned int, 9> withTimeOfDay = {
     schedule::everySomeMonths, schedule::everySomeWeeks, schedule::once,       schedule::daily, schedule::weekly,
     schedule::monthly,         schedule::quarterly,      schedule::halfYearly, schedule::yearly};
 
-// The lines stand in an order that holds for every kind at once.
+// The order of the lines fits every kind.
 template <class Io, class Self>
 void visitFields(Io& io, Self& self) {
     const unsigned int& kind = self.type.value;

@@ -7,18 +7,18 @@
 
 namespace lv {
 
-/// When a monitor's built-in self-calibration is to run: a kind of schedule and the calendar fields that the kind
+/// The schedule of a monitor's built-in self-calibration: a kind of schedule and the calendar fields that the kind
 /// needs.
 ///
-/// The record holds the fields and computes no run times. Whether weekdays, weeks and months are counted from 0 or from
-/// 1 is not recorded. Everything stands inside one element "Type", which is written only when `type` is set. Parsing
-/// reads all fields, whatever the kind; a field is written when it is set and belongs to the kind:
+/// The record holds the fields but does not compute run times. It is not recorded whether weekdays, weeks and months
+/// are counted from 0 or from 1. Everything is inside one element "Type", which is written only when `type` is set.
+/// Parsing reads all fields, whatever the kind; a field is written when it is set and belongs to the kind:
 ///
 /// | Kind | Fields |
 /// |---|---|
-/// | 0x01 every some months | interval month, week of the month, weekday, hour, minute |
-/// | 0x02 every some weeks | interval week, weekday, hour, minute |
-/// | 0x03, 0x1F every some hours | interval hour |
+/// | 0x01 every N months | interval month, week of the month, weekday, hour, minute |
+/// | 0x02 every N weeks | interval week, weekday, hour, minute |
+/// | 0x03, 0x1F every N hours | interval hour |
 /// | 0x11 once | year, month, day, hour, minute |
 /// | 0x20 daily | hour, minute |
 /// | 0x21 weekly | weekday, hour, minute |
@@ -62,11 +62,11 @@ public:
     /// Interval as a number of hours, element "IntervalHour" inside "Type". Written when set, for kinds 0x03 and 0x1F.
     property<unsigned int> intervalHour;
 
-    /// Which week of the month, element "ThWeek" inside "Type". Whether it is counted from 0 or 1 is not recorded.
+    /// Which week of the month, element "ThWeek" inside "Type". It is not recorded whether it is counted from 0 or 1.
     /// Written when set, for kinds 0x01, 0x32, 0x33, 0x34 and 0x35.
     property<unsigned int> thWeek;
 
-    /// The weekday, element "Weekday" inside "Type". Which number is which day is not recorded. Written when set, for
+    /// The weekday, element "Weekday" inside "Type". The numbering of the days is not recorded. Written when set, for
     /// kinds 0x01, 0x02, 0x21, 0x32, 0x33, 0x34 and 0x35.
     property<unsigned int> weekday;
 
@@ -81,19 +81,19 @@ public:
     /// The year of the date, element "Year" inside "Type". Written when set, for kind 0x11.
     property<unsigned int> year;
 
-    /// The month, element "Month" inside "Type". Whether it is counted from 0 or 1 is not recorded. Written when set,
-    /// for kinds 0x11 and 0x35.
+    /// The month, element "Month" inside "Type". It is not recorded whether it is counted from 0 or 1. Written when
+    /// set, for kinds 0x11 and 0x35.
     property<unsigned int> month;
 
     /// The day of the date, element "Day" inside "Type". Written when set, for kind 0x11.
     property<unsigned int> day;
 
-    /// The month within a quarter, element "MonthOfQuarter" inside "Type". Whether it is counted from 0 or 1 is not
-    /// recorded. Written when set, for kind 0x33.
+    /// The month within a quarter, element "MonthOfQuarter" inside "Type". It is not recorded whether it is counted
+    /// from 0 or 1. Written when set, for kind 0x33.
     property<unsigned int> monthOfQuarter;
 
-    /// The month within half a year, element "MonthOfBiannual" inside "Type". Whether it is counted from 0 or 1 is not
-    /// recorded. Written when set, for kind 0x34.
+    /// The month within half a year, element "MonthOfBiannual" inside "Type". It is not recorded whether it is counted
+    /// from 0 or 1. Written when set, for kind 0x34.
     property<unsigned int> monthOfBiannual;
 
     /// Free text, element "Timing" inside "Type". Written when it and `type` are set, for every kind.
@@ -101,8 +101,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const SelfCalibrationSchedule& left, const SelfCalibrationSchedule& right);
 [[nodiscard]] inline bool operator!=(const SelfCalibrationSchedule& left, const SelfCalibrationSchedule& right) {

@@ -12,33 +12,34 @@ namespace lv {
 /// The calibration target chosen for a colour mode: brightness, black level, white point, tone curves, gamut, grey
 /// balance and fine corrections.
 ///
-/// Two generations of elements stand side by side: the older structured ones ("WhitePoint", "Gamma", "Gamut") and the
-/// newer ones that name a standard ("WhitePointV7", "GammaV7", "GamutV7"). Each is held, parsed and written by itself;
+/// There are two generations of elements: the older structured ones ("WhitePoint", "Gamma", "Gamut") and the newer ones
+/// that name a standard ("WhitePointV7", "GammaV7", "GamutV7"). They are stored, parsed and written independently;
 /// neither is converted into the other.
 ///
 /// Every member of the record is written only when it is set. Levels, white points, standards and curves have a type
-/// that decides which of their children are written. Types are compared exactly; any other text is kept and written
-/// back; the constants of lvdata/records/types.h cannot be misspelt. Parsing reads all children, whatever the type, and
-/// a missing one leaves its member as it was. So printing what was read drops children that do not belong to the type.
+/// that determines which of their children are written. Types are compared exactly; any other text is kept and written
+/// back. Use the constants of lvdata/records/types.h to avoid misspelt types. Parsing reads all children, whatever the
+/// type, and a missing child leaves its member unchanged. So reading and printing drops children that do not belong to
+/// the type.
 ///
-/// Fractions are stored as unsigned integers; the `_x` accessors convert, see lvdata/core/quantities.h. They change
-/// neither a flag nor a type: set these, too. Version 3.2.
+/// Fractions are stored as unsigned integers; the `_x` accessors convert, see lvdata/core/quantities.h. They do not
+/// change flags or types: set these yourself. Version 3.2.
 class LVDATA_EXPORT TargetSetting : public DataObject {
 public:
     /// The name of the root element, compared exactly.
     static constexpr const char* rootElementName = "TargetSetting";
 
-    /// A level, for the elements "Brightness" and "BlackLevel".
+    /// A level, used for the elements "Brightness" and "BlackLevel".
     struct level_t {
-        /// How the level is given, attribute "Type": "Value", see `types::targetLevel`, or any other text. Written
+        /// The form of the level, attribute "Type": "Value", see `types::targetLevel`, or any other text. Written
         /// whenever the level is.
         std::string type{};
 
-        /// The level, element "Value", stored as it is; unit not recorded. Written for the type "Value".
+        /// The level, element "Value", unscaled; unit not recorded. Written for the type "Value".
         unsigned int value = 0;
     };
 
-    /// A standard by its name, for the elements "WhitePointV7", "GammaV7" and "GamutV7".
+    /// The name of a standard, used for the elements "WhitePointV7", "GammaV7" and "GamutV7".
     struct standard_t {
         /// Attribute "Type": "Standard", see `types::targetStandard`, or any other text. Written whenever the element
         /// is.
@@ -48,14 +49,13 @@ public:
         std::string standard{};
     };
 
-    /// A white point by its temperature or its chromaticity.
+    /// A white point, given by its temperature or its chromaticity.
     struct LVDATA_EXPORT white_point_t {
-        /// How the white point is given, attribute "Type": "Temperature" or "Coordinate", see
-        /// `types::targetWhitePoint`. Written whenever the white point is.
+        /// The form of the white point, attribute "Type": "Temperature" or "Coordinate", see `types::targetWhitePoint`.
+        /// Written whenever the white point is.
         std::string type{};
 
-        /// Colour temperature, element "Temperature", stored as it is; unit not recorded. Written for the type
-        /// "Temperature".
+        /// Colour temperature, element "Temperature", unscaled; unit not recorded. Written for the type "Temperature".
         unsigned int temperature = 0;
 
         /// CIE 1931 chromaticity x, element "x", stored as `quantities::chromaticity`, times 10000. Written for the
@@ -69,18 +69,18 @@ public:
         /// Returns the chromaticity in the members `x` and `y` of a colour.
         [[nodiscard]] colour coordinate_x() const;
 
-        /// Stores the chromaticity from the members `x` and `y` of a colour. Set `type` to "Coordinate" to have it
-        /// written.
+        /// Stores the chromaticity from the members `x` and `y` of a colour. It is written only if `type` is
+        /// "Coordinate".
         void coordinate_x(const colour& chromaticity);
     };
 
-    /// The tone curves of the three channels and what goes with them.
+    /// The tone curves of the three channels and related settings.
     struct LVDATA_EXPORT gamma_t {
         /// The tone curve of one channel.
         struct LVDATA_EXPORT gamma_color {
-            /// How the curve is given, attribute "Type": "Formula", "Lut" or "Lut24", each written with the child of
-            /// that name. "PQ", "HLG" (ITU-R BT.2100) and any other text have no child. See `types::targetCurve`.
-            /// Written whenever the curve is.
+            /// The form of the curve, attribute "Type": "Formula", "Lut" or "Lut24", each written with the child of
+            /// that name. "PQ", "HLG" (ITU-R BT.2100) and other texts have no child. See `types::targetCurve`. Written
+            /// whenever the curve is.
             std::string type{};
 
             /// The exponent, element "Formula", stored as `quantities::gamma`, times 100. Written for the type
@@ -120,10 +120,10 @@ public:
             /// Name of the file, element "FileName" inside "ImportedLutFile". Written whenever that element is.
             std::string fileName{};
 
-            /// Returns `fileName` as it is.
+            /// Returns `fileName` unchanged.
             [[nodiscard]] std::string fileName_x() const;
 
-            /// Stores the name in `fileName` as it is.
+            /// Stores the name in `fileName` unchanged.
             void fileName_x(const std::string& name);
         };
 
@@ -131,7 +131,7 @@ public:
         gamma_color green{};  ///< Curve of the green channel, element "Green". Written whenever "Gamma" is.
         gamma_color blue{};   ///< Curve of the blue channel, element "Blue". Written whenever "Gamma" is.
 
-        /// Clipping of a PQ or HLG curve, element "PQHLGClipping". Which texts there are is not recorded. Written when
+        /// Clipping of a PQ or HLG curve, element "PQHLGClipping". The possible texts are not recorded. Written when
         /// the type of the red curve is "PQ" or "HLG"; green and blue do not matter.
         std::string pqhlgClipping{};
 
@@ -150,7 +150,7 @@ public:
         void hlgSystemGamma_x(double exponent);
     };
 
-    /// A gamut by the chromaticities of its primaries.
+    /// A gamut, given by the chromaticities of its primaries.
     struct LVDATA_EXPORT gamut_t {
         /// The chromaticity of one primary.
         struct coordinate {
@@ -170,7 +170,7 @@ public:
         /// Name of a profile, element "ProfileName". Written when it is not empty.
         std::string profileName{};
 
-        /// Gamut clipping, element "Value" inside "GamutClipping". What the number means is not recorded. Written
+        /// Gamut clipping, element "Value" inside "GamutClipping". The meaning of the number is not recorded. Written
         /// whenever "Gamut" is.
         unsigned int gamutClipping = 0;
 
@@ -197,18 +197,18 @@ public:
         void blue_x(const colour& chromaticity);
     };
 
-    /// Tint of the black level, stored as it is, in adjustment steps of the monitor; the size of a step is not
-    /// recorded. All three are written together.
+    /// Tint of the black level, unscaled, in adjustment steps of the monitor; the size of a step is not recorded. All
+    /// three are written together.
     struct black_level_t {
         int red = 0;    ///< Tint of red, element "red" inside "blackLevel". Unit not recorded.
         int green = 0;  ///< Tint of green, element "green" inside "blackLevel". Unit not recorded.
         int blue = 0;   ///< Tint of blue, element "blue" inside "blackLevel". Unit not recorded.
     };
 
-    /// Fine corrections, stored as they are, in adjustment steps of the monitor; the size of a step is not recorded.
-    /// Values are not checked.
+    /// Fine corrections, unscaled, in adjustment steps of the monitor; the size of a step is not recorded. Values are
+    /// not checked.
     struct advanced_settings_t {
-        /// The tint of the black level, under the name that it has inside this structure.
+        /// The name of the tint of the black level inside this structure.
         using black_level_t = TargetSetting::black_level_t;
 
         /// One correction for each of six colours, inside "hue", "saturation" or "lightness" of "sixColors". All six
@@ -263,7 +263,7 @@ public:
     /// A version text, element "LumivaleVersion". Written when set.
     property<std::string> lumivaleVersion;
 
-    /// The fine contrast, element "FineContrast". Which texts there are is not recorded. Written when set.
+    /// The fine contrast, element "FineContrast". The possible texts are not recorded. Written when set.
     property<std::string> fineContrast;
 
     /// Target brightness, element "Brightness". Unit not recorded. Written when set. After parsing, the flag says
@@ -298,24 +298,24 @@ public:
     /// flag says whether the element has the attribute "Type".
     property<standard_t> gamutV7;
 
-    /// The type of grey balance, element "Type" inside "GrayBalance". What the number means is not recorded. Written
-    /// when set.
+    /// The type of grey balance, element "Type" inside "GrayBalance". The meaning of the number is not recorded.
+    /// Written when set.
     property<unsigned int> grayBalance;
 
-    /// How the target was created, element "CreationType". Which texts there are is not recorded. Written when set.
+    /// How the target was created, element "CreationType". The possible texts are not recorded. Written when set.
     property<std::string> creationType;
 
     /// Fine corrections, element "AdvancedSettings". Written when set. After parsing, the flag says whether the element
     /// was found.
     property<advanced_settings_t> advancedSettings;
 
-    /// Whether to optimize for "Limited109", element "OptimizeForLimited109". Which texts there are is not recorded.
+    /// Whether to optimize for "Limited109", element "OptimizeForLimited109". The possible texts are not recorded.
     /// Written when set.
     property<std::string> optimizeForLimited109;
 
     /// \name Parts of the record
     /// Each reads or appends one child of the given element by the rules above and returns that child. The result is
-    /// invalid when the child is missing or cannot be appended. A missing child leaves plain values as they were and
+    /// invalid when the child is missing or cannot be appended. A missing child leaves plain values unchanged and
     /// clears flags.
     /// @{
 
@@ -329,7 +329,7 @@ public:
     XMLElement parseGamutCoordinateElement(XMLElement& parent, const std::string& name,
                                            gamut_t::coordinate& coordinate) const;
 
-    /// Appends a primary to `parent` as the child `name` with the attribute "Type" "Coordinate", also one that is 0.
+    /// Appends a primary to `parent` as the child `name` with the attribute "Type" "Coordinate", even if it is 0.
     XMLElement appendGamutCoordinateElement(XMLElement& parent, const std::string& name,
                                             const gamut_t::coordinate& coordinate) const;
 
@@ -352,8 +352,8 @@ public:
 };
 
 /// \name Equality
-/// Two records are equal when all members that documents hold are equal, flags and version numbers included. Values
-/// whose flags are clear count, too. Not compared: `writeHLGSystemGamma`.
+/// Two records are equal when all members that documents hold are equal, including flags and version numbers.
+/// Values with clear flags are compared, too. Not compared: `writeHLGSystemGamma`.
 /// @{
 [[nodiscard]] LVDATA_EXPORT bool operator==(const TargetSetting::level_t& left, const TargetSetting::level_t& right);
 [[nodiscard]] inline bool operator!=(const TargetSetting::level_t& left, const TargetSetting::level_t& right) {

@@ -1,17 +1,17 @@
 #pragma once
 
-/// The texts and numbers that decide what a record writes, by what they are the type of.
+/// The texts and numbers that determine what a record writes, grouped by the member that they are used for.
 ///
-/// A record compares its types exactly. A text that it does not know is kept and written back, but nothing that belongs
-/// to a type is written with it, and nothing says so: a misspelt type loses the value when the record is printed. So
-/// take the constant; a misspelt constant does not compile.
+/// A record compares its types exactly. An unknown text is kept and written back, but the values that belong to a type
+/// are not written with it, and no error is reported: with a misspelt type, the value is lost when the record is
+/// printed. So use the constants; a misspelt constant does not compile.
 ///
 ///     setting.gamma.value.type = lv::types::gamma::value;
 ///     mode.type.set(lv::types::colorMode::calibration);
 ///     if (curve.type == lv::types::targetCurve::lut24) ...
 ///
-/// The constants are C strings, to be assigned to the `std::string` members and compared with them. Two constants are
-/// not compared with each other.
+/// The constants are C strings: assign them to the `std::string` members and compare them with these members. Do not
+/// compare two constants with each other.
 namespace lv::types {
 
 /// For `ColorModeSettingsObject::type`, the kind of a colour mode. `CalibrationModeResultObject::type` takes any text.
@@ -25,7 +25,7 @@ inline constexpr const char* calibration = "Calibration";  ///< The `TargetSetti
 namespace brightness {
 inline constexpr const char* candela = "Candela";        ///< `value` is written.
 inline constexpr const char* percent = "Percent";        ///< `value` is written, in per cent.
-inline constexpr const char* syncSignal = "SyncSignal";  ///< No value of its own: none is written or read.
+inline constexpr const char* syncSignal = "SyncSignal";  ///< It has no value: none is written or read.
 }  // namespace brightness
 
 /// For `ParameterSetting::white_point_t::type`.
@@ -38,7 +38,7 @@ inline constexpr const char* fixed = "Fixed";              ///< `fixed` is writt
 namespace gamma {
 inline constexpr const char* value = "Value";            ///< `value` is written, the exponent.
 inline constexpr const char* fixed = "Fixed";            ///< `fixed` is written, the name of a standard.
-inline constexpr const char* syncSignal = "SyncSignal";  ///< No value of its own: none is written or read.
+inline constexpr const char* syncSignal = "SyncSignal";  ///< It has no value: none is written or read.
 }  // namespace gamma
 
 /// For `ParameterSetting::gamma_t::fixed`: the standard curves (ITU-R BT.2100) that `pqhlgClipping` is written with.
@@ -50,7 +50,7 @@ inline constexpr const char* hlg = "HLG";  ///< Hybrid log-gamma.
 /// For `ParameterSetting::gamut_t::type`.
 namespace gamut {
 inline constexpr const char* fixed = "Fixed";            ///< `fixed` is written, the name of a standard.
-inline constexpr const char* syncSignal = "SyncSignal";  ///< No gamut of its own: `fixed` is neither written nor read.
+inline constexpr const char* syncSignal = "SyncSignal";  ///< It has no gamut: `fixed` is neither written nor read.
 }  // namespace gamut
 
 /// For `TargetSetting::level_t::type`: brightness and black level.
@@ -70,7 +70,7 @@ inline constexpr const char* coordinate = "Coordinate";    ///< `x` and `y` are 
 }  // namespace targetWhitePoint
 
 /// For `TargetSetting::gamma_t::gamma_color::type`, the tone curve of one channel. The type of the red channel also
-/// decides for `TargetSetting::gamma_t`.
+/// applies to `TargetSetting::gamma_t`.
 namespace targetCurve {
 inline constexpr const char* formula = "Formula";  ///< `formula` is written, the exponent.
 inline constexpr const char* lut = "Lut";          ///< `lut` is written; if red, `importedLutFile`, too.
@@ -81,12 +81,12 @@ inline constexpr const char* hlg = "HLG";          ///< The curve has no value; 
 
 /// For `ProfileData::target_curve::type`. Other types are not written.
 namespace profileCurve {
-inline constexpr const char* formula = "Formula";  ///< `formula` is written, the curve's one parameter.
+inline constexpr const char* formula = "Formula";  ///< `formula` is written, the curve's parameter.
 inline constexpr const char* lut = "Lut";          ///< `lut` is written.
 inline constexpr const char* lStar = "LStar";      ///< Only the type is written: the lightness curve of CIE 15.
 }  // namespace profileCurve
 
-/// For `SelfCalibrationSchedule::type`, the kind of a schedule; its class says which fields each kind writes.
+/// For `SelfCalibrationSchedule::type`, the kind of a schedule; the class documents which fields each kind writes.
 namespace schedule {
 inline constexpr unsigned int everySomeMonths = 0x01;   ///< 1, at an interval in months.
 inline constexpr unsigned int everySomeWeeks = 0x02;    ///< 2, at an interval in weeks.

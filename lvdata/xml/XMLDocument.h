@@ -8,11 +8,11 @@
 
 namespace lv {
 
-/// An XML document: parses text, prints itself, and gives out wrappers of the elements it holds.
+/// An XML document: parses text, prints itself, and returns wrappers of its elements.
 ///
-/// A default-constructed wrapper owns its document: both are deleted together, and every wrapper into the document
-/// dangles from then on. It cannot be copied or moved. A document wrapped from a handle is borrowed and never deleted.
-/// One thread at a time, together with all wrappers into it.
+/// A default-constructed wrapper owns its document: both are deleted together, and every wrapper into the document then
+/// dangles. It cannot be copied or moved. A document wrapped from a handle is borrowed and never deleted. Only one
+/// thread at a time may use the document and the wrappers into it.
 class LVDATA_EXPORT XMLDocument : public XMLNode {
 public:
     /// A new, empty document, owned by the wrapper: entities are processed, white space is preserved.
@@ -37,22 +37,22 @@ public:
     /// Not moved.
     XMLDocument& operator=(XMLDocument&&) = delete;
 
-    /// Replaces the content by that of `text`, a whole XML document in UTF-8. Wrappers into the earlier content dangle.
-    /// True when the XML library accepts the text; it accepts a little more than well-formed documents (several
-    /// elements at document level, unknown entities). Otherwise, or when there is no document, false, and the document
-    /// is empty. The text ends at its first NUL. A byte order mark is dropped: `toXMLString` does not write one.
+    /// Replaces the content with `text`, a whole XML document in UTF-8. Wrappers into the earlier content dangle. True
+    /// when the XML library accepts the text; it accepts a little more than well-formed documents (several elements at
+    /// document level, unknown entities). Otherwise, or when there is no document, false, and the document is empty.
+    /// The text ends at its first NUL. A byte order mark is dropped: `toXMLString` does not write one.
     bool parseXMLString(const std::string& text);
 
     /// Why the last `parseXMLString` failed, in a few words: "mismatched element". Empty after a success.
     [[nodiscard]] std::string parseErrorText() const;
 
-    /// The line where the XML library noticed the error, counted from 1. 0 for an empty text and after a success.
+    /// The line where the XML library found the error, counted from 1. 0 for an empty text and after a success.
     [[nodiscard]] int parseErrorLine() const;
 
     /// The document's text in UTF-8: indented by four spaces a level when `pretty` is true, otherwise without added
     /// line breaks. When `declaration` is true it begins with `<?xml version="1.0" encoding="UTF-8" standalone="no"?>`.
-    /// A declaration that was parsed is part of the document and always printed, so ask for one only where there is
-    /// none. Empty when there is no document.
+    /// A parsed declaration is part of the document and always printed, so request one only if the document has none.
+    /// Empty when there is no document.
     [[nodiscard]] std::string toXMLString(bool declaration, bool pretty) const;
 
     /// The first element at document level, whatever its name; invalid when there is none.

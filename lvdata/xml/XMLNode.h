@@ -12,12 +12,12 @@ class WrapperMark;
 
 /// A node of an XML document, or nothing.
 ///
-/// The wrapper is a handle: it does not own the node, copying it copies the handle, and it is valid for as long as the
-/// document that holds the node. A wrapper without a node is invalid, which is a normal value that stands for absence:
-/// every operation on it is safe and does nothing.
+/// The wrapper is a handle: it does not own the node, copying it copies the handle, and it is valid as long as the
+/// document that holds the node. A wrapper without a node is invalid. This is a normal value that means absence: every
+/// operation on it is safe and does nothing.
 ///
-/// `const` refers to the wrapper, not to the node: changing the node leaves the handle as it is. A document and all
-/// wrappers into it belong to one thread at a time.
+/// `const` refers to the wrapper, not to the node: changing the node does not change the handle. Only one thread at a
+/// time may use a document and the wrappers into it.
 class LVDATA_EXPORT XMLNode {  // NOLINT(*-special-member-functions): moving a handle is copying it
 public:
     /// An invalid wrapper, which has no node.
@@ -27,13 +27,13 @@ public:
     /// Handles convert to wrappers, so `XMLElement element = handle;` and `return nullptr;` compile.
     XMLNode(void* node) : node_(node) {}  // NOLINT(google-explicit-constructor)
 
-    /// Leaves the node alone: it belongs to its document.
+    /// Does not delete the node: it belongs to its document.
     virtual ~XMLNode();
 
     /// Copies the handle: both wrappers then refer to the same node.
     XMLNode(const XMLNode& other) : node_(other.get()) {}
 
-    /// Lets this wrapper refer to the same node as `other`. No node is changed.
+    /// Makes this wrapper refer to the same node as `other`. No node is changed.
     XMLNode& operator=(const XMLNode& other) {  // NOLINT(*-unhandled-self-assignment,cert-oop54-cpp): the same handle
         node_ = other.get();
         return *this;
@@ -46,10 +46,10 @@ public:
     static constexpr int elementType = 2;   ///< What `type` returns for an element.
     static constexpr int otherType = 0;     ///< What `type` returns for anything else and for an invalid wrapper.
 
-    /// The kind of node: `documentType`, `elementType` or `otherType`. Safe on an invalid wrapper, too.
+    /// The kind of node: `documentType`, `elementType` or `otherType`. Also safe on an invalid wrapper.
     [[nodiscard]] int type() const;
 
-    /// The untyped handle, null when invalid; from a const wrapper as well.
+    /// The untyped handle; null when invalid. It is not const, even from a const wrapper.
     [[nodiscard]] void* get() const {
         // NOLINTNEXTLINE(*-reinterpret-cast, performance-no-int-to-ptr)
         return reinterpret_cast<void*>(reinterpret_cast<std::uintptr_t>(node_) & ~std::uintptr_t{marks});
@@ -58,8 +58,8 @@ public:
 private:
     friend class detail::WrapperMark;
 
-    // The handle. The lowest bits of an address, which are 0, mark a wrapper that the library passes to one of its own
-    // functions directly. Copies have no mark. detail/WrapperMark.h explains why.
+    // The handle. The lowest bits of an address are 0. The library uses them to mark a wrapper that it passes directly
+    // to one of its own functions. Copies have no mark. detail/WrapperMark.h explains why.
     static constexpr unsigned int marks = 3;
     void* node_ = nullptr;
 };

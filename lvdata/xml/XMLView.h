@@ -7,7 +7,7 @@
 
 namespace lv {
 
-/// An attribute of an element, to be looked at; or nothing. See `XMLView`.
+/// A read-only view of an attribute, or nothing. See `XMLView`.
 class LVDATA_EXPORT XMLAttributeView {
 public:
     /// An invalid view, which has no attribute.
@@ -35,12 +35,12 @@ private:
     const void* attribute_ = nullptr;
 };
 
-/// A node of an XML document, to be looked at: everything that the document holds can be visited, also what the getters
+/// A read-only view of a node of an XML document. Everything in the document can be visited, including what the getters
 /// of `XMLElement` ignore, such as comments and unknown elements. For programs that check or convert documents.
 ///
-/// A handle like `XMLNode`, which changes nothing and copies no text: the views of names and texts, like the handle,
-/// are valid until the node or its document is changed or deleted. Operations on an invalid view are safe and give
-/// invalid views, empty texts and 0. One thread at a time, together with the document.
+/// A handle like `XMLNode`, but it changes nothing and copies no text: the views of names and texts, like the handle,
+/// are valid until the node or its document is changed or deleted. Operations on an invalid view are safe and return
+/// invalid views, empty texts and 0. Only one thread at a time may use the views of a document.
 class LVDATA_EXPORT XMLView {
 public:
     /// What kind of node it is.

@@ -6,14 +6,15 @@ namespace lv {
 
 /// A value that may be absent: the value itself and a flag that says whether it is set.
 ///
-/// Every optional field of a record is a property. Reading an element sets the flag to "the element was found" and
-/// replaces the value only if it was; writing emits the element only if the flag is set. So `value` is always there and
-/// may be copied, but it means something only while `hasValue` is true; after a miss it still holds the earlier value.
+/// Every optional field of a record is a property. Reading sets the flag to whether the element was found, and replaces
+/// the value only if it was; writing emits the element only if the flag is set. So `value` always exists and may be
+/// copied, but it is meaningful only while `hasValue` is true; if the element was not found, `value` keeps the earlier
+/// value.
 ///
-/// A plain value: copying copies both members, nothing is shared. Distinct objects may be used from distinct threads.
+/// A plain value: copying copies both members, nothing is shared. Different threads may use different objects.
 template <class T>
 struct property {
-    /// The value. Writing to it directly does not touch the flag; `set` does both.
+    /// The value. Assigning to it directly does not change the flag; `set` does both.
     T value{};
 
     /// Whether the value is set: by the caller, or by a document that was read.
@@ -25,7 +26,7 @@ struct property {
         hasValue = true;
     }
 
-    /// Two properties are equal when both members are, including the value of a cleared flag.
+    /// Two properties are equal when both members are equal. The value is compared even if the flag is clear.
     friend bool operator==(const property& left, const property& right) {
         return left.hasValue == right.hasValue && left.value == right.value;
     }

@@ -22,7 +22,7 @@ struct RowList {
     std::vector<ElementPtr> rows{};  ///< The rows.
 };
 
-/// What stands in one place of an element: nothing, a text as it is in a document, an element or rows.
+/// The content of one place in an element: nothing, a text as it is in a document, an element or rows.
 using Slot = std::variant<std::monostate, std::string, ElementPtr, std::shared_ptr<RowList>>;
 
 /// An element of a document that Python holds. Texts are those of the document that a record prints, so nothing is
@@ -35,10 +35,10 @@ public:
     /// The element of a printed document.
     Element(const analysis::Node& printed, const Layout& layout);
 
-    /// What it has places for.
+    /// The places that it has.
     [[nodiscard]] const Layout& layout() const { return *layout_; }
 
-    /// What stands in the place of a member.
+    /// The content of a member.
     [[nodiscard]] Slot& at(std::size_t index) { return slots_.at(index); }
     [[nodiscard]] const Slot& at(std::size_t index) const { return slots_.at(index); }
 
@@ -60,13 +60,13 @@ private:
 /// A copy that shares nothing with the element.
 [[nodiscard]] ElementPtr copyOf(const Element& element);
 
-/// The same of what stands in one place.
+/// The same for the content of one place.
 [[nodiscard]] Slot copyOf(const Slot& slot);
 
 /// Whether both are of the same class and hold the same.
 [[nodiscard]] bool areEqual(const Element& left, const Element& right);
 
-/// The same of what stands in one place; rows without any are nothing.
+/// The same for the content of one place; an empty list of rows equals nothing.
 [[nodiscard]] bool areEqual(const Slot& left, const Slot& right);
 
 }  // namespace lv::python

@@ -11,9 +11,9 @@ namespace lv::python {
 
 struct Layout;
 
-/// What an element has one place for, with what Python asks of it again and again.
+/// One place in an element, with the facts that Python needs often.
 struct Member {
-    /// What stands in the place.
+    /// The kind of its content.
     enum class Kind {
         attribute,  ///< The text of an attribute.
         ownText,    ///< The text of the element itself.

@@ -5,11 +5,11 @@
 
 #include <pybind11/pybind11.h>
 
-// What goes wrong while the GIL is free: thrown as C++, raised as Python when the GIL is back. `std::invalid_argument`
+// Errors while the GIL is released: thrown in C++, raised in Python when the GIL is held again. `std::invalid_argument`
 // becomes `ValueError`.
 namespace lv::python {
 
-/// A document that cannot be taken; becomes `lvdata.ParseError`.
+/// A document that cannot be read; becomes `lvdata.ParseError`.
 struct ParseFailure {
     std::string reason;
     int line = 0;        ///< Counted from 1; 0 when no line applies.
@@ -24,7 +24,7 @@ struct FileFailure {
     std::string file;    ///< As the caller named it.
 };
 
-/// Has them raised.
+/// Registers their translation to Python.
 void addFailures(pybind11::module_& module);
 
 /// A text of a document or the name of a file for Python, which can hold any bytes: those that are not UTF-8 become

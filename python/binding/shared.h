@@ -4,7 +4,7 @@
 
 #include <pybind11/pybind11.h>
 
-// What the sources of the compiled part share.
+// Shared by the sources of the compiled part.
 namespace lv::python {
 
 /// The one catalogue of the module, made when it is first needed. Never changes.

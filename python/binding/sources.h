@@ -5,14 +5,14 @@
 #include <memory>
 #include <string>
 
-// Texts of documents, with the limits of hostile ones. None of these needs the GIL. The name of a file is empty where a
-// document is in none.
+// Texts of documents, checked against the limits. None of these needs the GIL. The name of the file is empty for a
+// document without a file.
 namespace lv::python {
 
 /// The content of a file. Throws `FileFailure` when it cannot be read, `ParseFailure` when it is too large.
 [[nodiscard]] std::string readDocument(const std::string& file);
 
-/// Throws `ParseFailure` when the text is beyond the limits.
+/// Throws `ParseFailure` when the text exceeds the limits.
 void refuseExcess(const std::string& text, const std::string& file);
 
 /// The record of a text, for those who do not look at the text itself. Throws `ParseFailure` when it holds none.

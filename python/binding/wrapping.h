@@ -12,7 +12,7 @@ namespace lv::python {
 /// From now on, elements of the layout with that index become objects of that class.
 void setClass(std::size_t id, const pybind11::type& type);
 
-/// The object of an element, which is the same one as long as Python holds it.
+/// The object of an element: always the same one as long as Python holds it.
 [[nodiscard]] pybind11::object wrapped(const ElementPtr& element);
 
 /// The element of an object.
@@ -21,7 +21,7 @@ void setClass(std::size_t id, const pybind11::type& type);
 /// What an element holds, for pickle: texts as bytes, elements, lists of rows, by their step in XPath.
 [[nodiscard]] pybind11::dict stateOf(const Element& element);
 
-/// The way back, into an element in which nothing is set. Raises TypeError, ValueError or KeyError on anything else.
+/// Restores an element, in which nothing is set yet. Raises TypeError, ValueError or KeyError on anything else.
 void restore(Element& element, const pybind11::dict& state);
 
 }  // namespace lv::python

@@ -6,7 +6,7 @@
 
 #include <lvdata/records/ParameterSetting.h>
 
-// One text of this many bytes: what comes in, what goes out, what is ignored, what is refused.
+// One text of this many bytes: read, written, ignored, refused.
 
 namespace lv::test {
 

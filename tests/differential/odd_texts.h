@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-// What documents hold that nobody expects.
+// Unexpected content of documents.
 
 namespace differential {
 
@@ -16,7 +16,7 @@ namespace differential {
 /// Characters that are escaped in a text.
 [[nodiscard]] const std::vector<std::string>& entities();
 
-/// Before a text or in its place.
+/// Before a text or instead of it.
 [[nodiscard]] const std::vector<std::string>& blanks();
 
 /// Put into a start tag, after its name or before its end.

@@ -13,7 +13,7 @@ namespace lv::test {
 /// Which texts occur.
 enum class Texts {
     xml,  ///< such as XML allows
-    any,  ///< also control characters, NUL, and bytes that are no UTF-8
+    any,  ///< also control characters, NUL, and bytes that are not UTF-8
 };
 
 /// Gives every member any state: set or not, values behind clear flags, limits, odd texts, arrays of lengths that count

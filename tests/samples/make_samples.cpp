@@ -40,7 +40,7 @@ lv::MonitorParameter monitorParameter() {
     lv::MonitorParameter parameter;
     parameter.brightness.set(148);
     parameter.contrast.set(100);
-    parameter.isHDRLUT.set(1);  // before the tables: it chooses their scale
+    parameter.isHDRLUT.set(1);  // before the tables: it determines their scale
     parameter.redLUT_x(calibrationCurve(2.218, 1.0));
     parameter.greenLUT_x(calibrationCurve(2.204, 0.984));
     parameter.blueLUT_x(calibrationCurve(2.187, 0.957));

@@ -20,7 +20,7 @@ namespace lv::test {
 /// The elements and their attributes, without what is written between them.
 [[nodiscard]] std::string withoutTexts(const std::string& text);
 
-/// After each element that holds text alone another one of its name, with another text.
+/// Adds, after each element that holds only text, another one with the same name and a different text.
 [[nodiscard]] std::string withRepeatedLeaves(const std::string& text);
 
 /// Around each child of an element unknown elements and comments, and in each element an unknown attribute.

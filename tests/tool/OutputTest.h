@@ -24,7 +24,7 @@ inline constexpr const char* noUnprivilegedRun = "an unprivileged user cannot ru
 
 unsigned int permissionsOf(const std::filesystem::path& path);
 
-/// Runs the tool in a folder with "in.xml", which is untidy, "broken.xml", which is no XML, and "large.xml".
+/// Runs the tool in a folder with "in.xml", which is untidy, "broken.xml", which is not XML, and "large.xml".
 class OutputTest : public ToolTest {
 protected:
     OutputTest();

@@ -14,7 +14,7 @@ namespace tool {
 /// Writes the findings of documents as text for people, or as one JSON object.
 class CheckReport {
 public:
-    /// What it looks like.
+    /// The layout of the report.
     struct Form {
         bool isJSON = false;
         bool withInfos = false;  // text only: JSON has everything
@@ -30,7 +30,7 @@ public:
     /// A document that could not be read; it counts among the unreadable only.
     void addUnreadable() { ++unreadable_; }
 
-    /// What there was in all.
+    /// Writes the totals.
     void end();
 
 private:
@@ -44,7 +44,7 @@ private:
     Output& output_;
     Form form_;
     Palette palette_;
-    std::string pending_{};  // JSON that was not handed over yet
+    std::string pending_{};  // JSON that is not written yet
     lv::analysis::JSONWriter writer_;
     std::size_t documents_ = 0;
     std::size_t faulty_ = 0;

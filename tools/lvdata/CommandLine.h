@@ -18,7 +18,7 @@ public:
     explicit CommandLine(const std::vector<SubcommandAdder>& subcommands);
 
     /// Parses the arguments and runs the subcommand that they name, or prints the help that they ask for. Throws
-    /// `Failure` when they are wrong, and what the subcommand throws.
+    /// `Failure` when they are wrong, and passes on what the subcommand throws.
     ExitStatus run(int argumentCount, char** arguments);
 
     [[nodiscard]] const CLI::App& parser() const { return application_; }

@@ -22,7 +22,7 @@ using lv::analysis::JSONResult;
 
 constexpr JSONForm lineForm = {true, true};
 
-/// Documents in XML begin with another character.
+/// XML documents begin with a different character.
 bool isJSON(const std::string& text) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     const bool hasMark = std::string_view(text).substr(0, byteOrderMark.size()) == byteOrderMark;
@@ -83,7 +83,7 @@ std::string Converter::rowsOf(const DataObject& record, const std::string& name)
     return rows;
 }
 
-/// The object of the document with the name of the file before its only key.
+/// The JSON object of the document, with the name of the file added before its only key.
 std::string Converter::lineOf(const DataObject& record, const std::string& name) const {
     std::string line;
     lv::analysis::JSONWriter writer(line, {true});

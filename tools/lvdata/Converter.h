@@ -14,27 +14,27 @@ namespace tool {
 /// What documents can be converted to.
 enum class Target { json, jsonl, csv, xml };
 
-/// What is to be made of each document.
+/// How each document is converted.
 struct Conversion {
     Target target = Target::json;
     std::optional<lv::analysis::Table> table;
     bool isCompact = false;
 };
 
-/// What became of a document.
+/// The result for one document.
 struct Converted {
     std::string text;
     std::string name;               // of the document, for messages
-    lv::analysis::Findings losses;  // what a document in JSON says and the text does not
+    lv::analysis::Findings losses;  // content of a JSON document that the text lacks
 };
 
-/// Reads documents in XML or JSON and makes their texts. Any number of threads may use one.
+/// Reads documents in XML or JSON and converts them. Any number of threads may use one.
 class Converter {
 public:
     /// The limits must outlive the converter.
     Converter(const Conversion& conversion, const lv::Limits& limits) : conversion_(conversion), limits_(limits) {}
 
-    /// What becomes of the document in that file. Throws `Failure` when it cannot be read or converted.
+    /// Converts the document in that file. Throws `Failure` when it cannot be read or converted.
     [[nodiscard]] Converted convert(const std::string& file) const;
 
 private:

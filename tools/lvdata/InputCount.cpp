@@ -18,7 +18,7 @@ bool canBeReadTwice(const std::string& list) {
     return list != standardStream && std::filesystem::is_regular_file(std::filesystem::u8path(list), ignored);
 }
 
-/// False at the end. What cannot be walked counts, too: it becomes a message.
+/// False at the end. A folder that cannot be read counts, too: it becomes a message.
 bool takeNext(InputWalk& inputs) {
     try {
         return inputs.next().has_value();
@@ -33,7 +33,7 @@ InputCount::InputCount(const InputOptions& options) {
     if (std::all_of(options.lists.begin(), options.lists.end(), canBeReadTwice)) {
         try {
             thread_ = std::thread([this, &options] { run(options); });
-        } catch (const std::system_error&) {  // NOLINT(bugprone-empty-catch): then nobody counts
+        } catch (const std::system_error&) {  // NOLINT(bugprone-empty-catch): then there is no count
         }
     }
 }

@@ -9,7 +9,7 @@
 
 namespace tool {
 
-/// Counts the inputs of a command on a thread of its own, beside the work on them.
+/// Counts the inputs of a command on a separate thread, while they are processed.
 class InputCount {
 public:
     /// The options must outlive the count.
@@ -23,7 +23,7 @@ public:
     InputCount(InputCount&&) = delete;
     InputCount& operator=(InputCount&&) = delete;
 
-    /// No value while the count goes on, and where it cannot be known: a list may come from a pipe, to be read only
+    /// No value while counting, and when the count cannot be known: a list may come from a pipe, which can be read only
     /// once.
     [[nodiscard]] std::optional<std::size_t> total() const;
 

@@ -8,8 +8,8 @@
 
 namespace tool {
 
-/// The files that a command reads, whatever they are called, so that it does not write over them. Any number of threads
-/// may use one.
+/// The files that a command reads, under any name, so that it does not overwrite them. Any number of threads may use
+/// one.
 class InputFiles {
 public:
     /// \param file  as `readInput` takes it

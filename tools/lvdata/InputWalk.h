@@ -16,7 +16,7 @@ struct Input {
     std::string file;  // as `readInput` takes it
 };
 
-/// Finds the inputs of a command one after the other, so that the number of files does not matter.
+/// Finds the inputs of a command one after the other, so that memory does not depend on the number of files.
 ///
 /// PATHs come in their given order, then those of the lists; folders are walked as `DocumentWalk` does.
 class InputWalk {
@@ -25,7 +25,7 @@ public:
     explicit InputWalk(const InputOptions& options) : options_(options) {}
 
     /// The next input; no value at the end. Throws `Failure` for a folder that cannot be read or holds no document, and
-    /// for a list that cannot be read. The next call goes on after it.
+    /// for a list that cannot be read. The next call continues after it.
     std::optional<Input> next();
 
 private:

@@ -14,15 +14,15 @@ public:
     /// The limits and units must outlive the reader.
     MonitorReader(const lv::Limits& limits, const lv::analysis::KnownUnits& units) : limits_(limits), units_(units) {}
 
-    /// The monitor of that document with all figures. Throws `Failure` when the document cannot be read, or is not of a
-    /// monitor.
+    /// The monitor of that document with all figures. Throws `Failure` when the document cannot be read, or does not
+    /// describe a monitor.
     [[nodiscard]] lv::analysis::MonitorDocument read(const std::string& file) const;
 
-    /// The same without what is large: tables, patches, steps and maps. The figures that are told of them stay.
+    /// The same without the large parts: tables, patches, steps and maps. The figures computed from them stay.
     [[nodiscard]] lv::analysis::MonitorDocument readSummary(const std::string& file) const;
 
-    /// Reads a document once more, with all that a page about it tells. Throws `Failure` as `read`, and when it is now
-    /// about another monitor.
+    /// Reads a document a second time, with everything that its page shows. Throws `Failure` as `read` does, and when
+    /// it is now about a different monitor.
     [[nodiscard]] lv::analysis::ReportedDocument readWhole(const lv::analysis::MonitorDocument& document) const;
 
 private:

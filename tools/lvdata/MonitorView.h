@@ -18,11 +18,11 @@ struct MonitorViewForm {
     std::string yUnit{};         // the unit of Y; empty: not known
 };
 
-/// A monitor on one screen: what it is, its colour modes with target against measured, and what its record holds.
+/// A monitor on one screen: what it is, its colour modes with target and measured values, and what its record holds.
 [[nodiscard]] std::string monitorView(const lv::MonitorInfo& monitor, const MonitorViewForm& form,
                                       const Palette& palette);
 
-/// One colour mode, a line for each figure: what was aimed at, what was measured, and the difference.
+/// One colour mode, a line for each figure: target, measured value and difference.
 [[nodiscard]] std::string modeView(const lv::analysis::ModeFigures& mode, const lv::analysis::KnownUnits& units,
                                    const Palette& palette);
 

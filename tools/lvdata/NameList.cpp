@@ -14,7 +14,7 @@ namespace tool {
 namespace {
 
 constexpr std::size_t longestName =
-    65536;  // more than any system opens; else a list without separators fills the memory
+    65536;  // longer than any path; otherwise a list without separators would fill the memory
 
 }  // namespace
 

@@ -17,7 +17,7 @@ public:
     NameList(const std::string& file, char separator);
 
     /// The next name that is not empty; no value at the end. Throws `Failure` when the file cannot be read, or holds
-    /// something that cannot be a name: the list is then at its end.
+    /// something that cannot be a name. There are no more names then.
     std::optional<std::string> next();
 
 private:

@@ -14,10 +14,10 @@
 
 namespace tool {
 
-/// Has tasks worked on by threads and hands their results out in the order of the tasks.
+/// Runs tasks on threads and returns their results in the order of the tasks.
 ///
-/// \tparam Task    what the source gives, copied to a thread
-/// \tparam Result  what a thread makes of it, moved to the taker
+/// \tparam Task    what the source returns, copied to a thread
+/// \tparam Result  what a thread returns for it, moved to the caller of `take`
 template <class Task, class Result>
 class OrderedWork {
 public:
@@ -25,8 +25,8 @@ public:
     using Source = std::function<std::optional<Task>()>;
     using Work = std::function<Result(const Task&)>;
 
-    /// Starts the threads. At most `window` tasks are begun, or done and not taken. Throws `std::system_error` when no
-    /// thread can be started; fewer than asked for are enough.
+    /// Starts the threads. At most `window` tasks are in progress, or done and not yet taken. Throws
+    /// `std::system_error` when no thread can be started; fewer threads than requested are enough.
     OrderedWork(Source source, Work work, std::size_t threads, std::size_t window)
         : source_(std::move(source)),
           work_(std::move(work)),
@@ -34,7 +34,7 @@ public:
         startThreads(threads);
     }
 
-    /// Waits for the tasks that are begun; others are dropped.
+    /// Waits for the tasks in progress; the others are dropped.
     ~OrderedWork() {
         {
             const std::lock_guard lock(mutex_);
@@ -51,8 +51,8 @@ public:
     OrderedWork(OrderedWork&&) = delete;
     OrderedWork& operator=(OrderedWork&&) = delete;
 
-    /// Waits for the next result in order; no value after the last. Throws what the source or the work threw, which
-    /// ends all.
+    /// Waits for the next result in order; no value after the last. Throws what the source or the work threw; then
+    /// there are no more results.
     std::optional<Result> take() {
         std::unique_lock lock(mutex_);
         resultOrEnd_.wait(lock, [this] { return failure_ || (slots_.empty() ? isOver_ : slots_.front().has_value()); });
@@ -129,10 +129,10 @@ private:
     Source source_;
     Work work_;
     std::size_t window_;
-    std::mutex mutex_;  // of all below, and held while the source is asked
+    std::mutex mutex_;  // protects all members below; held during calls of the source
     std::condition_variable roomOrEnd_;
     std::condition_variable resultOrEnd_;
-    std::deque<std::optional<Result>> slots_;  // of the tasks that were begun and not taken, in order
+    std::deque<std::optional<Result>> slots_;  // results of the tasks in progress or not yet taken, in order
     std::size_t taken_ = 0;
     bool isOver_ = false;  // no more tasks
     std::exception_ptr failure_;

@@ -9,8 +9,8 @@
 
 namespace tool {
 
-/// Thrown when the reader of standard output is gone, as in `lvdata ... | head -1`. The command then ends without a
-/// message.
+/// Thrown when the reader of standard output has closed the pipe, as in `lvdata ... | head -1`. The command then ends
+/// without a message.
 class ClosedPipe : public std::runtime_error {
 public:
     ClosedPipe() : std::runtime_error("the reader of standard output is gone") {}
@@ -19,10 +19,10 @@ public:
 /// Standard output, written in large pieces. For one thread at a time.
 class Output {
 public:
-    /// The signal SIGPIPE must be ignored, so that a closed pipe is an error of writing.
+    /// The signal SIGPIPE must be ignored, so that writing to a closed pipe fails with an error.
     explicit Output(int descriptor = standardOutput) : descriptor_(descriptor) {}
 
-    /// Writes what is left and ignores failure: call `flush` before, to learn of it.
+    /// Writes what is left and ignores errors: call `flush` first if you need to know about them.
     ~Output();
 
     Output(const Output&) = delete;
@@ -30,7 +30,7 @@ public:
     Output(Output&&) = delete;
     Output& operator=(Output&&) = delete;
 
-    /// Text that is written when enough has come together. Throws as `flush` does.
+    /// Adds text; it is written in large pieces. Throws as `flush` does.
     void write(std::string_view text);
 
     /// Writes everything now. Throws `ClosedPipe` or `Failure`; what could not be written is then dropped.
@@ -41,10 +41,10 @@ public:
 
     [[nodiscard]] bool isTerminal() const { return tool::isTerminal(descriptor_); }
 
-    /// From now on calls this before each time that text is written; an empty function ends that.
+    /// Sets a function that is called before text is written; an empty function removes it.
     void callBeforeWriting(std::function<void()> function) { beforeWriting_ = std::move(function); }
 
-    /// From now on `prepareForMessage` calls this; an empty function ends that.
+    /// Sets a function that `prepareForMessage` calls; an empty function removes it.
     void callBeforeMessages(std::function<void()> function) { beforeMessages_ = std::move(function); }
 
 private:
@@ -55,7 +55,7 @@ private:
 };
 
 /// Writes a text that is the whole result to the file, or to standard output if `file` is "-". Throws as
-/// `Output::flush` does. What becomes of an existing file is described in `lvdata/analysis/files/files.h`.
+/// `Output::flush` does. How an existing file is replaced is described in `lvdata/analysis/files/files.h`.
 void writeResult(const std::string& file, std::string_view text);
 
 }  // namespace tool

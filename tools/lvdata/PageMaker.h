@@ -13,8 +13,8 @@ public:
     /// The reader must outlive the maker.
     PageMaker(const MonitorReader& reader, const lv::analysis::ReportForm& form) : reader_(reader), form_(form) {}
 
-    /// Reads the latest document once more. Throws `Failure` when that is not possible, and when it does not have the
-    /// only mode to tell of.
+    /// Reads the latest document a second time. Throws `Failure` when that is not possible, and when it lacks the
+    /// requested mode.
     [[nodiscard]] lv::analysis::MonitorPage pageOf(const lv::analysis::MonitorDocuments& documents) const;
 
 private:

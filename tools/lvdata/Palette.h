@@ -9,7 +9,7 @@ namespace tool {
 
 /// When standard output is coloured.
 enum class ColorChoice {
-    automatic,  // on a terminal that understands it, unless the variable NO_COLOR is set and not empty
+    automatic,  // on a terminal that supports it, unless the variable NO_COLOR is set and not empty
     always,
     never,
 };
@@ -20,7 +20,7 @@ void addColorOption(CLI::App& command, ColorChoice& choice);
 /// Whether standard output is to be coloured. Looks at standard output and at the variables NO_COLOR and TERM.
 [[nodiscard]] bool isColored(ColorChoice choice);
 
-/// What a piece of text is, which its colour shows.
+/// The role of a piece of text, shown by its colour.
 enum class Style { heading, name, added, removed, warning, error, faint };
 
 /// Colours text for a terminal, or leaves it as it is.

@@ -13,7 +13,7 @@ namespace tool {
 [[nodiscard]] std::string progressText(std::size_t done, std::optional<std::size_t> total,
                                        std::chrono::duration<double> elapsed);
 
-/// A line on a terminal that is drawn again and again, and erased before anything else is written there.
+/// A progress line on a terminal, which is updated in place and erased before anything else is written there.
 class Progress {
 public:
     using Clock = std::chrono::steady_clock;
@@ -30,7 +30,7 @@ public:
 
     [[nodiscard]] bool isShown() const { return static_cast<bool>(write_); }
 
-    /// Draws the line, if the last time was long enough ago.
+    /// Draws the line, unless it was drawn a moment ago.
     void show(std::size_t done, std::optional<std::size_t> total);
 
     /// Erases the line, if it was drawn.
@@ -44,7 +44,7 @@ private:
     bool isDrawn_ = false;
 };
 
-/// What writes to standard error where that is a terminal that understands how to erase a line; else empty.
+/// A function that writes to standard error if that is a terminal that can erase a line; otherwise empty.
 [[nodiscard]] Progress::Write terminalWriter();
 
 }  // namespace tool

@@ -13,8 +13,8 @@ struct Subcommand {
     /// Owned by the application that it was added to.
     const CLI::App* parser;
 
-    /// Called after the command line was parsed, when it names this subcommand. Throws `Failure` for what ends the
-    /// command at once.
+    /// Called after the command line was parsed, when it names this subcommand. Throws `Failure` for an error that ends
+    /// the command at once.
     std::function<ExitStatus()> run;
 };
 

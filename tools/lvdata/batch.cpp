@@ -24,10 +24,10 @@ using Prepare = std::function<Delivery(const Input&)>;
 /// The message of a failure.
 using Message = std::string;
 
-/// An input, or why there is none in this place.
+/// An input, or the message why it could not be found.
 using Found = std::variant<Input, Message>;
 
-/// What is to be delivered in this place.
+/// A result to deliver, or a message instead.
 using Prepared = std::variant<Delivery, Message>;
 
 std::optional<Found> nextFound(InputWalk& inputs) {
@@ -56,7 +56,7 @@ Prepared prepareFound(const Found& found, const Prepare& prepare) {
     return input == nullptr ? Prepared(std::get<Message>(found)) : prepareInput(*input, prepare);
 }
 
-/// Delivers on the calling thread, and shows how far it is.
+/// Delivers on the calling thread, and shows the progress.
 class Delivering {
 public:
     Delivering(const InputOptions& inputs, Output& output) : output_(output), progress_(terminalWriter()) {
@@ -93,7 +93,7 @@ public:
     }
 
 private:
-    /// What was delivered before stands before the message where both go to one place.
+    /// Earlier results are written before the message, for the case that both go to the same terminal or file.
     ExitStatus report(const Message& message) {
         output_.prepareForMessage();
         printMessage(message);

@@ -28,29 +28,30 @@ struct BatchOptions {
 /// must outlive the command. Uses the command's `parse_complete_callback`.
 void addBatchOptions(CLI::App& command, BatchOptions& options);
 
-/// How many threads there are for that: not more than processors.
+/// The number of threads for that: not more than there are processors.
 [[nodiscard]] std::size_t jobsOf(const BatchOptions& options);
 
-/// Brings the result of one input to its user, and tells what it amounts to.
+/// Writes the result of one input, and returns its status.
 using Delivery = std::function<ExitStatus()>;
 
-/// `forEachInput` without its types, and with exactly that number of threads: `prepare` works on an input and returns
-/// what is to be called in order.
+/// `forEachInput` without its types, and with exactly that number of threads: `prepare` processes an input and returns
+/// the function to call in order.
 ExitStatus runBatch(const InputOptions& inputs, std::size_t jobs, Output& output,
                     const std::function<Delivery(const Input&)>& prepare);
 
-/// Works on every input, and returns the worst status: of `deliver`, and `failed` where an input could not be worked
-/// on.
+/// Processes every input, and returns the worst status: the one of `deliver`, or `failed` for an input that could not
+/// be processed.
 ///
 /// - `work(const Input&)` returns a result that can be moved. It is called on as many threads as there are jobs, for
 /// one
-///   job on the calling thread. What it throws is printed as a message in place of the result; the others go on.
+///   job on the calling thread. An exception is printed as a message instead of the result; the other inputs are still
+///   processed.
 /// - `deliver(Result&&)` returns the `ExitStatus` of one result. It is called on the calling thread, in the order of
 /// the
-///   inputs. What it writes goes to `output`. What it throws ends the batch and is passed on.
+///   inputs. It writes to `output`. An exception ends the batch and is passed on.
 ///
-/// A few results for each job wait for their turn, and not more. `output` is flushed at the end. Progress is shown on
-/// standard error where that is a terminal.
+/// Only a few results per job wait for their turn. `output` is flushed at the end. Progress is shown on standard error
+/// where that is a terminal.
 template <class Work, class Deliver>
 ExitStatus forEachInput(const BatchOptions& options, Output& output, const Work& work, const Deliver& deliver) {
     return runBatch(options.inputs, jobsOf(options), output, [&work, &deliver](const Input& input) -> Delivery {

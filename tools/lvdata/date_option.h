@@ -6,11 +6,11 @@
 
 namespace tool {
 
-/// Adds "--date", a text to print, or "now" for the day of today. The text must outlive the command.
+/// Adds "--date", a text to print, or "now" for today's date. The text must outlive the command.
 void addDateOption(CLI::App& command, std::string& date);
 
-/// The text, or for "now" the day as "2024-05-02": of the variable SOURCE_DATE_EPOCH when it is set, otherwise of the
-/// clock. Throws `Failure` when the variable is not a time.
+/// The text, or for "now" the date as "2024-05-02": from the variable SOURCE_DATE_EPOCH when it is set, otherwise from
+/// the clock. Throws `Failure` when the variable is not a time.
 [[nodiscard]] std::string dateText(const std::string& date);
 
 }  // namespace tool

@@ -10,7 +10,8 @@ namespace tool {
 /// The whole text of an input. Throws `Failure` when it cannot be read or exceeds a limit.
 [[nodiscard]] std::string readText(const std::string& file, const lv::Limits& limits);
 
-/// The document of a text that was read before. Throws `Failure` with that name when it exceeds a limit or holds none.
+/// The document in a text that was already read. Throws `Failure` with that name when it exceeds a limit or is not a
+/// document of a record.
 [[nodiscard]] lv::analysis::Document documentOf(const std::string& text, const std::string& name,
                                                 const lv::Limits& limits, const lv::analysis::Catalogue& catalogue);
 

@@ -28,7 +28,7 @@ std::string wrapped(std::string_view text) {
     return lines + std::string(text) + '\n';
 }
 
-/// A sample, of which one holds a byte that no terminal can show.
+/// An indented sample. One of the samples holds a byte that a terminal cannot show.
 std::string indented(std::string_view text) {
     std::string lines;
     while (!text.empty()) {

@@ -10,7 +10,7 @@ namespace {
 
 using What = lv::Excess::What;
 
-/// 1 GiB, which no document of calibration data comes near; a parse of that much may need gigabytes many times over.
+/// 1 GiB: far more than any document of calibration data. Parsing that much may need many gigabytes.
 constexpr std::size_t largest = 1'073'741'824;
 
 std::string optionFor(What what) {

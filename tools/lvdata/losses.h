@@ -6,7 +6,8 @@
 
 namespace tool {
 
-/// Prints the first ten losses of a document on standard error, and how many more there are; `more` is added to that.
+/// Prints the first ten losses of a document on standard error, and the number of the others; `more` is appended to
+/// that message.
 void printLosses(const std::string& name, const lv::analysis::Findings& losses, const std::string& more);
 
 }  // namespace tool

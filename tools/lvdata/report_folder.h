@@ -14,10 +14,10 @@ namespace tool {
 
 /// Where a report of several monitors goes.
 struct ReportFolder {
-    std::string folder;             // is made when it is not there
+    std::string folder;             // is created if it does not exist
     lv::analysis::ReportForm form;  // of the page with the table
-    std::size_t jobs = 1;           // pages that are made at a time
-    bool failsOnLimits = false;     // whether a figure beyond its limit is `found`
+    std::size_t jobs = 1;           // number of pages that are made at a time
+    bool failsOnLimits = false;     // whether a figure outside its limit gives the status `found`
 };
 
 /// Writes a page for each monitor and then "index.html" with the table of all. A monitor whose page cannot be made is

@@ -55,7 +55,7 @@ std::string findingsOf(const Document& document) {
            " (lvdata check)\n";
 }
 
-/// All modes of the index that was asked for.
+/// All modes with the requested index.
 std::string modesOf(const lv::MonitorInfo& monitor, const Options& options) {
     std::string text;
     for (const ModeFigures& mode : modesOfIndex(lv::analysis::monitorFigures(monitor, options.units).modes,
@@ -75,7 +75,7 @@ std::string viewOf(const lv::MonitorInfo& monitor, const Document& document, con
     return text + findingsOf(document) + (options.isFull ? '\n' + outlineOf(document, options) : "");
 }
 
-/// The figures as JSON, of all modes or of the index that was asked for.
+/// The figures as JSON: of all modes, or of those with the requested index.
 std::string jsonOf(const lv::MonitorInfo& monitor, const Options& options) {
     lv::analysis::MonitorFigures figures = lv::analysis::monitorFigures(monitor, options.units);
     if (!options.mode.empty()) {

@@ -4,7 +4,7 @@
 
 namespace tool {
 
-/// Adds the subcommand "show", which shows a document to people.
+/// Adds the subcommand "show", which shows a document in readable form.
 Subcommand addShow(CLI::App& application);
 
 }  // namespace tool

@@ -6,7 +6,7 @@
 
 namespace tool {
 
-/// Adds "--y-unit", "--map-unit" and "--grid": what the user knows and the records do not say. The units must outlive
+/// Adds "--y-unit", "--map-unit" and "--grid": what the user knows and the records do not state. The units must outlive
 /// the command.
 void addUnitOptions(CLI::App& command, lv::analysis::KnownUnits& units);
 

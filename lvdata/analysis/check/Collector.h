@@ -14,14 +14,14 @@ public:
     /// The options must outlive the collector.
     explicit Collector(const CheckOptions& options) : options_(options) {}
 
-    /// Whether the rule of that id is looked for. Asked before work that is done for the rule alone.
+    /// Whether the rule with that id is checked. Call this before work that only this rule needs.
     [[nodiscard]] bool isWanted(std::string_view id) const { return options_.ignored.count(id) == 0; }
 
-    /// Whether another finding of that rule would be listed, with its severity or another one. If not, its path and
-    /// message do not matter.
+    /// Whether another finding of that rule would be listed, with its own or the given severity. If not, its path and
+    /// message are not needed.
     [[nodiscard]] bool isListing(std::string_view id, std::optional<Severity> severity = std::nullopt) const;
 
-    /// Adds a finding of that rule, with its severity or another one.
+    /// Adds a finding of that rule, with its own or the given severity.
     void add(std::string_view id, int line, std::string path, std::string message,
              std::optional<Severity> severity = std::nullopt);
 

@@ -36,7 +36,7 @@ bool isBetter(const Node& candidate, const Node* chosen, const Shape& shape) {
     return chosen == nullptr || (isKeyed && textOf(candidate) != nullptr);
 }
 
-/// The printed row, after which the next one is the one to be matched.
+/// The printed row; the next one is then the one to match.
 const Node* takeRow(const Node*& printed) {
     const Node* const row = printed;
     if (row != nullptr) {
@@ -61,7 +61,7 @@ void reportVersion(Reporter& reporter, const Shape& record, const Node& attribut
     }
 }
 
-/// Whether it is not read although it is there.
+/// Whether it exists but is not read.
 bool isIgnored(const Position& position) {
     return firstDenied(position.shape->readWhen(), position, {}) != nullptr;
 }
@@ -256,7 +256,7 @@ void Comparison::compareRow(const Position& row, std::size_t number, const Node*
     }
 }
 
-/// What is printed and has no like in the document.
+/// What is printed and has no match in the document.
 void Comparison::reportRest(const Pair& pair, const std::vector<Match>& matches) {
     for (const Match& match : matches) {
         const bool isRow = match.rows > 0;

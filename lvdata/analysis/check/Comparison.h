@@ -10,10 +10,10 @@
 
 namespace lv::analysis {
 
-/// Walks along a document and the one that its record prints, and makes a finding of each difference.
+/// Visits a document and the document that its record prints, and makes a finding for each difference.
 ///
-/// Every node of both documents is visited: it has its like in the other, or there is a finding about it or about an
-/// element that holds it. So a document without a finding is written back as it is.
+/// Every node of both documents is visited: it has a matching node in the other document, or there is a finding about
+/// it or about an element that holds it. So a document without a finding is written back unchanged.
 class Comparison {
 public:
     /// All must outlive the comparison.
@@ -24,17 +24,17 @@ public:
     void run();
 
 private:
-    /// An element of the document and its like in what the record prints.
+    /// An element of the document and the matching element that the record prints.
     struct Pair {
         const Shape& shape;
         const Node& source;
         const Node& printed;
     };
 
-    /// What is read and what is printed for one of the shapes in an element.
+    /// The nodes that are read and printed for one of the shapes in an element.
     struct Match {
-        const Node* chosen = nullptr;   // of several elements in the document the one that is read
-        const Node* printed = nullptr;  // its like; of rows the first that is not matched yet
+        const Node* chosen = nullptr;   // the element that is read, if the document has several
+        const Node* printed = nullptr;  // the matching node; for rows, the first that is not matched yet
         std::size_t rows = 0;           // how many rows were seen
     };
 

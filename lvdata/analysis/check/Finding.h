@@ -8,18 +8,18 @@
 
 namespace lv::analysis {
 
-/// Something in a document that its record does not keep as it stands, or that is probably a mistake.
+/// Something in a document that its record does not keep unchanged, or that is probably a mistake.
 struct Finding {
-    const Rule* rule = nullptr;  ///< What was looked for. Never null.
-    Severity severity{};         ///< How much it matters; most often what the rule says.
-    int line = 0;                ///< Where it is, counted from 1; 0 when no line applies.
+    const Rule* rule = nullptr;  ///< The rule. Never null.
+    Severity severity{};         ///< The severity; usually that of the rule.
+    int line = 0;                ///< The line, counted from 1; 0 when no line applies.
     std::string path{};          ///< XPath of the element or attribute: "/MonitorInfo/AssetInfo/Owner".
-    std::string message{};       ///< What is wrong, and what becomes of it.
+    std::string message{};       ///< What is wrong, and what happens to the content.
 };
 
 /// The findings of one document, in the order of their lines.
 struct Findings {
-    std::vector<Finding> listed{};  ///< Of each severity at most as many as asked for,
+    std::vector<Finding> listed{};  ///< For each severity at most the requested number,
     std::size_t errors = 0;         ///< but all are counted: errors,
     std::size_t warnings = 0;       ///< warnings,
     std::size_t infos = 0;          ///< and remarks.

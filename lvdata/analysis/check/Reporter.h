@@ -23,7 +23,7 @@ public:
     /// Whether the rule of that id is looked for.
     [[nodiscard]] bool isWanted(std::string_view id) const { return collector_.isWanted(id); }
 
-    /// Whether another finding of that rule would be listed. Asked before work that is done for its message alone.
+    /// Whether another finding of that rule would be listed. Call this before work that only the message needs.
     [[nodiscard]] bool isListing(std::string_view id) const { return collector_.isListing(id); }
 
     /// A finding about the element where the walk is, or about its text or its markup.

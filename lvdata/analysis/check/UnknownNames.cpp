@@ -9,7 +9,7 @@ namespace {
 
 using Place = Description::Place;
 
-/// `; did you mean "Brightness"?`, or nothing when no name of that place is close.
+/// `; did you mean "Brightness"?`, or an empty text when no name of that place is similar.
 std::string guess(const Shape& parent, Place place, std::string_view name) {
     std::vector<std::string> names;
     for (const auto& child : parent.children()) {

@@ -9,16 +9,16 @@
 
 namespace lv::analysis {
 
-/// Makes findings about elements and attributes that the record does not know, with a guess what was meant.
+/// Makes findings about elements and attributes that the record does not know, with a suggestion for the intended name.
 class UnknownNames {
 public:
     /// The shape of the root element, which must outlive the object.
     explicit UnknownNames(const Shape& root) : root_(root) {}
 
-    /// An element that its parent, where the walk is, does not know.
+    /// An element that its parent, the current element, does not know.
     void reportElement(Reporter& reporter, const Shape& parent, const Node& element);
 
-    /// An attribute that its element, where the walk is, does not know.
+    /// An attribute that its element, the current element, does not know.
     static void reportAttribute(Reporter& reporter, const Shape& parent, const Node& attribute);
 
 private:

@@ -13,29 +13,30 @@ namespace lv::analysis {
 
 /// What to look for, and how much of it to list.
 struct CheckOptions {
-    std::set<std::string, std::less<>> ignored{};  ///< Ids of rules that are not looked for.
-    bool roundtrip = false;                        ///< Also whether the text is what the record prints, byte for byte.
-    std::size_t mostListed = 1000;                 ///< At most so many of each severity are listed; all are counted.
+    std::set<std::string, std::less<>> ignored{};  ///< Ids of rules that are skipped.
+    bool roundtrip = false;         ///< Also compare the text with what the record prints, byte for byte.
+    std::size_t mostListed = 1000;  ///< Maximum number of listed findings per severity; all are counted.
 };
 
-/// Options that leave out the rules about values which are kept as they are: what is left is lost, changed or added
-/// when the document is written back.
+/// Options without the rules about values that are kept: the remaining rules are about content that is lost, changed or
+/// added when the document is written back.
 [[nodiscard]] CheckOptions lossOptions();
 
-/// The same without the rules where nothing that the document says is lost.
+/// The same, and also without the rules where no content of the document is lost.
 [[nodiscard]] CheckOptions pureLossOptions();
 
-/// What would be lost, changed or added if the text was read as a record and written back, and what in it is hardly
-/// meant. Without a finding of a warning or an error the record holds all that the text says: the text is compared with
-/// the document that the record prints, and each difference is a finding. The order of elements and attributes, white
-/// space between elements and the spelling of characters (entities, CDATA) do not count as differences.
+/// Finds what would be lost, changed or added if the text was read as a record and written back, and values that are
+/// probably a mistake. If no finding is a warning or an error, the record holds everything in the text: the text is
+/// compared with the document that the record prints, and each difference is a finding. The order of elements and
+/// attributes, white space between elements and the spelling of characters (entities, CDATA) do not count as
+/// differences.
 ///
-/// Takes any text; look for the limits of hostile ones before (`findExcess`). May be called from any number of threads
-/// with one catalogue. Time grows with the length of the text.
+/// Takes any text; check untrusted texts against limits first (`findExcess`). Any number of threads may call it with
+/// one catalogue. Time is proportional to the length of the text.
 [[nodiscard]] Findings check(const std::string& text, const Catalogue& catalogue, const CheckOptions& options = {});
 
-/// The same for a document that was read already. `record` is printed with its switch `writeHLGSystemGamma` as it is:
-/// when it is off, the elements that it drops are among the findings.
+/// The same for a document that was already read. The record is printed with its current `writeHLGSystemGamma`: when
+/// the switch is off, the elements that are then dropped are among the findings.
 [[nodiscard]] Findings checkDocument(const Document& document, const CheckOptions& options = {});
 
 /// The same for the nodes of a document that was not read from a text, and the record that was read from it.

@@ -6,7 +6,7 @@
 namespace lv::analysis {
 
 /// Makes a finding that says why something in the document is not written back: an attribute, a text, or an element
-/// with all that it holds.
+/// with all its content.
 void reportDropped(Reporter& reporter, const Position& position, const Circumstances& circumstances);
 
 /// The same for the row of a list.

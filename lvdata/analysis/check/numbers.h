@@ -6,9 +6,9 @@ namespace lv::analysis {
 
 /// How the text of a number is read.
 enum class NumberText {
-    canonical,      ///< As it is written.
-    otherSpelling,  ///< As the number that it says: "+5", "05", " 5".
-    empty,          ///< Not at all: it has no character.
+    canonical,      ///< As the number; the text is in canonical form.
+    otherSpelling,  ///< As the number, but in a different spelling: "+5", "05", " 5".
+    empty,          ///< Not read: it has no character.
     noNumber,       ///< As 0, since it does not begin with a number.
     outOfRange,     ///< As the nearest limit.
     negative,       ///< As a large number: it is negative, but the number is unsigned.

@@ -5,8 +5,7 @@
 
 namespace lv::analysis {
 
-/// Makes a finding of each value in the element, where the walk is, that is kept but probably a mistake: the rules 401
-/// to 499.
+/// Makes a finding for each value in the current element that is kept but probably a mistake: the rules 401 to 499.
 void judgePlausibility(Reporter& reporter, const Position& element);
 
 }  // namespace lv::analysis

@@ -17,8 +17,8 @@ struct ColourMatch {
 inline constexpr std::size_t colourMatches = 95;
 
 /// The colour-matching functions of the CIE 1931 2° standard observer. From 380 nm to 780 nm it is table T.4 of CIE
-/// 15:2004. What that table leaves out matters a little for hot radiators: it is from the data set of the CIE that has
-/// every nanometre, https://doi.org/10.25039/CIE.DS.xvudnb9b.
+/// 15:2004. The other rows matter slightly for hot radiators: they are from the data set of the CIE in steps of 1 nm,
+/// https://doi.org/10.25039/CIE.DS.xvudnb9b.
 [[nodiscard]] const std::array<ColourMatch, colourMatches>& colourMatchingFunctions();
 
 }  // namespace lv::analysis::colour

@@ -13,10 +13,10 @@ namespace {
 namespace geometry = boost::geometry;
 using Polygon = geometry::model::polygon<geometry::model::d2::point_xy<double>>;
 
-// Less is a point or a line, but for rounding.
+// A smaller area is a point or a line with rounding errors.
 constexpr double smallestArea = 1e-9;
 
-// Far more than any primary has, imaginary ones included, and little enough for exact results.
+// Far more than any primary has, even an imaginary one, and small enough for exact results.
 constexpr double largestCoordinate = 10;
 
 std::optional<PlanePoint> planePoint(const Chromaticity& chromaticity, Plane plane) {

@@ -19,8 +19,8 @@ struct PlanePoint {
     double vertical = 0;    ///< y or v'.
 };
 
-/// The three primaries in a diagram, red, green, blue. No value where a primary has no place in it, or one so far off
-/// (a coordinate above 10 or below -10) that no primary can have it.
+/// The three primaries in a diagram, red, green, blue. No value when a primary has no place in it, or has a coordinate
+/// above 10 or below -10, which no primary can have.
 [[nodiscard]] std::optional<std::array<PlanePoint, 3>> triangle(const Primaries& primaries, Plane plane);
 
 /// A gamut against a reference, both as triangles of their primaries in one diagram.
@@ -29,8 +29,8 @@ struct GamutComparison {
     double areaRatio = 0;  ///< The area of the gamut over that of the reference; can exceed 1.
 };
 
-/// No value when a triangle has no area or its points have no place in the diagram, nor where rounding leaves the
-/// result in doubt. Computed by Boost.Geometry.
+/// No value when a triangle has no area, when its points have no place in the diagram, or when rounding makes the
+/// result doubtful. Computed by Boost.Geometry.
 [[nodiscard]] std::optional<GamutComparison> compareGamuts(const Primaries& gamut, const Primaries& reference,
                                                            Plane plane);
 

@@ -10,8 +10,8 @@ namespace lv::analysis::colour {
 /// Three rows of three entries.
 using Matrix = std::array<std::array<double, 3>, 3>;
 
-/// What turns linear R, G and B of 0 to 1 into X, Y and Z, white having Y 1: SMPTE RP 177. No value when the primaries
-/// lie on a line or y of a colour is 0.
+/// The matrix from linear R, G and B of 0 to 1 to X, Y and Z, where white has Y = 1: SMPTE RP 177. No value when the
+/// primaries lie on a line or y of a colour is 0.
 [[nodiscard]] std::optional<Matrix> rgbToXYZ(const Primaries& primaries, const Chromaticity& white);
 
 /// The matrix that has the three columns.
@@ -23,9 +23,9 @@ using Matrix = std::array<std::array<double, 3>, 3>;
 /// Matrix times column.
 [[nodiscard]] std::array<double, 3> product(const Matrix& matrix, const std::array<double, 3>& column);
 
-/// The colour that looks under the white `to` as the given one does under `from`, by the linear Bradford transform as
-/// Little CMS has it (`cmsAdaptToIlluminant`). Both whites must fulfil `isWhite`. Where Little CMS has no transform for
-/// a white, the colour stays as it is.
+/// Adapts a colour from the white `from` to the white `to`, by the linear Bradford transform of Little CMS
+/// (`cmsAdaptToIlluminant`). Both whites must fulfil `isWhite`. If Little CMS has no transform for a white, the colour
+/// stays unchanged.
 [[nodiscard]] Tristimulus adapted(const Tristimulus& colour, const Tristimulus& from, const Tristimulus& to);
 
 }  // namespace lv::analysis::colour

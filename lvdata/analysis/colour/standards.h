@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-/// Colour spaces, whites and the spectrum locus, as the standards lay them down.
+/// Colour spaces, whites and the spectrum locus, as defined by the standards.
 namespace lv::analysis::colour {
 
 /// The chromaticities of three primaries.
@@ -28,9 +28,9 @@ struct RGBSpace {
 /// The spaces that gamuts are compared with: sRGB, Adobe RGB (1998), Display P3 and BT.2020, in this order.
 [[nodiscard]] const std::array<RGBSpace, 4>& referenceSpaces();
 
-/// The space that a record names. Letters of either case count the same; blanks, points, hyphens, underscores and
-/// parentheses do not count: "BT.709" and "bt709" are the primaries of sRGB, "BT.2100" those of BT.2020. No value for
-/// any other name, "Native" included.
+/// The space that a record names. Upper and lower case are equal; blanks, points, hyphens, underscores and parentheses
+/// are ignored: "BT.709" and "bt709" are the primaries of sRGB, "BT.2100" those of BT.2020. No value for any other
+/// name, "Native" included.
 [[nodiscard]] std::optional<Primaries> primariesNamed(std::string_view name);
 
 /// The chromaticity of a white that a record names, compared in the same way: "D50", "D55", "D65", "D75", "DCI" and the

@@ -13,8 +13,8 @@ constexpr double lowest = 1000;
 constexpr double highest = 100000;
 constexpr double farthest = 0.05;
 
-// From one temperature of the table to the next. The paper has 1.01 and a correction factor; with steps so small none
-// is needed.
+// From one temperature of the table to the next. The paper has 1.01 and a correction factor, which such small steps do
+// not need.
 constexpr double step = 1.0025;
 
 // A point of the CIE 1960 UCS diagram.

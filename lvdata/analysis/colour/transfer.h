@@ -2,8 +2,8 @@
 
 #include <array>
 
-/// Tone curves of the standards. Signals are 0 to 1. What lies outside the range of an argument counts as the nearer
-/// end, what is not a number as the lower end.
+/// Tone curves of the standards. Signals are 0 to 1. An argument outside its range is set to the nearer end, NaN to the
+/// lower end.
 namespace lv::analysis::colour {
 
 /// EOTF of IEC 61966-2-1 (sRGB): the light of a signal, 0 to 1.

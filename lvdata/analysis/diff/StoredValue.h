@@ -11,17 +11,17 @@
 
 namespace lv::analysis {
 
-/// The integers of a number or an array as a printed document has them, and what they stand for.
+/// The integers of a number or an array in a printed document, and what they stand for.
 struct StoredArray {
     std::vector<std::int64_t> numbers{};  ///< The stored integers; one of a number.
     const Quantity* quantity = nullptr;   ///< What they stand for. Never null where `isNumeric` holds.
 };
 
-/// How two arrays differ, place by place.
+/// How two arrays differ, entry by entry.
 struct ComparedArrays {
     /// The largest change.
     struct Largest {
-        std::size_t index = 0;  ///< Its place, counted from 0.
+        std::size_t index = 0;  ///< Its index, counted from 0.
         std::string change{};   ///< The second minus the first, as shown.
         double size = 0;        ///< The same without its sign.
     };
@@ -33,13 +33,13 @@ struct ComparedArrays {
 /// The stored integers of an array's text.
 [[nodiscard]] std::vector<std::int64_t> storedNumbers(std::string_view text);
 
-/// The text of a thing that has one: empty when it could have one. Null for an element that only holds others.
+/// The text at the position; empty when it could have a text but has none. Null for an element that only holds others.
 [[nodiscard]] const std::string_view* storedText(const Position& position);
 
 /// The integers at the position, where `isNumeric` holds.
 [[nodiscard]] StoredArray storedArray(const Position& position);
 
-/// Compares what stands at equal places, exactly, also where the factors differ.
+/// Compares the entries with the same index, exactly, even if the factors differ.
 [[nodiscard]] ComparedArrays compareArrays(const StoredArray& before, const StoredArray& after);
 
 /// The value of a stored integer, exactly; the integer itself when the factor is not a power of ten.

@@ -11,8 +11,8 @@
 
 namespace lv::analysis {
 
-/// How large a difference may be before it counts. One limit for each kind of value: a quantity, by its name, such as
-/// "gain"; or a colour difference, `duv` or `de00`.
+/// The largest differences that are not listed. There is one limit for each kind of value: a quantity, by its name,
+/// such as "gain"; or a colour difference, `duv` or `de00`.
 ///
 /// The limit of a quantity is absolute, in the values that are shown: of a gain 0.001, of a code value 1 (of 255).
 /// Kinds without a limit allow no difference.
@@ -33,8 +33,8 @@ public:
     /// The limit of a kind; no value when there is none.
     [[nodiscard]] std::optional<double> of(std::string_view kind) const;
 
-    /// Sets the limits in a text such as "de00=0.5,chromaticity=0.0005". Returns what is wrong with it, and sets none
-    /// then; empty when all is well.
+    /// Sets the limits in a text such as "de00=0.5,chromaticity=0.0005". Returns an empty text; if the text is wrong,
+    /// sets nothing and returns the reason.
     [[nodiscard]] std::string take(std::string_view text, const Catalogue& catalogue);
 
 private:

@@ -23,7 +23,7 @@ struct Child {
 
 using ChildList = std::vector<Child>;
 
-/// The text child of the shape that counts at the element: the one that would be written.
+/// The text child of the shape that is in use at the element: the one that would be written.
 const Shape* textShape(const Position& element, const Node& text) {
     for (const auto& child : element.shape->children()) {
         const Position position = {child.get(), &text, element.node};
@@ -72,7 +72,7 @@ ChildList childrenAt(const Position& parent) {
     return list;
 }
 
-/// Takes the children of one shape from the front of a list.
+/// Takes the children of one shape from the start of a list.
 class Front {
 public:
     explicit Front(const Position& parent) : list_(childrenAt(parent)) {}
@@ -97,7 +97,7 @@ private:
     std::size_t next_ = 0;
 };
 
-/// Whether it is reported as one, and not each thing in it, when only one document has it.
+/// Whether it is reported as a whole, without its content, when only one document has it.
 bool isWhole(const Position& position) {
     const Description& facts = position.shape->facts();
     return facts.repetition == Description::Repetition::rows || !facts.record.empty();
@@ -108,7 +108,7 @@ bool isCoordinate(const Shape& shape, std::string_view name) {
     return facts.name == name && facts.place == Place::element && facts.quantity == quantities::chromaticity;
 }
 
-/// Walks along two documents at once.
+/// Visits two documents in parallel.
 class Walk {
 public:
     explicit Walk(const DiffOptions& options) : judge_{options.tolerances}, ignored_(options.ignoredPaths) {}
@@ -122,7 +122,7 @@ public:
 private:
     using Nodes = std::vector<const Node*>;
 
-    /// Does something with a step more at the end of the path.
+    /// Calls a function with one more step at the end of the path.
     template <class Do>
     void inStep(const std::string& step, Do action) {
         const std::size_t length = path_.size();
@@ -157,7 +157,7 @@ private:
         }
     }
 
-    /// Of x and y, which belong together, when both documents have both: whether that is so.
+    /// Reports x and y together when both documents have both. Returns whether they have.
     bool comparesChromaticity(const Shape& shape, const ValuePair& parents) {
         const Shape* const x = isCoordinate(shape, "y") ? shape.parent()->firstElement("x") : &shape;
         const Shape* const y = isCoordinate(shape, "x") ? shape.parent()->firstElement("y") : &shape;

@@ -14,7 +14,7 @@
 
 namespace lv::analysis {
 
-/// The size of a change of colour, or why there is none.
+/// The size of a colour difference, or why it is not known.
 struct ColourChange {
     /// How it was computed.
     enum class Formula {
@@ -29,11 +29,11 @@ struct ColourChange {
     std::string whiteAfter{};            ///< The same of the other side.
 };
 
-/// What has become of the entries of an array, compared by their place.
+/// How the entries of an array changed, compared by index.
 struct TableChange {
     /// The entry with the largest change.
     struct Entry {
-        std::size_t index = 0;  ///< Its place, counted from 0.
+        std::size_t index = 0;  ///< Its index, counted from 0.
         std::string before{};   ///< What it was,
         std::string after{};    ///< what it is,
         std::string change{};   ///< and the exact difference.
@@ -46,8 +46,8 @@ struct TableChange {
     std::optional<Entry> largest{};  ///< No value when none differs, or the two are not comparable.
 };
 
-/// One thing in which two records differ. Numbers are exact decimals of the value, in its unit. Where the factor is not
-/// a power of ten they are stored integers, and the unit says so: "1/255".
+/// One difference between two records. Numbers are exact decimals of the value, in its unit. Where the factor is not a
+/// power of ten they are stored integers, and the unit says so: "1/255".
 struct Difference {
     /// What happened to it.
     enum class Kind {
@@ -81,7 +81,7 @@ struct Difference {
     std::optional<ColourChange> colour{};  ///< Of a chromaticity, or of X, Y and Z, that both have.
 };
 
-/// What two records differ in.
+/// The differences between two records.
 struct Diff {
     std::vector<Difference> differences{};  ///< In the order of writing.
     std::size_t withinTolerance = 0;        ///< Differences that are not listed because they are small.
@@ -93,22 +93,22 @@ struct DiffRefusal {
     std::string reason;  ///< Why, in a few words.
 };
 
-/// What counts as a difference.
+/// Which differences are listed.
 struct DiffOptions {
-    /// Differences that are not larger are counted and not listed. Where several limits apply, such as those of "de00"
-    /// and "tristimulus", none may be exceeded.
+    /// Differences within these limits are counted but not listed. If several limits apply, such as those of "de00" and
+    /// "tristimulus", none of them may be exceeded.
     Tolerances tolerances{};
 
-    /// Paths whose differences are counted and not listed, with everything below: "MonitorInfo/UUID"; "//Name" at any
-    /// depth. They can leave out what is in brackets, and then stand for all rows.
+    /// Paths whose differences are counted but not listed, with everything below: "MonitorInfo/UUID"; "//Name" at any
+    /// depth. Without the part in brackets, a path stands for all rows.
     std::vector<std::string> ignoredPaths{};
 };
 
-/// Compares two records of one class by the documents that they print. What is not printed makes no difference: values
-/// whose flag is clear or that do not belong to the "Type" of their element.
+/// Compares two records of one class by the documents that they print. Values that are not printed are not compared:
+/// those whose flag is clear, and those that do not belong to the "Type" of their element.
 ///
 /// Rows are compared with those of the same "Index" (of equal ones in their order), measurements with those of the same
-/// RGB or CMYK when each has one of its own, other rows by their place.
+/// RGB or CMYK if no RGB or CMYK occurs twice, other rows by position.
 [[nodiscard]] std::variant<Diff, DiffRefusal> diff(const DataObject& before, const DataObject& after,
                                                    const Catalogue& catalogue, const DiffOptions& options = {});
 

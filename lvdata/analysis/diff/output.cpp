@@ -10,12 +10,12 @@ namespace {
 using Content = Difference::Content;
 using Kind = Difference::Kind;
 
-/// What is said of each formula.
+/// The texts for each formula.
 struct FormulaText {
     std::string_view key;       // in JSON
     std::string_view symbol;    // in words
     std::string_view formula;   // its name
-    std::string_view observer;  // empty where it is not recorded
+    std::string_view observer;  // empty when it is not recorded
     int digits;                 // after the point, in words
 };
 
@@ -38,7 +38,7 @@ std::string shown(const Difference& difference, const Difference::Value& value) 
     return difference.content == Content::string ? '"' + value.text + '"' : value.text;
 }
 
-/// " candela", " of 255" for "1/255"; empty where there is none.
+/// " candela", " of 255" for "1/255"; empty when there is none.
 std::string unitInWords(const std::string& unit) {
     constexpr std::string_view fraction = "1/";
     const bool isFraction = std::string_view(unit).substr(0, fraction.size()) == fraction;

@@ -8,7 +8,7 @@
 namespace lv::analysis {
 
 /// The difference in one line without its path: "0.3127, 0.329 -> 0.3457, 0.3585 (Δu'v' 0.02275, ...)". Texts are in
-/// quotation marks, as they are: they can hold line breaks and control characters.
+/// quotation marks and not escaped: they can hold line breaks and control characters.
 [[nodiscard]] std::string inWords(const Difference& difference);
 
 /// Gives one object to the sink: "differences" with an object for each, "within_tolerance" and "ignored". Values are

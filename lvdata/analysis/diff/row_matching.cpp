@@ -25,7 +25,7 @@ std::optional<std::string_view> childText(const Node& row, const Shape& child) {
     return std::nullopt;
 }
 
-/// Whether each row has a text there that no other one has.
+/// Whether each row has a unique text there.
 bool areTold(const Rows& rows, const Shape& child) {
     std::unordered_set<std::string_view> seen;
     return std::all_of(rows.begin(), rows.end(), [&](const Node* row) {
@@ -43,7 +43,7 @@ bool isShownColour(const Shape& shape) {
     return quantity && (*quantity == quantities::codeValue || *quantity == quantities::inkAmount);
 }
 
-/// The child whose text tells the rows apart; null when they are matched by place.
+/// The child whose text identifies the rows; null when they are matched by position.
 const Shape* keyOf(const Shape& row, const Rows& before, const Rows& after) {
     for (const auto& child : row.children()) {
         const bool tells =

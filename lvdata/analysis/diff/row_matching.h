@@ -18,17 +18,17 @@ struct RowPair {
 /// The rows of two lists.
 struct RowPairs {
     std::vector<RowPair> rows{};  ///< Those of the first list in its order, then those that only the second has.
-    bool isReordered = false;     ///< Whether rows that both have stand in a different order.
+    bool isReordered = false;     ///< Whether the rows that both have are in a different order.
 };
 
-/// Finds the rows that belong together, in time proportional to their number:
+/// Matches rows, in time proportional to their number:
 ///
-/// - rows that have a number "Index" by that number; of equal ones, and of those without, the first of one list belongs
-///   to the first of the other, and so on;
-/// - rows of measurements by RGB when each row of both lists has one that no other of its list has; otherwise by CMYK
+/// - rows that have a number "Index" by that number; if several have the same number or none, the first of one list is
+///   matched with the first of the other, and so on;
+/// - rows of measurements by RGB if each row has an RGB that is unique in its list; otherwise by CMYK
 /// in
 ///   the same way;
-/// - others by their place.
+/// - others by position.
 [[nodiscard]] RowPairs matchRows(const Shape& row, const std::vector<const Node*>& before,
                                  const std::vector<const Node*>& after);
 

@@ -18,10 +18,10 @@ struct ValuePair {
 /// A difference without its path, and whether it is small enough not to be listed.
 struct JudgedDifference {
     Difference difference{};         ///< The difference.
-    bool isWithinTolerance = false;  ///< Whether no limit is exceeded, of which there is at least one.
+    bool isWithinTolerance = false;  ///< Whether at least one limit applies and none is exceeded.
 };
 
-/// What is needed to judge differences.
+/// The data that is needed to compare differences with the limits.
 struct Judge {
     const Tolerances& tolerances;    ///< The limits.
     ReferenceWhites whitesBefore{};  ///< The whites of the first document.

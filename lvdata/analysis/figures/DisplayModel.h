@@ -10,34 +10,34 @@
 
 namespace lv::analysis {
 
-/// The columns of the matrix are what full red, green and blue add to black, scaled so that all three make the white.
+/// The columns of the matrix are what full red, green and blue add to black, scaled so that their sum is the white.
 struct Channels {
     std::optional<colour::Matrix> matrix{};
     std::string reason{};  ///< Why there is no matrix; otherwise empty.
 };
 
-/// No matrix where a colour is missing, the primaries cannot make the white, or that is not brighter than black. A
-/// missing black counts as 0.
+/// There is no matrix when a colour is missing, when the primaries cannot make the white, or when the white is not
+/// brighter than black. A missing black counts as 0.
 [[nodiscard]] Channels channelsOf(const MeasuredSet& set);
 
-/// A display without errors: what it would show.
+/// A model of a display without errors: the colours that it would show.
 class DisplayModel {
 public:
     /// \param channels  what full red, green and blue add to black
-    /// \param black     what it shows of 0, 0, 0
+    /// \param black     the colour that it shows for 0, 0, 0
     /// \param curves    the tone curves of the three channels
     /// \param isAbsolute  whether Y is known to be in cd/m²
     DisplayModel(const colour::Matrix& channels, const colour::Tristimulus& black,
                  const std::array<ToneCurve, 3>& curves, bool isAbsolute);
 
-    /// What it shows of signals of 0 to 1, or why that is not known.
+    /// The colour that it shows for signals of 0 to 1, or why that is not known.
     struct Prediction {
         std::optional<colour::Tristimulus> XYZ{};
         std::string reason{};
     };
     [[nodiscard]] Prediction predict(const std::array<double, 3>& signals) const;
 
-    /// What it shows of 1, 1, 1.
+    /// The colour that it shows for 1, 1, 1.
     [[nodiscard]] const colour::Tristimulus& white() const { return white_; }
 
 private:

@@ -10,9 +10,9 @@
 
 namespace lv::analysis {
 
-/// A monitor at one time: a document of it.
+/// A monitor at one time: one of its documents.
 struct Snapshot {
-    std::string document{};    ///< What the document is called, such as its path.
+    std::string document{};    ///< The name of the document, such as its path.
     std::string when{};        ///< The latest time of a calibration in it, as the record has it; may be empty.
     MonitorFigures figures{};  ///< Its figures.
 };
@@ -32,15 +32,15 @@ struct HistorySeries {
     std::vector<Point> points{};  ///< Of each document that has the mode, in their order.
 };
 
-/// What tells monitors apart: the UUID, or else the serial number with the model; empty when there is neither.
+/// The identity of a monitor: the UUID, or else the serial number with the model; empty when there is neither.
 [[nodiscard]] std::string identityOf(const MonitorInfo& monitor);
 
 /// The latest time of a calibration, for `Snapshot::when`: of those that are dates, otherwise the first that is not
 /// empty.
 [[nodiscard]] std::string latestTimeOf(const MonitorFigures& figures);
 
-/// Puts documents of one monitor in the order of time: by date where all have one that can be read (year first, as
-/// `isDate` takes it), otherwise the given order stays.
+/// Sorts the documents of one monitor by time: by date if all have one that can be read (year first, as `isDate` takes
+/// it); otherwise the order stays.
 void sortByTime(std::vector<Snapshot>& snapshots);
 
 /// The series of all figures of a mode (by its index) over all documents, in the order of `figureLines`. Empty when no

@@ -9,7 +9,7 @@
 namespace lv::analysis {
 namespace {
 
-/// The fewest digits that tell the number.
+/// The shortest text that gives the number.
 std::string shortest(double value) {
     std::array<char, 400> text{};  // room for the longest
     char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));

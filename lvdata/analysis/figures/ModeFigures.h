@@ -14,19 +14,19 @@
 
 namespace lv::analysis {
 
-/// What the user knows of units and shapes that the records do not say.
+/// Units and shapes that the user knows and the records do not state.
 struct KnownUnits {
     std::string yUnit{};        ///< The unit of CIE X, Y and Z, such as "cd/m²"; empty: not known.
     std::string mapUnit{};      ///< The unit of the entries of candela maps; empty: not known.
     std::size_t gridWidth = 0;  ///< The entries in a row of a candela map; 0: not known.
 };
 
-/// Who and what measured a mode, as the record has it; empty where it has nothing.
+/// Who and what measured a mode, as recorded; a text is empty when the record has no value.
 struct MeasuredBy {
     std::string sensorName{};       ///< The colour sensor.
     std::string sensorSerial{};     ///< Its serial number.
     std::string referenceName{};    ///< The sensor that it was correlated with.
-    std::string referenceSerial{};  ///< The serial number of that one.
+    std::string referenceSerial{};  ///< The serial number of that sensor.
     std::string correlationDate{};  ///< When it was correlated.
     std::string software{};         ///< The software that ran the calibration.
     std::string executor{};         ///< What kind of executor ran it.
@@ -34,9 +34,9 @@ struct MeasuredBy {
     std::string usageHours{};       ///< Hours of use, by the name of the element.
 };
 
-/// One primary, aimed at and measured.
+/// One primary: target and measured.
 struct PrimaryFigures {
-    std::optional<colour::Chromaticity> target{};    ///< Where the target has it: by x and y, or by a standard.
+    std::optional<colour::Chromaticity> target{};    ///< The target: by x and y, or by a standard.
     std::optional<colour::Chromaticity> measured{};  ///< x and y of the measured primary.
     Figure deltaUV{};                                ///< Δu'v' of both.
 };
@@ -54,7 +54,7 @@ struct GamutFigures {
 struct ToneStep {
     double signal = 0;  ///< The code value as a fraction of 255.
     double light = 0;   ///< (Y - Y of black) / (Y of white - Y of black), of the series itself.
-    Figure target{};    ///< What the target's tone curve makes of the signal.
+    Figure target{};    ///< The light that the target's tone curve gives for the signal.
     Figure gamma{};     ///< log(light) / log(signal).
 
     /// R, G and B that make this grey, each over their mean; by the measured primaries and white, 1 for balanced.
@@ -63,28 +63,28 @@ struct ToneStep {
 
 /// The tone response of a mode.
 struct ToneFigures {
-    std::vector<ToneStep> steps{};  ///< By signal, rising; of several with one signal the mean.
+    std::vector<ToneStep> steps{};  ///< Sorted by signal; several patches with one signal are averaged.
     std::string targetCurve{};      ///< What the target is, such as "2.2"; empty when not known.
-    Figure targetGamma{};           ///< The exponent aimed at, where the target is a power of the signal.
+    Figure targetGamma{};           ///< The target exponent, if the target is a power of the signal.
     Figure meanGamma{};             ///< The mean of the steps from 10 % to 90 % of the signal.
     Figure greatestDeviation{};     ///< The greatest |light - target| of all steps, as a fraction.
     Figure greatestImbalance{};     ///< The greatest |balance - 1| of a channel, of steps from 20 % of the signal.
 };
 
-/// One measurement against what it should be.
+/// One measurement, compared with the expected colour.
 struct PatchFigures {
     std::size_t number = 0;                             ///< Which row of the series, counted from 1.
     std::optional<std::array<unsigned int, 3>> RGB{};   ///< The code values that were shown.
     std::optional<std::array<unsigned int, 4>> CMYK{};  ///< The inks that were shown, in per cent.
     std::optional<colour::Tristimulus> XYZ{};           ///< What was measured.
-    std::optional<colour::Tristimulus> expected{};      ///< What should have been.
+    std::optional<colour::Tristimulus> expected{};      ///< The expected colour.
     Figure deltaE2000{};                                ///< ΔE00 of both.
 };
 
-/// All measurements of a mode against what they should be.
+/// All measurements of a mode, compared with the expected colours.
 struct SeriesFigures {
     std::vector<PatchFigures> patches{};  ///< In the order of the series.
-    std::string reference{};              ///< What they are compared with, in words; empty when there is nothing.
+    std::string reference{};              ///< The reference in words; empty when there is none.
     Figure mean{};                        ///< The mean ΔE00.
     Figure percentile95{};                ///< The least ΔE00 that 95 % of the patches do not exceed.
     Figure maximum{};                     ///< The greatest ΔE00.
@@ -98,13 +98,13 @@ struct SixColours {
     std::array<int, 6> values{};  ///< In steps of the monitor.
 };
 
-/// What a calibration aimed at and what it reached, of one colour mode. Texts are empty where the record has nothing.
+/// The target and the result of the calibration of one colour mode. Texts are empty when the record has no value.
 struct ModeFigures {
-    std::string index{};  ///< The number that tells the mode apart.
+    std::string index{};  ///< The number that identifies the mode.
     std::string name{};   ///< Its name.
     std::string type{};   ///< Its type, such as "Calibration".
 
-    std::string targetBrightness{};     ///< "120", "140 candela", "80 %": with a unit where the record says it.
+    std::string targetBrightness{};     ///< "120", "140 candela", "80 %": with a unit if the record states it.
     std::string targetBlack{};          ///< "Minimum", "1".
     std::string targetWhite{};          ///< "x 0.3127 y 0.3290", "Temperature 6500" or, of a standard mode, its name.
     std::string targetWhiteStandard{};  ///< The name of a standard, which newer targets have beside the older form.
@@ -113,9 +113,9 @@ struct ModeFigures {
 
     std::string calibratedTime{};                                ///< When it was calibrated, as the record has it.
     MeasuredBy measuredBy{};                                     ///< Who and what measured.
-    Figure targetY{};                                            ///< The brightness aimed at, where it is a number.
-    std::optional<colour::Chromaticity> targetChromaticity{};    ///< Where the target white is given by x and y.
-    std::optional<colour::Chromaticity> standardChromaticity{};  ///< Of the standard that the target white names.
+    Figure targetY{};                                            ///< The target brightness, if it is a number.
+    std::optional<colour::Chromaticity> targetChromaticity{};    ///< Target white, if given by x and y.
+    std::optional<colour::Chromaticity> standardChromaticity{};  ///< White of the standard named by the target.
     std::optional<colour::Tristimulus> measuredWhite{};          ///< X, Y, Z of the white that was reached.
     std::optional<colour::Chromaticity> measuredChromaticity{};  ///< x and y of the measured white.
     std::optional<colour::Tristimulus> measuredBlack{};          ///< X, Y, Z of the measured black.
@@ -138,7 +138,7 @@ struct ModeFigures {
     std::size_t measurements = 0;  ///< Rows of the mode's measurement series.
 };
 
-/// The white that a mode aims at: by x and y, or else of a standard.
+/// The target white of a mode: by x and y, or else by a standard.
 [[nodiscard]] inline std::optional<colour::Chromaticity> aimedWhite(const ModeFigures& mode) {
     return mode.targetChromaticity ? mode.targetChromaticity : mode.standardChromaticity;
 }
@@ -146,7 +146,7 @@ struct ModeFigures {
 /// The figures of one mode.
 ///
 /// The measured white is "JustCalibratedWhite", or else the white of the profile data; black and primaries are those of
-/// the profile data. The set "Limited109" is not looked at.
+/// the profile data. The set "Limited109" is not used.
 [[nodiscard]] ModeFigures modeFigures(const JoinedMode& mode, const KnownUnits& known = {});
 
 /// The figures of all modes, joined and ordered as `joinedModes` does it.

@@ -26,7 +26,7 @@ struct MapFigures {
     std::vector<double> againstCentre{};  ///< Each entry over the centre, minus 1; empty when there is no centre.
 };
 
-/// All that is told of a monitor. Texts are empty where the record has nothing.
+/// All figures of a monitor. Texts are empty when the record has no value.
 struct MonitorFigures {
     std::string uuid{};                 ///< Its identifier.
     std::string name{};                 ///< Its name.
@@ -36,7 +36,7 @@ struct MonitorFigures {
     std::vector<ModeFigures> modes{};   ///< See `modeFigures`.
     MapFigures uniformity{};            ///< The map of uniformity.
     MapFigures brightness{};            ///< The map of brightness.
-    KnownUnits known{};                 ///< What its user said of units.
+    KnownUnits known{};                 ///< The units that the user gave.
 };
 
 /// The figures of a monitor.
@@ -45,7 +45,7 @@ struct MonitorFigures {
 /// The figures of one map.
 [[nodiscard]] MapFigures mapFigures(std::string_view name, const CandelaMapEntry& map, const KnownUnits& known = {});
 
-/// The monitor that a record is of, with what it has of one: a `MonitorInfo`, `MonitorConfiguration`,
+/// The monitor that a record describes, completely or in part: a `MonitorInfo`, `MonitorConfiguration`,
 /// `ColorModeSettings`, `CalibrationModeResult` or `CandelaMap`. No value for another class.
 [[nodiscard]] std::optional<MonitorInfo> monitorOf(const DataObject& record);
 

@@ -13,7 +13,7 @@
 namespace lv::analysis {
 namespace {
 
-/// Arrays that are shown whole, also when not everything is asked for: a matrix of 3 by 3 is one.
+/// Arrays up to this length are always shown completely, such as a matrix of 3 by 3.
 constexpr std::size_t fewEntries = 9;
 
 /// The entries and rows that are shown of longer ones.

@@ -10,14 +10,14 @@
 
 namespace lv::analysis {
 
-/// What a display can show, of its Y.
+/// The range of Y that a display can show.
 struct ToneRange {
     double white = 0;         ///< Y of its white; above that of black.
     double black = 0;         ///< Y of its black.
     bool isAbsolute = false;  ///< Whether Y is known to be in cd/m².
 };
 
-/// How much light a signal is to make.
+/// A tone curve: the light for a signal.
 struct ToneCurve {
     /// What kind of curve it is.
     enum class Kind {
@@ -34,7 +34,7 @@ struct ToneCurve {
     Kind kind = Kind::power;        ///< Its kind.
     double exponent = 0;            ///< For `power` and `hlg`.
     std::vector<double> entries{};  ///< For `table`: two or more.
-    std::string label{};            ///< What it is called: "2.2", "table", "LStar".
+    std::string label{};            ///< Its name: "2.2", "table", "LStar".
 };
 
 [[nodiscard]] bool operator==(const ToneCurve& left, const ToneCurve& right);
@@ -45,8 +45,8 @@ struct ToneCurve {
 /// A curve by its entries; no value of fewer than two.
 [[nodiscard]] std::optional<ToneCurve> tableCurve(std::vector<double> entries);
 
-/// The curve that a record names: a number such as "2.2" is an exponent. Of other names letters of either case count
-/// the same, and only letters and digits count: "L*" and "LStar", "BT.1886", "DICOM" and "GSDF". No value for any
+/// The curve that a record names: a number such as "2.2" is an exponent. In other names, upper and lower case are
+/// equal, and only letters and digits are compared: "L*" and "LStar", "BT.1886", "DICOM" and "GSDF". No value for any
 /// other.
 [[nodiscard]] std::optional<ToneCurve> curveNamed(std::string_view name);
 

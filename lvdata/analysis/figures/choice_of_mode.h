@@ -10,7 +10,7 @@ namespace lv::analysis {
 /// All modes of that index, in their order.
 [[nodiscard]] std::vector<ModeFigures> modesOfIndex(const std::vector<ModeFigures>& modes, const std::string& index);
 
-/// Why there is none: "no colour mode has the index 7; there are 0, 1, 2".
+/// The message when there is none: "no colour mode has the index 7; known indices: 0, 1, 2".
 [[nodiscard]] std::string whyNoModeOfIndex(const std::vector<ModeFigures>& modes, const std::string& index);
 
 /// A mode, or why there is none.

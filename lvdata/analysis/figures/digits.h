@@ -1,6 +1,6 @@
 #pragma once
 
-/// How many digits after the point figures have that are not lines: the same in JSON, in tables and on pages.
+/// The number of digits after the point for figures that are not lines: the same in JSON, in tables and on pages.
 namespace lv::analysis::digits {
 
 inline constexpr int tristimulus = 4;    ///< X, Y and Z.

@@ -20,7 +20,7 @@ public:
         json_.string(inUTF8(value));
     }
 
-    /// Null where the user gave none.
+    /// Null if the user gave none.
     void textOrNull(std::string_view key, std::string_view value) {
         if (value.empty()) {
             nothing(key);
@@ -36,7 +36,7 @@ public:
 
     void number(double value, int decimals) { json_.number(fixedText(value, decimals), Sink::NumberKind::fraction); }
 
-    /// A figure that is n/a is null, with its reason under a key of its own.
+    /// A figure that is n/a is null, with its reason under a separate key.
     void figure(const std::string& key, const Figure& figure, int decimals) {
         if (figure.value) {
             json_.key(key);

@@ -10,12 +10,12 @@ namespace lv::analysis {
 /// A colour mode: what is set up, and its result. One of the two may be null, but not both. Points into the records.
 struct JoinedMode {
     const ColorModeSettingsObject* setting = nullptr;     ///< What is set up.
-    const CalibrationModeResultObject* result = nullptr;  ///< What calibrating it gave.
+    const CalibrationModeResultObject* result = nullptr;  ///< The result of its calibration.
 };
 
 /// All modes, in the order of the settings; results without settings come last. Settings and results belong together
-/// when they have the same index; where several have it, the first to the first, and so on. Either may be null: there
-/// are none of them.
+/// when they have the same index; if several have the same index, the first setting belongs to the first result, and so
+/// on. Either list may be null, which stands for an empty list.
 [[nodiscard]] std::vector<JoinedMode> joinedModes(const ColorModeSettings* settings,
                                                   const CalibrationModeResult* results);
 

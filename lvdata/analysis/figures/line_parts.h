@@ -7,10 +7,10 @@
 
 namespace lv::analysis {
 
-/// What a line aims at; neither value nor reason nor words where a target makes no sense.
+/// The target of a line; no value, no reason and no words when a target makes no sense.
 struct Aim {
     Figure number{};      ///< The number, or why there is none.
-    std::string words{};  ///< The target where it is not a number; they count where `number` has no value.
+    std::string words{};  ///< The target if it is not a number; used when `number` has no value.
 };
 
 /// Gives a line its target, measured value and their difference.

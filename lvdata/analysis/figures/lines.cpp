@@ -11,9 +11,9 @@ namespace {
 
 using Mode = ModeFigures;
 
-constexpr std::string_view unitOfY = "Y";  // stands for what the user gave
+constexpr std::string_view unitOfY = "Y";  // stands for the unit that the user gave
 
-/// What one line tells; `target` is null where a target makes no sense.
+/// The definition of one line; `target` is null when a target makes no sense.
 struct LineForm {
     std::string_view key;
     std::string_view group;

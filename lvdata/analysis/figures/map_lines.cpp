@@ -7,7 +7,7 @@
 namespace lv::analysis {
 namespace {
 
-/// What one line of a map tells.
+/// The definition of one line of a map.
 struct LineForm {
     const char* key;
     const char* label;

@@ -9,7 +9,7 @@
 namespace lv::analysis {
 namespace {
 
-/// What a series is compared with, or why there is nothing.
+/// The reference of a series, or why there is none.
 struct Reference {
     std::optional<DisplayModel> model{};
     std::string words{};
@@ -119,7 +119,7 @@ void setMissing(SeriesFigures& series, const std::string& reason) {
     series.mean = series.percentile95 = series.maximum = missing(reason);
 }
 
-/// The patches that have a ΔE00, the greatest first; of equal ones the first first.
+/// The patches that have a ΔE00, greatest first; equal ones in their order.
 std::vector<std::size_t> byDifference(const std::vector<PatchFigures>& patches) {
     std::vector<std::size_t> indices;
     for (std::size_t index = 0; index < patches.size(); ++index) {

@@ -11,10 +11,10 @@
 
 namespace lv::analysis {
 
-/// A figure that there is not.
+/// A figure that is not available.
 [[nodiscard]] Figure missing(const std::string& reason);
 
-/// A figure that was computed; n/a where that left the range of numbers.
+/// A figure that was computed; n/a if the result is out of the range of numbers.
 [[nodiscard]] Figure computed(double value);
 
 /// The value of a stored integer.
@@ -40,12 +40,13 @@ template <class Integer>
 /// X, Y and Z of a chromaticity that has the given Y; no value where y is not above 0.
 [[nodiscard]] std::optional<colour::Tristimulus> tristimulusOf(const colour::Chromaticity& chromaticity, double Y);
 
-/// The text of a value that is set, otherwise nothing.
+/// The text of a value that is set; otherwise an empty text.
 [[nodiscard]] inline std::string textOf(const property<std::string>& text) {
     return text.hasValue ? text.value : "";
 }
 
-/// What the profile data measured. Empty where the set is not complete; black, too, where it is marked as not valid.
+/// The measured colours of the profile data. Empty when the set is not complete; black is also empty when it is marked
+/// as not valid.
 struct MeasuredSet {
     std::optional<colour::Tristimulus> red{};
     std::optional<colour::Tristimulus> green{};

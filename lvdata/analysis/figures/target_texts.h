@@ -18,7 +18,7 @@ namespace lv::analysis {
 /// The name of a standard; empty when it is not set.
 [[nodiscard]] std::string standardOf(const property<TargetSetting::standard_t>& standard);
 
-/// What a mode aims at: its texts, its Y and the x and y of its white.
+/// The target of a mode: its texts, its Y and the x and y of its white.
 void takeTarget(ModeFigures& figures, const ColorModeSettingsObject& setting);
 
 }  // namespace lv::analysis

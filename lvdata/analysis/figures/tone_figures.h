@@ -9,7 +9,7 @@ namespace lv::analysis {
 [[nodiscard]] ToneFigures toneFiguresOf(const CalibrationModeResultObject& result, const TargetCurves& target,
                                         const KnownUnits& known);
 
-/// Tone figures that there are not.
+/// Tone figures that are not available.
 [[nodiscard]] ToneFigures missingTone(const TargetCurves& target, const std::string& reason);
 
 /// Whether the user said that Y is in cd/m².

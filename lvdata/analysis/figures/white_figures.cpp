@@ -7,7 +7,7 @@ namespace {
 
 using Result = CalibrationModeResultObject;
 
-/// Of white and black of one set: other whites may have another unit.
+/// From white and black of one set: other whites may have a different unit.
 Figure contrastOf(const MeasuredSet& set) {
     if (!set.black) {
         return missing(set.blackReason);

@@ -4,7 +4,7 @@
 
 namespace lv::analysis {
 
-/// White and black that were reached, against the target that `figures` already has.
+/// Measured white and black, compared with the target that is already in `figures`.
 void takeWhite(ModeFigures& figures, const CalibrationModeResultObject& result);
 
 /// The CCT of a white in K, and its Δuv.

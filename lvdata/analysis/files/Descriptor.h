@@ -21,7 +21,7 @@ Result checked(Result result) {
 /// Owns an open file descriptor.
 class Descriptor {
 public:
-    /// Takes over what a system call returned; throws as `checked` does.
+    /// Takes ownership of the descriptor that a system call returned; throws as `checked` does.
     explicit Descriptor(int opened) : descriptor_(checked(opened)) {}
 
     ~Descriptor() {

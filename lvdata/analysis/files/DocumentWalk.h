@@ -7,26 +7,26 @@
 
 namespace lv::analysis {
 
-/// Finds documents in folders one after the other: the files whose name ends with ".xml". It holds the names of the
-/// folders that it is in, and not more, so that the number of files does not matter.
+/// Finds documents in folders one after the other: the files whose names end with ".xml". It holds only the names in
+/// the folders that are open, so memory does not depend on the total number of files.
 ///
-/// In a folder, files and folders are taken together in the order of the bytes of their names. Symbolic links to
-/// folders are followed where they are given, and ignored inside a folder; so are devices and pipes.
+/// In a folder, files and folders are sorted together by the bytes of their names. Symbolic links to folders are
+/// followed when they are given as paths. Inside a folder, such links, devices and pipes are ignored.
 class DocumentWalk {
 public:
-    /// A document, or something that could not be walked.
+    /// A document, or a folder that could not be read.
     struct Found {
-        std::string path{};       ///< Its path: as it was given, or below a folder that was.
-        std::string reason{};     ///< Why it could not be walked; empty: it is a document.
-        std::error_code error{};  ///< The same as the system has it.
+        std::string path{};       ///< Its path: as given, or below a given folder.
+        std::string reason{};     ///< Why it could not be read; empty: it is a document.
+        std::error_code error{};  ///< The same as an error of the system.
     };
 
-    /// Goes to a file or a folder. What is left of the one before is dropped.
+    /// Starts at a file or a folder. The rest of the previous one is dropped.
     void start(const std::string& path);
 
-    /// The next document. After one that could not be walked the next call goes on. No value at the end of what was
-    /// given. A file that was given is a document whatever it is called, also when there is none of that name: reading
-    /// it tells why.
+    /// The next document. After a folder that could not be read, the next call continues. No value at the end. A file
+    /// that was given counts as a document whatever its name, even if it does not exist: reading it then reports the
+    /// error.
     std::optional<Found> next();
 
 private:

@@ -5,13 +5,13 @@
 namespace lv::analysis {
 
 /// Holds back the signals that ask a program to end (SIGINT, SIGTERM, SIGHUP; on Windows Ctrl-C and Ctrl-Break) while it
-/// exists, so that something can be finished or removed first. At its end they do what they would have done.
+/// exists, so that something can be finished or removed first. When it is destroyed, the signals take effect.
 ///
-/// It holds for the calling thread and for threads that this starts meanwhile. The signals go to any thread that does
-/// not hold them, so start other threads under held signals, too. Signals that the program ignores, or holds already,
-/// are left as they are.
+/// It applies to the calling thread and to threads that this thread starts meanwhile. The system delivers the signals
+/// to any thread that does not hold them, so start other threads while the signals are held, too. Signals that the
+/// program already ignores or holds are not changed.
 ///
-/// On Windows it holds for all threads, and at the end Ctrl-C does what `std::raise(SIGINT)` does.
+/// On Windows it applies to all threads, and at the end Ctrl-C does what `std::raise(SIGINT)` does.
 class HeldSignals {
 public:
     HeldSignals();

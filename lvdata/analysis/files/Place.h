@@ -17,14 +17,14 @@ public:
     [[nodiscard]] int folder() const { return folder_.get(); }
     [[nodiscard]] const std::string& name() const { return name_; }
 
-    /// Whether it is a link that the system makes to an open file, such as "/proc/self/fd/1" and "/dev/stdout". What
-    /// can be read of such a link may name another file, or none.
+    /// Whether it is a link that the system makes to an open file, such as "/proc/self/fd/1" and "/dev/stdout". The
+    /// target text of such a link may name a different file, or none.
     [[nodiscard]] bool isLinkOfSystem() const { return isLinkOfSystem_; }
 
-    /// What is there, opened for writing and otherwise unchanged; nothing when nothing is there.
+    /// The existing file, opened for writing and otherwise unchanged; no value when there is none.
     [[nodiscard]] std::optional<Descriptor> openForWriting() const;
 
-    /// The open descriptor of this process that the link of the system leads to; nothing when it is no such link.
+    /// The open descriptor of this process that the link of the system leads to; no value when it is not such a link.
     [[nodiscard]] std::optional<int> ownDescriptor() const;
 
 private:

@@ -10,12 +10,12 @@
 
 namespace lv::analysis {
 
-/// A new file with a name of its own, ".lvdata-XXXXXX", in an open folder. It is removed at the end unless it was
-/// stored under another name. Functions throw `std::system_error`.
+/// A new file with a unique name, ".lvdata-XXXXXX", in an open folder. It is removed at the end unless it was stored
+/// under another name. Functions throw `std::system_error`.
 ///
 /// A program that is asked to end by a signal removes the file first: writing looks for the signal after each block and
-/// then stops with "Interrupted system call". Nothing is registered for that, so it works in any program. Only a
-/// program that is killed (SIGKILL), or a signal that goes to another thread, leaves the file.
+/// then stops with "Interrupted system call". No signal handler is needed for that, so it works in any program. The
+/// file stays only if the program is killed (SIGKILL) or the signal goes to another thread.
 class TemporaryFile {
 public:
     /// \param folder  stays open as long as the file; a folder that is renamed or moved meanwhile makes no difference
@@ -31,7 +31,8 @@ public:
 
     void write(std::string_view text);
 
-    /// Stores what was written, and gives the file this name in the folder, in the place of one that has it.
+    /// Stores what was written, and gives the file this name in the folder; an existing file with that name is
+    /// replaced.
     void storeAs(const std::string& name);
 
 private:

@@ -10,7 +10,7 @@ namespace {
 
 using Path = std::filesystem::path;
 
-/// Up to so many bytes; less when there are no more.
+/// Up to that many bytes; fewer at the end.
 std::string readUpTo(std::size_t most, int descriptor) {
     std::string text;
     std::array<char, 65536> block{};

@@ -15,8 +15,8 @@
 
 namespace lv::analysis {
 
-// Records and texts from files and into files. What goes wrong is a value, in words that can be shown; only
-// `std::bad_alloc` is thrown. The functions have no state of their own and may be called from any thread.
+// Reading and writing records and texts as files. Errors are return values with a readable reason; only
+// `std::bad_alloc` is thrown. The functions have no state and may be called from any thread.
 //
 //     const lv::analysis::LoadedRecord loaded = lv::analysis::load("monitor.xml");
 //     if (!loaded) {
@@ -25,7 +25,7 @@ namespace lv::analysis {
 
 /// The content of a file, or why it could not be read. Converts to true when it was read.
 struct FileContent {
-    /// What was read; empty when it could not be read.
+    /// The content; empty when the file could not be read.
     std::string text;
 
     /// Why it could not be read: `error.message()` is "No such file or directory".
@@ -34,41 +34,41 @@ struct FileContent {
     [[nodiscard]] explicit operator bool() const { return !error; }
 };
 
-/// Reads a file from its beginning, `most` bytes of it at most. To learn whether there is more, ask for one byte more
-/// than you can take; so a device or a pipe without end does no harm.
+/// Reads a file from its beginning, `most` bytes of it at most. To find out whether there is more, request one byte
+/// more than you can take. So a device or a pipe without end does no harm.
 [[nodiscard]] FileContent readFile(const std::filesystem::path& path, std::size_t most);
 
-/// The same for an open descriptor, such as standard input, from where it stands. It stays open.
+/// The same for an open descriptor, such as standard input, from its current position. It stays open.
 [[nodiscard]] FileContent readDescriptor(int descriptor, std::size_t most);
 
-/// How loading a record ended: done, or why not. Converts to true when it is done.
+/// The result of loading a record: done, or the reason for the failure. Converts to true when it is done.
 struct LoadResult {
-    /// How far loading came.
+    /// The result of loading.
     enum class Outcome {
         done,                ///< The record was read.
-        notReadable,         ///< The system did not let the file be read; `error` has its reason.
-        beyondLimit,         ///< The document holds more than the limits allow; `excess` says of what.
+        notReadable,         ///< The system could not read the file; `error` has its reason.
+        beyondLimit,         ///< The document exceeds a limit; `excess` says which.
         notXML,              ///< The text is not XML.
         nothingThere,        ///< The text is empty, or has no element.
-        rootElementRefused,  ///< There is no record class of this root element, or the given record has another one.
+        rootElementRefused,  ///< No record class has this root element, or the given record has a different one.
     };
 
-    /// Whether the record was read, and if not, what is wrong.
+    /// Whether the record was read; if not, the kind of error.
     Outcome outcome = Outcome::done;
 
-    /// What is wrong, in words: "No such file or directory", "mismatched element". Empty when done.
+    /// The reason in words: "No such file or directory", "mismatched element". Empty when done.
     std::string reason;
 
-    /// The line of the document that is to blame, counted from 1; 0 when none is.
+    /// The line of the error, counted from 1; 0 when no line applies.
     int line = 0;
 
     /// The reason of the system; set with `notReadable` only.
     std::error_code error;
 
-    /// What there is too much of; set with `beyondLimit` only.
+    /// The limit that is exceeded; set with `beyondLimit` only.
     std::optional<Excess> excess;
 
-    /// What is wrong and where: "line 3: mismatched element"; without a line when none is to blame. Empty when done.
+    /// The line and the reason: "line 3: mismatched element"; without a line when none applies. Empty when done.
     [[nodiscard]] std::string message() const;
 
     [[nodiscard]] explicit operator bool() const { return outcome == Outcome::done; }
@@ -79,7 +79,7 @@ struct LoadedRecord {
     /// The record; null when it could not be loaded.
     std::unique_ptr<DataObject> record;
 
-    /// How loading ended.
+    /// The result of loading.
     LoadResult result;
 
     /// The class of the record; null when there is no record.
@@ -88,20 +88,20 @@ struct LoadedRecord {
     [[nodiscard]] explicit operator bool() const { return record != nullptr; }
 };
 
-/// Loads a record of the class that the document's root element names. A file, or a document in it, that is beyond the
-/// limits is refused before it is parsed; so is a document with a NUL, where parsing would end. When the document has
-/// an element "HLGSystemGamma" that is written on request only, `writeHLGSystemGamma` of the record is set, so that
-/// saving keeps it.
+/// Loads a record of the class that the document's root element names. A file or document that exceeds the limits is
+/// refused before it is parsed. A document with a NUL is refused, too, because parsing would end there. When the
+/// document has an element "HLGSystemGamma" that is written on request only, `writeHLGSystemGamma` of the record is
+/// set, so that saving keeps it.
 [[nodiscard]] LoadedRecord load(const std::filesystem::path& path, const Limits& limits = {});
 
-/// Loads into a record that you have, in the same way. When that is not possible, the record is unchanged.
+/// Loads into an existing record, in the same way. When that is not possible, the record is unchanged.
 [[nodiscard]] LoadResult load(const std::filesystem::path& path, DataObject& record, const Limits& limits = {});
 
 /// As `load`, from a text.
 [[nodiscard]] LoadedRecord loadText(const std::string& text, const Limits& limits = {});
 
-/// The same for those who load many documents and have a catalogue: what a record class can contain is then not worked
-/// out again for documents with an element "HLGSystemGamma". The catalogue is not needed afterwards.
+/// The same with a catalogue, for loading many documents: documents with an element "HLGSystemGamma" need the
+/// descriptions, which are then not computed again each time. The catalogue is not needed afterwards.
 [[nodiscard]] LoadedRecord load(const std::filesystem::path& path, const Catalogue& catalogue,
                                 const Limits& limits = {});
 [[nodiscard]] LoadedRecord loadText(const std::string& text, const Catalogue& catalogue, const Limits& limits = {});
@@ -109,12 +109,12 @@ struct LoadedRecord {
 /// As `load`, from a text into a record that you have.
 [[nodiscard]] LoadResult loadText(const std::string& text, DataObject& record, const Limits& limits = {});
 
-/// How saving ended: done, or why not. Converts to true when it is done.
+/// The result of saving: done, or the reason for the failure. Converts to true when it is done.
 struct SaveResult {
-    /// What is wrong, in words: "No space left on device". Empty when done.
+    /// The reason in words: "No space left on device". Empty when done.
     std::string reason;
 
-    /// The same as the system has it.
+    /// The same as an error of the system.
     std::error_code error;
 
     [[nodiscard]] explicit operator bool() const { return !error; }
@@ -129,18 +129,18 @@ struct SaveOptions {
     bool pretty = true;
 };
 
-/// Saves a record as an XML document in UTF-8, whose last line ends, as `writeFile` does.
+/// Saves a record as an XML document in UTF-8 with a line feed at the end, as `writeFile` does.
 [[nodiscard]] SaveResult save(const std::filesystem::path& path, const DataObject& record,
                               const SaveOptions& options = {});
 
-/// Writes a text to a file. A regular file is replaced in one step by a finished new one with the rights of the old, or
-/// it is left as it was; through a symbolic link it is the file that is replaced, not the link. Anything else of that
-/// name, a device or a pipe, is written into; so is an open file under its name "/dev/fd/N", and what standard output
-/// is redirected to.
+/// Writes a text to a file. A regular file is replaced in one step by a complete new one with the same permissions, or
+/// it stays unchanged. If the name is a symbolic link, the file is replaced, not the link. Anything else with that
+/// name, a device or a pipe, is written to directly; so is an open file under its name "/dev/fd/N", and the target of a
+/// redirected standard output.
 ///
-/// A file that may not be written to is not replaced, and neither is one whose access list or attributes cannot be
+/// A file that the user may not write to is not replaced, and neither is one whose access list or attributes cannot be
 /// kept. Other hard links to the file keep the old content. A signal that asks the program to end (SIGINT, SIGTERM,
-/// SIGHUP) stops the writing with `std::errc::interrupted`, and nothing is left behind; with other threads see
+/// SIGHUP) stops the writing with `std::errc::interrupted`, and no file is left behind; if there are other threads, see
 /// `HeldSignals`.
 [[nodiscard]] SaveResult writeFile(const std::filesystem::path& path, std::string_view text);
 

@@ -13,7 +13,7 @@ namespace {
 
 using Outcome = LoadResult::Outcome;
 
-/// Refuses what the XML library would misread or choke on.
+/// Refuses texts that the XML library would misread, or that exceed the limits.
 LoadResult checkedText(const std::string& text, const Limits& limits) {
     const std::size_t nul = text.find('\0');
     if (nul != std::string::npos && text.size() <= limits.bytes) {  // where the XML library would stop reading
@@ -48,10 +48,10 @@ bool hasGoverned(ParsedDocument& document, const RecordClass& recordClass, const
     return hasHLGSystemGamma(document.view(), Shape(facts));
 }
 
-/// Saving the record is to keep what the document has.
+/// Sets the switch so that saving the record keeps the elements of the document.
 void keepHLGSystemGamma(const std::string& text, ParsedDocument& document, DataObject& record,
                         const Catalogue* catalogue) {
-    const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents need no closer look
+    const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents do not have it
     const RecordClass* const found = isNamed ? recordClass(document.rootElementName()) : nullptr;
     if (found != nullptr) {
         record.writeHLGSystemGamma = hasGoverned(document, *found, catalogue);

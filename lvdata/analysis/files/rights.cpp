@@ -43,7 +43,7 @@ std::vector<std::string> attributeNames(int file) {
     return names;
 }
 
-/// Nothing when the file does not have it.
+/// No value when the file does not have it.
 std::optional<std::string> attribute(int file, const std::string& name) {
     const ssize_t size = ::fgetxattr(file, name.c_str(), nullptr, 0);
     if (size < 0 && (errno == ENODATA || errno == ENOTSUP)) {
@@ -84,7 +84,7 @@ void keepAttributes(int file, int old) {
 }
 
 void keepOwner(int file, const Status& old) {
-    // Only a privileged user can give files away; for others the new file is simply theirs.
+    // Only a privileged user can change the owner; otherwise the new file belongs to the current user.
     if (::fchown(file, old.st_uid, old.st_gid) != 0) {
         [[maybe_unused]] const int ignored = ::fchown(file, static_cast<uid_t>(-1), old.st_gid);
     }

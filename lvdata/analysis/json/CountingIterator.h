@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string>
 
-// What readers of JSON share to say where a text is wrong.
+// Shared by readers of JSON, to report the line of an error.
 
 namespace lv::analysis {
 
@@ -24,7 +24,7 @@ private:
     char last_ = '\0';
 };
 
-/// Goes along a text and counts its lines. Copies share the count.
+/// Iterates over a text and counts its lines. Copies share the count.
 class CountingIterator {
 public:
     using iterator_category = std::input_iterator_tag;

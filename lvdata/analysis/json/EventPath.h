@@ -7,7 +7,7 @@
 
 namespace lv::analysis {
 
-/// Where one is among the calls of a sink: "monitor_info.color_mode[3].name", for messages.
+/// The current place in a sequence of calls to a sink: "monitor_info.color_mode[3].name", for messages.
 class EventPath {
 public:
     /// An object begins.
@@ -19,14 +19,14 @@ public:
     /// An array begins.
     void beginArray() { steps_.push_back({{}, true, 0}); }
 
-    /// A value comes: in an array the next entry.
+    /// A value: in an array, the next entry.
     void beginValue() {
         if (!steps_.empty()) {
             ++steps_.back().count;
         }
     }
 
-    /// The object or array that began last ends.
+    /// The innermost open object or array ends.
     void end() { steps_.pop_back(); }
 
     /// The number of objects and arrays that are open.

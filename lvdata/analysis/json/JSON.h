@@ -15,7 +15,7 @@ namespace lv::analysis {
 
 /// Why there is no JSON text of a record, or no record of a JSON text.
 struct JSONError {
-    int line = 0;          ///< Where in the JSON text that was noticed, counted from 1; 0 when no line applies.
+    int line = 0;          ///< The line of the error in the JSON text, counted from 1; 0 when no line applies.
     std::string path{};    ///< "monitor_info.asset_info.asset1"; empty when no place applies.
     std::string reason{};  ///< In a few words.
     std::optional<Excess::What> exceeded{};  ///< The limit that is exceeded, if that is the reason.
@@ -39,24 +39,24 @@ struct FromJSON {
     const Catalogue::Entry* entry = nullptr;  ///< Its class; null when there is none.
     std::optional<JSONError> error{};         ///< Why there is none.
 
-    /// What the text says and the record does not print, such as values that do not belong to the "type" beside them:
-    /// warnings and errors, whose paths are those of the document in XML, and whose lines are 0.
+    /// Content of the text that the record does not print, such as values that do not belong to the "type" next to
+    /// them: warnings and errors, with paths of the XML document and lines of 0.
     Findings losses{};
 
     /// Whether there is a record.
     [[nodiscard]] explicit operator bool() const { return record != nullptr; }
 };
 
-/// The record as JSON text: what `DataObject::toXMLString` prints, with natural values. docs/json.md tells what becomes
-/// of what. Fails when the record holds bytes that are not UTF-8, and when its root element is not in the catalogue.
+/// The record as JSON text: what `DataObject::toXMLString` prints, with natural values. docs/json.md describes the
+/// conversion. Fails when the record holds bytes that are not UTF-8, and when its root element is not in the catalogue.
 [[nodiscard]] JSONResult toJSON(const DataObject& record, const Catalogue& catalogue, JSONForm form = {});
 
-/// A fresh record with what the JSON text says. `writeHLGSystemGamma` is set when the text has a key that the switch
-/// governs. Fails at the first thing that is wrong. Nothing is ignored or changed in silence: what the record ignores
-/// because of the values of others, as it does in XML, is among the losses. The catalogue must outlive the result.
+/// A fresh record with the content of the JSON text. `writeHLGSystemGamma` is set when the text has a key that the
+/// switch controls. Fails at the first error. Nothing is silently ignored or changed: content that the record ignores
+/// because of other values, as it does in XML, is among the losses. The catalogue must outlive the result.
 ///
-/// Stops also at the first thing beyond the limits of bytes, elements and nodes; the other limits do not apply.
-/// Elements and nodes are those of the document in XML that the text stands for: all numbers of an array are one text.
+/// Also fails when a limit of bytes, elements or nodes is exceeded; the other limits do not apply. Elements and nodes
+/// are those of the equivalent XML document: all numbers of an array are one text.
 [[nodiscard]] FromJSON fromJSON(std::string_view text, const Catalogue& catalogue, const Limits& limits = {});
 
 }  // namespace lv::analysis

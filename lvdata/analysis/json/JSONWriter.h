@@ -8,7 +8,7 @@
 
 namespace lv::analysis {
 
-/// How JSON text is laid out.
+/// The layout of JSON text.
 struct JSONForm {
     bool compact =
         false;  ///< All on one line without spaces. Otherwise two spaces a level, numbers of arrays on one line.
@@ -16,10 +16,10 @@ struct JSONForm {
 };
 
 /// Appends JSON text to a string: one value, or several, each with its own writer. Text that is not UTF-8 makes
-/// `isUTF8` false; what was appended is then not to be used.
+/// `isUTF8` false; then do not use what was appended.
 class JSONWriter final : public Sink {
 public:
-    /// \param out  where the text goes; it must outlive the writer
+    /// \param out  the text is appended here; it must outlive the writer
     explicit JSONWriter(std::string& out, JSONForm form = {})
         : out_(out),
           isCompact_(form.compact),

@@ -15,13 +15,13 @@ namespace lv::analysis {
 /// A node, with its index among the children that its parent's shape has.
 using IndexedNode = std::pair<std::size_t, Node*>;
 
-/// Makes nodes of a document in any order. Nodes and texts stay where they are as long as the arena.
+/// Makes nodes of a document in any order. Nodes and texts keep their addresses as long as the arena exists.
 class NodeArena {
 public:
-    /// Makes a node that is in nothing yet. The name must outlive the arena; the text is kept.
+    /// Makes a node without a parent. The name must outlive the arena; the text is kept.
     Node& make(Node::Kind kind, std::string_view name, std::string text = {});
 
-    /// Gives a node another text, which is kept.
+    /// Gives a node a new text, which is kept.
     void setText(Node& node, std::string text) { node.text = texts_.emplace_back(std::move(text)); }
 
     /// Puts these nodes into a node that is empty, in this order.
@@ -35,7 +35,7 @@ private:
     std::deque<std::string> texts_{};
 };
 
-/// Appends what is in the element to one of the XML library.
+/// Appends the content of the element to an element of the XML library.
 void appendContent(const XMLElement& target, const Node& element);
 
 }  // namespace lv::analysis

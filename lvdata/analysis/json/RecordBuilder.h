@@ -15,18 +15,18 @@
 
 namespace lv::analysis {
 
-/// The way back from natural values to a record: a sink that takes what `project` gives, in any order of the keys and
-/// from any source. It checks all that the description says of keys, types, lengths and ranges, and stops at the first
-/// thing that is wrong.
+/// Converts natural values back to a record: a sink that takes what `project` gives, with the keys in any order and
+/// from any source. It checks everything that the description says about keys, types, lengths and ranges, and stops at
+/// the first error.
 class RecordBuilder final : public Sink {
 public:
     /// The catalogue must outlive the builder and its result.
     RecordBuilder(const Catalogue& catalogue, const Limits& limits) : catalogue_(catalogue), limits_(limits) {}
 
-    /// Where in the source the next call comes from, for messages: counted from 1; 0 when it has no lines.
+    /// Sets the line in the source of the next call, for messages: counted from 1; 0 when there are no lines.
     void setLine(int line) { line_ = line; }
 
-    /// Whether something was wrong. Then all further calls do nothing.
+    /// Whether there was an error. Then all further calls do nothing.
     [[nodiscard]] bool hasFailed() const { return error_.has_value(); }
 
     /// Refuses the source for a reason that the builder does not know.
@@ -35,14 +35,14 @@ public:
     /// Refuses the source because it exceeds that limit.
     void failBeyond(Excess::What what, std::size_t limit);
 
-    /// The record, once all values were given; otherwise what was wrong.
+    /// The record, once all values were given; otherwise the error.
     [[nodiscard]] FromJSON result() const;
 
     void beginObject() override;
     void key(std::string_view name) override;
     void endObject() override;
 
-    /// What the entries are decides the description, not the caller.
+    /// The description determines the type of the entries, not the caller.
     void beginArray(Entries entries) override;
     void endArray() override;
     void string(std::string_view text) override;
@@ -51,7 +51,7 @@ public:
     void null() override;
 
 private:
-    /// What the keys of an open object, or the entries of an open array, are.
+    /// The meaning of the keys of an open object, or of the entries of an open array.
     enum class Level {
         document,  ///< The only key is that of a root element.
         element,   ///< The keys of what an element can have.
@@ -60,7 +60,7 @@ private:
         numbers,   ///< Entries that are numbers.
     };
 
-    /// What a value must be.
+    /// The expected type of a value.
     enum class Expected { object, array, string, boolean, number, numberOrArray };
 
     /// An object or array that is open.
@@ -68,7 +68,7 @@ private:
         Level level = Level::document;
         const Shape* shape = nullptr;         // of the element that has the keys; of the rows; null for a document
         Node* node = nullptr;                 // that element; null when there is none
-        const Shape* member = nullptr;        // whose key came last
+        const Shape* member = nullptr;        // the member of the last key
         std::vector<bool> seen{};             // by the index of the member
         std::vector<IndexedNode> children{};  // of the element
     };
@@ -76,7 +76,7 @@ private:
     /// A text of numbers that is being read.
     struct Numbers {
         const Shape* shape = nullptr;  // of the text
-        bool isArray = false;          // how it came
+        bool isArray = false;          // whether it was given as an array
         bool isPending = false;        // to be converted at the end of the document
         int line = 0;                  // where it begins
         std::size_t count = 0;         // of the numbers
@@ -84,7 +84,7 @@ private:
         std::vector<int> lines{};      // of each number that is to be converted later
     };
 
-    /// Numbers whose quantity, or whose shape, depends on what else the document says: converted at its end.
+    /// Numbers whose quantity or shape depends on other parts of the document: converted at its end.
     struct Pending {
         Numbers numbers;
         const Shape* member;  // the element that is a plain value, or its text

@@ -126,7 +126,7 @@ bool RecordBuilder::hasRightLength(const Numbers& numbers, const Shape& shape, c
     return wanted.empty();
 }
 
-/// What the document does not say it is, the record does not read, either.
+/// If the document does not state the type, the record does not read the value either.
 void RecordBuilder::resolve(const Pending& pending) {
     const Node* const element = pending.text->parent;
     if (pending.member->facts().place == Place::element) {

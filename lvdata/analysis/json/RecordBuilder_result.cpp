@@ -10,7 +10,7 @@
 namespace lv::analysis {
 namespace {
 
-/// The remarks are left out: nothing is lost there.
+/// Remarks are omitted: they are not losses.
 Findings lossesOf(const XMLDocument& document, const Catalogue::Entry& entry, const DataObject& record) {
     Findings losses = checkTree(Tree(XMLView(document)), entry, record, pureLossOptions());
     const auto isRemark = [](const Finding& finding) {

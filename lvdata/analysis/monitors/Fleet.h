@@ -15,10 +15,10 @@ using MonitorDocuments = std::vector<MonitorDocument>;
 /// The latest document.
 [[nodiscard]] const MonitorDocument& latestOf(const MonitorDocuments& documents);
 
-/// Puts documents together by the monitors that they are of.
+/// Groups documents by monitor.
 class Fleet {
 public:
-    /// A document whose monitor is not known stands for a monitor of its own.
+    /// A document whose monitor is not known counts as a separate monitor.
     void add(MonitorDocument&& document);
 
     /// How many monitors there are so far.
@@ -33,7 +33,7 @@ private:
     std::map<std::string, std::size_t> places_;  // in `monitors_`, by identity
 };
 
-/// Why a document starts a second monitor, as a message says it.
+/// The message why a document belongs to a second monitor.
 [[nodiscard]] std::string whySecondMonitor(const std::string& identity);
 
 }  // namespace lv::analysis

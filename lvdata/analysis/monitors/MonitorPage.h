@@ -12,12 +12,12 @@ struct MonitorPage {
     std::string text{};  ///< The page.
     FleetEntry entry{};  ///< The line, without the name of the page.
 
-    /// Whether no figure of the page is beyond its limit.
+    /// Whether no figure of the page is outside its limit.
     [[nodiscard]] bool isWithinLimits() const { return entry.verdict.failed == 0; }
 };
 
-/// The page that `reportPage` makes of these, where documents are called by their file names without the folder, which
-/// differs between machines. The latest document has the mode that the form asks for, if it asks for one.
+/// The page that `reportPage` makes of these documents. Documents are named by their file names without the folder,
+/// which differs between machines. If the form requests a mode, the latest document must have it.
 [[nodiscard]] MonitorPage monitorPage(std::vector<ReportedDocument> documents, const ReportForm& form);
 
 }  // namespace lv::analysis

@@ -42,7 +42,7 @@ std::string joined(const std::string& left, const std::string& right) {
     return left + (left.empty() || right.empty() ? "" : "-") + right;
 }
 
-/// The name and the serial number, or else what there is.
+/// The name and the serial number, as far as they exist.
 std::string shortName(const MonitorFigures& monitor) {
     const std::string name = joined(safe(monitor.name), safe(monitor.serial));
     const std::string other = name.empty() ? safe(monitor.uuid) : name;
@@ -59,7 +59,7 @@ std::string longName(const MonitorFigures& monitor) {
 /// Makes names different.
 class UniqueNames {
 public:
-    /// The name, with a number when it was given before.
+    /// The name, with a number if it is already in use.
     std::string unique(const std::string& name) {
         std::string result = name;
         for (std::size_t& number = numbers_[lowerCase(name)]; !taken_.insert(lowerCase(result)).second;) {
@@ -70,7 +70,7 @@ public:
 
 private:
     std::set<std::string> taken_{"index"};        // the page with the table of all
-    std::map<std::string, std::size_t> numbers_;  // how many were tried
+    std::map<std::string, std::size_t> numbers_;  // the last number that was tried
 };
 
 }  // namespace

@@ -8,7 +8,7 @@
 
 namespace lv::analysis {
 
-/// What differs between the two chromaticity diagrams.
+/// The differences between the two chromaticity diagrams.
 struct PlaneForm {
     svg::Range horizontal;            ///< From left to right. Wavelengths are written to the left of 0.
     svg::Range vertical;              ///< From below.
@@ -18,16 +18,16 @@ struct PlaneForm {
     std::string_view verticalName;    ///< "y" or "v′".
 };
 
-/// How that diagram is drawn.
+/// The form of that diagram.
 [[nodiscard]] PlaneForm formOf(colour::Plane plane);
 
 /// Where a chromaticity lies in that diagram; no value where it has no place.
 [[nodiscard]] std::optional<svg::Point> placeOf(const colour::Chromaticity& chromaticity, colour::Plane plane);
 
-/// A chromaticity diagram under work.
+/// A chromaticity diagram that is being drawn.
 struct Diagram {
-    Picture& picture;                        ///< What it is drawn into.
-    svg::SVGWriter& svg;                     ///< What is drawn with: the picture, or its background.
+    Picture& picture;                        ///< The picture that it is drawn into.
+    svg::SVGWriter& svg;                     ///< The writer: of the picture, or of its background.
     const svg::Panel& panel;                 ///< Its place.
     colour::Plane plane;                     ///< Which one it is.
     std::vector<svg::LegendEntry> legend{};  ///< What was drawn so far.

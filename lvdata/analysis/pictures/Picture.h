@@ -12,10 +12,10 @@
 
 namespace lv::analysis {
 
-/// What is told of a picture in words. Texts of documents may stand in them as they are.
+/// The texts of a picture. They may contain unescaped texts of documents.
 struct PictureTexts {
     std::string title{};        ///< What it is, such as "Tone response".
-    std::string subtitle{};     ///< Whose it is, such as the name of the mode; may be empty.
+    std::string subtitle{};     ///< What it is about, such as the name of the mode; may be empty.
     std::string description{};  ///< What can be seen, in sentences with numbers.
 };
 
@@ -34,7 +34,8 @@ inline constexpr double legendTop = 64;
 /// From panels, or what else is farthest to the right, to the right edge.
 inline constexpr double rightMargin = 20;
 
-/// A picture under work: the root element, the style, the paper and the title, into which the rest is drawn.
+/// A picture that is being drawn: the root element, the style, the background and the title, into which the rest is
+/// drawn.
 class Picture {
 public:
     /// Begins a picture of that height.
@@ -45,7 +46,7 @@ public:
     /// The id of a part, which begins with that of the picture, or is the same in all pictures of a page.
     [[nodiscard]] std::string idOf(std::string_view part) const;
 
-    /// Ends the picture, and is what it has become.
+    /// Ends the picture and returns its text.
     [[nodiscard]] std::string finished();
 
 private:
@@ -55,13 +56,13 @@ private:
     std::string id_;
 };
 
-/// A picture that says why there is nothing to see.
+/// A picture that says why there is nothing to show.
 [[nodiscard]] std::string emptyPicture(const PictureForm& form, const PictureTexts& texts, const std::string& reason);
 
 /// A figure in a sentence: its value as `valueText` has it, or "n/a (reason)".
 [[nodiscard]] std::string figureText(const Figure& figure, int decimals);
 
-/// Why a figure has no value, or else the other reason.
+/// Why a figure has no value, or else the given reason.
 [[nodiscard]] std::string reasonOf(const Figure& figure, const std::string& otherwise);
 
 /// The name of a mode with when it was calibrated, for subtitles.

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-/// How red, green and blue look in all pictures: in colour, by dashes and by symbols.
+/// The look of red, green and blue in all pictures: colours, dashes and symbols.
 namespace lv::analysis {
 
 /// One of the three channels.

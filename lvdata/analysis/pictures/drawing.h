@@ -12,7 +12,7 @@
 
 namespace lv::analysis {
 
-/// The pictures that can be asked for.
+/// The pictures that can be requested.
 enum class PictureKind {
     gamut,       ///< `gamutPicture`
     tone,        ///< `tonePicture`
@@ -25,7 +25,7 @@ enum class PictureKind {
     history,     ///< `historyPicture`
 };
 
-/// What a picture is asked for by.
+/// The name of a picture.
 struct PictureName {
     std::string_view name;  ///< "six-colours".
     PictureKind kind;       ///< Which one it is.
@@ -34,25 +34,25 @@ struct PictureName {
 /// All pictures.
 [[nodiscard]] const std::vector<PictureName>& pictureNames();
 
-/// A picture that is asked for.
+/// A request for a picture.
 struct PictureRequest {
     PictureKind kind = PictureKind::gamut;  ///< Which one.
     std::string mode{};                     ///< The index of the colour mode; empty: see `chooseMode`. Not of maps.
-    std::optional<colour::Plane> plane{};   ///< Of the gamut: u' and v' when there is no value.
-    bool hasLimits = false;                 ///< Whether limits are to be drawn, of patches and history.
+    std::optional<colour::Plane> plane{};   ///< For the gamut: u' and v' when there is no value.
+    bool hasLimits = false;                 ///< Whether limits are drawn, for patches and history.
     std::string figure{};                   ///< The key of the figure of a history; empty: "white_delta_uv".
 };
 
-/// What is wrong with a request: "plane is for gamut only"; empty when all is well.
+/// What is wrong with a request: "plane is for gamut only"; empty when the request is valid.
 [[nodiscard]] std::string complaintAbout(const PictureRequest& request);
 
 /// Why there is no picture.
 struct PictureRefusal {
-    std::string document{};  ///< The document that does not have what was asked for; empty: no document is to blame.
+    std::string document{};  ///< The document that lacks what was requested; empty: no document is the cause.
     std::string reason{};    ///< Why, in a few words.
 };
 
-/// Draws a picture of a monitor: of its latest document, a history of all.
+/// Draws a picture of a monitor: of its latest document, or a history of all documents.
 ///
 /// \param snapshots  in the order of time, not empty
 /// \param limits     those to draw; null: none

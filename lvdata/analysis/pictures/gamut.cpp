@@ -24,7 +24,7 @@ std::string coordinates(const Chromaticity& chromaticity, Plane plane) {
 /// A triangle of red, green and blue.
 using Corners = std::array<std::optional<Chromaticity>, 3>;
 
-/// Draws the part of a triangle that lies in the diagram. Whether there is one.
+/// Draws the part of a triangle that lies in the diagram. Returns whether there is one.
 bool addTriangle(Diagram& diagram, const Corners& corners, const svg::Look& look) {
     std::vector<Point> points;
     for (const auto& corner : corners) {
@@ -103,7 +103,7 @@ void addLegend(Diagram& diagram, const Point& at) {
     svg::addLegendColumn(diagram.svg, at, pictureWidth - at.x - 8, diagram.legend);
 }
 
-/// All that is the same in each diagram of a plane.
+/// The parts that are the same in each diagram of a plane.
 void addBackground(Picture& picture, const svg::Panel& panel, Plane plane, const Point& legend) {
     const PlaneForm form = formOf(plane);
     svg::SVGWriter part = picture.svg().newPart();
@@ -117,7 +117,7 @@ void addBackground(Picture& picture, const svg::Panel& panel, Plane plane, const
     picture.svg().share(part);
 }
 
-/// "White at x 0.3127, y 0.3290.", or what is not so.
+/// "White at x 0.3127, y 0.3290.", or that it is not known or outside the diagram.
 std::string described(const std::optional<Chromaticity>& chromaticity, const std::string& name, Plane plane) {
     if (!chromaticity) {
         return " No " + name + '.';

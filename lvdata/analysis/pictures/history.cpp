@@ -45,7 +45,7 @@ bool hasValue(const Point& point) {
     return point.figure.value && std::isfinite(*point.figure.value);
 }
 
-/// The day of a time, or what there is instead.
+/// The day of a time, or else the whole text.
 std::string dayOf(const std::string& when) {
     constexpr std::size_t lengthOfDay = 10;
     const std::string text = svg::cleaned(when.substr(0, 40));
@@ -93,7 +93,7 @@ svg::TickedRange rangeOf(const HistorySeries& series, const FigureLimit* limit) 
     return svg::toTicks(range, 6);
 }
 
-/// Where values pass.
+/// The range of values within the limit.
 void addBand(svg::SVGWriter& svg, const svg::Panel& panel, const FigureLimit* limit) {
     if (limit == nullptr || !(limit->minimum || limit->maximum)) {
         return;

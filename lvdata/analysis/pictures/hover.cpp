@@ -72,7 +72,7 @@ Words common(const Words& left, const Words& right) {
     return words;
 }
 
-/// The words that all texts have, with empty ones for gaps. None where a text would have nothing of its own.
+/// The words that all texts share, with empty ones for gaps. None if a text would have no other words.
 Words formOf(const std::vector<Words>& texts) {
     Words form;
     bool isFirst = true;
@@ -96,7 +96,7 @@ Words ownWords(const Words& text, const Words& form) {
     return own;
 }
 
-/// The words with empty ones in place of those that stand there in the last text, too; the first word stays.
+/// The words, with empty ones instead of those that are the same in the previous text; the first word stays.
 Words changed(Words words, const Words& last) {
     for (std::size_t index = 1; index < std::min(words.size(), last.size()); ++index) {
         words[index] = words[index] == last[index] ? "" : words[index];

@@ -10,7 +10,7 @@ namespace lv::analysis {
 /// A value that a line through a panel marks.
 struct LevelLine {
     double value = 0;            ///< Where.
-    std::string label{};         ///< What stands at its right end, outside the panel.
+    std::string label{};         ///< The text at its right end, outside the panel.
     std::string_view classes{};  ///< How it looks.
 };
 

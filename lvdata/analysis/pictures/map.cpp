@@ -91,7 +91,7 @@ Cell cellAt(const MapFigures& map, const Grid& grid, std::size_t cellColumn, std
     return cell;
 }
 
-/// Digits after the point that tell entries apart without noise.
+/// The number of digits after the point that distinguishes entries without noise.
 int decimalsOf(const MapFigures& map) {
     const auto isWhole = [](double value) {
         return !std::isfinite(value) || value == std::floor(value);
@@ -218,7 +218,7 @@ void addHoverTexts(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid)
     addHoverCells(svg, {left, top, cellsWidth, grid.height()}, grid.cellColumns(), texts);
 }
 
-/// The ramp with its ends, and what the reader must know of the map.
+/// The colour scale with its ends, and notes about the map.
 void addFoot(svg::SVGWriter& svg, const MapFigures& map, const Grid& grid) {
     const double y = top + grid.height() + 18;
     const double stepWidth = 20;

@@ -11,21 +11,22 @@
 
 /// Pictures of figures, as SVG (version 1.1 with CSS classes).
 ///
-/// Each is complete and stands alone as a file: title and description for screen readers, colours that people with
-/// colour vision deficiencies can tell apart, and dashes or symbols beside them, legible on light and dark pages
-/// (`prefers-color-scheme`). The same figures give the same bytes. None is above 60 KB: what is finer than a pixel is
-/// thinned. A picture without anything to draw says why in its place.
+/// Each is a complete file: title and description for screen readers, colours that people with colour vision
+/// deficiencies can distinguish, dashes or symbols in addition, legible on light and dark pages
+/// (`prefers-color-scheme`). The same figures give the same bytes. No picture exceeds 60 KB: detail finer than a pixel
+/// is removed. If there is nothing to draw, the picture says why.
 namespace lv::analysis {
 
-/// How a picture is made.
+/// The form of a picture.
 struct PictureForm {
-    /// What every id and the class of the root begin with, so that several pictures can stand in one page.
+    /// The prefix of every id and of the class of the root, so that one page can have several pictures.
     std::string id = "picture";
 
-    /// Whether the picture brings its own style sheet. A page that holds several brings `pictureStyleForPage()` once.
+    /// Whether the picture includes its own style sheet. A page with several pictures includes `pictureStyleForPage()`
+    /// once.
     bool hasStyle = true;
 
-    /// Where parts go that other pictures of the page have, too; null: the picture is complete. Must outlive the call.
+    /// Collects parts that other pictures of the page have, too; null: the picture is complete. Must outlive the call.
     /// The page holds `SharedParts::definitions()` and `pictureStyleForPage()`.
     svg::SharedParts* shared = nullptr;
 };
@@ -33,7 +34,7 @@ struct PictureForm {
 /// The style sheet that pictures without one need.
 [[nodiscard]] std::string pictureStyle();
 
-/// The same for a page, which only browsers open.
+/// The same for a page, which is opened only by browsers.
 [[nodiscard]] std::string pictureStyleForPage();
 
 /// A chromaticity diagram: spectrum locus, measured triangle and white, target, and the reference spaces.
@@ -51,14 +52,14 @@ struct PictureForm {
 /// ΔE00 of each patch as bars, with lines at the mean, the 95th percentile and the limits of the set (null: none).
 [[nodiscard]] std::string patchesPicture(const ModeFigures& mode, const LimitSet* limits, const PictureForm& form = {});
 
-/// A candela map with its numbers in the cells. Where the shape of the map is not known, it stands in one run that is
-/// wrapped, and the picture says so.
+/// A candela map with its numbers in the cells. If the shape of the map is not known, the entries are shown as one
+/// wrapped sequence, and the picture says so.
 [[nodiscard]] std::string mapPicture(const MapFigures& map, const PictureForm& form = {});
 
 /// The adjustments of six colours as bars.
 [[nodiscard]] std::string sixColoursPicture(const ModeFigures& mode, const PictureForm& form = {});
 
-/// One figure over time, with the limit when there is one: along dates where all points have one, otherwise evenly.
+/// One figure over time, with the limit when there is one: by date if all points have one, otherwise evenly spaced.
 [[nodiscard]] std::string historyPicture(const HistorySeries& series, const FigureLimit* limit,
                                          const PictureForm& form = {});
 

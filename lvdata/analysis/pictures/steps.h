@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-/// What pictures of grey steps share.
+/// Shared by the pictures of grey steps.
 namespace lv::analysis {
 
-/// A range for values whose extremes at the dark end say little: that of the typical ones, made wider. Values outside
-/// are left out of the picture.
+/// A range for values whose extremes at the dark end say little: the range of the typical values, made wider. Values
+/// outside are omitted from the picture.
 [[nodiscard]] svg::TickedRange rangeOfTypical(const std::vector<svg::Point>& values, svg::Range typicalSteps,
                                               double leastWidth);
 
@@ -25,7 +25,7 @@ void addSteps(svg::SVGWriter& svg, const svg::Panel& panel, const std::vector<sv
 /// "50.2 %: " with the text, for hover.
 [[nodiscard]] HoverText stepText(double signal, const std::string& text);
 
-/// A note inside a panel about values that are left out; nothing when there are none.
+/// A note inside a panel about omitted values; nothing when there are none.
 void addOutsideNote(svg::SVGWriter& svg, const svg::Panel& panel, std::size_t count);
 
 /// The axis of signals in per cent, for signals of 0 to 1.

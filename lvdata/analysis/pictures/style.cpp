@@ -16,7 +16,7 @@ struct Colour {
 };
 
 /// After M. Okabe and K. Ito, "Color universal design" (2002), each made darker or lighter until it has enough contrast
-/// with the paper.
+/// with the background.
 constexpr std::array<Colour, 11> colours{{
     {"paper", "#ffffff", "#1b1e23"},
     {"ink", "#1f2328", "#e6e8eb"},

@@ -7,10 +7,10 @@
 
 namespace lv::analysis {
 
-/// What a template is filled with: a condition, a text, a list, or values with names.
+/// The data for a template: a condition, a text, a list, or values with names.
 ///
-/// A template looks a name up in the innermost value first and then further out, so each value of a list has all names
-/// that the template asks for, be they empty. An empty text, an empty list and `false` count as "not there".
+/// A template looks up a name in the innermost value first and then further out, so each value of a list has all names
+/// that the template uses, even if they are empty. An empty text, an empty list and `false` count as missing.
 class View {
 public:
     struct Member;
@@ -25,7 +25,7 @@ public:
     View(Items items);
     View(Members members);
 
-    /// What it holds.
+    /// Its content.
     [[nodiscard]] const Value& value() const { return value_; }
 
 private:

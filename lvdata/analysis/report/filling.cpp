@@ -40,7 +40,7 @@ mustache::data dataOf(const View& view) {
     return std::visit([](const auto& value) { return dataOf(value); }, view.value());
 }
 
-/// Their names have a point, which no name of a view has: a text of a document is never taken for a template.
+/// Their names have a point, which names of a view never have: a text of a document is never used as a template.
 void addTemplates(mustache::data& data) {
     for (const auto& [name, text] : templates()) {
         data[std::string(name)] = mustache::data(std::string(text));

@@ -25,7 +25,7 @@ std::string worstMeanOf(const JudgedMonitor& judged) {
     return worst == nullptr ? "n/a (nothing measured)" : worst->text(worst->measured);
 }
 
-/// The address of a page in the same folder or below. Whatever the name holds, it stays a file beside the index.
+/// The address of a page in the same folder or below. Whatever the name is, the address is a file next to the index.
 std::string addressOf(std::string_view page) {
     constexpr std::string_view plain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-._~/";
     constexpr std::string_view digits = "0123456789ABCDEF";

@@ -7,7 +7,7 @@
 
 namespace lv::analysis {
 
-/// What every page has around its sections: title, style, script and the policy that lets nothing leave the page.
+/// The frame of every page: title, style, script and the policy that forbids the page to load or send anything.
 [[nodiscard]] View pageFrame(std::string_view title, std::string_view style, const PageScript& script);
 
 }  // namespace lv::analysis

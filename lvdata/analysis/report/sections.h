@@ -8,45 +8,46 @@
 #include <string_view>
 #include <vector>
 
-/// What the sections of a page are filled with.
+/// The data for the sections of a page.
 namespace lv::analysis {
 
-/// A mode with its judged figures.
+/// A mode with its figures and their results.
 struct ReportedMode {
     const ModeFigures* figures = nullptr;  ///< The mode. Not null.
-    std::string id{};                      ///< What ids of its elements begin with, such as "mode-1".
+    std::string id{};                      ///< The prefix of the ids of its elements, such as "mode-1".
     std::vector<JudgedLine> lines{};       ///< All its figures.
-    Verdict verdict{};                     ///< How it does as a whole.
-    svg::SharedParts* parts = nullptr;     ///< What its pictures share with others of the page. Not null.
+    Verdict verdict{};                     ///< The result as a whole.
+    svg::SharedParts* parts = nullptr;     ///< The parts that its pictures share with others of the page. Not null.
 
-    /// How its picture of that name is made.
+    /// The form of its picture with that name.
     [[nodiscard]] PictureForm formOf(const std::string& name) const { return {id + '-' + name, false, parts}; }
 };
 
-/// A monitor, judged.
+/// A monitor with its results.
 struct JudgedMonitor {
     std::vector<ReportedMode> calibrated{};    ///< Modes with a result.
     std::vector<const ModeFigures*> others{};  ///< Modes without one.
-    std::vector<JudgedLine> mapLines{};        ///< The figures of the maps that there are.
+    std::vector<JudgedLine> mapLines{};        ///< The figures of the existing maps.
     Verdict maps{};                            ///< Of the maps.
     Verdict verdict{};                         ///< Of all modes with a result, and of the maps.
 };
 
-/// Judges the modes of a monitor, or the only one with that index. `monitor` and `limits` must outlive the result.
+/// Compares the modes of a monitor, or only the one with that index, with the limits. `monitor` and `limits` must
+/// outlive the result.
 [[nodiscard]] JudgedMonitor judgedMonitor(const MonitorFigures& monitor, const LimitSet& limits,
                                           const std::optional<std::string>& mode = {});
 
-/// What a page is about.
+/// The content of a page.
 struct ReportContents {
     const std::vector<ReportedDocument>& documents;  ///< All documents, at least one.
     const ReportForm& form;                          ///< How the page is made.
     svg::SharedParts& parts;                         ///< What pictures share.
     JudgedMonitor judged{};                          ///< The monitor of the latest document.
 
-    /// The document that is told in full.
+    /// The document that is shown in full.
     [[nodiscard]] const ReportedDocument& latest() const { return documents.back(); }
 
-    /// What figures are judged by.
+    /// The limits for the figures.
     [[nodiscard]] const LimitSet& limits() const { return *form.limits; }
 };
 
@@ -68,16 +69,16 @@ inline constexpr std::string_view patchesMeanKey = "patches_delta_e2000_mean";
 /// Adds a text of a document with its label to a list of facts; nothing when the text is empty.
 void addFact(View::Items& facts, const char* label, std::string_view text);
 
-/// "symbol", "word" and "class" of a mark on a single figure.
+/// "symbol", "word" and "class" of the result of a single figure.
 [[nodiscard]] View markView(Mark mark);
 
 /// The same for a mode or a monitor as a whole.
 [[nodiscard]] View verdictMarkView(Mark mark);
 
-/// How the figures count: "12 of 14 within limits, 1 outside, 1 not available".
+/// The numbers of results: "12 of 14 within limits, 1 outside, 1 not available".
 [[nodiscard]] std::string countsText(const Verdict& verdict);
 
-/// Judged figures as the rows of a table, by their groups.
+/// Figures with their results as the rows of a table, by group.
 [[nodiscard]] View figureGroupsView(const std::vector<JudgedLine>& lines);
 
 /// A number of things: "1 document", "3 documents".

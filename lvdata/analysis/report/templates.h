@@ -19,7 +19,7 @@ namespace lv::analysis {
 /// A script of a page.
 struct PageScript {
     std::string_view text;  ///< The script.
-    std::string_view hash;  ///< What a Content-Security-Policy calls it by.
+    std::string_view hash;  ///< Its hash for a Content-Security-Policy.
 };
 
 /// The script of the report of a monitor.

@@ -45,7 +45,7 @@ void addSentence(std::string& text, const std::string& sentence) {
     text += sentence + '.';
 }
 
-/// Another quantity whose words are the same differs only in how it is stored.
+/// Another quantity with the same description differs only in how it is stored.
 void addQuantities(std::string& text, const Description& facts, Scale scale) {
     const std::string usual = facts.quantity ? quantityInWords(*facts.quantity, scale) : "";
     if (!usual.empty()) {

@@ -8,15 +8,15 @@
 
 namespace lv::analysis {
 
-/// What documents that records print have in a described place, as far as it does not depend on other places.
+/// The possible content of a described place in printed documents, as far as it does not depend on other places.
 struct Constraint {
-    /// Whether it is there whenever its parent is. For a text: whether the element is never empty for lack of it.
+    /// Whether it exists whenever its parent does. For a text: whether the element always has one.
     bool isRequired = false;
 
     /// The texts that it can have; empty: any of its content.
     std::vector<std::string> texts{};
 
-    /// Whether its text is never empty. Only said of strings.
+    /// Whether its text is never empty. Used only for strings.
     bool isNotEmpty = false;
 
     /// The numbers of entries that an array can have; empty: any.
@@ -26,10 +26,10 @@ struct Constraint {
 /// The constraint of what is described.
 [[nodiscard]] Constraint constraintOf(const Description& facts);
 
-/// Whether numbers are told in their unit, or as documents store them.
+/// Whether numbers are described in their unit, or as documents store them.
 enum class Scale { stored, natural };
 
-/// What it means, in which unit, and when it is written: some sentences; empty when there is nothing to say.
+/// Its meaning, its unit, and when it is written, in sentences; empty when there is nothing to say.
 [[nodiscard]] std::string explanationOf(const Description& facts, Scale scale);
 
 }  // namespace lv::analysis

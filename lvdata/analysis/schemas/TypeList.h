@@ -12,14 +12,13 @@ namespace lv::analysis {
 /// The named types of a schema, each written once: elements of one record that hold the same share a type.
 class TypeList {
 public:
-    /// Adds a type that has what `body` says, unless there is one in that scope. Returns the name of that one or
-    /// `name`.
+    /// Adds a type with that body, unless the scope already has one. Returns the name of the existing one, or `name`.
     std::string add(const std::string& scope, const std::string& name, const std::string& body);
 
     /// Whether there is a type of that name.
     [[nodiscard]] bool has(const std::string& name) const;
 
-    /// Name and body of each type, those that others need before these.
+    /// Name and body of each type; a type comes before those that need it.
     [[nodiscard]] const std::vector<std::pair<std::string, std::string>>& types() const { return types_; }
 
 private:

@@ -12,7 +12,7 @@ namespace {
 using Place = Description::Place;
 using Repetition = Description::Repetition;
 
-/// What an object can have.
+/// The possible members of an object.
 struct Property {
     std::string key;
     bool isRequired;
@@ -67,7 +67,7 @@ std::string bodyOf(const std::vector<Property>& properties) {
 /// Makes the types of one schema.
 class Definitions {
 public:
-    /// What refers to the type of the element.
+    /// The reference to the type of the element.
     std::string reference(const Shape& element) {
         return R"("$ref": ")"
                "#/$defs/" +

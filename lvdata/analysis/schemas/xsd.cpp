@@ -23,7 +23,7 @@ std::string annotation(const std::string& indentation, const std::string& words)
            "</xs:documentation></xs:annotation>\n";
 }
 
-/// A tag with what is in it, closed in itself when that is nothing.
+/// A tag with its content; an empty-element tag when there is none.
 std::string tag(const std::string& indentation, const std::string& nameAndAttributes, const std::string& inner) {
     const std::string begin = indentation + "<xs:" + nameAndAttributes;
     const std::string name = nameAndAttributes.substr(0, nameAndAttributes.find(' '));
@@ -173,7 +173,7 @@ private:
         return enumerationOf(keys, typeNameOf(shape), simple_);
     }
 
-    /// No key stands twice among the children of an element.
+    /// Each key occurs only once among the children of an element.
     static std::string uniqueKeys(const std::string& indentation, const Shape& element) {
         std::string unique;
         for (const auto& child : element.children()) {

@@ -7,7 +7,7 @@
 namespace lv::analysis {
 
 /// An XML Schema (1.0) of the documents that a record prints: its elements and attributes, in the order of writing,
-/// with the forms of their texts. What one place needs of another cannot be said in XML Schema; annotations say it in
+/// with the forms of their texts. XML Schema cannot express dependencies between places; annotations state them in
 /// words.
 ///
 /// \param root  the shape of the record's root element

@@ -37,7 +37,7 @@ std::string arrayType(Content content, TypeList& types) {
                      restriction("xs:string", facet("pattern", '(' + number + "(\\|" + number + ")*)?")));
 }
 
-/// That many pieces between "|", whatever is in them: a second pattern, in addition to that of the numbers.
+/// That many pieces between "|", with any content: a second pattern, in addition to that of the numbers.
 std::string entriesPattern(std::size_t entries) {
     return entries == 1 ? "[^|]+" : "[^|]+(\\|[^|]+){" + std::to_string(entries - 1) + '}';
 }

@@ -7,12 +7,12 @@
 
 namespace lv::analysis {
 
-/// Appends rows to CSV text as in RFC 4180: each object is a line, its values in their order; keys are left out, null
+/// Appends rows to CSV text as in RFC 4180: each object is a line with its values in order; keys are omitted, and null
 /// is an empty value. Lines end with CR LF. Texts with a comma, a quotation mark or a line break are in quotation
 /// marks. Values must be plain: rows hold no arrays or objects.
 class CSVWriter final : public Sink {
 public:
-    /// \param out  where the text goes; it must outlive the writer
+    /// \param out  the text is appended here; it must outlive the writer
     explicit CSVWriter(std::string& out) : out_(out) {}
 
     void beginObject() override { isFirst_ = true; }

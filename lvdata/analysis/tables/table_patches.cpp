@@ -11,7 +11,7 @@ struct PatchRow {
     std::size_t index;
 };
 
-/// One of the numbers, when there are as many as there must be.
+/// One of the numbers, if the array has the required length.
 template <std::size_t Length, class Number>
 void give(const std::vector<Number>& numbers, std::size_t index, const Quantity& quantity, Cell& cell) {
     if (numbers.size() == Length) {

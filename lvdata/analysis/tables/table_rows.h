@@ -11,13 +11,13 @@
 #include <string_view>
 #include <vector>
 
-// What the tables have in common: for the sources of the tables alone.
+// Shared by the sources of the tables, and used only there.
 
 namespace lv::analysis {
 
 inline constexpr std::string_view notRecorded = "not recorded";
 
-/// The parts of a document that tables are made of; null for those that it does not have.
+/// The parts of a document that tables are made from; null for missing parts.
 struct Parts {
     std::string_view file{};
     const MonitorInfo* monitor = nullptr;
@@ -28,12 +28,12 @@ struct Parts {
     const StandardModeResult* standardResult = nullptr;
     const AssetInfo* assets = nullptr;
     const CandelaMap* maps = nullptr;
-    const BasicData* basicData = nullptr;                // of a document of its own, or of the row's measurements
-    const TargetSetting* target = nullptr;               // of a document of its own
-    const ParameterSetting* parameterSetting = nullptr;  // of a document of its own
-    const MonitorParameter* parameter = nullptr;         // of a document of its own
-    const ProfileData* profile = nullptr;                // of a document of its own
-    const MeasurementData* measurements = nullptr;       // of a document of its own
+    const BasicData* basicData = nullptr;                // of a separate document, or of the row's measurements
+    const TargetSetting* target = nullptr;               // of a separate document
+    const ParameterSetting* parameterSetting = nullptr;  // of a separate document
+    const MonitorParameter* parameter = nullptr;         // of a separate document
+    const ProfileData* profile = nullptr;                // of a separate document
+    const MeasurementData* measurements = nullptr;       // of a separate document
     const property<unsigned int>* modeIndex = nullptr;   // of the mode that a row belongs to
 };
 
@@ -58,7 +58,7 @@ private:
     bool isGiven_ = false;
 };
 
-/// A column together with how its value is found.
+/// A column together with the function that finds its value.
 template <class Subject>
 struct ColumnOf {
     Column column;
@@ -123,7 +123,7 @@ const T* valueOf(const property<T>& member) {
     return member.hasValue ? &member.value : nullptr;
 }
 
-/// One function of each kind for each table, in a source of its own.
+/// One function of each kind for each table, in a separate source.
 [[nodiscard]] std::vector<Column> monitorColumns();
 void addMonitorRows(const Parts& parts, Sink& sink);
 [[nodiscard]] std::vector<Column> modeColumns();

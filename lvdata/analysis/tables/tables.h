@@ -9,7 +9,7 @@
 
 namespace lv::analysis {
 
-/// The tables that documents of many monitors can be turned into. A document gives the rows that it has something for.
+/// The tables that documents of many monitors can be converted to. A document gives the rows that it has data for.
 enum class Table {
     monitors,  ///< A row for each document with a monitor.
     modes,     ///< A row for each colour mode.
@@ -18,7 +18,7 @@ enum class Table {
     maps,      ///< A row for each entry of a map.
 };
 
-/// What the values of a column are, for programs that give their columns types. Any of them may be missing.
+/// The type of the values of a column, for programs with typed columns. Any value may be missing.
 enum class Values {
     text,      ///< Texts.
     integer,   ///< Numbers without a decimal point, in 64 bits.
@@ -31,16 +31,16 @@ enum class Values {
 /// A column of a table.
 struct Column {
     std::string_view name;         ///< The header in CSV, the key in JSON.
-    std::string_view unit;         ///< Empty for texts and ratios; "not recorded" where the records do not say.
+    std::string_view unit;         ///< Empty for texts and ratios; "not recorded" if the records do not state it.
     std::string_view meaning;      ///< In a few words.
-    Values values = Values::text;  ///< What stands in it.
+    Values values = Values::text;  ///< The type of its values.
 };
 
-/// What there is to know of a table.
+/// The description of a table.
 struct TableDescription {
     Table table;                  ///< Which one it is.
     std::string_view name;        ///< "monitors".
-    std::string_view rows;        ///< What has a row.
+    std::string_view rows;        ///< What each row stands for.
     std::vector<Column> columns;  ///< In the order of the values in a row.
 };
 
@@ -50,9 +50,9 @@ struct TableDescription {
 /// The description of a table.
 [[nodiscard]] const TableDescription& tableDescription(Table table);
 
-/// Gives the rows that the record has in a table: each an object with all columns as keys, null where there is nothing.
+/// Gives the rows of the record in a table: each is an object with all columns as keys, null if there is no value.
 ///
-/// \param file  what the column "file" says
+/// \param file  the value of the column "file"
 void addRows(Table table, const DataObject& record, std::string_view file, Sink& sink);
 
 /// The header of a table in CSV, with its line break.

@@ -13,7 +13,7 @@ bool isNumeric(Description::Content content) {
     return content != Description::Content::string && content != Description::Content::boolean;
 }
 
-/// A value is reached through its address, whose type the content tells.
+/// A value is read through its address; the content gives its type.
 template <class T>
 const T& valueAt(const void* member) {
     return *static_cast<const T*>(member);

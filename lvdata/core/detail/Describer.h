@@ -56,8 +56,8 @@ struct DraftQuantity {
 /// Runs over a visit to describe what it reads and writes. `Reader` explains the operations. They are called with a
 /// fresh record, whose members say by their addresses where a condition looks.
 ///
-/// The templates only find out what a member is. The work is done behind plain calls, and what they return has no
-/// destructor, so that the sources of the records stay small.
+/// The templates only find out what a member is. The work is done in ordinary functions, and their results have no
+/// destructor, so that the compiled code of the records stays small.
 class Describer {
 public:
     /// What an operation looks for. Not a bool, so that every answer in a visit comes from an operation.
@@ -182,7 +182,7 @@ public:
         visit(child);
     }
 
-    /// A flag that tells whether something was found.
+    /// A flag that says whether something was found.
     void derive(const bool& flag, const Found& found) { addFlag(found, flag); }
 
     /// A flag that follows from members, whose nodes then have it. No other condition says whose flag it is.
@@ -223,7 +223,7 @@ private:
 
     [[nodiscard]] Found lookingFor(DraftNode& node) const;
 
-    /// A new child behind the gates.
+    /// A new child, subject to the gates.
     [[nodiscard]] DraftNode& addNode(const char* name, Description::Place place) const;
     [[nodiscard]] Describer rowElement(const char* name) const;
     [[nodiscard]] Describer keyedElement(const char* name, const char* key, const char* text) const;

@@ -19,7 +19,7 @@
 namespace lv::detail {
 
 /// One direction of a visit: fills the members from the children of an element. `Writer` is the other; `Describer`
-/// tells what the visit says, and `MemberCollector` finds the members. All offer the same operations.
+/// describes the visit, and `MemberCollector` finds the members. All offer the same operations.
 ///
 /// A record's visit names each of its elements once, in the order of writing. The operation says how the member is
 /// held:
@@ -28,13 +28,13 @@ namespace lv::detail {
 ///     io.value(name, member)                a plain value; written always, left as it was when not found
 ///     io.text(member)                       a plain value that is this element's own text
 ///     io.attribute(name, member)            an attribute, of a property or plain; written always, whatever the flag
-///     io.constant(name, text)               an attribute that is written and never looked at
-///     io.array(name, member, lengths, q)    an array that counts only at these lengths
-///     io.structure(name, property, visit)   an optional structure in a child element of its own
+///     io.constant(name, text)               an attribute that is written, and ignored when reading
+///     io.array(name, member, lengths, q)    an array that must have one of these lengths
+///     io.structure(name, property, visit)   an optional structure in its own child element
 ///     io.group(property, visit)             an optional structure spread over children of this very element
 ///     io.record(property)                   a nested record; its flag is whether the record accepted its element
 ///     io.rows(name, record, visit)          the rows of a list
-///     io.rowsWithContent(name, record, ...) the same; rows for which the visit would write nothing are left out
+///     io.rowsWithContent(name, record, ...) the same; rows for which the visit would write nothing are omitted
 ///     io.keyed(name, key, text, visit)      the child elements of that name whose attribute `key` is `text`
 ///     io.element(name)                      a child element, to visit further
 ///     io.derive(flag, condition)            a flag that reading computes from what the members then hold
@@ -62,7 +62,7 @@ public:
     explicit Reader(const XMLElement& element) : Reader(toElement(element), false) {}
 
     /// Of the parameter of a record's `parseXMLElement`. Its mark counts: it was passed there directly, and the record
-    /// reads before anybody else can change the document.
+    /// reads before other code can change the document.
     [[nodiscard]] static Reader ofParameter(const XMLElement& parameter) {
         return {toElement(parameter), WrapperMark::isAsParsed(parameter)};
     }
@@ -200,7 +200,7 @@ private:
           isAsParsed_(isAsParsed),
           children_(element) {}
 
-    /// The element for a nested record, which reads before anybody else can change the document. To be passed as it is
+    /// The element for a nested record, which reads before other code can change the document. To be passed as it is
     /// returned, since a copy would not be marked.
     [[nodiscard]] XMLElement passedOn(tinyxml2::XMLElement* element) const {
         return isAsParsed_ ? WrapperMark::asParsed(element) : XMLElement(toHandle(element));

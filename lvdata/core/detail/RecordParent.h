@@ -12,9 +12,9 @@ namespace lv::detail {
 class Writer;
 
 /// The parent that the library passes to a record's `appendXMLElement`. It brings along the writer that the record
-/// writes with, and is for that record alone. To everybody else, such as a class of an application that prints records
-/// which it holds, it is the document that it wraps. A nested one wraps the element of the outer record, or nothing
-/// when the text is printed directly.
+/// writes with, and is for that record alone. For all other code, such as a class of an application that prints its own
+/// records, it is the document that it wraps. A nested one wraps the element of the outer record, or nothing when the
+/// text is printed directly.
 class RecordParent final : public XMLDocument {
 public:
     /// For a record whose text is wanted.
@@ -32,7 +32,7 @@ public:
     RecordParent& operator=(RecordParent&&) = delete;
     ~RecordParent() override = default;
 
-    /// The parent as it was given to that record; null when it was given to anybody else.
+    /// The parent as it was given to that record; null when it was given to other code.
     [[nodiscard]] static const RecordParent* ownOf(const DataObject& record, const XMLNode& parent) {
         if (!WrapperMark::isMarkedParent(parent)) {
             return nullptr;

@@ -16,7 +16,7 @@ struct OptionModel {
     bool isRequired;
     bool isRepeated;
 
-    /// The words that the value can be; empty where it is not one of a few words.
+    /// The possible values, if they are a few words; otherwise empty.
     [[nodiscard]] std::vector<std::string> words() const;
 
     /// Whether the value is the name of a file.
@@ -32,7 +32,7 @@ struct CommandModel {
     std::vector<CommandModel> subcommands;
 };
 
-/// Everything that `--help` shows; what has no group is hidden there, and here.
+/// Everything that `--help` shows. Options without a group are hidden.
 [[nodiscard]] CommandModel modelOf(const CLI::App& application);
 
 }  // namespace tool

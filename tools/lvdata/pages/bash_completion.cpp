@@ -53,7 +53,7 @@ constexpr const char* start = R"(# shellcheck shell=bash
 
 )";
 
-/// Bash takes the "=" of "--option=value" for a word.
+/// Bash treats the "=" of "--option=value" as a word.
 constexpr const char* mainFunction = R"(_COMMAND() {
     local current="${COMP_WORDS[COMP_CWORD]}" previous="${COMP_WORDS[COMP_CWORD - 1]}"
     local subcommand='' words='' files='' word

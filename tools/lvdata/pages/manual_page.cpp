@@ -7,7 +7,7 @@
 namespace tool {
 namespace {
 
-/// Text that is no macro: a line may not start with a dot or an apostrophe.
+/// Text that is not a macro: a line must not start with a dot or an apostrophe.
 std::string plain(const std::string& text) {
     std::string result;
     for (const char character : text) {
@@ -23,7 +23,7 @@ std::size_t lineLength(const std::string& text) {
     return text.size() > width ? std::min(text.rfind(' ', width), text.size()) : text.size();
 }
 
-/// Words and a full stop, in lines of which none is a macro.
+/// Words and a full stop, in lines that are not macros.
 std::string sentence(const std::string& words) {
     std::string lines;
     for (std::string rest = words + '.'; !rest.empty();) {

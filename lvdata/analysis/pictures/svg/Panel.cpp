@@ -54,7 +54,7 @@ void addHorizontalLines(SVGWriter& svg, const Panel& panel, const Axis& axis) {
     svg.close();
 }
 
-/// What an axis is called, as a part of its own.
+/// The label of an axis, as a separate part.
 void addLabel(SVGWriter& svg, const Point& at, Anchor anchor, const std::string& label) {
     if (!label.empty()) {
         SVGWriter part = svg.newPart();
@@ -63,7 +63,7 @@ void addLabel(SVGWriter& svg, const Point& at, Anchor anchor, const std::string&
     }
 }
 
-/// Draws a part of an axis as a part of its own.
+/// Draws a part of an axis as a separate part.
 void addPart(SVGWriter& svg, const Panel& panel, const Axis& axis, double top,
              void (*draw)(SVGWriter&, const Panel&, const Axis&)) {
     SVGWriter part = svg.newPart();

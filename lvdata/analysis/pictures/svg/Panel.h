@@ -34,7 +34,7 @@ private:
     Scale vertical_;
 };
 
-/// What stands along one side of a panel.
+/// The axis along one side of a panel.
 struct Axis {
     std::vector<Tick> ticks{};  ///< Where grid lines are.
     std::string label{};        ///< What is shown, with its unit; may be empty.

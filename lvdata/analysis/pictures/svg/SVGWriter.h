@@ -23,8 +23,8 @@ struct Attribute {
 /// The attributes of an element, in the order in which they are written.
 using Attributes = std::vector<Attribute>;
 
-/// Writes the elements of an SVG document, each on a line of its own; in a page, on one line. Texts must be fit for XML
-/// (see `cleaned`); what markup needs is escaped.
+/// Writes the elements of an SVG document, each on a separate line; in a page, on one line. Texts must be valid in XML
+/// (see `cleaned`); markup characters are escaped.
 class SVGWriter {
 public:
     /// Writes a part, or a whole document; `shared` has the parts of a page and must outlive it. Null: there are none.
@@ -52,10 +52,10 @@ public:
     /// element.
     void titled(std::string_view name, const Attributes& attributes, std::string_view title);
 
-    /// What another writer has written, moved down, as a part that other pictures of the page may have, too.
+    /// The output of another writer, moved down, as a part that other pictures of the page may have, too.
     void share(const SVGWriter& part, double down = 0);
 
-    /// The same for what is never drawn itself, such as a marker.
+    /// The same for a part that is never drawn itself, such as a marker.
     void define(const SVGWriter& part);
 
     /// A style sheet.

@@ -7,14 +7,14 @@ namespace lv::analysis::svg {
 /// Where values lie in pixels: linear, and never outside the pixels.
 class Scale {
 public:
-    /// From the range of values to that of pixels. Either can be reversed. Where the values have no width, all lie in
-    /// the middle.
+    /// From the range of values to that of pixels. Either can be reversed. If the range of values has no width, all
+    /// values lie in the middle.
     Scale(Range values, Range pixels) : values_(values), pixels_(pixels) {}
 
     /// The pixel of a value; of one outside, the pixel of the nearer end; of NaN, the middle.
     [[nodiscard]] double at(double value) const;
 
-    /// Whether a value lies in the range, its ends included, rounded as they may be. NaN does not.
+    /// Whether a value lies in the range, including its ends and a tolerance for rounding. NaN does not.
     [[nodiscard]] bool holds(double value) const;
 
     [[nodiscard]] const Range& values() const { return values_; }  ///< The range of values.
@@ -28,7 +28,7 @@ private:
 /// The range of the values that were added.
 class Extent {
 public:
-    /// Takes a value in; NaN and infinities are ignored, and what is beyond 1e200 counts as that.
+    /// Adds a value; NaN and infinities are ignored, and values beyond 1e200 are set to 1e200.
     void add(double value);
 
     /// Whether no value was added.

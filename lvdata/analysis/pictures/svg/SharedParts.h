@@ -6,7 +6,7 @@
 
 namespace lv::analysis::svg {
 
-/// Parts that several pictures of one page have in common. Each picture refers to them, and the page holds them once.
+/// Parts that several pictures of one page share. Each picture refers to them, and the page holds them once.
 class SharedParts {
 public:
     /// The id of a part, which is remembered: "p1", "p2", ...
@@ -15,7 +15,7 @@ public:
     /// Remembers a part that is never drawn itself.
     void define(const std::string& part);
 
-    /// An unseen picture with all parts, for the page; empty without any.
+    /// An invisible picture with all parts, for the page; empty without any.
     [[nodiscard]] std::string definitions() const;
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Drawing as SVG: shapes, scales, axes. Knows nothing of what is drawn.
+/// Drawing as SVG: shapes, scales, axes. Independent of the content of the pictures.
 namespace lv::analysis::svg {
 
 /// A point, in pixels of the picture or in the values of a panel.

@@ -15,18 +15,18 @@ struct Look {
     std::string title{};         ///< What is shown on hover; may be empty.
 };
 
-/// What a point is marked with.
+/// The symbol of a point.
 enum class Symbol { circle, cross, square, diamond };
 
-/// How a text stands to its point.
+/// The alignment of a text at its point.
 enum class Anchor { start, middle, end };
 
 /// How a path begins at a point: "M60,374.5". Commas, not blanks, stand between the numbers of paths, so that pages
 /// need no quotes around them.
 [[nodiscard]] std::string startOfPath(const Point& at);
 
-/// The path through all points, which are not none, in steps from one to the next. Each point is rounded before, so
-/// that errors do not add up.
+/// The path through all points (at least one), in steps from one to the next. Each point is rounded first, so that
+/// errors do not add up.
 [[nodiscard]] std::string pathThrough(const std::vector<Point>& points);
 
 /// A straight line.

@@ -15,8 +15,8 @@ inline constexpr std::size_t mostPoints = 480;
 /// the last point stay.
 [[nodiscard]] std::vector<Point> simplified(const std::vector<Point>& line, double distance);
 
-/// A line in pixels, simplified by what the eye does not miss. Where too many points are left, narrow columns keep
-/// their first, lowest, highest and last point. x must not fall.
+/// A line in pixels, simplified without visible change. If too many points remain, narrow columns keep their first,
+/// lowest, highest and last point. x must not decrease.
 [[nodiscard]] std::vector<Point> thinned(const std::vector<Point>& line);
 
 /// Indices from 0 to below `count`, `most` of them at most (at least 2), evenly spread, with the first and the last.

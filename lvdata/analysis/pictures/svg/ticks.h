@@ -7,10 +7,10 @@
 
 namespace lv::analysis::svg {
 
-/// A place on an axis that is named.
+/// A labelled place on an axis.
 struct Tick {
     double value = 0;   ///< Where it is.
-    std::string label;  ///< What stands there.
+    std::string label;  ///< Its label.
 };
 
 /// The ticks of a rising range: multiples of 1, 2 or 5 times a power of ten, the finest of them that gives not more

@@ -7,7 +7,7 @@
 namespace lv::analysis {
 namespace {
 
-/// The figure of that key; null when the mode has none.
+/// The figure with that key; null when the mode has none.
 const FigureLine* lineOf(const ReportedMode& mode, const std::string& key) {
     const auto found = std::find_if(mode.lines.begin(), mode.lines.end(),
                                     [&key](const JudgedLine& judged) { return judged.line.key == key; });

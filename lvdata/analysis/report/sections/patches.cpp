@@ -31,7 +31,7 @@ std::string kindOf(const SeriesFigures& series) {
     return std::all_of(patches.begin(), patches.end(), hasCMYK) ? "CMYK" : "";
 }
 
-/// What was shown: "RGB 255 0 0", "CMYK 0 100 100 0"; without the word that stands in the heading.
+/// What was shown: "RGB 255 0 0", "CMYK 0 100 100 0"; without the word that is in the heading.
 std::string shownText(const PatchFigures& patch, const std::string& kind) {
     if (patch.RGB) {
         return (kind.empty() ? "RGB " : "") + joined(*patch.RGB, " ");

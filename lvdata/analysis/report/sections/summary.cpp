@@ -43,7 +43,7 @@ View::Items cardsOf(const JudgedMonitor& judged) {
     return cards;
 }
 
-/// Adds the figures that do not pass, under a heading of their own.
+/// Adds the figures that do not pass, under a separate heading.
 void addNotPassing(std::vector<JudgedLine>& found, const std::vector<JudgedLine>& lines, const std::string& heading) {
     for (const JudgedLine& judged : lines) {
         if (judged.mark == Mark::fails || judged.mark == Mark::notAvailable) {

@@ -22,7 +22,7 @@ View rowOf(const JudgedLine& judged) {
     };
 }
 
-/// Whether the gamut's own tables tell of a figure, so that it needs no row here.
+/// Whether the tables of the gamut show a figure, so that it needs no row here.
 bool standsElsewhere(const JudgedLine& judged) {
     return judged.limit == nullptr && judged.line.group == "Gamut";
 }
