@@ -12,7 +12,7 @@ bool looksLikeJSON(std::string_view text) {
     return first != std::string_view::npos && (text[first] == '{' || text[first] == '[');
 }
 
-/// Whether the element holds one that the switch governs, at any depth that descriptions have.
+/// Whether the element holds one that the switch controls, at any depth that descriptions have.
 bool holdsGoverned(const XMLView& element, const Shape& shape) {
     const Shape* previous = nullptr;
     for (XMLView child = element.firstChild(); child.isValid(); child = child.next()) {
@@ -43,7 +43,7 @@ Document::Document(const std::string& text, const Catalogue& catalogue) {
     readRecord(text, catalogue);
 }
 
-/// The strict parser has the better words. It finds no fault in what is only too deep.
+/// The strict parser has better messages. It accepts documents that are only nested too deeply.
 void Document::refuseAsXML(const std::string& text, const ParseResult& result) {
     if (looksLikeJSON(text)) {
         refuse(Refusal::Kind::notXML, 0, "this is JSON, not XML (lvdata convert reads it)");
@@ -69,7 +69,7 @@ void Document::readRecord(const std::string& text, const Catalogue& catalogue) {
         return;
     }
     source_.emplace(parsed_->view());
-    const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents need no closer look
+    const bool isNamed = text.find("HLGSystemGamma") != std::string::npos;  // most documents do not have it
     record_->writeHLGSystemGamma = isNamed && hasHLGSystemGamma(parsed_->view(), *entry_->shape);
 }
 
@@ -101,7 +101,7 @@ std::string unknownRootElement(std::string_view name) {
         known += known.empty() ? "" : ", ";
         known += each.name;
     }
-    return "unknown root element " + inQuotes(name) + ", known are: " + known;
+    return "unknown root element " + inQuotes(name) + "; known: " + known;
 }
 
 }  // namespace lv::analysis

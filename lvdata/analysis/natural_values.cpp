@@ -44,7 +44,7 @@ std::vector<std::size_t> lengthsOf(const Description& facts) {
     return lengths;
 }
 
-/// Characters that XML 1.0 has no place for, and the carriage return, which reading changes.
+/// Characters that XML 1.0 does not allow, and the carriage return, which reading changes.
 std::string nameOfBad(std::string_view character) {
     constexpr char space = ' ';
     const char first = character.front();
@@ -87,7 +87,7 @@ std::string expectedEntries(const Shape& shape, std::size_t entries) {
 std::string whatXMLCannotCarry(std::string_view text, Description::Place place) {
     const bool isBlank = text.find_first_not_of(" \t\n") == std::string_view::npos;
     if (!text.empty() && isBlank && place != Description::Place::attribute) {
-        return "nothing but white space";
+        return "whitespace-only text";
     }
     std::string bad;
     while (!text.empty() && bad.empty()) {

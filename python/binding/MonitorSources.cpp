@@ -97,7 +97,7 @@ const MonitorDocuments& MonitorSources::documents() {
     if (documents_.empty()) {
         auto monitors = fleet_.take();
         if (monitors.empty()) {
-            throw std::invalid_argument("there are no documents");
+            throw std::invalid_argument("no documents were given");
         }
         documents_ = std::move(monitors.front());
     }

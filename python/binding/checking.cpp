@@ -87,7 +87,7 @@ std::string jsonOf(const Diff& diff) {
     analysis::JSONWriter writer(text, {true});
     putDiff(diff, writer);
     if (!writer.isUTF8()) {
-        throw std::invalid_argument("a text is not UTF-8, so it cannot be told");
+        throw std::invalid_argument("a text is not UTF-8, so it cannot be compared");
     }
     return text;
 }

@@ -59,7 +59,7 @@ std::string asBytes(const py::handle& text) {
         py::reinterpret_steal<py::bytes>(PyUnicode_AsEncodedString(text.ptr(), "utf-8", "surrogateescape"));
     if (!bytes) {
         PyErr_Clear();
-        throw py::value_error("text that UTF-8 can carry expected, not a single surrogate");
+        throw py::value_error("text without single surrogates expected: UTF-8 cannot encode them");
     }
     return bytes;
 }

@@ -107,7 +107,7 @@ std::string scaleOf(const Quantity& quantity) {
     }
     const bool isMoved = analysis::decimalsOf(quantity.factor) > 0;
     const std::string factor = std::to_string(quantity.factor);
-    return isMoved ? "Stored as an integer, times " + factor : "An integer: " + factor + " stands for 1";
+    return isMoved ? "Stored as an integer, times " + factor : "An integer; " + factor + " stands for 1";
 }
 
 void addQuantity(std::string& text, const Quantity& quantity) {

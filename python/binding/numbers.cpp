@@ -50,7 +50,7 @@ std::int64_t storedOfWhole(const py::object& whole, const NumberForm& form) {
     int overflow = 0;
     const long long value = PyLong_AsLongLongAndOverflow(whole.ptr(), &overflow);
     if (overflow != 0) {
-        refuse(form, "such a large one");
+        refuse(form, "a number of this size");
     }
     return storedOf(static_cast<std::int64_t>(value), form);
 }
@@ -224,7 +224,7 @@ std::string shortRepr(const py::handle& value) {
     int overflow = 0;
     if (PyLong_CheckExact(value.ptr()) != 0) {
         const long long number = PyLong_AsLongLongAndOverflow(value.ptr(), &overflow);
-        return overflow == 0 ? std::to_string(number) : "such a large number";
+        return overflow == 0 ? std::to_string(number) : "a number of this size";
     }
     if (PyUnicode_Check(value.ptr()) != 0) {
         constexpr std::size_t most = 40;

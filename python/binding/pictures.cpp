@@ -34,14 +34,14 @@ PictureKind kindOf(const std::string& name) {
         }
         known += (known.empty() ? "" : ", ") + std::string(each.name);
     }
-    throw std::invalid_argument("there is no picture '" + name + "'; there are " + known);
+    throw std::invalid_argument("unknown picture '" + name + "'; known pictures: " + known);
 }
 
 std::optional<Plane> planeOf(const Text& name) {
     if (!name || *name == "xy" || *name == "uv") {
         return name ? std::optional(*name == "xy" ? Plane::xy : Plane::uv) : std::nullopt;
     }
-    throw std::invalid_argument("there is no plane '" + *name + "'; there are xy, uv");
+    throw std::invalid_argument("unknown plane '" + *name + "'; known planes: xy, uv");
 }
 
 Request requestOf(const std::string& kind, const Text& mode, const Text& plane, const Text& limits,

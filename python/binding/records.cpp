@@ -41,7 +41,7 @@ void setChild(Element& element, std::size_t index, const ElementPtr& child) {
 
 const ElementPtr& rowAt(const RowList& rows, std::size_t index) {
     if (index >= rows.rows.size()) {
-        throw py::index_error("there is no such row");
+        throw py::index_error("row index out of range");
     }
     return rows.rows[index];
 }

@@ -24,7 +24,7 @@ const TableDescription& tableOf(const std::string& name) {
         }
         known += (known.empty() ? "" : ", ") + std::string(each.name);
     }
-    throw py::value_error("there is no table '" + name + "'; there are " + known);
+    throw py::value_error("unknown table '" + name + "'; known tables: " + known);
 }
 
 void refuseUnlessUTF8(const analysis::JSONWriter& writer, const std::string& file) {

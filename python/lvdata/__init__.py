@@ -1,4 +1,4 @@
-"""Records of a monitor-calibration application, and what can be told of them."""
+"""Records of a monitor-calibration application, and their analysis."""
 
 from . import _records
 from ._analysis import (

@@ -1,4 +1,4 @@
-"""What can be told of documents: findings, differences, figures, rows of tables."""
+"""Analysis of documents: findings, differences, figures, rows of tables."""
 
 from __future__ import annotations
 
@@ -12,7 +12,7 @@ from . import _lvdata
 from ._sources import Source, mode_text, name_of, text_argument, text_of, units_of
 
 
-#: The most that can be listed of each severity.
+#: The maximum number of listed findings per severity.
 MOST_FINDINGS = 2**31 - 1
 
 
@@ -20,42 +20,42 @@ class Finding(NamedTuple):
     """Something in a document that its record does not keep as it stands, or that is probably a mistake."""
 
     severity: str  #: "error", "warning" or "info".
-    id: str  #: Three digits, which never change: `lvdata explain` and docs/rules.md tell what they mean.
-    line: int | None  #: Where it is, counted from 1; None when no line applies.
+    id: str  #: Three digits, which never change: `lvdata explain` and docs/rules.md explain them.
+    line: int | None  #: The line, counted from 1; None when no line applies.
     path: str  #: XPath of the element or attribute.
-    message: str  #: What is wrong, and what becomes of it.
-    file: str | None = None  #: The name of the file; None for a document that is in none.
+    message: str  #: What is wrong, and what happens to the content.
+    file: str | None = None  #: The name of the file; None for a document without a file.
 
 
 def check(
     source: Source, *, ignore: Iterable[str] = (), roundtrip: bool = False, most: int = 1000
 ) -> list[Finding]:
-    """What would be lost or changed if the document was read and written back, and what in it is hardly meant.
+    """What would be lost or changed if the document was read and written back, and which values are probably a mistake.
 
     A text that is not XML at all is a finding, too. The findings are in the order of their lines and the same as those
     of `lvdata check --format json`.
 
-    :param ignore: ids of rules that are not looked for
-    :param roundtrip: also whether the text is what the record prints, byte for byte
-    :param most: at most so many of each severity are listed
-    :raises ValueError: for an id that no rule has
-    :raises ParseError: for a document beyond the limits of hostile ones
+    :param ignore: ids of rules that are skipped
+    :param roundtrip: also report any difference, byte for byte, from what the record prints
+    :param most: the maximum number of listed findings per severity
+    :raises ValueError: for an unknown id
+    :raises ParseError: for a document that exceeds the limits
     """
     ignored = known_rules(ignore)
     if not 0 <= operator.index(most) <= MOST_FINDINGS:
-        raise ValueError(f"most is a number from 0 to {MOST_FINDINGS}, not {most}")
+        raise ValueError(f"most must be a number from 0 to {MOST_FINDINGS}, not {most}")
     text, file = text_of(source)
     name = name_of(file)
     return [Finding(*each, name) for each in _lvdata.findings(text, file, ignored, bool(roundtrip), most)]
 
 
 def known_rules(ids: Iterable[str]) -> list[str]:
-    """The ids; ValueError for one that no rule has."""
+    """The ids; ValueError for an unknown one."""
     wanted = [ids] if isinstance(ids, str) else list(ids)
     known = _lvdata.rule_ids()
     for each in wanted:
         if each not in known:
-            raise ValueError(f"'{each}' is not the id of a rule; there are {', '.join(known)}")
+            raise ValueError(f"'{each}' is not the id of a rule; known ids: {', '.join(known)}")
     return wanted
 
 
@@ -70,7 +70,7 @@ class TableEntryChange(TypedDict, total=False):
 
 
 class TableChange(TypedDict, total=False):
-    """What has become of the entries of an array, compared by their place."""
+    """How the entries of an array changed, compared by position."""
 
     entries_before: int
     entries_after: int
@@ -79,7 +79,7 @@ class TableChange(TypedDict, total=False):
 
 
 class ColourChange(TypedDict, total=False):
-    """The size of a change of colour, or why there is none."""
+    """The size of a colour difference, or why it is not known."""
 
     size: float | None
     reason: str
@@ -115,7 +115,7 @@ class Diff(list[Difference]):
         self, differences: Iterable[Difference] = (), *, within_tolerance: int = 0, ignored: int = 0
     ) -> None:
         super().__init__(differences)
-        self.within_tolerance = within_tolerance  #: How many are not listed because they are small.
+        self.within_tolerance = within_tolerance  #: How many are not listed because they are within the tolerances.
         self.ignored = ignored  #: How many are not listed because of their path.
 
 
@@ -126,7 +126,7 @@ def diff(
 
     :param tolerances: the largest difference of a kind that is not listed, such as {"de00": 0.5}
     :param ignore: paths whose differences are not listed, with everything below; "//Name" at any depth
-    :raises ValueError: for a kind of tolerance that there is not, and for records of different classes
+    :raises ValueError: for an unknown kind of tolerance, and for records of different classes
     :raises ParseError: for a document that cannot be read
     """
     limits = _known_tolerances(tolerances or {})
@@ -141,7 +141,7 @@ def _known_tolerances(tolerances: Mapping[str, float]) -> list[tuple[str, float]
     known = _lvdata.tolerance_kinds()
     for kind, limit in tolerances.items():
         if kind not in known:
-            raise ValueError(f"unknown kind of tolerance '{kind}', known are: {', '.join(known)}")
+            raise ValueError(f"unknown kind of tolerance '{kind}'; known: {', '.join(known)}")
         if not math.isfinite(limit) or limit < 0:
             raise ValueError(f"'{limit}' is not a number from 0")
     return [(kind, float(limit)) for kind, limit in tolerances.items()]
@@ -152,12 +152,12 @@ def figures(
 ) -> dict[str, Any]:
     """The figures of a monitor: what `lvdata show --json` prints, with the same digits. docs/figures.md has the keys.
 
-    :param mode: the index of the only colour mode to tell of; None: all
-    :param y_unit: the unit of Y, which the records do not say, such as "cd/m²"
+    :param mode: the index of the only colour mode to include; None: all
+    :param y_unit: the unit of Y, such as "cd/m²"; the records do not state it
     :param map_unit: the unit of the entries of candela maps
-    :param grid: the entries in a row of a candela map; 0: not known
-    :raises ValueError: for a mode that there is not
-    :raises ParseError: for a document that cannot be read, or is not of a monitor
+    :param grid: the entries per row of a candela map; 0: not known
+    :raises ValueError: for a mode that does not exist
+    :raises ParseError: for a document that cannot be read, or does not describe a monitor
     """
     units = units_of(y_unit, map_unit, grid)
     result: dict[str, Any] = json.loads(_lvdata.figures_text(*text_of(source), mode_text(mode), units))
@@ -168,7 +168,7 @@ class Column(NamedTuple):
     """A column of a table."""
 
     name: str  #: The key of the rows.
-    unit: str  #: Empty for texts and ratios; "not recorded" where the records do not say.
+    unit: str  #: Empty for texts and ratios; "not recorded" where the records do not state it.
     meaning: str  #: In a few words.
     values: str  #: What stands in it: "text", "integer" or "fraction".
 
@@ -176,8 +176,8 @@ class Column(NamedTuple):
 class TableDescription(NamedTuple):
     """A table that documents can be turned into."""
 
-    name: str  #: What it is asked for by.
-    rows: str  #: What has a row.
+    name: str  #: The name by which it is requested.
+    rows: str  #: What each row stands for.
     columns: tuple[Column, ...]  #: In the order of the keys of a row.
 
 
@@ -195,7 +195,7 @@ def table(source: Source, name: str = "modes") -> list[dict[str, Any]]:
     """The rows that a document has in a table. All rows have all columns as keys; None where there is nothing.
 
     :param name: one of `tables()`
-    :raises ValueError: for a table that there is not
+    :raises ValueError: for an unknown table
     :raises ParseError: for a document that cannot be read
     """
     text_argument("name", name)

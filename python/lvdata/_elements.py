@@ -1,4 +1,4 @@
-"""What all elements of records have in Python: their classes are made of these."""
+"""The base classes of all elements of records in Python."""
 
 from __future__ import annotations
 
@@ -15,7 +15,7 @@ if TYPE_CHECKING:
 
 
 class Named:
-    """What has attributes of known names: elements, their raw views, and groups."""
+    """Base of everything with a fixed set of attributes: elements, their raw views, and groups."""
 
     __slots__ = ()
 
@@ -42,17 +42,17 @@ class Named:
         return shown_element(self)
 
     def to_dict(self) -> dict[str, Any]:
-        """What is set, as dicts, lists and plain values; arrays become lists. The way back: `Class(**values)`."""
+        """What is set, as dicts, lists and plain values; arrays become lists. `Class(**values)` converts back."""
         values = ((name, getattr(self, name)) for name in self._names)
         return {name: as_plain(value) for name, value in values if is_set(value)}
 
 
 class Element(Named, _lvdata.Element):
-    """An element of a document, with an attribute for each thing that it can hold.
+    """An element of a document, with a Python attribute for everything that it can hold.
 
-    What is not set is None. Assigning None clears; what is always written then has the value of a fresh object. Elements
-    are assigned as objects, not copied: the same one may stand in several places. Values are checked at once, and a
-    refused one changes nothing.
+    An attribute that is not set is None. Assigning None clears it; one that is always written then has its default
+    value. Elements are assigned as objects, not copied: the same object may be in several places. Values are checked at
+    once, and a refused value changes nothing.
     """
 
     __slots__ = ()

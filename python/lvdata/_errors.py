@@ -9,7 +9,7 @@ class ParseError(ValueError):
     def __init__(self, reason: str, line: int | None = None, file: str | None = None, path: str | None = None) -> None:
         super().__init__(reason, line, file, path)
         self.reason = reason  #: What is wrong, in a few words.
-        self.line = line  #: Where that was noticed, counted from 1; None when no line applies.
+        self.line = line  #: The line of the error, counted from 1; None when no line applies.
         self.file = file  #: The name of the file; None for a text.
         self.path = path  #: The place in a JSON text, "asset_info.asset1"; None for XML.
 

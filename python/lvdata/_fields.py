@@ -1,4 +1,4 @@
-"""The attributes of elements: what reads and sets them, and what says that a name is misspelt."""
+"""The attributes of elements: reading, setting, and the message for a misspelt name."""
 
 from __future__ import annotations
 
@@ -17,7 +17,7 @@ Given = TypeVar("Given", contravariant=True)
 
 
 class Attribute(Generic[Got, Given]):
-    """An attribute of an element: what reading it gives, and what can be assigned."""
+    """An attribute of an element: how it is read, and what can be assigned."""
 
     __slots__ = ()
 
@@ -57,7 +57,7 @@ class Field(Attribute[Any, Any]):
         self.class_id = class_id
 
     def meaning(self) -> str:
-        """What help() shows of it. Made when it is asked for, since importing the module would take longer."""
+        """The text that help() shows. Made on request, to keep the import of the module fast."""
         return _lvdata.meaning(self.class_id, self.index)
 
 
@@ -167,15 +167,15 @@ def element_of(value: object, class_id: int | None, place: str, raw: bool) -> An
 
 
 def unknown(owner: type, name: str) -> str:
-    """What to say of a name that a class does not have."""
+    """The message for a name that a class does not have."""
     names = owner._names  # type: ignore[attr-defined]
     meant = _lvdata.closest(name, names)
-    known = f"did you mean {meant!r}?" if meant is not None else f"known are: {', '.join(names)}"
+    known = f"did you mean {meant!r}?" if meant is not None else f"known names: {', '.join(names)}"
     return f"{owner.__qualname__} has no {name!r}, {known}"
 
 
 def assign(owner: Any, values: Mapping[str, Any]) -> None:
-    """Sets attributes in the order in which they are written: what others depend on comes first."""
+    """Sets attributes in the order in which they are written: those that others depend on come first."""
     names: Iterable[str] = type(owner)._names
     for name in values:
         if name not in names:

@@ -1,4 +1,4 @@
-"""How documents become jobs, and what is done with those that cannot be read."""
+"""Turns documents into jobs, and handles those that cannot be read."""
 
 from __future__ import annotations
 
@@ -16,7 +16,7 @@ DOCUMENTS_PER_TASK = 100
 
 
 def batches(items: Sequence[T], size: int) -> list[tuple[T, ...]]:
-    """The items in groups of that size, in their order; one empty group when there are none."""
+    """The items in groups of that size, in order; one empty group if there are no items."""
     return [tuple(items[begin : begin + size]) for begin in range(0, max(len(items), 1), size)]
 
 

@@ -15,7 +15,7 @@ class BadDocument(NamedTuple):
     """A document that could not be read: what `ParseError` says of it, as plain values."""
 
     file: str  #: Its name as it was found. For a folder that could not be read, the name of the folder.
-    line: int | None  #: Where that was noticed, counted from 1; None when no line applies.
+    line: int | None  #: The line of the error, counted from 1; None when no line applies.
     reason: str  #: What is wrong, in a few words.
 
     def error(self) -> ParseError:
@@ -23,7 +23,7 @@ class BadDocument(NamedTuple):
         return ParseError(self.reason, self.line, self.file)
 
 
-#: A document to read, or one of which it is known already that it cannot be read.
+#: A document to read, or one that is already known to be unreadable.
 Entry = Union[str, BadDocument]
 
 

@@ -30,13 +30,13 @@ PAGES_PER_TASK = 10
 
 @dataclass(frozen=True)
 class KeysJob:
-    """Documents of which it is asked whose they are."""
+    """Documents whose monitor is wanted."""
 
     entries: tuple[Entry, ...]
 
 
 def keys_part(job: KeysJob) -> tuple[list[KnownDocument], list[BadDocument]]:
-    """What all documents say of their monitors."""
+    """What all documents say about their monitors."""
     return read_each(job.entries, lambda file: (file, monitor_key(file)))
 
 
@@ -50,7 +50,7 @@ class PagesJob:
 
 
 def write_pages(job: PagesJob) -> list[PageEntry | BadDocument]:
-    """Writes the pages. What cannot be read comes back; what cannot be written is an `OSError`."""
+    """Writes the pages. Returns unreadable documents; raises `OSError` for a page that cannot be written."""
     return [_write_page(monitor, job) for monitor in job.pages]
 
 
@@ -67,7 +67,7 @@ def _write_page(monitor: MonitorPage, job: PagesJob) -> PageEntry | BadDocument:
 
 
 def replace_page(file: str, text: str) -> None:
-    """Writes a page in one step. A file that is not such a page stays."""
+    """Writes a page in one step. Does not overwrite a file that is not such a page."""
     reason = _lvdata.why_not_overwritten(os.fsencode(file))
     if reason:
         raise FileExistsError(f"{file}: {reason}")
@@ -89,13 +89,13 @@ def report(
 ) -> Reported:
     """Writes a page of each monitor and an index into a folder: the same files as `lvdata report -o FOLDER/`.
 
-    The workers write the pages, the caller writes the index: all must see the folder under this name. It is made when
-    it is not there; a file of another kind is not overwritten (`FileExistsError`). Without any good document nothing
-    is written.
+    The workers write the pages, the caller writes the index: all must see the folder under this name. It is created
+    if it does not exist; a file of another kind is not overwritten (`FileExistsError`). Without any good document
+    nothing is written.
 
     The options are those of the command: `limits` is the name of a limit set or a file, `title` the heading of the
-    index, `date` a text to print, `mode` the index of the only colour mode to tell of; `y_unit`, `map_unit` and `grid`
-    are what you know and the records do not say. Workers read a file of limits by themselves, as they read documents.
+    index, `date` a text to print, `mode` the index of the only colour mode to include; `y_unit`, `map_unit` and `grid`
+    are what you know and the records do not state. Workers read a file of limits by themselves, as they read documents.
     """
     collects(errors)
     name = os.fsdecode(limits_name(limits))
@@ -103,7 +103,7 @@ def report(
         "limits": name if name in _lvdata.limit_set_names() else os.path.abspath(name), "mode": mode, "date": date,
         "y_unit": y_unit, "map_unit": map_unit, "grid": grid,
     }
-    units_of(y_unit, map_unit, grid)  # this and the next refuse what is wrong before anything is read
+    units_of(y_unit, map_unit, grid)  # this and the next line refuse wrong arguments before anything is read
     index_page([], options, title)
     known, bad = _known_documents(paths, documents_per_task, client)
     if not known:

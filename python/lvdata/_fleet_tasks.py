@@ -1,6 +1,6 @@
-"""What workers do for `lvdata.fleet`: functions of a job, which holds names of files and says what is to be made.
+"""What workers do for `lvdata.fleet`: functions that take a job, which has file names and the kind of result.
 
-They depend on nothing but the job and the files, so that a job can be done again when a worker died. A job is one
+They depend only on the job and the files, so a job can be repeated when a worker dies. A job is one
 object and not a list, so that Dask does not search its names for keys of other tasks.
 """
 
@@ -19,10 +19,10 @@ from ._sources import text_of
 
 T = TypeVar("T")
 
-#: How pandas calls what the columns of tables hold. All of these have room for missing values.
+#: The pandas types of the columns of tables. All of them allow missing values.
 DTYPES = {"text": "string", "integer": "Int64", "fraction": "Float64"}
 
-#: The columns of findings, called as in `lvdata check --format json`.
+#: The columns of findings, named as in `lvdata check --format json`.
 FINDING_VALUES = {
     "file": "text", "id": "text", "severity": "text", "line": "integer", "path": "text", "message": "text"
 }
@@ -30,13 +30,13 @@ FINDING_VALUES = {
 #: The columns of bad documents.
 ERROR_VALUES = {"file": "text", "line": "integer", "reason": "text"}
 
-#: The id of what is no finding of a rule: the document could not be read.
+#: The id for a document that could not be read; it is not a rule.
 UNREADABLE = "unreadable"
 
 
 @dataclass(frozen=True)
 class TableJob:
-    """Documents of which the rows of a table are wanted."""
+    """Documents whose table rows are wanted."""
 
     entries: tuple[Entry, ...]
     table: str
@@ -55,14 +55,14 @@ class CheckJob:
 
 
 class Part(NamedTuple):
-    """What a job gives: its data, and the documents that could not be read."""
+    """The result of a job: its data, and the documents that could not be read."""
 
     data: Any
     errors: Any  # a list of `BadDocument`, or a DataFrame of them beside a DataFrame
 
 
 def read_each(entries: tuple[Entry, ...], read: Callable[[str], T]) -> tuple[list[T], list[BadDocument]]:
-    """What `read` gives for each document, and those that cannot be read."""
+    """The result of `read` for each document, and the documents that cannot be read."""
     results: list[T] = []
     errors: list[BadDocument] = []
     for entry in entries:
@@ -135,5 +135,5 @@ def frame_of_errors(errors: list[BadDocument]) -> Any:
 
 
 def header(table: str, form: str) -> bytes:
-    """What stands before the rows."""
+    """The text before the rows."""
     return _lvdata.csv_header(table).encode() if form == "csv" else b""

@@ -19,14 +19,14 @@ from ._paths import file_name
 
 @dataclass(frozen=True)
 class PartFileJob:
-    """A part of a table to be written into a file of its own."""
+    """A part of a table, to be written into a separate file."""
 
     part: TableJob
     file: str
 
 
 def write_part(job: PartFileJob) -> list[BadDocument]:
-    """Writes the file in one step, so that nobody sees half of it, also when two workers do it."""
+    """Writes the file in one step, so nobody sees an incomplete file, even when two workers write it."""
     text, errors = text_bytes(job.part)
     _lvdata.write_file(os.fsencode(job.file), header(job.part.table, job.part.form) + text)
     return list(errors)
@@ -43,12 +43,12 @@ def write(
     paths: Paths, table: str, target: str | os.PathLike[str], *, form: Literal["csv", "jsonl"] = "csv",
     errors: Literal["raise", "collect"] = "raise", client: Any = None, documents_per_task: int = DOCUMENTS_PER_TASK,
 ) -> Written:
-    """Writes the rows of a table into a file, or into a folder of parts: one that is there, or a name that ends in "/".
+    """Writes the rows of a table into a file, or into a folder of parts: one that exists, or a name that ends in "/".
 
     A file is written by the caller, who gets the parts one after the other: it holds what `lvdata convert` prints, and
-    no machine has all of it in memory. It gets its name when it is complete; until then, and when writing fails, a
-    file that has the name stays. One of the documents, a device or a pipe is refused with `FileExistsError`. Through a
-    symbolic link the file is replaced, not the link, and it keeps its rights.
+    no machine holds all of it in memory. It gets its name when it is complete; until then, and if writing fails, an
+    existing file with that name stays. One of the documents, a device or a pipe is refused with `FileExistsError`.
+    Through a symbolic link the file is replaced, not the link, and it keeps its rights.
 
     Parts are written by the workers, so all must see the folder under this name. They are called part-00000.csv and so
     on, in the order of the documents, each with a header. A folder that holds such files already is refused with

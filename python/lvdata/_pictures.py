@@ -52,11 +52,11 @@ def plot(
     :param mode: the index of the colour mode; None: the first with a calibration result
     :param limits: of patches and history: the name or the file of the limits to draw
     :param figure: of history: the key of the figure; None: "white_delta_uv"
-    :param y_unit: the unit of Y, which the records do not say
+    :param y_unit: the unit of Y; the records do not state it
     :param map_unit: the unit of the entries of candela maps
-    :param grid: the entries in a row of a candela map; 0: not known
-    :raises ValueError: for anything that there is not; the message says what there is
-    :raises ParseError: for a document that cannot be read, is not of a monitor, or is of another monitor
+    :param grid: the entries per row of a candela map; 0: not known
+    :raises ValueError: for an unknown name; the message lists the known ones
+    :raises ParseError: for a document that cannot be read, does not describe a monitor, or is about a different monitor
     """
     name = None if limits is None else limits_name(limits)
     request = _lvdata.PictureRequest(

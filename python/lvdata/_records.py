@@ -1,4 +1,4 @@
-"""The classes of records and of what is in them, made of the descriptions that the library has of them."""
+"""The classes of records and of their elements, made from the library's descriptions."""
 
 from __future__ import annotations
 
@@ -76,7 +76,7 @@ def make_class(description: dict[str, Any], class_id: int) -> type[Element]:
 
 
 def make_classes() -> dict[str, type[Record]]:
-    """All classes of records, with the classes of what is in them as their attributes."""
+    """All classes of records, with the classes of their elements as attributes."""
     records: dict[str, Any] = {}
     for class_id, description in enumerate(_lvdata.classes()):
         made = make_class(description, class_id)
@@ -105,9 +105,9 @@ def bytes_of(text: str | bytes) -> bytes:
 
 
 def loads(text: str | bytes) -> Any:
-    """The record of an XML document; its root element says of which class it is.
+    """The record of an XML document; its root element determines the class.
 
-    Raises ParseError when the text cannot be read or is beyond the limits for documents.
+    Raises ParseError when the text cannot be read or exceeds the limits.
     """
     return _lvdata.loads(bytes_of(text))
 
@@ -120,8 +120,8 @@ def load(path: str | os.PathLike[str]) -> Any:
 def from_json(text: str | bytes) -> Any:
     """The record of a JSON text, as `to_json` gives it.
 
-    Raises ParseError at the first thing that is wrong. What the text says and the record does not keep, such as values
-    that do not belong to the "type" beside them, is a warning (UserWarning).
+    Raises ParseError at the first error. What the record does not keep, such as values that do not belong to the "type"
+    next to them, gives a warning (UserWarning).
     """
     record, losses = _lvdata.from_json(bytes_of(text))
     for loss in losses:

@@ -58,19 +58,19 @@ def report(
     map_unit: str = "",
     grid: int = 0,
 ) -> Report:
-    """The page of a monitor: the same as `lvdata report`. The latest document is told in full; several give a history.
+    """The page of a monitor: the same as `lvdata report`. It shows the latest document in full, and the history.
 
     :param sources: documents of one monitor, in any order
-    :param limits: what figures are judged by: the name of a limit set, or a file
-    :param mode: the index of the only colour mode to tell of; None: all
+    :param limits: the limits for the figures: the name of a limit set, or a file
+    :param mode: the index of the only colour mode to include; None: all
     :param title: the heading; empty: the name of the monitor
     :param date: a date to print; empty: none
-    :param y_unit: the unit of Y, which the records do not say
+    :param y_unit: the unit of Y; the records do not state it
     :param map_unit: the unit of the entries of candela maps
-    :param grid: the entries in a row of a candela map; 0: not known
-    :raises ValueError: for limits that there are not, and without any document
-    :raises ParseError: for a document that cannot be read, is not of a monitor, is of another monitor, or does not have
-        the mode
+    :param grid: the entries per row of a candela map; 0: not known
+    :raises ValueError: for unknown limits, and without any document
+    :raises ParseError: for a document that cannot be read, does not describe a monitor, is about a different monitor,
+        or lacks the mode
     """
     form = _form({"limits": limits, "mode": mode, "date": date}, title)
     return Report(_page(listed(sources), form, units_of(y_unit, map_unit, grid))[0])
@@ -84,20 +84,20 @@ def _page(sources: Sequence[Source], form: _lvdata.ReportForm, units: tuple[str,
     return _lvdata.page(monitor, text_of(sources[monitor.latest()]).text if sources else b"", form)
 
 
-# What fleets are reported by. All results can be pickled.
+# The steps of a fleet report. All results can be pickled.
 
 
 class MonitorKey(NamedTuple):
-    """What a document says of its monitor: enough to put the documents of a fleet together."""
+    """What a document says about its monitor: enough to group the documents of a fleet."""
 
-    identity: str  #: Tells monitors apart; empty: not known.
+    identity: str  #: Identifies the monitor; empty: not known.
     when: str  #: The time of the latest calibration, as the record has it.
     name: str
     serial: str
     uuid: str
 
 
-#: A file, and what it said when it was first read.
+#: A file, and what it held when it was first read.
 KnownDocument = tuple[str, MonitorKey]
 
 
@@ -127,12 +127,12 @@ class PageOptions(TypedDict, total=False):
 
 
 def monitor_key(file: str) -> MonitorKey:
-    """Reads a document and tells whose it is. Raises OSError and ParseError."""
+    """Reads a document and returns its monitor. Raises OSError and ParseError."""
     return MonitorKey(*_lvdata.monitor_key(*text_of(file)))
 
 
 def monitor_pages(documents: Sequence[KnownDocument]) -> list[MonitorPage]:
-    """Puts documents together by their monitors, in the order of the index."""
+    """Groups documents by monitor, in the order of the index."""
     groups = _lvdata.monitor_groups([tuple(key) for _, key in documents])
     return [MonitorPage(page, [documents[place] for place in places]) for page, places in groups]
 
@@ -140,7 +140,7 @@ def monitor_pages(documents: Sequence[KnownDocument]) -> list[MonitorPage]:
 def page_of(monitor: MonitorPage, options: PageOptions) -> Page:
     """The page of one monitor and its entry in the index, as `lvdata report -o FOLDER/` makes them.
 
-    :raises ParseError: also for a document that says something else than when it was first read
+    :raises ParseError: also for a document that changed since it was first read
     """
     sources = _lvdata.MonitorSources(_units(options), False)
     latest = b""

@@ -64,12 +64,12 @@ class Rows(MutableSequence[Row]):
             self._rows.replace(position, position + 1, [])
 
     def insert(self, index: Any, value: Any) -> None:
-        """Puts a row before that one."""
+        """Inserts a row before that position."""
         position = slice(index, None).indices(len(self))[0]
         self._rows.replace(position, position, [self._element(value)])
 
     def extend(self, values: Iterable[Any]) -> None:
-        """Appends rows: all of them, or none when one is refused."""
+        """Appends rows: all of them, or none if one is refused."""
         self[len(self) :] = values
 
     def sort(self, *, key: Any, reverse: bool = False) -> None:

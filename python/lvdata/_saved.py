@@ -1,4 +1,4 @@
-"""What pictures and pages have in common."""
+"""The common base of pictures and pages."""
 
 from __future__ import annotations
 
@@ -17,7 +17,7 @@ class Saved:
         self._text = text
 
     def save(self, path: str | os.PathLike[str]) -> None:
-        """Writes it into a file, in UTF-8. A file that is there is replaced in one step, or left as it was."""
+        """Writes it into a file, in UTF-8. An existing file is replaced in one step, or left unchanged."""
         _lvdata.write_file(file_name(path), self._text.encode())
 
     def __str__(self) -> str:

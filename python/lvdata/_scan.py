@@ -22,7 +22,7 @@ Problem = Union[ParseError, OSError]
 Row = dict[str, Any]
 OnError = Callable[[Problem], object]
 
-#: Documents that are begun, or done and not taken, for each thread: one slow document does not stop the others.
+#: Documents per thread that are in progress, or done and not yet taken: one slow document does not stop the others.
 _AHEAD = 8
 
 Result = TypeVar("Result")
@@ -32,12 +32,12 @@ AnyProblem = TypeVar("AnyProblem", ParseError, OSError, Problem)
 def documents(
     paths: Path | Iterable[Path], *, on_error: Callable[[OSError], object] | None = None
 ) -> list[str]:
-    """The documents below some paths: files as they are, and of folders all files named `*.xml` at any depth.
+    """The documents at these paths: the files themselves, and all files named `*.xml` in the folders, at any depth.
 
     In a folder, files and folders are taken together in the order of the bytes of their names. Links to folders are
-    followed where they are given, and ignored inside a folder.
+    followed when they are given as paths, and ignored inside a folder.
 
-    :param on_error: called with each OSError of a folder that cannot be read or holds no document; the walk goes on
+    :param on_error: called with each OSError of a folder that cannot be read or holds no document; the search continues
     :raises OSError: for such a folder, without `on_error`
     """
     found = []
@@ -62,8 +62,8 @@ def scan(
     :param paths: files and folders, as `documents` takes them
     :param table: one of `tables()`
     :param jobs: how many documents are worked on at a time; None: as many as there are processors
-    :param on_error: called with the ParseError or OSError of each document that cannot be read; the others go on
-    :raises ValueError: for a table that there is not
+    :param on_error: called with the ParseError or OSError of each unreadable document; the others are still read
+    :raises ValueError: for an unknown table
     :raises ParseError: for a document that cannot be read, without `on_error`; OSError for a file or folder
     """
     _lvdata.table_columns(text_argument("table", table))
@@ -76,7 +76,7 @@ def _threads(jobs: int | None) -> int:
     if jobs is None:
         return len(os.sched_getaffinity(0)) if hasattr(os, "sched_getaffinity") else os.cpu_count() or 1
     if not 1 <= operator.index(jobs) <= 1024:
-        raise ValueError(f"jobs is a number from 1 to 1024, not {jobs}")
+        raise ValueError(f"jobs must be a number from 1 to 1024, not {jobs}")
     return jobs
 
 
@@ -87,7 +87,7 @@ def _report(problem: AnyProblem, on_error: Callable[[AnyProblem], object] | None
 
 
 def walk(paths: Path | Iterable[Path]) -> Iterator[bytes | OSError]:
-    """The names of files, and in their places why there is none."""
+    """The names of files, or in their place the reason why there is none."""
     return _walk([file_name(each) for each in ([paths] if isinstance(paths, (str, bytes, os.PathLike)) else paths)])
 
 
@@ -118,7 +118,7 @@ def _outcome(work: Callable[[bytes], Result], found: bytes | OSError) -> Result 
 def _results(
     files: Iterator[bytes | OSError], work: Callable[[bytes], Result], threads: int
 ) -> Generator[Result | Problem, None, None]:
-    """What becomes of each file, in order, by so many threads; one is the caller's. No thread outlives the generator."""
+    """The result for each file, in order, by that many threads; one is the caller's. No thread outlives the generator."""
     if threads == 1:
         for each in files:
             yield _outcome(work, each)

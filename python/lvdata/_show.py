@@ -1,11 +1,11 @@
-"""Elements as text for people, and as dicts."""
+"""Elements as readable text, and as dicts."""
 
 from __future__ import annotations
 
 from collections.abc import Sequence
 from typing import Any
 
-#: What is shown of arrays, rows and texts, and how deep.
+#: How much of arrays, rows and texts is shown, and how deep.
 MOST_NUMBERS = 6
 MOST_ROWS = 3
 MOST_CHARACTERS = 60

@@ -19,7 +19,7 @@ class Text(NamedTuple):
     """The text of a document."""
 
     text: bytes
-    file: bytes  #: The name of its file; empty when it is in none.
+    file: bytes  #: The name of its file; empty when there is no file.
 
 
 def text_of(source: Source) -> Text:
@@ -35,7 +35,7 @@ def text_of(source: Source) -> Text:
 
 
 def name_of(file: bytes) -> str | None:
-    """The name of a file for people; None for a document that is in none."""
+    """The name of a file for people; None for a document without a file."""
     return os.fsdecode(file) if file else None
 
 
@@ -50,10 +50,10 @@ def mode_text(mode: int | None) -> str | None:
 
 
 def units_of(y_unit: str, map_unit: str, grid: int) -> tuple[str, str, int]:
-    """What is known of units, as the engine takes it."""
+    """The known units, as the engine takes them."""
     width = operator.index(grid)
     if not 0 <= width <= 10000:
-        raise ValueError(f"grid is a number from 0 to 10000, not {width}")
+        raise ValueError(f"grid must be a number from 0 to 10000, not {width}")
     return text_argument("y_unit", y_unit), text_argument("map_unit", map_unit), width
 
 
@@ -63,7 +63,7 @@ def limits_name(limits: str | os.PathLike[str]) -> bytes:
 
 
 def text_argument(name: str, value: str) -> str:
-    """The value of the argument of that name; TypeError when it is not a text, ValueError when UTF-8 cannot carry it."""
+    """The value of the argument of that name; TypeError if it is not a text, ValueError if UTF-8 cannot encode it."""
     if not isinstance(value, str):
         raise TypeError(f"{name} is a str, not {type(value).__name__}")
     try:

@@ -5,13 +5,13 @@
     table = fleet.table("/archive", "modes")  # a Dask DataFrame
     table.groupby("sensor_name").usage_hours.max().compute()
 
-A worker gets names of files and reads them by itself, so names must mean the same on every worker. docs/fleets.md says
-how to arrange that, what a task costs, and when not to use a cluster.
+A worker gets names of files and reads them by itself, so names must mean the same files on every worker. docs/fleets.md
+says how to arrange that, what a task costs, and when not to use a cluster.
 
 `paths` is a path or several: documents, and folders with documents named *.xml at any depth. The order is that of the
 command `lvdata`, and results keep it.
 
-Bad documents stop nobody who says so, and are never lost in silence:
+Bad documents need not stop the work, and are never dropped silently:
 
 - `text`, `rows` and `table` raise `ParseError` for one of them when they are computed. With `errors="collect"` they
   return two collections: the data of all good documents, and the bad ones. Compute both at once, and documents are read

@@ -62,9 +62,9 @@ def test_a_finding_has_line_and_path(tmp_path: Path) -> None:
 
 
 def test_an_unknown_rule_is_refused() -> None:
-    with pytest.raises(ValueError, match=r"'999' is not the id of a rule; there are 001, 002, "):
+    with pytest.raises(ValueError, match=r"'999' is not the id of a rule; known ids: 001, 002, "):
         lvdata.check(FAULTY, ignore=["999"])
-    with pytest.raises(ValueError, match="most is a number from 0"):
+    with pytest.raises(ValueError, match="most must be a number from 0"):
         lvdata.check(FAULTY, most=-1)
 
 
@@ -94,7 +94,7 @@ def test_reading_errors_say_why(tmp_path: Path) -> None:
         assert (refused.value.file, refused.value.line) == (str(broken), 2)
         again = pickle.loads(pickle.dumps(refused.value))
         assert (str(again), again.line) == (str(refused.value), 2)
-    with pytest.raises(lvdata.ParseError, match='^unknown root element "Car", known are: AssetInfo, '):
+    with pytest.raises(lvdata.ParseError, match='^unknown root element "Car"; known: AssetInfo, '):
         lvdata.table(b"<Car/>")
 
 
@@ -185,7 +185,7 @@ def test_differences_can_be_ignored_or_tolerated(tool: Tool, studio: Path) -> No
 
 
 def test_wrong_tolerances_are_refused() -> None:
-    with pytest.raises(ValueError, match="unknown kind of tolerance 'de', known are: candela, "):
+    with pytest.raises(ValueError, match="unknown kind of tolerance 'de'; known: candela, "):
         lvdata.diff(FAULTY, FAULTY, tolerances={"de": 1})
     for wrong in (-1, float("nan"), float("inf")):
         with pytest.raises(ValueError, match="is not a number from 0"):
@@ -230,11 +230,11 @@ def test_figures_take_modes_and_units(tool: Tool, studio: Path) -> None:
     options = {"y_unit": "cd/m²", "map_unit": "cd", "grid": 5}
     told = told_figures(tool, "--mode", 2, "--y-unit", "cd/m²", "--map-unit", "cd", "--grid", 5, studio)
     assert lvdata.figures(studio, mode=2, **options) == told  # type: ignore[arg-type]
-    with pytest.raises(ValueError, match="studio.xml: no colour mode has the index 77; there are 0, 1, 2, 3, 4"):
+    with pytest.raises(ValueError, match="studio.xml: no colour mode has the index 77; known indices: 0, 1, 2, 3, 4"):
         lvdata.figures(studio, mode=77)
     with pytest.raises(ValueError, match="-1 is not an index"):
         lvdata.figures(studio, mode=-1)
-    with pytest.raises(ValueError, match="grid is a number from 0 to 10000"):
+    with pytest.raises(ValueError, match="grid must be a number from 0 to 10000"):
         lvdata.figures(studio, grid=10001)
 
 
@@ -261,7 +261,7 @@ def test_tables_say_what_they_hold() -> None:
     assert tables["modes"].rows
     [serial] = [column for column in tables["modes"].columns if column.name == "serial"]
     assert serial == ("serial", "", "serial number of the monitor", "text")
-    with pytest.raises(ValueError, match="there is no table 'cars'; there are monitors, modes, patches, curves, maps"):
+    with pytest.raises(ValueError, match="unknown table 'cars'; known tables: monitors, modes, patches, curves, maps"):
         lvdata.table(b"<AssetInfo/>", "cars")
 
 

@@ -79,9 +79,9 @@ def test_a_known_limit_set_is_not_read_as_a_file(
 @pytest.mark.parametrize(
     "options, message",
     [
-        ({"grid": 99999}, "grid is a number from 0 to 10000"),
+        ({"grid": 99999}, "grid must be a number from 0 to 10000"),
         ({"mode": -1}, "-1 is not an index"),
-        ({"limits": "own"}, "there is no such file, and no limits of that name"),
+        ({"limits": "own"}, "no file and no limit set has this name"),
         ({"errors": "skip"}, "one of: raise, collect"),
         ({"documents_per_task": 0}, "documents_per_task must be at least 1"),
     ],

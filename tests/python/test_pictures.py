@@ -49,10 +49,10 @@ def test_a_history_takes_several_documents(tool: Tool, studio: Path, tmp_path: P
     assert lvdata.plot(files, "history").svg.encode() == tool("plot", "history", *files)
     with pytest.raises(ValueError, match="^all pictures but history take one document$"):
         lvdata.plot(files, "gamut")
-    with pytest.raises(ValueError, match="there are no documents"):
+    with pytest.raises(ValueError, match="no documents were given"):
         lvdata.plot([], "history")
     other = later(studio.read_bytes(), "2024-03-03", uuid="another")
-    with pytest.raises(lvdata.ParseError, match="is of another monitor than the documents before it"):
+    with pytest.raises(lvdata.ParseError, match="is about a different monitor than the documents before it"):
         lvdata.plot([studio, other], "history")
 
 
@@ -63,21 +63,21 @@ def test_pictures_of_missing_data_are_refused(studio: Path) -> None:
         assert not isinstance(raised.value, lvdata.ParseError)
         return str(raised.value)
 
-    assert refusal("cake") == f"there is no picture 'cake'; there are {', '.join(KINDS)}"
-    assert refusal("gamut", plane="ab") == "there is no plane 'ab'; there are xy, uv"
+    assert refusal("cake") == f"unknown picture 'cake'; known pictures: {', '.join(KINDS)}"
+    assert refusal("gamut", plane="ab") == "unknown plane 'ab'; known planes: xy, uv"
     assert refusal("tone", plane="xy") == "plane is for gamut only"
     assert refusal("tone", figure="contrast") == "figure is for history only"
     assert refusal("tone", limits="default") == "limits is for patches and history only"
-    assert refusal("uniformity", mode=1) == "mode is not for maps, which belong to no colour mode"
-    assert refusal("history", figure="taste").startswith("there is no figure 'taste'; there are white_x, ")
+    assert refusal("uniformity", mode=1) == "mode is not for maps: a map does not belong to a colour mode"
+    assert refusal("history", figure="taste").startswith("unknown figure 'taste'; known figures: white_x, ")
     assert refusal("patches", limits="nowhere") == (
-        "nowhere: there is no such file, and no limits of that name; known are default, iso14861, ebu3320-g1"
+        "nowhere: no file and no limit set has this name; known limit sets: default, iso14861, ebu3320-g1"
     )
-    assert refusal(mode=77).endswith("studio.xml: no colour mode has the index 77; there are 0, 1, 2, 3, 4")
+    assert refusal(mode=77).endswith("studio.xml: no colour mode has the index 77; known indices: 0, 1, 2, 3, 4")
 
 
 def test_documents_without_modes_or_of_other_classes_are_refused() -> None:
     with pytest.raises(ValueError, match="there are no colour modes"):
         lvdata.plot(b"<MonitorInfo/>")
-    with pytest.raises(lvdata.ParseError, match="^a document of AssetInfo is not of a monitor$"):
+    with pytest.raises(lvdata.ParseError, match="^a document of AssetInfo does not describe a monitor$"):
         lvdata.plot(b"<AssetInfo/>")

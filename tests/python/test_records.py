@@ -146,7 +146,7 @@ def test_misspelt_attributes_raise(cls: Any) -> None:
             setattr(owner, wrong, 1)
     with pytest.raises(TypeError, match=f"has no '{wrong}', did you mean"):
         cls(**{wrong: 1})
-    with pytest.raises(AttributeError, match="known are"):
+    with pytest.raises(AttributeError, match="known names"):
         element.quite_another_name
     with pytest.raises(AttributeError):
         element.copy = 1

@@ -73,19 +73,19 @@ def test_a_page_shows_and_saves_itself(studio: Path, tmp_path: Path) -> None:
 def test_what_cannot_be_reported_is_refused(studio: Path, tmp_path: Path) -> None:
     other = tmp_path / "other.xml"
     other.write_bytes(later(studio.read_bytes(), "2024-03-03", uuid="another"))
-    with pytest.raises(lvdata.ParseError, match="is of another monitor than the documents before it") as raised:
+    with pytest.raises(lvdata.ParseError, match="is about a different monitor than the documents before it") as raised:
         lvdata.report([studio, other])
     assert raised.value.file == str(other)
-    with pytest.raises(lvdata.ParseError, match="has no UUID and no serial number, so nothing says that"):
+    with pytest.raises(lvdata.ParseError, match="has no UUID and no serial number, so it cannot be matched with"):
         lvdata.report([studio, b"<MonitorInfo/>"])
-    with pytest.raises(lvdata.ParseError, match="studio.xml: no colour mode has the index 9; there are 0, 1, 2, 3, 4"):
+    with pytest.raises(lvdata.ParseError, match="no colour mode has the index 9; known indices: 0, 1, 2, 3, 4"):
         lvdata.report(studio, mode=9)
     with pytest.raises(lvdata.ParseError) as without_file:
         lvdata.report(studio.read_bytes(), mode=9)
     assert without_file.value.file is None
-    with pytest.raises(ValueError, match="no limits of that name; known are default, iso14861"):
+    with pytest.raises(ValueError, match="no file and no limit set has this name; known limit sets: default, iso14861"):
         lvdata.report(studio, limits="strict")
-    with pytest.raises(ValueError, match="there are no documents"):
+    with pytest.raises(ValueError, match="no documents were given"):
         lvdata.report([])
     wrong = tmp_path / "limits.json"
     wrong.write_text('{\n"nam": 1}')

@@ -98,7 +98,7 @@ TEST_P(BatchTest, GoesOnAfterInputsThatFail) {
     const Batch batch = run({"missing", "a", "empty", "b"});
     EXPECT_EQ(batch.output, "one\ntwo\n");
     EXPECT_EQ(batch.error, path("missing").string() + ": error: " + std::generic_category().message(ENOENT) + '\n' +
-                               path("empty").string() + ": error: folder without files named *.xml\n");
+                               path("empty").string() + ": error: no files named *.xml in this folder\n");
     EXPECT_EQ(batch.status, ExitStatus::failed);
 }
 

@@ -30,8 +30,9 @@ const std::string error = "<BasicData Version=\"3\" MinorVersion=\"0\">\n<UsageH
 const std::string warningLine = "warning.xml: warning: line 2: unknown element \"UsageHour\" is dropped; did you mean "
                                 "\"UsageHours\"? [301] /BasicData/UsageHour\n";
 
-const std::string errorLine = "error.xml: error: line 2: what follows the number in \"140,5\" is ignored, reads as 140 "
-                              "[104] /BasicData/UsageHours\n";
+const std::string errorLine =
+    "error.xml: error: line 2: the text after the number in \"140,5\" is ignored, reads as 140 "
+    "[104] /BasicData/UsageHours\n";
 
 class Check : public ToolTest {
 protected:
@@ -113,7 +114,7 @@ TEST_F(Check, ReportsDocumentsThatAreNotRecords) {
                 StartsWith("text.xml: error: line 1: there is text where the root element belongs [001]\n"));
     EXPECT_THAT(check({"nul.xml"}).output, StartsWith("nul.xml: error: line 5: NUL character [003]\n"));
     EXPECT_THAT(run({"check", "-"}, {"<Assetinfo/>"}).output,
-                StartsWith("<stdin>: error: line 1: unknown root element \"Assetinfo\", known are: AssetInfo, "));
+                StartsWith("<stdin>: error: line 1: unknown root element \"Assetinfo\"; known: AssetInfo, "));
     EXPECT_EQ(check({"text.xml", "nul.xml"}).exitCode, 1);
 }
 
@@ -130,7 +131,7 @@ TEST_F(Check, ComparesWithTheCanonicalFormWhenAsked) {
     EXPECT_EQ(check({"spaced.xml"}).exitCode, 0);
     EXPECT_EQ(check({"--roundtrip", "spaced.xml"}),
               (Outcome{1,
-                       "spaced.xml: warning: line 5: the text differs from what lvdata format prints, from here on "
+                       "spaced.xml: warning: line 5: from here on, the text differs from what lvdata format prints "
                        "[320]\n1 document, with findings: 0 errors, 1 warning\n",
                        ""}));
 }
@@ -181,7 +182,7 @@ TEST_F(Check, PrintsJSON) {
             {"id": "301", "severity": "warning", "file": "warning.xml", "line": 2, "path": "/BasicData/UsageHour",
              "message": "unknown element \"UsageHour\" is dropped; did you mean \"UsageHours\"?"},
             {"id": "104", "severity": "error", "file": "error.xml", "line": 2, "path": "/BasicData/UsageHours",
-             "message": "what follows the number in \"140,5\" is ignored, reads as 140"}
+             "message": "the text after the number in \"140,5\" is ignored, reads as 140"}
         ],
         "documents": 4, "unreadable": 0, "documents_with_findings": 2, "errors": 1, "warnings": 1, "infos": 1
     })"));

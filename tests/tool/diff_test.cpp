@@ -76,7 +76,7 @@ TEST_F(DiffCommand, RefusesAToleranceOfAnUnknownKind) {
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.output, "");
     EXPECT_THAT(outcome.error,
-                StartsWith("lvdata: error: --tolerance: unknown kind of tolerance 'colour', known are: candela, "));
+                StartsWith("lvdata: error: --tolerance: unknown kind of tolerance 'colour'; known: candela, "));
     EXPECT_THAT(outcome.error, HasSubstr(", de00, duv, "));
 }
 

@@ -21,7 +21,7 @@ TEST_F(Explain, ListsAllRules) {
     EXPECT_EQ(outcome.error, "");
     EXPECT_THAT(linesOf(outcome.output), SizeIs(rules().size()));
     EXPECT_THAT(outcome.output, StartsWith("001 error: not XML\n002 error: unknown root element\n"));
-    EXPECT_THAT(outcome.output, HasSubstr("\n105 info: another spelling\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("\n105 info: different spelling\n"));
 }
 
 TEST_F(Explain, ExplainsARule) {

@@ -97,7 +97,7 @@ TEST_F(InputWalkTest, IgnoresDevicesAndPipesInFolders) {
 TEST_F(InputWalkTest, ReportsFoldersWithoutDocuments) {
     make({"none/notes.txt", "none/deep/notes.txt", "a.xml"});
     fs::create_directory(path("empty"));
-    const std::string reason = ": error: folder without files named *.xml";
+    const std::string reason = ": error: no files named *.xml in this folder";
     EXPECT_THAT(walk(Names{"none", "a.xml", "empty"}), ElementsAre("none" + reason, "a.xml", "empty" + reason));
 }
 

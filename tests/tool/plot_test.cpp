@@ -33,7 +33,7 @@ TEST_F(Plot, DrawsTheModeThatIsAskedFor) {
     EXPECT_TRUE(made({"plot", "tone", studio, "--mode", "2"}) ==
                 made({"plot", "tone", studio}));  // the first calibrated
     EXPECT_EQ(run({"plot", "tone", studio, "--mode", "9"}),
-              failed(studio + ": error: no colour mode has the index 9; there are 0, 1, 2, 3, 4"));
+              failed(studio + ": error: no colour mode has the index 9; known indices: 0, 1, 2, 3, 4"));
     EXPECT_EQ(run({"plot", "tone", "-"}, {"<MonitorInfo/>"}), failed("<stdin>: error: there are no colour modes"));
     EXPECT_TRUE(contains(made({"plot", "uniformity", "-"}, {"<MonitorInfo/>"}), "</svg>"));
 }
@@ -73,10 +73,10 @@ TEST_F(Plot, DrawsTheHistoryOfAFigure) {
     EXPECT_TRUE(made({"plot", "history", ".", "--figure", "white_delta_uv"}) == history);
     EXPECT_TRUE(made({"plot", "history", ".", "--figure", "white_tristimulus_y"}) != history);
     EXPECT_THAT(run({"plot", "history", ".", "--figure", "x"}).error,
-                StartsWith("lvdata: error: there is no figure 'x'; there are "));
+                StartsWith("lvdata: error: unknown figure 'x'; known figures: "));
     write("c.xml", monitor({"Wall", "2", "u-2"}));
     EXPECT_EQ(run({"plot", "history", "a.xml", "c.xml"}),
-              failed("c.xml: error: is of another monitor than the documents before it"));
+              failed("c.xml: error: is about a different monitor than the documents before it"));
 }
 
 TEST_F(Plot, MakesThePicturesOfTheReadme) {
@@ -99,7 +99,7 @@ TEST_F(Plot, RefusesOptionsOfOtherPictures) {
     EXPECT_EQ(run({"plot", "tone", studio, "--limits", "default"}),
               failed("lvdata: error: --limits is for patches and history only"));
     EXPECT_EQ(run({"plot", "brightness", studio, "--mode", "2"}),
-              failed("lvdata: error: --mode is not for maps, which belong to no colour mode"));
+              failed("lvdata: error: --mode is not for maps: a map does not belong to a colour mode"));
     EXPECT_THAT(run({"plot", "gamuts", studio}).error, HasSubstr("'gamuts' is not one of gamut|tone|"));
     EXPECT_EQ(run({"plot"}).exitCode, 2);
 }
@@ -107,7 +107,7 @@ TEST_F(Plot, RefusesOptionsOfOtherPictures) {
 TEST_F(Plot, RefusesWhatIsNotOfAMonitor) {
     write("in.xml", "<AssetInfo/>");
     EXPECT_EQ(run({"plot", "gamut", "in.xml", "-o", "out.svg"}),
-              failed("in.xml: error: a document of AssetInfo is not of a monitor"));
+              failed("in.xml: error: a document of AssetInfo does not describe a monitor"));
     EXPECT_EQ(run({"plot", "gamut", "none.xml", "-o", "out.svg"}),
               failed("none.xml: error: No such file or directory"));
     EXPECT_EQ(names(), Arguments{"in.xml"});

@@ -44,7 +44,7 @@ TEST_F(Records, EveryRecordOfTheLibraryIsKnown) {
 TEST_F(Records, AnUnknownRootElementIsNamedAndTheKnownOnesAreListed) {
     write("in.xml", "<Unknown/>");
     EXPECT_EQ(run({"format", "in.xml"}),
-              failed("in.xml: error: unknown root element \"Unknown\", known are: " + listOf(recordClasses())));
+              failed("in.xml: error: unknown root element \"Unknown\"; known: " + listOf(recordClasses())));
 }
 
 TEST_F(Records, ALongNameIsCutInTheMessage) {

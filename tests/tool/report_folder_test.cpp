@@ -100,7 +100,7 @@ TEST_F(ReportFolder, IsNotMadeForNothing) {
 TEST_F(ReportFolder, LeavesOutAMonitorWithoutTheMode) {
     write("in/b.xml", "<MonitorInfo><UUID>u-2</UUID></MonitorInfo>");
     EXPECT_EQ(run({"report", "in", "-o", "out/", "--mode", "2"}),
-              failed("in/b.xml: error: no colour mode has the index 2; there are none"));
+              failed("in/b.xml: error: no colour mode has the index 2; no mode has an index"));
     EXPECT_THAT(namesIn("out"), ElementsAre("Wall-1.html", "index.html"));
     EXPECT_FALSE(contains(read("out/index.html"), "u-2"));
 }
@@ -117,7 +117,7 @@ TEST_F(ReportFolder, KeepsStandardInputForTheSecondReading) {
 }
 
 TEST_F(ReportFolder, SaysWhenItCannotBeMade) {
-    EXPECT_EQ(run({"report", "in", "-o", "in/a.xml/"}), failed("in/a.xml/: error: it is not a folder"));
+    EXPECT_EQ(run({"report", "in", "-o", "in/a.xml/"}), failed("in/a.xml/: error: not a folder"));
     const Outcome outcome = run({"report", "in", "-o", "/proc/none/"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_THAT(outcome.error, StartsWith("/proc/none/: error: "));

@@ -62,7 +62,7 @@ TEST_F(Report, ShowsOneModeOnRequest) {
     EXPECT_GT(count(all, "<th>Contrast<"), count(one, "<th>Contrast<"));
     EXPECT_TRUE(contains(one, "Proof"));
     EXPECT_EQ(run({"report", studio, "--mode", "9"}),
-              failed(studio + ": error: no colour mode has the index 9; there are 0, 1, 2, 3, 4"));
+              failed(studio + ": error: no colour mode has the index 9; known indices: 0, 1, 2, 3, 4"));
     EXPECT_EQ(run({"report", studio, "--mode", "x"}).exitCode, 2);
 }
 
@@ -79,11 +79,11 @@ TEST_F(Report, UsesTheLimitsThatAreAskedFor) {
     EXPECT_TRUE(made({"report", studio, "--limits", "iso14861"}) != page);
     EXPECT_EQ(run({"report", studio, "--limits", "missing"}).exitCode, 2);
     EXPECT_THAT(run({"report", studio, "--limits", "missing"}).error,
-                StartsWith("missing: error: there is no such file, and no limits of that name; known are default, "));
+                StartsWith("missing: error: no file and no limit set has this name; known limit sets: default, "));
     fs::create_directory(path("folder"));
     EXPECT_EQ(run({"report", studio, "--limits", "folder"}), failed("folder: error: Is a directory"));
     EXPECT_EQ(run({"report", studio, "--limits", "/dev/zero"}),
-              failed("/dev/zero: error: more than 1000000 bytes, which no limits need"));
+              failed("/dev/zero: error: more than 1000000 bytes, too large for a limit set"));
 }
 
 TEST_F(Report, FailsOnLimitsOnRequest) {
@@ -143,7 +143,7 @@ TEST_F(Report, NamesDocumentsWithoutTheirFolders) {
     EXPECT_FALSE(contains(made({"report", "secret/in.xml"}), "secret"));
     EXPECT_TRUE(made({"report", path("secret/in.xml")}) == made({"report", "in.xml"}));
     EXPECT_EQ(run({"report", "secret/in.xml", "--mode", "9"}),
-              failed("secret/in.xml: error: no colour mode has the index 9; there are 2"));
+              failed("secret/in.xml: error: no colour mode has the index 9; known indices: 2"));
 }
 
 TEST_F(Report, KnowsAMonitorByItsSerialNumberAndModel) {
@@ -162,16 +162,16 @@ TEST_F(Report, KnowsAMonitorByItsSerialNumberAndModel) {
 TEST_F(Report, HasOneMonitorInAFile) {
     write("a.xml", monitor({"Wall", "1", "u-1"}));
     write("b.xml", monitor({"Wall", "1", "u-2"}));
-    const std::string message = "b.xml: error: is of another monitor than the documents before it; with -o FOLDER/ "
-                                "there is a page for each monitor";
+    const std::string message =
+        "b.xml: error: is about a different monitor than the documents before it; with -o FOLDER/ "
+        "there is a page for each monitor";
     EXPECT_EQ(run({"report", "a.xml", "b.xml"}), failed(message));
     EXPECT_EQ(run({"report", "a.xml", "b.xml", "-o", "out.html"}), failed(message));
     EXPECT_EQ(names(), (Arguments{"a.xml", "b.xml"}));
     write("a.xml", "<ColorModeSettings/>");
-    EXPECT_EQ(
-        run({"report", "a.xml", "a.xml"}),
-        failed("a.xml: error: has no UUID and no serial number, so nothing says that it is of the same monitor as "
-               "the documents before it; with -o FOLDER/ there is a page for each monitor"));
+    EXPECT_EQ(run({"report", "a.xml", "a.xml"}),
+              failed("a.xml: error: has no UUID and no serial number, so it cannot be matched with the monitor of the "
+                     "the documents before it; with -o FOLDER/ there is a page for each monitor"));
 }
 
 // Documents that are none of a monitor.
@@ -180,7 +180,7 @@ TEST_F(Report, RefusesWhatIsNotOfAMonitor) {
     write("asset.xml", "<AssetInfo/>");
     write("bad.xml", "<MonitorInfo>\n</MonitorConfiguration>");
     EXPECT_EQ(run({"report", "asset.xml", "-o", "out.html"}),
-              failed("asset.xml: error: a document of AssetInfo is not of a monitor"));
+              failed("asset.xml: error: a document of AssetInfo does not describe a monitor"));
     EXPECT_THAT(run({"report", "bad.xml"}).error, StartsWith("bad.xml: error: line 2: "));
     EXPECT_EQ(run({"report", "none.xml"}), failed("none.xml: error: No such file or directory"));
     EXPECT_EQ(run({"report", "--max-size", "4", "bad.xml"}),
@@ -193,7 +193,7 @@ TEST_F(Report, GoesOnAfterABadDocument) {
     write("in.xml", monitor());
     const Outcome outcome = run({"report", "asset.xml", "none.xml", "in.xml", "-o", "out/"});
     EXPECT_EQ(outcome, (Outcome{2, "",
-                                "asset.xml: error: a document of AssetInfo is not of a monitor\n"
+                                "asset.xml: error: a document of AssetInfo does not describe a monitor\n"
                                 "none.xml: error: No such file or directory\n"}));
     EXPECT_THAT(namesIn("out"), ElementsAre("Wall-1.html", "index.html"));
 }

@@ -36,7 +36,7 @@ TEST_F(Schema, ForAnUnknownRootElementIsRefusedWithTheKnownOnes) {
     const Outcome outcome = run({"schema", "--xsd", "Monitor"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.output, "");
-    EXPECT_THAT(outcome.error, HasSubstr(R"(lvdata: error: unknown root element "Monitor", known are: AssetInfo, )"));
+    EXPECT_THAT(outcome.error, HasSubstr(R"(lvdata: error: unknown root element "Monitor"; known: AssetInfo, )"));
     EXPECT_THAT(outcome.error, HasSubstr("MonitorInfo, "));
     EXPECT_EQ(outcome.error.find('\n'), outcome.error.size() - 1);
 }

@@ -53,7 +53,7 @@ TEST_F(ShowContent, HasEveryKindOfSchedule) {
     EXPECT_EQ(scheduleOf("2", "<IntervalWeek>2</IntervalWeek>"), "every 2 weeks");
     EXPECT_EQ(scheduleOf("3", "<IntervalHour>200</IntervalHour>"), "every 200 hours");
     EXPECT_EQ(scheduleOf("31", "<IntervalHour>3</IntervalHour>"), "every 3 hours");
-    EXPECT_EQ(scheduleOf("1"), "every some months");
+    EXPECT_EQ(scheduleOf("1"), "every N months");
     EXPECT_EQ(scheduleOf("17"), "once");
     EXPECT_EQ(scheduleOf("32"), "daily");
     EXPECT_EQ(scheduleOf("33"), "weekly");

@@ -47,9 +47,9 @@ TEST_F(Show, HasTheMonitorAndItsModes) {
         "4     Broadcast      0.3127 0.3290     0.3128 0.3291  0.0001  1000         1000.67  HLG         2024-05-02\n"
         "\n"
         "Measured: CIE 1931 x and y of white.\n"
-        "Y: CIE 1931 tristimulus value; the records do not say its unit (--y-unit).\n"
-        "Δu'v': target white against measured white, CIE 1976 UCS diagram, CIE 1931 2° observer.\n"
-        "n/a: not available; --mode N says why.\n"
+        "Y: CIE 1931 tristimulus value; the records do not state its unit (--y-unit).\n"
+        "Δu'v': between target white and measured white, CIE 1976 UCS diagram, CIE 1931 2° observer.\n"
+        "n/a: not available; --mode N gives the reason.\n"
         "Findings      none\n");
 }
 
@@ -61,9 +61,9 @@ TEST_F(Show, HasOneMode) {
                                  "Target        brightness 160, white x 0.3457 y 0.3585 (D50), black Minimum, gamma "
                                  "LStar, gamut Native\n\n"));
     EXPECT_THAT(text, ContainsRegex("\n +Target +Measured +Difference\nWhite\n  White x +0.3457 +0.3459 +0.0002\n"));
-    EXPECT_THAT(text, EndsWith("\n\nΔu'v': target white against measured white, CIE 1976 UCS diagram, CIE 1931 2° "
+    EXPECT_THAT(text, EndsWith("\n\nΔu'v': between target white and measured white, CIE 1976 UCS diagram, CIE 1931 2° "
                                "observer.\n"
-                               "Y: CIE 1931 tristimulus value; the records do not say its unit (--y-unit).\n" +
+                               "Y: CIE 1931 tristimulus value; the records do not state its unit (--y-unit).\n" +
                                noFindings));
 }
 
@@ -124,7 +124,7 @@ TEST_F(Show, RefusesTheIndexOfNoMode) {
               failed("in.xml: error: no colour mode has the index 2; there are 1, 7"));
     write("in.xml", modes(""));
     EXPECT_EQ(run({"show", "--mode", "2", "in.xml"}),
-              failed("in.xml: error: no colour mode has the index 2; there are none"));
+              failed("in.xml: error: no colour mode has the index 2; no mode has an index"));
 }
 
 TEST_F(Show, NamesTwentyIndicesAtMost) {

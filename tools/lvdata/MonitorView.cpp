@@ -37,7 +37,7 @@ std::string cell(const std::string& text, std::size_t mostCharacters = 16) {
     return shortened(orDash(text), mostCharacters);
 }
 
-/// x and y without their names, for which a table has no room.
+/// x and y without their names: a table has no room for them.
 std::string coordinates(const lv::analysis::colour::Chromaticity& white) {
     return Figure{white.x, ""}.text(4) + ' ' + Figure{white.y, ""}.text(4);
 }
@@ -71,11 +71,11 @@ std::vector<std::string> rowOf(const ModeFigures& mode) {
 }
 
 std::string noteOnUnit(const std::string& yUnit) {
-    return yUnit.empty() ? "Y: CIE 1931 tristimulus value; the records do not say its unit (--y-unit).\n" : "";
+    return yUnit.empty() ? "Y: CIE 1931 tristimulus value; the records do not state its unit (--y-unit).\n" : "";
 }
 
 std::string noteOnDifference() {
-    return "Δu'v': target white against measured white, CIE 1976 UCS diagram, CIE 1931 2° observer.\n";
+    return "Δu'v': between target white and measured white, CIE 1976 UCS diagram, CIE 1931 2° observer.\n";
 }
 
 std::string notes(const std::vector<ModeFigures>& modes, const std::string& yUnit) {
@@ -86,7 +86,8 @@ std::string notes(const std::vector<ModeFigures>& modes, const std::string& yUni
     const bool hasDifference = any([](const ModeFigures& mode) { return mode.deltaUV.value.has_value(); });
     const bool hasMissing = any([](const ModeFigures& mode) { return !mode.deltaUV.value; });
     return (hasWhite ? "Measured: CIE 1931 x and y of white.\n" + noteOnUnit(yUnit) : "") +
-           (hasDifference ? noteOnDifference() : "") + (hasMissing ? "n/a: not available; --mode N says why.\n" : "");
+           (hasDifference ? noteOnDifference() : "") +
+           (hasMissing ? "n/a: not available; --mode N gives the reason.\n" : "");
 }
 
 std::string modeTable(const std::vector<ModeFigures>& modes, const MonitorViewForm& form, const Palette& palette) {
@@ -120,7 +121,7 @@ std::string assets(const lv::AssetInfo& info) {
 }
 
 std::string interval(const lv::property<unsigned int>& length, const std::string& unit) {
-    return length.hasValue ? "every " + counted(length.value, unit) : "every some " + unit + 's';
+    return length.hasValue ? "every " + counted(length.value, unit) : "every N " + unit + 's';
 }
 
 std::string schedule(const lv::SelfCalibrationSchedule& schedule) {

@@ -84,10 +84,11 @@ void addOptions(CLI::App& command, Options& options) {
     addChoiceOption<std::optional<Severity>>(
         command, "--fail-on", options.failOn,
         {{"error", Severity::error}, {"warning", Severity::warning}, {"never", std::nullopt}},
-        "Least severity that makes the exit status 1 (default warning)");
+        "Lowest severity that makes the exit status 1 (default warning)");
     addChoiceOption<bool>(command, "--format", options.form.isJSON, {{"text", false}, {"json", true}},
                           "Form of the output (default text)");
-    command.add_flag("--info", options.form.withInfos, "Also list remarks about what is kept or added");
+    command.add_flag("--info", options.form.withInfos,
+                     "Also list remarks: nothing is lost, but something is added or written differently");
     command.add_option("--ignore", options.ignored, "Rules to skip, by id, separated by commas")
         ->type_name("ID")
         ->allow_extra_args(false)

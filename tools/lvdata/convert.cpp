@@ -28,14 +28,14 @@ struct Options {
     std::string output{standardStream};
 };
 
-/// Whether the command line names one document and not a list or a folder of any number of them.
+/// Whether the command line names exactly one document, not a list or a folder.
 bool namesOneDocument(const InputOptions& inputs) {
-    std::error_code ignored;  // what cannot be looked at is reported when it is read
+    std::error_code ignored;  // an error is reported when the file is read
     return inputs.paths.size() == 1 && inputs.lists.empty() &&
            !std::filesystem::is_directory(std::filesystem::u8path(inputs.paths.front()), ignored);
 }
 
-/// Puts the texts of the documents together, one after the other.
+/// Joins the texts of the documents.
 class Result {
 public:
     Result(const Conversion& conversion, bool isArray)
@@ -79,7 +79,7 @@ void refuseWrongOptions(const Options& options) {
     }
 }
 
-/// What was written before stands before the messages where both go to one place.
+/// Earlier output is written before the messages, for the case that both go to the same terminal or file.
 ExitStatus reportLosses(const Converted& converted, Output& output) {
     if (converted.losses.countFrom(lv::analysis::Severity::warning) == 0) {
         return ExitStatus::done;
@@ -89,7 +89,7 @@ ExitStatus reportLosses(const Converted& converted, Output& output) {
     return ExitStatus::found;
 }
 
-/// An input is not overwritten with something else than the same document.
+/// An input is overwritten only with the same document.
 void refuseToOverwrite(const Options& options, const Converted& converted) {
     std::error_code ignored;
     if (options.output == standardStream || !std::filesystem::equivalent(std::filesystem::u8path(converted.name),
@@ -149,7 +149,7 @@ void addOptions(CLI::App& command, Options& options) {
         "Form of the output")
         ->required();
     addChoiceOption<std::optional<Table>>(command, "--table", conversion.table, tableChoices(),
-                                          "Rows of a table, for csv and jsonl");
+                                          "Table whose rows to write, for csv and jsonl");
     command.add_flag("--compact", conversion.isCompact, "Omit indentation and line breaks");
     addOutputOption(command, options.output);
 }

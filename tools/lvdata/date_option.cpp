@@ -40,8 +40,7 @@ std::tm today() {
 }  // namespace
 
 void addDateOption(CLI::App& command, std::string& date) {
-    command
-        .add_option("--date", date, "Date to print, such as 2024-05-02; now for the day of today (default: no date)")
+    command.add_option("--date", date, "Date to print, such as 2024-05-02; now for today's date (default: no date)")
         ->type_name("TEXT");
 }
 

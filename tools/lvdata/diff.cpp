@@ -133,22 +133,22 @@ void addInput(CLI::App& command, const std::string& name, std::string& file, con
 }  // namespace
 
 Subcommand addDiff(CLI::App& application) {
-    CLI::App* const command = application.add_subcommand("diff", "List the differences of two records");
+    CLI::App* const command = application.add_subcommand("diff", "List the differences between two records");
     const auto options = std::make_shared<Options>();
     command
         ->add_option("--tolerance", options->tolerances,
-                     "Largest difference of a kind that is not listed, such as de00=0.5; several separated by commas")
+                     "Do not list differences of this kind up to N, such as de00=0.5; several separated by commas")
         ->type_name("KIND=N")
         ->allow_extra_args(false);
-    command->add_option("--ignore", options->ignoredPaths, "Path whose differences are not listed; //NAME at any depth")
+    command->add_option("--ignore", options->ignoredPaths, "Do not list differences at this path; //NAME at any depth")
         ->type_name("PATH")
         ->allow_extra_args(false)
         ->check(complaintIfEmpty);
     addChoiceOption<bool>(*command, "--format", options->isJSON, {{"text", false}, {"json", true}},
                           "Form of the output (default text)");
     addColorOption(*command, options->color);
-    addInput(*command, "A", options->before, "XML document with the record before; - for standard input");
-    addInput(*command, "B", options->after, "XML document with the record after; - for standard input");
+    addInput(*command, "A", options->before, "XML document with the old record; - for standard input");
+    addInput(*command, "B", options->after, "XML document with the new record; - for standard input");
     addLimitOptions(*command, options->limits);
     return {command, [options] {
                 return diff(*options);

@@ -35,12 +35,12 @@ struct FormatOptions {
     lv::Limits limits;
 };
 
-/// Without a choice of the user, a document that has elements "HLGSystemGamma" keeps them.
+/// Unless the user chooses, a document that has elements "HLGSystemGamma" keeps them.
 void chooseHLGSystemGamma(lv::DataObject& record, const FormatOptions& options) {
     record.writeHLGSystemGamma = options.hlgSystemGamma || (record.writeHLGSystemGamma && !options.noHLGSystemGamma);
 }
 
-/// What writing the record back drops or changes, but for what was asked for.
+/// What writing the record back drops or changes, except what the user asked for.
 Findings lossesOf(const Document& document, const FormatOptions& options) {
     CheckOptions check = lv::analysis::pureLossOptions();
     if (options.noHLGSystemGamma) {
@@ -82,7 +82,7 @@ void addLayoutOptions(CLI::App& command, FormatOptions& options) {
     command.add_flag("--compact", options.compact, "Omit indentation and line breaks");
     command.add_flag("--no-declaration", options.noDeclaration, "Omit the XML declaration");
     auto* const with = command.add_flag("--hlg-system-gamma", options.hlgSystemGamma,
-                                        "Write the HLG system gamma of all colour modes (default: if the document "
+                                        "Write the HLG system gamma of all colour modes (default: only if the document "
                                         "has one)");
     auto* const without =
         command.add_flag("--no-hlg-system-gamma", options.noHLGSystemGamma, "Omit the HLG system gamma");
@@ -97,7 +97,7 @@ Subcommand addFormat(CLI::App& application) {
     addLayoutOptions(*command, *options);
     addOutputOption(*command, options->output);
     command->add_flag("--lossy", options->lossy,
-                      "Accept that something of the document is dropped or changed, also when FILE is overwritten");
+                      "Allow content to be dropped or changed, also when FILE is overwritten");
     command->add_option("FILE", options->input, "XML document with a record as root element; - for standard input")
         ->type_name("")
         ->required()

@@ -46,7 +46,7 @@ struct Options {
     bool failsOnLimits = false;
 };
 
-/// Whether the output is a folder: one that is there, or a name that ends with "/".
+/// Whether the output is a folder: one that exists, or a name that ends with "/".
 bool isFolder(const std::string& output) {
     const std::filesystem::path path = std::filesystem::u8path(output);
     std::error_code ignored;
@@ -58,7 +58,7 @@ ReportForm formOf(const Options& options, const LimitSet& limits) {
             &limits};
 }
 
-/// Reads all documents. Throws `Failure` when there is a second monitor and no folder to have its page.
+/// Reads all documents. Throws `Failure` when there is a second monitor but the output is not a folder.
 ExitStatus readFleet(const Options& options, const MonitorReader& reader, InputFiles& inputs, Fleet& fleet) {
     const bool isForOne = !isFolder(options.output);
     Output output;
@@ -100,17 +100,17 @@ ExitStatus report(const Options& options) {
         return worst(status, writePage(options, PageMaker(reader, form).pageOf(monitors.front()), inputs));
     }
     ReportForm formOfPages = form;
-    formOfPages.title.clear();  // each has the name of its monitor
+    formOfPages.title.clear();  // each page has the name of its monitor
     const ReportFolder folder{options.output, form, jobsOf(options.batch), options.failsOnLimits};
     return worst(status, writeReportFolder(folder, monitors, PageMaker(reader, formOfPages), inputs));
 }
 
 void addOptions(CLI::App& command, Options& options) {
     addOutputOption(command, options.output,
-                    "Write to FILE instead of standard output, or pages of all monitors into a folder: one that is "
-                    "there, or a name that ends with /");
+                    "Write to FILE instead of standard output; a folder (one that exists, or a name that ends with "
+                    "/) gets a page for each monitor");
     addModeOption(command, options.mode, "Only the colour mode of this index (default: all)");
-    addLimitSetOption(command, options.limitSet, "What figures are judged by (default: default)");
+    addLimitSetOption(command, options.limitSet, "Limits for the figures (default: default)");
     command.add_flag("--fail-on-limits", options.failsOnLimits, "Exit status 1 when a figure is not within its limit");
     command.add_option("--title", options.title, "Heading (default: the name of the monitor)")->type_name("TEXT");
     addDateOption(command, options.date);
@@ -120,7 +120,7 @@ void addOptions(CLI::App& command, Options& options) {
 }  // namespace
 
 Subcommand addReport(CLI::App& application) {
-    CLI::App* const command = application.add_subcommand("report", "Make pages of HTML about monitors");
+    CLI::App* const command = application.add_subcommand("report", "Make HTML pages about monitors");
     const auto options = std::make_shared<Options>();
     addOptions(*command, *options);
     addBatchOptions(*command, options->batch);

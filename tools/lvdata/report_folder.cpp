@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 using lv::analysis::MonitorDocuments;
 using lv::analysis::MonitorPage;
 
-/// A page, or the message why there is none.
+/// A page, or the message why it could not be made.
 using Made = std::variant<MonitorPage, std::string>;
 
 Made make(const PageMaker& maker, const MonitorDocuments& documents) {
@@ -43,7 +43,7 @@ void makeAll(const std::vector<MonitorDocuments>& monitors, const PageMaker& mak
     std::size_t next = 0;
     std::optional<OrderedWork<std::size_t, Made>> work;
     {
-        const lv::analysis::HeldSignals held;  // signals go to this thread, which writes and must tidy up
+        const lv::analysis::HeldSignals held;  // signals go to this thread, which writes and must clean up
         work.emplace([&] { return next < monitors.size() ? std::optional(next++) : std::nullopt; },
                      [&](std::size_t index) { return make(maker, monitors[index]); }, jobs, jobs * pagesPerJob);
     }
@@ -59,11 +59,11 @@ public:
         std::error_code error;
         fs::create_directories(folder_, error);
         if (error) {
-            throw Failure(folder, error == std::errc::file_exists ? "it is not a folder" : error.message());
+            throw Failure(folder, error == std::errc::file_exists ? "not a folder" : error.message());
         }
     }
 
-    /// A file that is not such a page stays.
+    /// Does not overwrite a file that is not such a page.
     void write(const std::string& page, const std::string& text) const {
         const std::string file = (folder_ / fs::u8path(page)).u8string();
         inputs_.refuseToOverwrite(file);

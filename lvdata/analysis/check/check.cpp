@@ -46,7 +46,7 @@ void checkRoundtrip(std::string_view text, const DataObject& record, Collector& 
     if (differ.first != text.end() || differ.second != expected.end()) {
         const auto position = static_cast<std::size_t>(differ.first - text.begin());
         collector.add("320", lineAt(text, position), "",
-                      "the text differs from what lvdata format prints, from here on");
+                      "from here on, the text differs from what lvdata format prints");
     }
 }
 
@@ -56,7 +56,7 @@ bool isUTF8Name(std::string encoding) {
     return encoding.empty() || encoding == "UTF-8" || encoding == "UTF8" || encoding == "US-ASCII";
 }
 
-/// What the library's parser does not mind, but a strict one does.
+/// Errors that the library's parser accepts, but a strict parser reports.
 void checkXML(const XMLVerdict& verdict, Collector& collector) {
     if (!isUTF8Name(verdict.declaredEncoding)) {
         collector.add("003", 1, "",

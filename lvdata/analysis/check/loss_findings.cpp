@@ -41,14 +41,14 @@ std::string actualEntries(const Question& question, const Position& asked) {
     return "";
 }
 
-/// What the first subject is, to be added to what it should be: `, but that is "Lutt"; did you mean "Lut"?`.
+/// The text of the first subject, to be added to the expected one: `, but that is "Lutt"; did you mean "Lut"?`.
 std::string actualText(const Condition& condition, const Question& question, const Position& asked) {
     const std::string text = valueAt(subjectAt(question.subjects.front(), asked));
     const std::string* const meant = condition.kind == Kind::oneOf ? closest(text, condition.texts) : nullptr;
     return ", but that is " + inQuotes(text) + (meant == nullptr ? "" : "; did you mean " + inQuotes(*meant) + "?");
 }
 
-/// A condition in words, and what the document has instead.
+/// A condition in words, and the text in the document.
 std::string inWords(const Condition& condition, const Question& question, const Position& asked) {
     const bool isCompared = condition.kind == Kind::oneOf || condition.kind == Kind::noneOf;
     const bool isAboutLength = condition.kind == Kind::haveEntries;
@@ -62,7 +62,7 @@ std::string notWritten(const Question& question, const Position& asked) {
            inWords(*question.condition, question, asked);
 }
 
-/// The condition for reading a text. Where an element can have one of several texts, it names what any of them needs.
+/// The condition for reading a text. If an element can have one of several texts, the conditions of all of them.
 Condition conditionOfReading(const Question& denied, const Shape& shape) {
     Condition condition = *denied.condition;
     if (shape.facts().place != Description::Place::text || condition.kind != Kind::oneOf) {
@@ -86,11 +86,11 @@ bool reportWrongLength(Reporter& reporter, const Position& position, const Node&
     }
     reporter.add("201", *position.node,
                  subject(*position.node) + " has " + entries(count) + " and needs " + expected +
-                     ": all of it is dropped");
+                     ": the whole array is dropped");
     return true;
 }
 
-/// Reasons that are in the value itself.
+/// Reasons in the value itself.
 bool reportValue(Reporter& reporter, const Position& position) {
     const Content content = position.shape->facts().content;
     if (content == Content::none || content == Content::string) {
@@ -108,8 +108,8 @@ bool reportValue(Reporter& reporter, const Position& position) {
 bool reportCondition(Reporter& reporter, const Position& position, const Circumstances& circumstances) {
     const Shape& shape = *position.shape;
     if (isGovernedByHLGSwitch(shape) && !circumstances.hlgSwitch) {
-        reporter.add("313", *position.node,
-                     subject(*position.node) + " is dropped, since it is written on request only", Severity::warning);
+        reporter.add("313", *position.node, subject(*position.node) + " is dropped: it is written only on request",
+                     Severity::warning);
         return true;
     }
     if (const Question* const denied = firstDenied(shape.readWhen(), position, circumstances)) {

@@ -44,13 +44,14 @@ struct Point {
     std::int64_t y;
 };
 
-/// The chromaticity that the element holds; nothing when a coordinate is missing or both are 0, which stands for none.
+/// The chromaticity that the element holds; no value when a coordinate is missing, or when both are 0, which means
+/// none.
 std::optional<Point> chromaticityOf(const Position& element) {
     const auto x = find(element, {"x"});
     const auto y = find(element, {"y"});
     const bool isChromaticity = x && y && isQuantity(*x->shape, quantities::chromaticity);
     if (!isChromaticity || firstDenied(x->shape->writtenWhen(), *x, {}) != nullptr) {
-        return std::nullopt;  // or a value that is not kept
+        return std::nullopt;  // or the value is not kept
     }
     const Point point{numberAt(*x), numberAt(*y)};
     return point.x == 0 && point.y == 0 ? std::nullopt : std::optional(point);
@@ -91,7 +92,7 @@ void judgeTable(Reporter& reporter, const Position& element) {
         rest.remove_prefix(std::min(piece.size() + 1, rest.size()));
         const NumberText kind = judgeNumber(piece, false);
         if (kind != NumberText::canonical && kind != NumberText::otherSpelling) {
-            return;  // which other findings are about
+            return;  // other findings report that
         }
         const std::int64_t number = std::strtoll(piece.data(), nullptr, 10);  // ends at "|" or at the NUL of the text
         if (number < previous) {
@@ -104,7 +105,7 @@ void judgeTable(Reporter& reporter, const Position& element) {
     }
 }
 
-/// The rows of one list, which programs tell apart by their index.
+/// Rows of one list with the same index, by which programs identify rows.
 void judgeIndexes(Reporter& reporter, const Position& element, const Shape& rows) {
     const Shape* const index = rows.firstElement("Index");
     if (index == nullptr) {
@@ -118,7 +119,7 @@ void judgeIndexes(Reporter& reporter, const Position& element, const Shape& rows
             const auto [first, isNew] = lines.emplace(valueAt(position), position.node->line);
             if (!isNew) {
                 reporter.addHere("403", position.node->line,
-                                 "index " + first->first + " is that of line " + std::to_string(first->second) +
+                                 "index " + first->first + " is already used in line " + std::to_string(first->second) +
                                      ", too");
             }
         }
@@ -186,7 +187,7 @@ void judgeDate(Reporter& reporter, const Position& element) {
     }
 }
 
-/// Positive when the way from a over b to c turns left. In floating point, since integers could overflow.
+/// Positive when the path from a over b to c turns left. In floating point, since integers could overflow.
 double turn(const Point& a, const Point& b, const Point& c) {
     const auto difference = [](std::int64_t left, std::int64_t right) {
         return static_cast<double>(left - right);

@@ -50,7 +50,7 @@ std::string messageOf(NumberText text, std::string_view source, std::string_view
     case NumberText::negative:
         return shown + " is negative, but the number is unsigned: " + reads;
     case NumberText::restIgnored:
-        return "what follows the number in " + shown + " is ignored, " + reads;
+        return "the text after the number in " + shown + " is ignored, " + reads;
     default:
         return shown + " is written back as " + std::string(readAs);
     }
@@ -79,7 +79,7 @@ void compareBooleans(Reporter& reporter, const Node& source, std::string_view pr
     }
 }
 
-/// As parsing it gives it back: line ends become line feeds, and white space alone is no text of an element.
+/// The text as parsing returns it: line ends become line feeds, and whitespace-only text of an element is dropped.
 std::string asParsed(std::string_view printed, Node::Kind kind) {
     constexpr std::string_view whiteSpace = " \t\n\v\f\r";
     if (kind == Node::Kind::text && printed.find_first_not_of(whiteSpace) == std::string_view::npos) {
@@ -165,7 +165,7 @@ void compareArrays(Reporter& reporter, const Position& position, const Node& sou
 void compareValues(Reporter& reporter, const Position& position, const Node& source, std::string_view printed) {
     if (source.text == printed && printed.find('\r') == std::string_view::npos && !printed.empty() &&
         printed.front() > ' ') {
-        return;  // most values, without a closer look
+        return;  // true for most values
     }
     if (source.text == asParsed(printed, source.kind)) {
         return;

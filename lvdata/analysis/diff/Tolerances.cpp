@@ -33,7 +33,7 @@ std::string complaintOfKind(std::string_view kind, const std::vector<std::string
     for (const std::string& known : kinds) {
         list += (list.empty() ? "" : ", ") + known;
     }
-    return "unknown kind of tolerance '" + std::string(kind) + "', known are: " + list;
+    return "unknown kind of tolerance '" + std::string(kind) + "'; known: " + list;
 }
 
 }  // namespace

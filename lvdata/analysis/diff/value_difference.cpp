@@ -11,10 +11,10 @@ namespace {
 
 using Content = Difference::Content;
 
-/// Whether a difference stays within the limits that apply to it. It does not when none applies.
+/// Whether a difference is within the limits that apply to it; false when none applies.
 class Verdict {
 public:
-    /// A size that counts when there is a limit; no value: the size is not known, so the limit says nothing.
+    /// Compares a size with its limit, if there is one; no value: the size is not known, so the limit does not apply.
     void consider(std::optional<double> limit, std::optional<double> size) {
         if (limit && size) {
             isExceeded_ = isExceeded_ || *size > *limit;
@@ -42,7 +42,7 @@ std::string joined(const StoredArray& array) {
     return text;
 }
 
-/// The largest change at one place, in natural values; no value when they are not comparable.
+/// The largest change of one entry, in natural values; no value when the entries are not comparable.
 std::optional<double> largestSize(const ComparedArrays& compared) {
     return compared.largest ? std::optional(compared.largest->size) : std::nullopt;
 }
@@ -82,9 +82,9 @@ ColourChange ofTristimulus(const ValuePair& pair, const StoredArray& before, con
     const auto whiteBefore = judge.whitesBefore.of(pair.before);
     const auto whiteAfter = judge.whitesAfter.of(pair.after);
     if (!whiteBefore || !whiteAfter) {
-        change.reason = whiteBefore  ? "no white is stated after the change"
-                        : whiteAfter ? "no white is stated before the change"
-                                     : "no white is stated";
+        change.reason = whiteBefore  ? "no reference white after the change"
+                        : whiteAfter ? "no reference white before the change"
+                                     : "no reference white";
         return change;
     }
     change.whiteBefore = whiteBefore->source;
@@ -113,7 +113,7 @@ struct NumberPair {
     ComparedArrays compared;
 };
 
-/// The values, or what has become of them in a table.
+/// The values, or for a table a summary of the changes.
 Difference shownNumbers(const NumberPair& numbers, bool isArray) {
     Difference difference;
     const bool isLarge = isTable(numbers.before) || isTable(numbers.after);

@@ -13,7 +13,7 @@ auto hasIndex(const std::string& index) {
     };
 }
 
-/// "there are 0, 1, 2", so that the user can choose.
+/// "known indices: 0, 1, 2", so that the user can choose.
 std::string indicesOf(const std::vector<ModeFigures>& modes) {
     constexpr std::size_t most = 20;
     std::string text;
@@ -21,9 +21,9 @@ std::string indicesOf(const std::vector<ModeFigures>& modes) {
     for (const ModeFigures& mode : modes) {
         count += mode.index.empty() ? 0 : 1;
         const std::string index = count <= most ? mode.index : count == most + 1 ? "..." : "";
-        text += index.empty() ? "" : (text.empty() ? "there are " : ", ") + index;
+        text += index.empty() ? "" : (text.empty() ? "known indices: " : ", ") + index;
     }
-    return text.empty() ? "there are none" : text;
+    return text.empty() ? "no mode has an index" : text;
 }
 
 }  // namespace

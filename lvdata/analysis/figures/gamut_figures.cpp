@@ -14,7 +14,7 @@ colour::Chromaticity coordinateOf(const TargetSetting::gamut_t::coordinate& stor
 /// Of a name, or of no name: then the reason is the given one.
 TargetPrimaries named(const std::string& name, const std::string& reasonOfNone) {
     const auto primaries = colour::primariesNamed(name);
-    const std::string reason = name.empty() ? reasonOfNone : "no primaries are known of the target's gamut";
+    const std::string reason = name.empty() ? reasonOfNone : "the primaries of the target's gamut are not known";
     return {primaries, primaries ? "" : reason};
 }
 

@@ -29,7 +29,7 @@ Figure coordinate(const std::optional<colour::Chromaticity>& place, double colou
 void addPrimary(std::vector<FigureLine>& lines, const Name& name, const PrimaryFigures& primary,
                 const std::string& targetGamut) {
     const auto add = [&](const Name& axis, double colour::Chromaticity::*member) {
-        const Aim aim{coordinate(primary.target, member, "the target has no x and y of it"), targetGamut};
+        const Aim aim{coordinate(primary.target, member, "the target has no x and y for it"), targetGamut};
         lines.push_back(chromaticityLine({name.key + axis.key, name.label + axis.label}, aim,
                                          coordinate(primary.measured, member, primary.deltaUV.reason)));
     };

@@ -11,16 +11,16 @@ namespace {
 
 constexpr std::size_t mostBytes = 1'000'000;
 
-/// Why the text of a limit set cannot be had; empty when it can.
+/// Why the text of a limit set cannot be read; empty when it can.
 std::string complaintAbout(const FileContent& content) {
     if (content.error == std::errc::no_such_file_or_directory) {
-        return "there is no such file, and no limits of that name; known are " + namesOfLimitSets();
+        return "no file and no limit set has this name; known limit sets: " + namesOfLimitSets();
     }
     if (!content) {
         return content.error.message();
     }
     const bool isTooLong = content.text.size() > mostBytes;
-    return isTooLong ? "more than " + std::to_string(mostBytes) + " bytes, which no limits need" : "";
+    return isTooLong ? "more than " + std::to_string(mostBytes) + " bytes, too large for a limit set" : "";
 }
 
 }  // namespace

@@ -45,8 +45,7 @@ public:
     bool end_array() override;
     bool parse_error(std::size_t /*position*/, const std::string& /*text*/, const json::exception& error) override {
         constexpr int numberOverflow = 406;
-        return fail(error.id == numberOverflow ? "a number beyond all ranges"
-                                               : "not JSON: " + plainReason(error.what()));
+        return fail(error.id == numberOverflow ? "number out of range" : "not JSON: " + plainReason(error.what()));
     }
 
     LimitSetResult result() {
@@ -115,7 +114,7 @@ bool Reader::key(std::string& name) {
     }
     key_ = name;
     const bool isFirst = (inLimit ? limitSeen_ : seen_).insert(name).second;
-    return isFirst || fail("the key " + inQuotes(name) + " stands twice");
+    return isFirst || fail("duplicate key " + inQuotes(name));
 }
 
 bool Reader::start_array(std::size_t /*size*/) {
@@ -147,7 +146,7 @@ bool Reader::string(std::string& text) {
         return isNot("a text");
     }
     if (key_ == "figure" && !isFigure(text)) {
-        return fail("there is no figure " + inQuotes(text));
+        return fail("unknown figure " + inQuotes(text));
     }
     if (key_ == "figure" && set_.limitOf(text) != nullptr) {
         return fail("the figure " + inQuotes(text) + " has two limits");
@@ -166,7 +165,7 @@ bool Reader::number(double value) {
 
 bool Reader::endLimit() {
     if (limit_.key.empty()) {
-        return fail("a limit without 'figure'");
+        return fail("a limit has no 'figure'");
     }
     if (!limit_.minimum && !limit_.maximum) {
         return fail("the limit of " + inQuotes(limit_.key) + " has neither 'minimum' nor 'maximum'");
@@ -182,7 +181,7 @@ bool Reader::endLimit() {
 bool Reader::endSet() {
     for (const char* const needed : {"name", "title", "notice", "limits"}) {
         if (seen_.count(needed) == 0) {
-            return fail("no key '" + std::string(needed) + '\'');
+            return fail("missing key '" + std::string(needed) + '\'');
         }
     }
     std::sort(set_.limits.begin(), set_.limits.end(),

@@ -123,7 +123,7 @@ TargetCurves targetCurvesOf(const ColorModeSettingsObject* setting, const Calibr
         curves = curvesOf(result->profileData);
     }
     return curves ? TargetCurves{curves, labelOf(*curves), ""}
-                  : TargetCurves{{}, "", "the target has no tone curve that is known"};
+                  : TargetCurves{{}, "", "the tone curve of the target is not known"};
 }
 
 }  // namespace lv::analysis

@@ -21,7 +21,7 @@ bool isFolder(const fs::directory_entry& entry) {
     return !entry.is_symlink(ignored) && entry.is_directory(ignored);
 }
 
-/// Also a file that cannot be opened, so that reading it tells why.
+/// Includes files that cannot be opened, so that reading them reports the error.
 bool isDocument(const fs::directory_entry& entry) {
     std::error_code ignored;
     return isDocumentName(entry.path().filename().u8string()) && !entry.is_directory(ignored) && !entry.is_other(ignored);
@@ -54,7 +54,7 @@ std::optional<DocumentWalk::Found> DocumentWalk::next() {
     if (emptyFolder_.empty()) {
         return std::nullopt;
     }
-    return Found{std::exchange(emptyFolder_, {}), "folder without files named *.xml",
+    return Found{std::exchange(emptyFolder_, {}), "no files named *.xml in this folder",
                  make_error_code(std::errc::no_such_file_or_directory)};
 }
 

@@ -41,7 +41,7 @@ void RecordBuilder::fail(std::string reason, int line, std::string path) {
     }
 }
 
-/// No place is to blame: the document as a whole is too large.
+/// Without a place: the document as a whole is too large.
 void RecordBuilder::failBeyond(Excess::What what, std::size_t limit) {
     if (!error_) {
         error_ = JSONError{line_, {}, Excess{what, limit}.toString(), what};
@@ -208,7 +208,7 @@ void RecordBuilder::keyOfMember(std::string_view name) {
     if (found == children.end()) {
         unknownKey(name, keysOf(top));
     } else if (top.seen[(*found)->index()]) {
-        fail("this key is there twice");
+        fail("duplicate key");
     } else {
         top.seen[(*found)->index()] = true;
         top.member = found->get();

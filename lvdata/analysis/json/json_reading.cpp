@@ -47,16 +47,15 @@ public:
         return to([](RecordBuilder& builder) { builder.endArray(); });
     }
 
-    /// A number beyond a double is one for the builder, which knows what it may be. The parser's message would quote
-    /// all of it.
+    /// A number that does not fit into a double is refused by the builder, which knows the range. The parser's message
+    /// would quote all of its digits.
     bool parse_error(std::size_t /*position*/, const std::string& text, const json::exception& error) override {
         constexpr int numberOverflow = 406;
         if (error.id == numberOverflow) {
             number(text);
         }
         builder_.setLine(lines_.current());
-        builder_.fail(error.id == numberOverflow ? "a number beyond all ranges"
-                                                 : "not JSON: " + plainReason(error.what()));
+        builder_.fail(error.id == numberOverflow ? "number out of range" : "not JSON: " + plainReason(error.what()));
         return false;
     }
 

@@ -62,9 +62,9 @@ std::vector<MonitorDocuments> Fleet::take() {
 }
 
 std::string whySecondMonitor(const std::string& identity) {
-    return identity.empty() ? "has no UUID and no serial number, so nothing says that it is of the same monitor as the "
+    return identity.empty() ? "has no UUID and no serial number, so it cannot be matched with the monitor of the "
                               "documents before it"
-                            : "is of another monitor than the documents before it";
+                            : "is about a different monitor than the documents before it";
 }
 
 }  // namespace lv::analysis

@@ -44,7 +44,7 @@ std::optional<MonitorDocument> monitorDocument(const Document& document, const s
 }
 
 std::string whyNoMonitor(const Document& document) {
-    return "a document of " + document.entry().shape->facts().name + " is not of a monitor";
+    return "a document of " + document.entry().shape->facts().name + " does not describe a monitor";
 }
 
 void dropData(MonitorFigures& figures) {

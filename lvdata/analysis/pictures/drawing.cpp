@@ -32,7 +32,7 @@ PictureRefusal unknownFigure(const std::vector<HistorySeries>& history, const st
     for (const HistorySeries& series : history) {
         known += (known.empty() ? "" : ", ") + series.key;
     }
-    return {"", "there is no figure '" + key + "'; there are " + known};
+    return {"", "unknown figure '" + key + "'; known figures: " + known};
 }
 
 std::variant<std::string, PictureRefusal> drawHistory(const std::vector<Snapshot>& snapshots, const ModeFigures& mode,
@@ -74,7 +74,7 @@ std::string complaintAbout(const PictureRequest& request) {
     if (request.hasLimits && kind != PictureKind::patches && kind != PictureKind::history) {
         return "limits is for patches and history only";
     }
-    return !request.mode.empty() && isOfMap(kind) ? "mode is not for maps, which belong to no colour mode" : "";
+    return !request.mode.empty() && isOfMap(kind) ? "mode is not for maps: a map does not belong to a colour mode" : "";
 }
 
 std::variant<std::string, PictureRefusal> drawPicture(const std::vector<Snapshot>& snapshots,

@@ -18,7 +18,7 @@ struct CurveRow {
 
 const std::vector<ColumnOf<CurveRow>>& columns() {
     static const std::vector<ColumnOf<CurveRow>> all = withOrigin<CurveRow>({
-        {{"kind", "", "monitor_table: a look-up table of the monitor; target_curve: what it was to be"},
+        {{"kind", "", "monitor_table: a look-up table of the monitor; target_curve: the intended tone curve"},
          [](const CurveRow& row, Cell& cell) {
              cell.text(row.kind);
          }},

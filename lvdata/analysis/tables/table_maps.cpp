@@ -26,7 +26,7 @@ const std::vector<ColumnOf<MapRow>>& columns() {
          [](const MapRow& row, Cell& cell) {
              cell.number(row.map.values[row.entry], quantities::number);
          }},
-        {{"updated_at", "", "when the map was last updated, as it stands; its form is not recorded"},
+        {{"updated_at", "", "time of the map's last update, as recorded; the format is not known"},
          [](const MapRow& row, Cell& cell) {
              cell.text(row.map.updatedAt);
          }},

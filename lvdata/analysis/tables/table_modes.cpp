@@ -12,7 +12,7 @@ namespace {
 using ModeResult = CalibrationModeResultObject;
 using ModeSettings = ColorModeSettingsObject;
 
-/// A mode: what is set up, what it is to reach, and its result; null for what there is not.
+/// A mode: its settings, its target and its result; null for missing parts.
 struct ModeRow {
     const Parts& parts;
     const ModeSettings* settings = nullptr;
@@ -81,7 +81,7 @@ void giveTemperature(const ModeRow& row, Cell& cell) {
     }
 }
 
-/// The name of a standard, or the type of what is not given by a standard.
+/// The name of a standard, or else the type.
 void giveStandard(const property<TargetSetting::standard_t>& standard, Cell& cell) {
     if (standard.hasValue) {
         cell.text(standard.value.type == "Standard" ? standard.value.standard : standard.value.type);
@@ -137,31 +137,29 @@ std::vector<ColumnOf<ModeRow>> settingColumns() {
     return {
         {{"type", "", "type of the mode"}, &giveType},
         {{"name", "", "name of the mode"}, &giveName},
-        {{"brightness_type", "", "how the brightness to be reached is given"}, &giveBrightnessType},
-        {{"brightness", notRecorded, "the brightness to be reached; % when its type is Percent", Values::integer},
+        {{"brightness_type", "", "type of the target brightness"}, &giveBrightnessType},
+        {{"brightness", notRecorded, "target brightness; % when its type is Percent", Values::integer},
          &giveBrightness},
-        {{"white_x", "", "CIE 1931 x of the white to be reached", Values::fraction},
+        {{"white_x", "", "CIE 1931 x of the target white", Values::fraction},
          &giveWhite<&TargetSetting::white_point_t::x>},
-        {{"white_y", "", "CIE 1931 y of the white to be reached", Values::fraction},
+        {{"white_y", "", "CIE 1931 y of the target white", Values::fraction},
          &giveWhite<&TargetSetting::white_point_t::y>},
-        {{"white_temperature", notRecorded, "temperature of the white to be reached", Values::integer},
-         &giveTemperature},
-        {{"gamma", "", "tone curve to be reached: a standard, a number, or the type"}, &giveGamma},
-        {{"gamut", "", "gamut to be reached: a standard, or the type"}, &giveGamut},
+        {{"white_temperature", notRecorded, "temperature of the target white", Values::integer}, &giveTemperature},
+        {{"gamma", "", "target tone curve: a standard, a number, or the type"}, &giveGamma},
+        {{"gamut", "", "target gamut: a standard, or the type"}, &giveGamut},
     };
 }
 
 std::vector<ColumnOf<ModeRow>> calibrationColumns() {
     return {
-        {{"calibrated_time", "", "when the mode was calibrated, as it stands; its form is not recorded"},
-         &giveCalibratedTime},
+        {{"calibrated_time", "", "time of the calibration, as recorded; the format is not known"}, &giveCalibratedTime},
         {{"sensor_name", "", "name of the colour sensor"}, &giveText<&BasicData::colorSensorName>},
         {{"sensor_serial", "", "serial number of the colour sensor"}, &giveText<&BasicData::colorSensorSerial>},
         {{"usage_hours", notRecorded, "hours of use, by the name of the element", Values::integer},
          &giveNumber<&BasicData::usageHours>},
         {{"correlation_id", "", "identifier of the sensor's correlation", Values::integer},
          &giveNumber<&BasicData::colorSensorCorrelationID>},
-        {{"correlation_date", "", "date of the sensor's correlation, as it stands"},
+        {{"correlation_date", "", "date of the sensor's correlation, as recorded"},
          &giveText<&BasicData::colorSensorCorrelationDate>},
     };
 }
@@ -170,13 +168,13 @@ std::vector<ColumnOf<ModeRow>> calibrationColumns() {
 constexpr std::array<Column, 6> figureColumns = {{
     {"white_tristimulus_y", notRecorded, "CIE Y of the measured white", Values::fraction},
     {"white_cct", "K", "correlated colour temperature of the measured white", Values::fraction},
-    {"white_delta_uv", "", "Δu'v' of the white to be reached and the measured one", Values::fraction},
-    {"white_delta_e2000", "", "ΔE00 of these two", Values::fraction},
-    {"patches_delta_e2000_mean", "", "mean ΔE00 of the measurements and what they should be", Values::fraction},
-    {"patches_delta_e2000_maximum", "", "the greatest of these ΔE00", Values::fraction},
+    {"white_delta_uv", "", "Δu'v' between the target white and the measured white", Values::fraction},
+    {"white_delta_e2000", "", "ΔE00 between the target white and the measured white", Values::fraction},
+    {"patches_delta_e2000_mean", "", "mean ΔE00 between the measured and the expected colours", Values::fraction},
+    {"patches_delta_e2000_maximum", "", "greatest ΔE00 between a measured and the expected colour", Values::fraction},
 }};
 
-/// What was measured, with the digits that the figure has everywhere.
+/// The measured value, with the usual digits of the figure.
 template <std::size_t Place>
 void giveFigure(const ModeRow& row, Cell& cell) {
     const auto line = std::find_if(row.figures.begin(), row.figures.end(),

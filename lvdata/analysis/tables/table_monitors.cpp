@@ -74,20 +74,20 @@ const std::vector<ColumnOf<MonitorRow>>& columns() {
                  cell.index(row.parts.schedule->type);
              }
          }},
-        {{"schedule_interval_months", "months", "every how many months, where that is the kind of the schedule",
-          Values::integer},
+        {{"schedule_interval_months", "months", "interval in months, if the schedule has that kind", Values::integer},
          &giveInterval<types::schedule::everySomeMonths, &SelfCalibrationSchedule::intervalMonth>},
-        {{"schedule_interval_weeks", "weeks", "every how many weeks, likewise", Values::integer},
+        {{"schedule_interval_weeks", "weeks", "interval in weeks, if the schedule has that kind", Values::integer},
          &giveInterval<types::schedule::everySomeWeeks, &SelfCalibrationSchedule::intervalWeek>},
-        {{"schedule_interval_hours", "hours", "every how many hours, likewise", Values::integer}, &giveHours},
-        {{"asset1", "", "first text of the inventory; what it is for is not recorded"}, &giveAsset<&AssetInfo::asset1>},
-        {{"asset2", "", "second text of the inventory"}, &giveAsset<&AssetInfo::asset2>},
-        {{"asset3", "", "third text of the inventory"}, &giveAsset<&AssetInfo::asset3>},
-        {{"asset4", "", "fourth text of the inventory"}, &giveAsset<&AssetInfo::asset4>},
-        {{"asset5", "", "fifth text of the inventory"}, &giveAsset<&AssetInfo::asset5>},
-        {{"asset6", "", "sixth text of the inventory"}, &giveAsset<&AssetInfo::asset6>},
-        {{"asset7", "", "seventh text of the inventory"}, &giveAsset<&AssetInfo::asset7>},
-        {{"asset8", "", "eighth text of the inventory"}, &giveAsset<&AssetInfo::asset8>},
+        {{"schedule_interval_hours", "hours", "interval in hours, if the schedule has that kind", Values::integer},
+         &giveHours},
+        {{"asset1", "", "first asset label; its meaning is not recorded"}, &giveAsset<&AssetInfo::asset1>},
+        {{"asset2", "", "second asset label"}, &giveAsset<&AssetInfo::asset2>},
+        {{"asset3", "", "third asset label"}, &giveAsset<&AssetInfo::asset3>},
+        {{"asset4", "", "fourth asset label"}, &giveAsset<&AssetInfo::asset4>},
+        {{"asset5", "", "fifth asset label"}, &giveAsset<&AssetInfo::asset5>},
+        {{"asset6", "", "sixth asset label"}, &giveAsset<&AssetInfo::asset6>},
+        {{"asset7", "", "seventh asset label"}, &giveAsset<&AssetInfo::asset7>},
+        {{"asset8", "", "eighth asset label"}, &giveAsset<&AssetInfo::asset8>},
         {{"modes", "", "number of colour modes that are set up", Values::integer},
          [](const MonitorRow& row, Cell& cell) {
              if (row.parts.settings != nullptr) {
@@ -97,7 +97,7 @@ const std::vector<ColumnOf<MonitorRow>>& columns() {
         {{"calibrated_modes", "", "number of results with a time of calibration", Values::integer},
          &giveCalibratedModes},
         {{"last_calibration", "",
-          "the greatest of these times as text, which is the latest when all are like 2024-05-02T09:31:00"},
+          "greatest of these times as text: the latest one, if all have the form 2024-05-02T09:31:00"},
          &giveLastCalibration},
     });
     return all;

@@ -68,7 +68,7 @@ TEST(Plausibility, IsCheckedForIndexes) {
         return findingsIn("<ColorModeSettings>\n" + row("1") + row("2") + row(last) + "</ColorModeSettings>");
     };
     EXPECT_THAT(findings("3"), IsEmpty());
-    EXPECT_THAT(findings("1"), ElementsAre("403 line 4 /ColorModeSettings: index 1 is that of line 2, too"));
+    EXPECT_THAT(findings("1"), ElementsAre("403 line 4 /ColorModeSettings: index 1 is already used in line 2"));
     EXPECT_THAT(findings("01"), testing::Contains(StartsWith("403 line 4 ")));
 }
 

@@ -35,7 +35,7 @@ TEST(ValueFindings, NameFaultyNumbersInElements) {
         findingsIn(usageHours("-7")),
         ElementsAre("103" + usageHoursPath + "\"-7\" is negative, but the number is unsigned: reads as 4294967289"));
     EXPECT_THAT(findingsIn(usageHours("7,5")),
-                ElementsAre("104" + usageHoursPath + "what follows the number in \"7,5\" is ignored, reads as 7"));
+                ElementsAre("104" + usageHoursPath + "the text after the number in \"7,5\" is ignored, reads as 7"));
     EXPECT_THAT(findingsIn(usageHours("07")), ElementsAre("105" + usageHoursPath + "\"07\" is written back as 7"));
 }
 
@@ -70,7 +70,7 @@ TEST(ValueFindings, AreOneForEachKindOfFaultInAnArray) {
                     "102" + mapsPath +
                         "entry 5: \"99999999999\" is outside the range 0 to 4294967295, reads as 4294967295",
                     "103" + mapsPath + "entry 4: \"-2\" is negative, but the number is unsigned: reads as 4294967294",
-                    "104" + mapsPath + "entry 6: what follows the number in \"4.5\" is ignored, reads as 4"));
+                    "104" + mapsPath + "entry 6: the text after the number in \"4.5\" is ignored, reads as 4"));
 }
 
 TEST(ValueFindings, NameEmptyEntriesAnywhereInAnArray) {
@@ -82,7 +82,7 @@ TEST(ValueFindings, NameEmptyEntriesAnywhereInAnArray) {
 TEST(ValueFindings, NameArraysInRows) {
     EXPECT_THAT(findingsIn("<MeasurementData>\n<Measurements><RGB>1|2|3</RGB></Measurements>\n"
                            "<Measurements><XYZ>1|-2|3,5</XYZ></Measurements></MeasurementData>"),
-                ElementsAre("104 line 3 /MeasurementData/Measurements[2]/XYZ: entry 3: what follows the number in "
+                ElementsAre("104 line 3 /MeasurementData/Measurements[2]/XYZ: entry 3: the text after the number in "
                             "\"3,5\" is ignored, reads as 3"));
 }
 

@@ -38,7 +38,7 @@ TEST(Tolerances, HasTheKindsThatRecordsHave) {
 }
 
 TEST(Tolerances, ListsTheKindsWhenOneIsUnknown) {
-    EXPECT_THAT(complaint("colour=1"), testing::StartsWith("unknown kind of tolerance 'colour', known are: candela, "));
+    EXPECT_THAT(complaint("colour=1"), testing::StartsWith("unknown kind of tolerance 'colour'; known: candela, "));
 }
 
 TEST(Tolerances, RefusesWhatIsNotANumberFromZero) {

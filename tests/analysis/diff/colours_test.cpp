@@ -127,11 +127,11 @@ TEST(DiffOfTristimulusValues, TakesTheWhiteOfTheProfileOfTheSameModeOtherwise) {
 TEST(DiffOfTristimulusValues, IsNotKnownWithoutAWhite) {
     const std::string white = row("255|255|255", d65);
     const std::string before = measurementSeries(row("128|128|128", grey));
-    EXPECT_EQ(colourChange(before, measurementSeries(row("128|128|128", otherGrey))).reason, "no white is stated");
+    EXPECT_EQ(colourChange(before, measurementSeries(row("128|128|128", otherGrey))).reason, "no reference white");
     const auto one = diffOf(before + "", measurementSeries(row("128|128|128", otherGrey) + white)).differences;
-    EXPECT_EQ(one.front().colour->reason, "no white is stated before the change");
+    EXPECT_EQ(one.front().colour->reason, "no reference white before the change");
     const auto other = diffOf(measurementSeries(row("128|128|128", otherGrey) + white), before).differences;
-    EXPECT_EQ(other.front().colour->reason, "no white is stated after the change");
+    EXPECT_EQ(other.front().colour->reason, "no reference white after the change");
     EXPECT_FALSE(other.front().colour->size);
 }
 
@@ -150,7 +150,7 @@ TEST(DiffOfTristimulusValues, DoesNotTakeBlackForAWhite) {
     const auto measured = [](const std::string& xyz) {
         return measurementSeries(row("128|128|128", xyz) + row("255|255|255", "0|0|0"));
     };
-    EXPECT_EQ(colourChange(measured(grey), measured(otherGrey)).reason, "no white is stated");
+    EXPECT_EQ(colourChange(measured(grey), measured(otherGrey)).reason, "no reference white");
 }
 
 TEST(DiffOfTristimulusValues, HasTolerances) {

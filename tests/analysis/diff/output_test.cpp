@@ -106,8 +106,8 @@ TEST(DiffInWords, SaysWhyAColourDifferenceIsNotKnown) {
     Difference difference = number({"1", ""}, {"2", ""});
     difference.colour = colourOf(ColourChange::Formula::deltaE2000, 0);
     difference.colour->size.reset();
-    difference.colour->reason = "no white is stated";
-    EXPECT_EQ(inWords(difference), "1 -> 2 (ΔE00 n/a (no white is stated))");
+    difference.colour->reason = "no reference white";
+    EXPECT_EQ(inWords(difference), "1 -> 2 (ΔE00 n/a (no reference white))");
 }
 
 TEST(DiffAsJSON, HasCountsWithoutDifferences) {
@@ -135,9 +135,9 @@ TEST(DiffAsJSON, HasNullAndAReasonForAnUnknownColourDifference) {
     Difference difference = oneSided(Difference::Kind::set, {});
     difference.colour = colourOf(ColourChange::Formula::deltaE2000, 0);
     difference.colour->size.reset();
-    difference.colour->reason = "no white is stated";
+    difference.colour->reason = "no reference white";
     EXPECT_EQ(json({{difference}, 0, 0}),
-              R"({"differences":[{"path":"","kind":"set","de00":{"size":null,"reason":"no white is stated",)"
+              R"({"differences":[{"path":"","kind":"set","de00":{"size":null,"reason":"no reference white",)"
               R"("formula":"CIEDE2000"}}],"within_tolerance":0,"ignored":0})");
 }
 

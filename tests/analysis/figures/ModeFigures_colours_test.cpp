@@ -129,7 +129,7 @@ TEST(PrimaryFigures, AreGivenByXAndYBeforeAName) {
     setting.targetSetting.value.gamutV7.value.standard = "Native";
     EXPECT_EQ(deltaOfRed(setting), "n/a (the target is the monitor's own gamut)");
     setting.targetSetting.value.gamut.hasValue = false;
-    EXPECT_EQ(deltaOfRed(setting), "n/a (no primaries are known of the target's gamut)");
+    EXPECT_EQ(deltaOfRed(setting), "n/a (the primaries of the target's gamut are not known)");
 }
 
 TEST(PrimaryFigures, SayWhatIsMissing) {

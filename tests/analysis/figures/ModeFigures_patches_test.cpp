@@ -150,7 +150,7 @@ TEST(SeriesFigures, SayWhatIsMissing) {
     EXPECT_EQ(seriesOf(result, setting).percentile95.text(2),
               "n/a (no complete set of primaries and white was measured)");
     EXPECT_EQ(seriesOf(result, settingOf(types::colorMode::calibration)).mean.text(2),
-              "n/a (the target has no tone curve that is known)");
+              "n/a (the tone curve of the target is not known)");
 }
 
 TEST(SeriesFigures, NeedPrimariesThatCanMakeTheWhite) {

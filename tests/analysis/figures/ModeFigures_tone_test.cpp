@@ -129,7 +129,7 @@ TEST(ToneFigures, HaveTheDistanceFromTheTarget) {
     EXPECT_EQ(tone.targetGamma.text(2), "2.00");
     EXPECT_EQ(tone.steps.at(1).target.text(4), "0.0400");
     EXPECT_EQ(tone.greatestDeviation.text(4), "0.0100");
-    EXPECT_EQ(toneOf(greys(0, 5, 100)).greatestDeviation.text(2), "n/a (the target has no tone curve that is known)");
+    EXPECT_EQ(toneOf(greys(0, 5, 100)).greatestDeviation.text(2), "n/a (the tone curve of the target is not known)");
 }
 
 TEST(ToneFigures, CompareGreyWithGreen) {

@@ -38,8 +38,8 @@ TEST(ChoiceOfMode, TakesTheFirstWithAResult) {
 
 TEST(ChoiceOfMode, SaysWhichThereAre) {
     EXPECT_EQ(chooseMode({}, "").reason, "there are no colour modes");
-    EXPECT_EQ(chooseMode({}, "1").reason, "no colour mode has the index 1; there are none");
-    EXPECT_EQ(chooseMode(modes({"0", "", "2"}), "1").reason, "no colour mode has the index 1; there are 0, 2");
+    EXPECT_EQ(chooseMode({}, "1").reason, "no colour mode has the index 1; no mode has an index");
+    EXPECT_EQ(chooseMode(modes({"0", "", "2"}), "1").reason, "no colour mode has the index 1; known indices: 0, 2");
     const std::string many = whyNoModeOfIndex(modes(std::vector<std::string>(30, "7")), "1");
     EXPECT_EQ(many.substr(many.size() - 10), " 7, 7, ...") << many;
 }

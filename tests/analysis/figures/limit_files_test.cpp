@@ -16,7 +16,7 @@ using lv::analysis::findLimitSet;
 TEST(FindLimitSet, KnowsSetsByName) {
     EXPECT_EQ(findLimitSet("iso14861").set->name, "iso14861");
     EXPECT_EQ(findLimitSet("cake").reason,
-              "there is no such file, and no limits of that name; known are default, iso14861, ebu3320-g1");
+              "no file and no limit set has this name; known limit sets: default, iso14861, ebu3320-g1");
     EXPECT_EQ(findLimitSet("/").reason, std::make_error_code(std::errc::is_a_directory).message());
 }
 
@@ -27,7 +27,7 @@ TEST(FindLimitSet, ReadsFiles) {
     EXPECT_FALSE(wrong.set);
     EXPECT_NE(wrong.reason, "");
     folder.write("large.json", std::string(1'000'001, ' '));
-    EXPECT_EQ(findLimitSet(folder.path("large.json")).reason, "more than 1000000 bytes, which no limits need");
+    EXPECT_EQ(findLimitSet(folder.path("large.json")).reason, "more than 1000000 bytes, too large for a limit set");
     folder.write(
         "mine.json",
         R"({"name": "mine", "title": "Mine", "notice": "", "limits": [{"figure": "contrast", "minimum": 500}]})");

@@ -49,7 +49,7 @@ TEST(DocumentWalk, TakesAFileAsItIs) {
 TEST(DocumentWalk, SaysThatAFolderHoldsNoDocument) {
     const lv::test::Folder folder;
     fs::create_directory(folder.path("inside"));
-    EXPECT_THAT(found(folder.path(".")), ElementsAre(". (folder without files named *.xml)"));
+    EXPECT_THAT(found(folder.path(".")), ElementsAre(". (no files named *.xml in this folder)"));
 }
 
 TEST(DocumentWalk, DropsWhatIsLeftWhenItStartsAgain) {

@@ -118,7 +118,7 @@ TEST(Load, ReportsThatNothingIsThere) {
 TEST(Load, ReportsAnotherRootElement) {
     const LoadResult unknown = loadText("<Asset/>").result;
     EXPECT_EQ(unknown.outcome, Outcome::rootElementRefused);
-    EXPECT_EQ(unknown.reason.rfind(R"(unknown root element "Asset", known are: AssetInfo, BasicData, )", 0), 0U);
+    EXPECT_EQ(unknown.reason.rfind(R"(unknown root element "Asset"; known: AssetInfo, BasicData, )", 0), 0U);
     AssetInfo record;
     const LoadResult other = loadText("\n<CorrelationInfo/>", record);
     EXPECT_EQ(other.outcome, Outcome::rootElementRefused);

@@ -33,7 +33,7 @@ TEST(MonitorDocument, HasItsMonitorAndItsTime) {
 TEST(MonitorDocument, IsRefusedForOtherClasses) {
     const Document document("<AssetInfo/>", catalogue());
     EXPECT_FALSE(monitorDocument(document, ""));
-    EXPECT_EQ(whyNoMonitor(document), "a document of AssetInfo is not of a monitor");
+    EXPECT_EQ(whyNoMonitor(document), "a document of AssetInfo does not describe a monitor");
 }
 
 TEST(MonitorDocument, KeepsItsLinesWithoutItsData) {

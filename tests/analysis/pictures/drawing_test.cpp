@@ -70,11 +70,11 @@ TEST(Drawing, DrawsLimits) {
 TEST(Drawing, SaysWhatThereIsNot) {
     const PictureRefusal mode = refusal(studio(), requestOf(PictureKind::tone, "9"));
     EXPECT_EQ(mode.document, "studio.xml");
-    EXPECT_EQ(mode.reason, "no colour mode has the index 9; there are 0, 1, 2, 3, 4");
+    EXPECT_EQ(mode.reason, "no colour mode has the index 9; known indices: 0, 1, 2, 3, 4");
     EXPECT_EQ(refusal({{"a.xml", "", {}}}, {}).reason, "there are no colour modes");
     const PictureRefusal figure = refusal(studio(), requestOf(PictureKind::history, "", "taste"));
     EXPECT_EQ(figure.document, "");
-    EXPECT_THAT(figure.reason, StartsWith("there is no figure 'taste'; there are white_x, "));
+    EXPECT_THAT(figure.reason, StartsWith("unknown figure 'taste'; known figures: white_x, "));
 }
 
 TEST(Drawing, RefusesOptionsThatDoNotBelongToThePicture) {
@@ -83,6 +83,6 @@ TEST(Drawing, RefusesOptionsThatDoNotBelongToThePicture) {
     EXPECT_EQ(complaintAbout(requestOf(PictureKind::tone, "", "contrast")), "figure is for history only");
     EXPECT_EQ(complaintAbout({PictureKind::lut, "", {}, true, ""}), "limits is for patches and history only");
     EXPECT_EQ(complaintAbout(requestOf(PictureKind::uniformity, "1")),
-              "mode is not for maps, which belong to no colour mode");
+              "mode is not for maps: a map does not belong to a colour mode");
     EXPECT_EQ(complaintAbout({PictureKind::history, "1", {}, true, "contrast"}), "");
 }

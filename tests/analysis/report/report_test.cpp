@@ -183,7 +183,7 @@ TEST(Report, MarksFiguresWithSymbolAndWord) {
 
 TEST(Report, NamesTheLimitsWithTheirNotice) {
     EXPECT_THAT(judgedPage("white_delta_uv", 1).texts("//p[@class='notice']"),
-                Each("Judged by: Limits of a test. No test against a standard."));
+                Each("Limits: Limits of a test. Not a test against a standard."));
 }
 
 TEST(Report, ShowsBothDiagramsAndASwitch) {

@@ -61,7 +61,7 @@ View verdictMarkView(Mark mark) {
     case Mark::notAvailable:
         return marked("?", "Incomplete", "missing");
     case Mark::none:
-        return marked("–", "Not judged", "unjudged");
+        return marked("–", "No limits", "unjudged");
     case Mark::passes:
     case Mark::fails:
         break;
