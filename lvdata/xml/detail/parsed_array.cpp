@@ -12,8 +12,8 @@
 namespace lv::detail {
 namespace {
 
-/// Seen in version 9; others may keep their texts in another way.
-constexpr bool keepsTextsWhereParsed = TINYXML2_MAJOR_VERSION == 9;
+/// Seen in 9.0.0 and 11.0.0; others may keep their texts in another way.
+constexpr bool keepsTexts = TINYXML2_MAJOR_VERSION >= 9 && TINYXML2_MAJOR_VERSION <= 11;
 
 /// The character after a text, which the XML library replaced by a NUL when it gave out the text.
 const char* endOf(const char* text) {
@@ -53,12 +53,16 @@ std::string_view parsedTextOf(const tinyxml2::XMLElement& element) {
 
 }  // namespace
 
+bool keepsTextsWhereParsed() {
+    return keepsTexts;
+}
+
 template <class Number>
 bool readParsedArray(const tinyxml2::XMLElement* element, std::vector<Number>& out) {
     if (element == nullptr) {
         return false;
     }
-    const std::string_view text = keepsTextsWhereParsed ? parsedTextOf(*element) : std::string_view();
+    const std::string_view text = keepsTexts ? parsedTextOf(*element) : std::string_view();
     const bool isPlain = !text.empty() && parsePlainNumbers(text, arraySeparator.front(), out);
     return isPlain || readArray(element, out, arraySeparator);
 }

@@ -8,6 +8,9 @@ class XMLElement;
 
 namespace lv::detail {
 
+/// Whether the version of the XML library keeps texts where they were parsed, as `readParsedArray` would like to have it.
+[[nodiscard]] bool keepsTextsWhereParsed();
+
 /// Reads an array, separated as in every document, of an element whose document is as it was parsed: nothing in it was
 /// changed since, and no attribute holds a NUL (`&#0;`). The result is that of `readArray`.
 ///

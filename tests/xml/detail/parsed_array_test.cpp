@@ -84,6 +84,9 @@ bool isReadInPlace(const std::string& text) {
 }
 
 TEST(ParsedArray, IsReadWhereItWasParsed) {
+    if (!keepsTextsWhereParsed()) {
+        GTEST_SKIP() << "not known of this version of the XML library, and not relied on";
+    }
     for (const char* const text :
          {"<a>5|6</a>", "<r><b>1</b><a>5|6</a><c/></r>", "<r><a >7</a></r>", "<r><a>5</a ></r>",
           "<?xml version=\"1.0\"?><!-- <a>1</a> --><r><a>-5|66|777</a></r>", "\xEF\xBB\xBF<r><a>5</a></r>",
