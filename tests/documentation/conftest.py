@@ -15,9 +15,9 @@ COMPONENTS = ("lvdata_Runtime", "lvdata_Development", "lvdata_Tool")
 def prefix(tmp_path_factory: pytest.TempPathFactory) -> Path:
     """A folder with the library and the command, as `cmake --install` puts them there."""
     folder = tmp_path_factory.mktemp("prefix")
+    install = ["cmake", "--install", os.environ["LVDATA_BUILD_DIR"], "--prefix", str(folder), "--component"]
     for component in COMPONENTS:
-        command = ["cmake", "--install", os.environ["LVDATA_BUILD_DIR"], "--prefix", str(folder), "--component", component]
-        subprocess.run(command, check=True, capture_output=True)
+        subprocess.run([*install, component], check=True, capture_output=True)
     return folder
 
 

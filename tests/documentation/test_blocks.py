@@ -84,13 +84,14 @@ def test_python_without_prompts_compiles(block: Block) -> None:
 
 @pytest.mark.parametrize("block", those_of("cmake"), ids=name)
 def test_cmake_projects_are_configured(block: Block, tmp_path: Path, prefix: Path) -> None:
+    program = "#include <lvdata/lvdata.h>\nint main() { return lv::AssetInfo().asset1.hasValue; }\n"
     start = "cmake_minimum_required(VERSION 3.22)\nproject(page CXX)\n"
     if "add_executable(" not in block.text:
         start += "add_executable(application application.cpp)\n"
     (tmp_path / "CMakeLists.txt").write_text(start + block.text, encoding="utf-8")
     (tmp_path / "lvdata").symlink_to(SOURCES)
     for source in re.findall(r"\w+\.cpp", start + block.text):
-        (tmp_path / source).write_text("#include <lvdata/lvdata.h>\nint main() { return lv::AssetInfo().asset1.hasValue; }\n")
+        (tmp_path / source).write_text(program)
     paths = [f"-DCMAKE_PREFIX_PATH={prefix}", f"-DFETCHCONTENT_SOURCE_DIR_LVDATA={SOURCES}"]
     command = ["cmake", "-S", str(tmp_path), "-B", str(tmp_path / "build"), *paths]
     done = subprocess.run(command, capture_output=True, text=True)

@@ -1,8 +1,8 @@
 """The C++ blocks of all pages compile, in one translation unit.
 
-A block is a program, or what stands in a function. A comment before it says what it needs: `<!-- continues -->` the blocks
-before it on its page, `<!-- given: DECLARATION, ... -->` these parameters of its function.
-All may use the string `text`, as a document that is there.
+A block is a program, or what stands in a function. A comment before it says what it needs: `<!-- continues -->` the
+blocks before it on its page, `<!-- given: DECLARATION, ... -->` these parameters of its function. All may use the string
+`text`, as a document that is there.
 """
 
 from __future__ import annotations
@@ -63,7 +63,7 @@ def includes_of(blocks: list[Block]) -> str:
 def compiled(source: str, folder: Path) -> subprocess.CompletedProcess[str]:
     (folder / "pages.cpp").write_text(source, encoding="utf-8")
     paths = [f"-I{SOURCES}", f"-I{os.environ['LVDATA_BUILD_DIR']}/include"]
-    command = [os.environ["LVDATA_CXX"], "-std=c++17", "-fsyntax-only", "-w", "-Werror=unused-result", *paths, "pages.cpp"]
+    command = [os.environ["LVDATA_CXX"], "-std=c++17", "-fsyntax-only", "-w", *paths, "pages.cpp"]
     return subprocess.run(command, cwd=folder, capture_output=True, text=True)
 
 
