@@ -26,7 +26,7 @@ HIDDEN = re.compile(rf"//[^\n]*|/\*(?s:.*?)\*/|(?m:^[ ]*#(?:[^\n]|\\\n)*)|{ATTRI
 TEXT_FOLLOWS = re.compile(r"""(?:[!=]= |\bconstant\("_*", |\b(?:one|none)Of\([^;()]*)$""")  # else it is the name of an element or an attribute
 TYPE = re.compile(r"\btypes::(?!tableScale)\w+::\w+")  # a constant that is a text
 ROOT_NAME = re.compile(r"(?<=[ (])(?:Record::)?rootElementName\b")
-NUMBER = re.compile(r"(?<![\w.<\['])(?:0x[0-9A-F]+|\d[\d']*(?:\.\d+)?(?:e\d+)?)[uU]?(?![\w.\]>])")
+NUMBER = re.compile(r"(?<![\w.<\['])(?<!\de-)(?:0x[0-9A-F]+|\d[\d']*(?:\.\d+)?(?:e-?\d+)?)[uU]?(?![\w.\]>])")
 LENGTH = re.compile(r"(?<=\.size\(\) [=>]= )[A-Za-z][\w:.]*(?:\(\))?")
 ENTRIES = re.compile(r"(?:(?<=[=,] )\{\s*|\boneOf\(kind, )((?!with)[a-z][\w:]*(?:,\s+[a-z][\w:]*)*)\s*[})]")
 CONSTANT = re.compile(r"constexpr (?!auto\b)")
