@@ -47,7 +47,9 @@ private:
     /// Files in place of the standard streams.
     class Streams {
     public:
-        explicit Streams(const Folder& folder) : output_(create(folder.path("output"))), error_(create(folder.path("error"))) {}
+        explicit Streams(const Folder& folder)
+            : output_(create(folder.path("output"))),
+              error_(create(folder.path("error"))) {}
         ~Streams() {
             ::CloseHandle(output_);
             ::CloseHandle(error_);

@@ -4,8 +4,8 @@
 
 namespace lv::analysis {
 
-/// Holds back the signals that ask a program to end (SIGINT, SIGTERM, SIGHUP; on Windows Ctrl-C and Ctrl-Break) while it
-/// exists, so that something can be finished or removed first. At its end they do what they would have done.
+/// Holds back the signals that ask a program to end (SIGINT, SIGTERM, SIGHUP; on Windows Ctrl-C and Ctrl-Break) while
+/// it exists, so that something can be finished or removed first. At its end they do what they would have done.
 ///
 /// It holds for the calling thread and for threads that this starts meanwhile. The signals go to any thread that does
 /// not hold them, so start other threads under held signals, too. Signals that the program ignores, or holds already,
