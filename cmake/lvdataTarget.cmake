@@ -15,6 +15,13 @@ function(_lvdata_set_warnings target)
     endif()
 endfunction()
 
+# Standard C++, UTF-8 sources, and products and sums rounded as the standard says.
+function(_lvdata_set_msvc_options target)
+    target_compile_options(
+        ${target} PRIVATE "$<$<CXX_COMPILER_ID:MSVC>:/W4;/permissive-;/utf-8;/Zc:__cplusplus;/fp:precise>"
+    )
+endfunction()
+
 function(_lvdata_set_instrumentation target)
     if(LVDATA_SANITIZE)
         list(JOIN LVDATA_SANITIZE "," sanitizers)
@@ -33,6 +40,7 @@ endfunction()
 function(lvdata_configure_target target)
     set_target_properties(${target} PROPERTIES CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF)
     _lvdata_set_warnings(${target})
+    _lvdata_set_msvc_options(${target})
     _lvdata_set_instrumentation(${target})
     if(LVDATA_OPTIMISE_LIBRARY_ONLY AND NOT target MATCHES "^lvdata(_objects)?$")
         target_compile_options(${target} PRIVATE $<${_lvdata_is_gnu_like}:-O0>)

@@ -76,9 +76,12 @@ private:
     }
 
     bool takeMarkup() {
-        const auto* const passage = std::find_if(passages.begin(), passages.end(),
-                                                 [this](const Passage& each) { return startsWith(rest_, each.start); });
-        return passage == passages.end() ? takeTag() : takePassage(*passage);
+        for (const Passage& passage : passages) {
+            if (startsWith(rest_, passage.start)) {
+                return takePassage(passage);
+            }
+        }
+        return takeTag();
     }
 
     bool takePassage(const Passage& passage) {
@@ -130,8 +133,8 @@ private:
         if (rest_.empty() || !startsName(rest_.front())) {
             return false;
         }
-        const auto* const end = std::find_if_not(rest_.begin(), rest_.end(), continuesName);
-        rest_.remove_prefix(static_cast<std::size_t>(end - rest_.begin()));
+        const auto size = std::find_if_not(rest_.begin(), rest_.end(), continuesName) - rest_.begin();
+        rest_.remove_prefix(static_cast<std::size_t>(size));
         return true;
     }
 

@@ -92,8 +92,9 @@ ExitStatus reportLosses(const Converted& converted, Output& output) {
 /// An input is overwritten only with the same document.
 void refuseToOverwrite(const Options& options, const Converted& converted) {
     std::error_code ignored;
-    if (options.output == standardStream || !std::filesystem::equivalent(std::filesystem::u8path(converted.name),
-                                                                         std::filesystem::u8path(options.output), ignored)) {
+    if (options.output == standardStream ||
+        !std::filesystem::equivalent(std::filesystem::u8path(converted.name), std::filesystem::u8path(options.output),
+                                     ignored)) {
         return;
     }
     if (options.conversion.target != Target::xml) {

@@ -18,8 +18,8 @@ inline constexpr int standardError = 2;
 /// The words of the command line, in UTF-8 where the system has them in UTF-16.
 [[nodiscard]] std::vector<std::string> wordsOf(int argumentCount, char** arguments);
 
-/// To be called first. What cannot be written is then an error of writing, which is cleaned up after, and not the end of
-/// the process; and text goes through the standard streams as it is.
+/// To be called first. What cannot be written is then an error of writing, which is cleaned up after, and not the end
+/// of the process; and text goes through the standard streams as it is.
 void prepareProcess();
 
 /// Ends as a command does that does not look after closed pipes, or returns if it is not to end so.

@@ -63,8 +63,8 @@ std::optional<FileIdentity> identityOf(const std::string& file) {
         return identityOf(::GetStdHandle(STD_INPUT_HANDLE));
     }
     constexpr DWORD sharedByAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    HANDLE const opened = ::CreateFileW(std::filesystem::u8path(file).c_str(), FILE_READ_ATTRIBUTES, sharedByAll, nullptr,
-                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    HANDLE const opened = ::CreateFileW(std::filesystem::u8path(file).c_str(), FILE_READ_ATTRIBUTES, sharedByAll,
+                                        nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (opened == INVALID_HANDLE_VALUE) {
         return std::nullopt;
     }

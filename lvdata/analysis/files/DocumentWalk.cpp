@@ -24,7 +24,8 @@ bool isFolder(const fs::directory_entry& entry) {
 /// Includes files that cannot be opened, so that reading them reports the error.
 bool isDocument(const fs::directory_entry& entry) {
     std::error_code ignored;
-    return isDocumentName(entry.path().filename().u8string()) && !entry.is_directory(ignored) && !entry.is_other(ignored);
+    return isDocumentName(entry.path().filename().u8string()) && !entry.is_directory(ignored) &&
+           !entry.is_other(ignored);
 }
 
 }  // namespace

@@ -139,11 +139,11 @@ void JSONWriter::appendQuoted(std::string_view text) {
 }
 
 void JSONWriter::appendEscaped(char character) {
-    const auto* const found = std::find_if(escapes.begin(), escapes.end(),
-                                           [&](const Escape& escape) { return escape.character == character; });
-    if (found != escapes.end()) {
-        append(found->text);
-        return;
+    for (const Escape& escape : escapes) {
+        if (escape.character == character) {
+            append(escape.text);
+            return;
+        }
     }
     const auto byte = static_cast<unsigned char>(character);
     append("\\u00");

@@ -46,7 +46,8 @@ void writeToHandle(HANDLE file, std::string_view text) {
     constexpr std::size_t block = 1024UL * 1024;
     while (!text.empty()) {
         DWORD written = 0;
-        require(::WriteFile(file, text.data(), static_cast<DWORD>(std::min(block, text.size())), &written, nullptr) != 0);
+        require(::WriteFile(file, text.data(), static_cast<DWORD>(std::min(block, text.size())), &written, nullptr) !=
+                0);
         text.remove_prefix(written);
     }
 }

@@ -11,8 +11,8 @@ namespace lv::analysis {
 /// Writes all of the text; throws `std::system_error` when not all of it can be written.
 void writeToHandle(HANDLE file, std::string_view text);
 
-/// A new file with a name of its own, ".lvdata-XXXXXX", in a folder. It is removed at the end unless it was stored under
-/// another name. Functions throw `std::system_error`; writing stops with "Interrupted system call" after Ctrl-C.
+/// A new file with a name of its own, ".lvdata-XXXXXX", in a folder. It is removed at the end unless it was stored
+/// under another name. Functions throw `std::system_error`; writing stops with "Interrupted system call" after Ctrl-C.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::filesystem::path& folder);

@@ -19,7 +19,8 @@ using Path = std::filesystem::path;
 constexpr DWORD sharedByAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 Handle openExisting(const Path& path, DWORD access) {
-    return Handle(::CreateFileW(path.c_str(), access, sharedByAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return Handle(
+        ::CreateFileW(path.c_str(), access, sharedByAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
 HANDLE handleOf(int descriptor) {
