@@ -47,7 +47,9 @@ function(lvdata_configure_target target)
     endif()
 endfunction()
 
-# A shared library of this target shows only what its sources mark as visible, and nothing of the static libraries in it.
+set(_lvdata_visible "${CMAKE_CURRENT_LIST_DIR}/lvdata_visible.map")
+
+# A shared library of this target shows only what its sources mark as visible, and no templates of the standard library.
 function(lvdata_hide_symbols target)
     set_target_properties(
         ${target} PROPERTIES
@@ -57,7 +59,7 @@ function(lvdata_hide_symbols target)
     )
     get_target_property(type ${target} TYPE)
     if(type STREQUAL SHARED_LIBRARY AND NOT APPLE)
-        target_link_options(${target} PRIVATE "LINKER:--exclude-libs,ALL")
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${_lvdata_visible}")
     endif()
 endfunction()
 
