@@ -7,11 +7,25 @@
 namespace tool {
 namespace {
 
+/// A character as the page has it. A line may break after a "|".
+std::string plain(char character) {
+    switch (character) {
+    case '\\':
+        return "\\e";
+    case '-':
+        return "\\-";
+    case '|':
+        return "|\\:";
+    default:
+        return std::string(1, character);
+    }
+}
+
 /// Text that is not a macro: a line must not start with a dot or an apostrophe.
 std::string plain(const std::string& text) {
     std::string result;
     for (const char character : text) {
-        result += character == '\\' ? "\\e" : character == '-' ? "\\-" : std::string(1, character);
+        result += plain(character);
     }
     const bool looksLikeMacro = !text.empty() && (text.front() == '.' || text.front() == '\'');
     return (looksLikeMacro ? "\\&" : "") + result;
