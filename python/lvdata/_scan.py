@@ -32,7 +32,7 @@ AnyProblem = TypeVar("AnyProblem", ParseError, OSError, Problem)
 def documents(
     paths: Path | Iterable[Path], *, on_error: Callable[[OSError], object] | None = None
 ) -> list[str]:
-    """The documents below some paths: files as they are, and of folders all files named `*.xml` at any depth.
+    """The documents below some paths: files as they are, and of folders all files named *.xml at any depth.
 
     In a folder, files and folders are taken together in the order of the bytes of their names. Links to folders are
     followed where they are given, and ignored inside a folder.
