@@ -13,7 +13,7 @@ language = "en"
 root_doc = "index"
 exclude_patterns = ["databases/*.py", "extensions"]
 
-extensions = ["breathe", "myst_parser", "complete_theme", "field_comments", "source_links"]
+extensions = ["breathe", "myst_parser", "complete_theme", "python_comments", "source_links"]
 myst_heading_anchors = 4
 myst_enable_extensions = ["deflist"]
 highlight_language = "none"

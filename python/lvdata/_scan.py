@@ -32,7 +32,7 @@ AnyProblem = TypeVar("AnyProblem", ParseError, OSError, Problem)
 def documents(
     paths: Path | Iterable[Path], *, on_error: Callable[[OSError], object] | None = None
 ) -> list[str]:
-    """The documents at these paths: the files themselves, and all files named `*.xml` in the folders, at any depth.
+    """The documents at these paths: the files themselves, and all files named *.xml in the folders, at any depth.
 
     In a folder, files and folders are taken together in the order of the bytes of their names. Links to folders are
     followed when they are given as paths, and ignored inside a folder.

@@ -1,5 +1,6 @@
 #include "ToolTest.h"
-#include "Transcript.h"
+
+#include <tests/support/lines.h>
 
 #include <lvdata/analysis/check/Rule.h>
 
@@ -9,6 +10,7 @@ namespace {
 
 using lv::analysis::Rule;
 using lv::analysis::rules;
+using lv::test::linesOf;
 using testing::HasSubstr;
 using testing::SizeIs;
 using testing::StartsWith;
