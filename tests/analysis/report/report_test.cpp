@@ -57,7 +57,7 @@ bool has(const std::string& page, const std::string& text) {
 HTMLPage judgedPage(const std::string& key, double maximum) {
     lv::analysis::LimitSet limits;
     limits.title = "Limits of a test";
-    limits.notice = "No test against a standard.";
+    limits.notice = "Not a test against a standard.";
     limits.limits = {{key, {}, maximum, ""}};
     lv::analysis::ReportForm form;
     form.limits = &limits;
