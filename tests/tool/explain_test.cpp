@@ -27,23 +27,24 @@ TEST_F(Explain, ListsAllRules) {
 }
 
 TEST_F(Explain, ExplainsARule) {
-    EXPECT_EQ(run({"explain", "302"}), printed("302 warning: unknown attribute\n"
-                                               "\n"
-                                               "The record does not know an attribute of this name here. It is ignored "
-                                               "and not\n"
-                                               "written back.\n"
-                                               "\n"
-                                               "With a finding in line 2:\n"
-                                               "\n"
-                                               "    <AssetInfo>\n"
-                                               "        <Asset1 lang=\"en\">Room 4</Asset1>\n"
-                                               "    </AssetInfo>\n"
-                                               "\n"
-                                               "Without:\n"
-                                               "\n"
-                                               "    <AssetInfo>\n"
-                                               "        <Asset1>Room 4</Asset1>\n"
-                                               "    </AssetInfo>\n"));
+    EXPECT_EQ(run({"explain", "302"}),
+              printed("302 warning: unknown attribute\n"
+                      "\n"
+                      "The record does not know an attribute with this name here. It is ignored "
+                      "and not\n"
+                      "written back.\n"
+                      "\n"
+                      "With a finding in line 2:\n"
+                      "\n"
+                      "    <AssetInfo>\n"
+                      "        <Asset1 lang=\"en\">Room 4</Asset1>\n"
+                      "    </AssetInfo>\n"
+                      "\n"
+                      "Without:\n"
+                      "\n"
+                      "    <AssetInfo>\n"
+                      "        <Asset1>Room 4</Asset1>\n"
+                      "    </AssetInfo>\n"));
 }
 
 TEST_F(Explain, ExplainsEachRuleInLinesOfATerminal) {

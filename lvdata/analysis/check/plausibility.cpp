@@ -119,8 +119,7 @@ void judgeIndexes(Reporter& reporter, const Position& element, const Shape& rows
             const auto [first, isNew] = lines.emplace(valueAt(position), position.node->line);
             if (!isNew) {
                 reporter.addHere("403", position.node->line,
-                                 "index " + first->first + " is already used in line " + std::to_string(first->second) +
-                                     ", too");
+                                 "index " + first->first + " is already used in line " + std::to_string(first->second));
             }
         }
     }

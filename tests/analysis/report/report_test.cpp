@@ -54,7 +54,7 @@ HTMLPage pageWith(const ReportedDocument& document, const lv::analysis::ReportFo
 HTMLPage judgedPage(const std::string& key, double maximum) {
     lv::analysis::LimitSet limits;
     limits.title = "Limits of a test";
-    limits.notice = "No test against a standard.";
+    limits.notice = "Not a test against a standard.";
     limits.limits = {{key, {}, maximum, ""}};
     lv::analysis::ReportForm form;
     form.limits = &limits;
