@@ -108,7 +108,7 @@ ColorModeSettingsObject rowFrom(const std::string& attributes, const std::string
     return list.objects.empty() ? ColorModeSettingsObject() : list.objects.front();
 }
 
-TEST(ColorModeSettingsTypes, TypeAloneChoosesTheRecordsThatAreWrittenWhateverTheirFlags) {
+TEST(ColorModeSettingsTypes, TypeAloneChoosesTheRecordsThatAreWrittenRegardlessOfTheirFlags) {
     for (const ModeType& type : everyType) {
         for (unsigned int bits = 0; bits < Records::subsets; ++bits) {
             for (const bool hlgSwitch : {false, true}) {
@@ -167,7 +167,7 @@ TEST(ColorModeSettingsTypes, RowOfUnknownTypeCarriesIndexNameAvailabilityAndPoli
                   compact(filled<ProfilePolicy>()) + "</ColorMode>"));
 }
 
-TEST(ColorModeSettingsTypes, EveryTypeReadsWhateverRecordsThereAre) {
+TEST(ColorModeSettingsTypes, EveryTypeReadsAllRecords) {
     for (const ModeType& type : everyType) {
         for (unsigned int bits = 0; bits < Records::subsets; ++bits) {
             ColorModeSettingsObject expected = rowReadWith(Records(bits));
@@ -178,7 +178,7 @@ TEST(ColorModeSettingsTypes, EveryTypeReadsWhateverRecordsThereAre) {
     }
 }
 
-TEST(ColorModeSettingsTypes, RowWithoutATypeReadsWhateverRecordsThereAre) {
+TEST(ColorModeSettingsTypes, RowWithoutATypeReadsAllRecords) {
     for (unsigned int bits = 0; bits < Records::subsets; ++bits) {
         const auto row = rowFrom("", elementsOf(Records(bits)));
         EXPECT_EQ(describe(row), describe(rowReadWith(Records(bits)))) << bits;

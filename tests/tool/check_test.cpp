@@ -199,7 +199,7 @@ TEST_F(Check, PrintsJSONWithoutFindingsAndAfterErrors) {
     EXPECT_EQ(trouble.error, "missing.xml: error: No such file or directory\n");
 }
 
-TEST_F(Check, PrintsJSONWhateverBytesThereAre) {
+TEST_F(Check, PrintsJSONForAnyBytes) {
     const std::string name = "\xFF\n\".xml";
     write(name, "<AssetInfo Version='1' MinorVersion='0'><B\xC3 \x80='1'/></AssetInfo>");
     const json report = parsed(check({"--format=json", "--ignore=003", name}));
