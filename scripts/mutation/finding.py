@@ -8,7 +8,7 @@ import re
 OPERATIONS = "field|value|attribute|constant|text|array|structure|group|record|rows|keyed|derive"
 VISITS = re.compile(rf"(?:^|[.\s=(!])(?:{OPERATIONS}|(?:detail::)?visit\w*)\(")
 ACTION = re.compile(r"(?!return\b|static_assert\b)(?:[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(])")
-DECLARED = re.compile(r"(?:const )?(?:bool|auto) \w+ = ")
+DECLARED = re.compile(r"(?:const )?(?:bool|auto(?![^;]*\{)) \w+ = ")
 ANSWER = re.compile(r" (?:\|\||&&|==|!=|<|>=?) |(?:^|[.\s!])(?:exists|empty)\(\)$|^(?:true|false|any|found)$")
 
 GATE = re.compile(r"\.(?:readWhen|writeWhen|when)\((?!HLGSwitch)|\bderive\([\w.]+, (?=(?:notEmpty|haveEntries)\()")
@@ -277,4 +277,4 @@ def described(text, code, mutant):
     length = len(code.split("\n")[mutant.line - 1].rstrip())
     line = " ".join(text.split("\n")[mutant.line - 1][:length].split())
     where = "" if line.rstrip(";") == place.rstrip(";") else f" in {line}"
-    return f"{place} {mutant.change}{where}"
+    return f"{place} {' '.join(mutant.change.split())}{where}"

@@ -12,7 +12,9 @@ namespace {
 
 class Reached final : public testing::EmptyTestEventListener {
 public:
-    explicit Reached(unsigned char* reached) : reached_(reached), out_(std::getenv("LVDATA_MUTANTS_OUT"), std::ios::app) {}
+    explicit Reached(unsigned char* reached)
+        : reached_(reached),
+          out_(std::getenv("LVDATA_MUTANTS_OUT"), std::ios::app) {}
 
     void OnTestProgramStart(const testing::UnitTest& /*tests*/) override { write("*", 0); }
 

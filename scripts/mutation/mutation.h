@@ -18,7 +18,8 @@ inline unsigned char* openReached() {
     if (file < 0 || ::fstat(file, &facts) != 0) {
         return nullptr;
     }
-    void* const bytes = ::mmap(nullptr, static_cast<std::size_t>(facts.st_size), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
+    void* const bytes =
+        ::mmap(nullptr, static_cast<std::size_t>(facts.st_size), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
     return bytes != MAP_FAILED ? static_cast<unsigned char*>(bytes) : nullptr;
 }
 

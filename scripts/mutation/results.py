@@ -27,12 +27,15 @@ class Results:
             self.sources[mutant.path] = hashed([mutant.path])
         return self.sources[mutant.path]
 
-    def outcome(self, mutant):
-        """What is known of a mutant, or nothing."""
+    def last(self, mutant):
+        """What became of a mutant, maybe with other tests, or nothing."""
         entry = self.by_key.get(mutant.key)
-        if not entry or entry["source"] != self.source(mutant):
-            return ""
-        return entry["outcome"] if entry["outcome"] != "survived" or entry["tests"] == self.tests else ""
+        return entry["outcome"] if entry and entry["source"] == self.source(mutant) else ""
+
+    def outcome(self, mutant):
+        """What is known of a mutant with the tests as they are, or nothing."""
+        outcome = self.last(mutant)
+        return "" if outcome == "survived" and self.by_key[mutant.key]["tests"] != self.tests else outcome
 
     def store(self, mutant, outcome):
         entry = {"key": mutant.key, "outcome": outcome, "source": self.source(mutant), "tests": self.tests}
