@@ -8,7 +8,7 @@ class XMLElement;
 
 namespace lv::detail {
 
-/// Whether the version of the XML library keeps texts where they were parsed, as `readParsedArray` would like to have it.
+/// Whether this version of the XML library keeps texts where they were parsed. Else `readParsedArray` takes longer.
 [[nodiscard]] bool keepsTextsWhereParsed();
 
 /// Reads an array, separated as in every document, of an element whose document is as it was parsed: nothing in it was
