@@ -20,6 +20,7 @@ function(_lvdata_set_msvc_options target)
     target_compile_options(
         ${target} PRIVATE "$<$<CXX_COMPILER_ID:MSVC>:/W4;/permissive-;/utf-8;/Zc:__cplusplus;/fp:precise>"
     )
+    target_compile_definitions(${target} PRIVATE "$<$<CXX_COMPILER_ID:MSVC>:NOMINMAX>") # no macros min and max
 endfunction()
 
 function(_lvdata_set_instrumentation target)

@@ -95,7 +95,7 @@ TEST_F(CommandOnWindows, PrintsADocumentAsItIsWithoutCarriageReturn) {
 
 TEST_F(CommandOnWindows, SaysInUTF8WhichFileIsMissing) {
     EXPECT_EQ(run("show \"Größe 日本.xml\""), 2U);
-    EXPECT_EQ(folder.read("error"), "Größe 日本.xml: No such file or directory\n");
+    EXPECT_EQ(folder.read("error"), "Größe 日本.xml: error: No such file or directory\n");
 }
 
 TEST_F(CommandOnWindows, ReplacesAFile) {
@@ -112,10 +112,10 @@ TEST_F(CommandOnWindows, DoesNotWriteOverAnInputUnderAnotherSpelling) {
     EXPECT_EQ(folder.read("Studio.xml").substr(0, 5), "<?xml");
 }
 
-TEST_F(CommandOnWindows, ChecksAFolder) {
+TEST_F(CommandOnWindows, ConvertsAFolder) {
     std::filesystem::create_directory(folder.path("Ordner-ä"));
     copySample("Ordner-ä/日本.xml");
-    EXPECT_EQ(run("show Ordner-ä"), 0U) << folder.read("error");
+    EXPECT_EQ(run("convert --to jsonl Ordner-ä"), 0U) << folder.read("error");
     EXPECT_THAT(folder.read("output"), HasSubstr("日本.xml"));
 }
 
