@@ -14,6 +14,7 @@ list(TRANSFORM explained REPLACE "`" "")
 
 list(SORT installed)
 list(SORT explained)
+list(REMOVE_DUPLICATES installed)
 list(REMOVE_DUPLICATES explained)
 if(NOT installed STREQUAL explained)
     message(FATAL_ERROR "scripts/bootstrap installs\n ${installed}\nand docs/dependencies.md explains\n ${explained}")
