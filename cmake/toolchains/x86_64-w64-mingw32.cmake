@@ -7,11 +7,7 @@ set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_INTERPROCEDURAL_OPTIMIZATION OFF) # GCC 12 fails there: "internal compiler error: in binds_to_current_def_p"
 
-if(DEFINED ENV{LVDATA_BUILD_ROOT})
-    set(_build_root "$ENV{LVDATA_BUILD_ROOT}")
-else()
-    get_filename_component(_build_root "${CMAKE_CURRENT_LIST_DIR}/../../build" ABSOLUTE)
-endif()
+get_filename_component(_build_root "${CMAKE_CURRENT_LIST_DIR}/../../build" ABSOLUTE)
 set(CMAKE_FIND_ROOT_PATH "${_build_root}/windows-dependencies" /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -9,7 +9,7 @@ import sys
 from . import writing
 from .areas import AREAS, SOURCE
 
-ROOT = pathlib.Path(os.environ.get("LVDATA_BUILD_ROOT", SOURCE / "build")) / "mutate"
+ROOT = SOURCE / "build" / "mutate"
 HERE = pathlib.Path(__file__).parent
 PLACE = re.compile(r"(?<![\w.])[\w./-]*?\b(lvdata/[\w/.-]+):(\d+)(?::\d+)?:( (?:fatal )?error:)?")
 COMPILED_BEFORE = "FAILED: "
