@@ -2,9 +2,9 @@
 
 # lvdata_embed(TARGET NAME file...)
 # The target gets a header <embedded/NAME.h> and its source: for each file a constant `std::string_view` with the file's
-# bytes (a style sheet or HTML without the characters that it does not need, such as line breaks between tags), in the namespace `lv::embedded::NAME`. It is called
-# like the file, with `_` for what cannot stand in a name: `page.html` becomes `page_html`. The source is made again when a
-# file changes.
+# bytes (a style sheet or HTML without the characters that it does not need, such as line breaks between tags), in the
+# namespace `lv::embedded::NAME`. It has the name of the file, with `_` for other characters than letters and digits:
+# `page.html` becomes `page_html`. The source is made again when a file changes.
 function(lvdata_embed target name)
     set(base "${CMAKE_CURRENT_BINARY_DIR}/embedded/${name}")
     list(TRANSFORM ARGN REPLACE "^([^/])" "${CMAKE_CURRENT_SOURCE_DIR}/\\1" OUTPUT_VARIABLE files)

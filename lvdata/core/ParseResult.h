@@ -10,7 +10,7 @@ struct ParseResult {
     enum class Outcome {
         done,                ///< The record was read.
         notXML,              ///< The XML library refused the text.
-        nothingThere,        ///< The text is empty, or it has no element.
+        nothingThere,        ///< The text is empty, or well-formed without an element.
         rootElementRefused,  ///< The record refused the root element: usually because it has a different name.
     };
 

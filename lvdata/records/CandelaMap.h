@@ -20,8 +20,8 @@ struct CandelaMapEntry {
     /// is set, even if empty.
     std::string updatedAt{};
 
-    /// Whether there is a map; it has no element. Set it to have the map written. Parsing sets it if `values` then
-    /// holds any number, even one from an earlier document. An update time without numbers is not a map.
+    /// Whether there is a map; it has no element. Set it to have the map written. Parsing sets it to whether
+    /// `values` then holds any number, even one from an earlier document: an update time alone is not a map.
     bool valid = false;
 };
 

@@ -31,7 +31,7 @@ public:
     /// Not copied.
     XMLDocument& operator=(const XMLDocument&) = delete;
 
-    /// Not moved: wrappers into the document are not to dangle.
+    /// Not moved: wrappers into the document would dangle.
     XMLDocument(XMLDocument&&) = delete;
 
     /// Not moved.

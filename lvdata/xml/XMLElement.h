@@ -15,7 +15,7 @@ namespace lv {
 /// A handle like `XMLNode`. Every operation needs an element: a wrapper of any other node behaves like an invalid one.
 /// No operation reports an error, and only `std::bad_alloc` is thrown. After a failure the returned wrapper is invalid
 /// and the output argument unchanged, so calls can be chained without checks. A missing child, a missing attribute and
-/// an invalid element cannot be distinguished. Only one thread at a time may use the elements of a document.
+/// an invalid element cannot be distinguished. Only one thread at a time may use a document and the wrappers into it.
 ///
 /// Names and texts are C strings in the XML library: they end at the first NUL.
 class LVDATA_EXPORT XMLElement : public XMLNode {

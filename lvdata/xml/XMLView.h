@@ -40,7 +40,7 @@ private:
 ///
 /// A handle like `XMLNode`, but it changes nothing and copies no text: the views of names and texts, like the handle,
 /// are valid until the node or its document is changed or deleted. Operations on an invalid view are safe and return
-/// invalid views, empty texts and 0. Only one thread at a time may use the views of a document.
+/// invalid views, empty texts and 0. Only one thread at a time may use a document and the views of it.
 class LVDATA_EXPORT XMLView {
 public:
     /// What kind of node it is.

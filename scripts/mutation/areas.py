@@ -27,7 +27,11 @@ AREAS = {
 }
 
 
+def is_for_windows_only(path):
+    return path.parent.name == "windows" or path.name == "exported_constants.cpp"
+
+
 def sources(area, pattern):
     """The files of an area that fit a pattern, relative to the root."""
-    found = {path for each in AREAS[area].sources for path in (SOURCE / "lvdata").glob(each)}
+    found = {path for each in AREAS[area].sources for path in (SOURCE / "lvdata").glob(each) if not is_for_windows_only(path)}
     return [path for path in sorted(each.relative_to(SOURCE) for each in found) if path.match(pattern)]
