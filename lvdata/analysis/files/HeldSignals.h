@@ -4,8 +4,8 @@
 
 namespace lv::analysis {
 
-/// Holds back the signals that ask a program to end (SIGINT, SIGTERM, SIGHUP; on Windows Ctrl-C and Ctrl-Break) while it
-/// exists, so that something can be finished or removed first. When it is destroyed, the signals take effect.
+/// Holds back the signals that ask a program to end (SIGINT, SIGTERM, SIGHUP; on Windows Ctrl-C and Ctrl-Break) while
+/// it exists, so that something can be finished or removed first. When it is destroyed, the signals take effect.
 ///
 /// It applies to the calling thread and to threads that this thread starts meanwhile. The system delivers the signals
 /// to any thread that does not hold them, so start other threads while the signals are held, too. Signals that the
