@@ -1,6 +1,8 @@
 #include <lvdata/analysis/decimal.h>
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <cstring>
 
 namespace lv::analysis {
@@ -64,6 +66,35 @@ std::optional<std::int64_t> rounded(const std::string& digits, std::int64_t poin
     return value + (isHalf ? 1 : 0);
 }
 
+std::size_t skipDigits(std::string_view text, std::size_t begin) {
+    const std::string_view rest = text.substr(begin);
+    const auto stop = std::find_if_not(rest.begin(), rest.end(), isDigit);
+    return begin + static_cast<std::size_t>(stop - rest.begin());
+}
+
+/// The end of the digits and the point from `begin`; `begin` where there is no digit.
+std::size_t skipMantissa(std::string_view text, std::size_t begin) {
+    const std::size_t point = skipDigits(text, begin);
+    const bool hasPoint = point < text.size() && text[point] == '.';
+    const std::size_t end = hasPoint ? skipDigits(text, point + 1) : point;
+    return end - begin > (hasPoint ? 1U : 0U) ? end : begin;
+}
+
+/// Whether the text is empty, or an exponent to its end.
+bool isExponent(std::string_view text) {
+    if (text.empty() || (text.front() != 'e' && text.front() != 'E')) {
+        return text.empty();
+    }
+    const std::size_t begin = text.size() > 1 && (text[1] == '-' || text[1] == '+') ? 2 : 1;
+    return begin < text.size() && skipDigits(text, begin) == text.size();
+}
+
+bool isDecimal(std::string_view text) {
+    const std::size_t begin = !text.empty() && text.front() == '-' ? 1 : 0;
+    const std::size_t end = skipMantissa(text, begin);
+    return end > begin && isExponent(text.substr(end));
+}
+
 }  // namespace
 
 std::size_t decimalsOf(std::uint32_t factor) {
@@ -107,6 +138,20 @@ std::optional<std::int64_t> storedNumber(std::string_view natural, std::size_t d
     }
     const std::int64_t value = decimal.isNegative ? -*magnitude : *magnitude;
     return value < range.least || value > range.greatest ? std::nullopt : std::optional<std::int64_t>(value);
+}
+
+// Not std::from_chars, which libc++ 14 lacks for double. strtod reads the point of the locale, so it is given none.
+std::optional<double> decimalNumber(std::string_view text) {
+    if (!isDecimal(text)) {
+        return std::nullopt;
+    }
+    const Decimal decimal = decimalOf(text);
+    const std::int64_t exponent = decimal.pointAfter - static_cast<std::int64_t>(decimal.digits.size());
+    const std::string plain = (decimal.isNegative ? "-" : "") + decimal.digits + "e" + std::to_string(exponent);
+    const double number = std::strtod(plain.c_str(), nullptr);
+    const bool isZero = decimal.digits.find_first_not_of('0') == std::string::npos;
+    const bool isInRange = std::isfinite(number) && (isZero || number != 0);
+    return isInRange ? std::optional(number) : std::nullopt;
 }
 
 }  // namespace lv::analysis

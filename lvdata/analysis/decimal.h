@@ -39,4 +39,8 @@ inline constexpr StoredRange signedRange = {-2147483648LL, 2147483647};
 [[nodiscard]] std::optional<std::int64_t> storedNumber(std::string_view natural, std::size_t decimals,
                                                        StoredRange range);
 
+/// The nearest double to a decimal text, such as "-12.5", ".5", "5." or "1e-3", in any locale. Null for any other text,
+/// with a plus sign at the start, spaces, "inf" or "nan", and when the number is too large or too small for a double.
+[[nodiscard]] std::optional<double> decimalNumber(std::string_view text);
+
 }  // namespace lv::analysis

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace lv::analysis {
 namespace {
 
@@ -94,6 +96,39 @@ TEST(Decimal, ReadsWhatItWrites) {
             EXPECT_EQ(storedNumber(natural(std::to_string(number), decimals), decimals, range(number)), number);
         }
     }
+}
+
+TEST(Decimal, ReadsTheNearestDouble) {
+    EXPECT_EQ(decimalNumber("0.1"), 0.1);
+    EXPECT_EQ(decimalNumber("-12.5"), -12.5);
+    EXPECT_EQ(decimalNumber(".5"), 0.5);
+    EXPECT_EQ(decimalNumber("5."), 5.0);
+    EXPECT_EQ(decimalNumber("007"), 7.0);
+    EXPECT_EQ(decimalNumber("0.30000000000000004"), 0.30000000000000004);
+    EXPECT_EQ(decimalNumber("9007199254740993"), 9007199254740992.0);  // half-way: to the even one
+    EXPECT_EQ(decimalNumber("9007199254740993.00000000000000000000000000000000000001"), 9007199254740994.0);
+    EXPECT_EQ(decimalNumber("1e23"), 1e23);
+    EXPECT_EQ(decimalNumber("2.5E-3"), 0.0025);
+    EXPECT_EQ(decimalNumber("25e+3"), 25000.0);
+    EXPECT_EQ(decimalNumber("-0"), 0.0);
+    EXPECT_EQ(decimalNumber("0e999999999999999999999"), 0.0);
+}
+
+TEST(Decimal, ReadsNumbersOfTheSizeOfADouble) {
+    EXPECT_EQ(decimalNumber("1.7976931348623157e308"), std::numeric_limits<double>::max());
+    EXPECT_EQ(decimalNumber("4.9406564584124654e-324"), std::numeric_limits<double>::denorm_min());
+    for (const std::string text : {"1e309", "-1e309", "1e-400", "-1e-400", "1e999999999999999999999"}) {
+        EXPECT_EQ(decimalNumber(text), std::nullopt) << text;
+    }
+}
+
+TEST(Decimal, ReadsNoOtherText) {
+    for (const std::string text :
+         {"",    "-",    ".",   "-.",   "+1",  " 1",       "1 ",  "1,5",  "1.2.3", "1e",    "1e+",     "e5",
+          ".e5", "1e5.", "--1", "0x10", "inf", "infinity", "nan", "-inf", "1f",    "1e1e1", "1\u00a0", "1'000"}) {
+        EXPECT_EQ(decimalNumber(text), std::nullopt) << text;
+    }
+    EXPECT_EQ(decimalNumber(std::string_view("1\0", 2)), std::nullopt);
 }
 
 }  // namespace lv::analysis

@@ -1,7 +1,8 @@
 #include <lvdata/analysis/diff/Tolerances.h>
 
-#include <charconv>
-#include <cmath>
+#include <lvdata/analysis/decimal.h>
+
+#include <algorithm>
 #include <set>
 #include <sstream>
 
@@ -22,10 +23,8 @@ void collectQuantities(const Description& facts, std::set<std::string>& names) {
 
 /// No value for what is not a decimal number from 0.
 std::optional<double> limitOf(std::string_view text) {
-    double limit = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), limit);
-    const bool isNumber = error == std::errc() && end == text.data() + text.size();
-    return isNumber && std::isfinite(limit) && limit >= 0 ? std::optional(limit) : std::nullopt;
+    const auto limit = decimalNumber(text);
+    return limit && *limit >= 0 ? limit : std::nullopt;
 }
 
 std::string complaintOfKind(std::string_view kind, const std::vector<std::string>& kinds) {

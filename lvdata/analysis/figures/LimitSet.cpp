@@ -1,5 +1,7 @@
 #include <lvdata/analysis/figures/LimitSet.h>
 
+#include <lvdata/analysis/decimal.h>
+
 #include <embedded/limits.h>
 
 #include <array>
@@ -19,11 +21,7 @@ std::string shortest(double value) {
 
 /// The number that the text of a figure shows.
 double shown(double value, int decimals) {
-    const std::string text = fixedText(value, decimals);
-    double number = value;
-    const char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));
-    std::from_chars(text.data(), end, number);
-    return number;
+    return decimalNumber(fixedText(value, decimals)).value_or(value);
 }
 
 Mark markOf(const FigureLine& line, const FigureLimit& limit) {

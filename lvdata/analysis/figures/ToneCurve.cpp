@@ -1,14 +1,12 @@
 #include <lvdata/analysis/figures/ToneCurve.h>
 
 #include <lvdata/analysis/colour/transfer.h>
+#include <lvdata/analysis/decimal.h>
 #include <lvdata/analysis/figures/stored_values.h>
 #include <lvdata/analysis/figures/target_texts.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <iterator>
-#include <system_error>
 #include <utility>
 
 namespace lv::analysis {
@@ -30,12 +28,10 @@ std::string plain(std::string_view name) {
     return text;
 }
 
+/// No value for a number with an exponent either.
 std::optional<double> numberOf(std::string_view text) {
-    double number = 0;
-    const char* const end = std::next(text.data(), static_cast<std::ptrdiff_t>(text.size()));
-    const auto read = std::from_chars(text.data(), end, number, std::chars_format::fixed);
-    const bool isNumber = !text.empty() && read.ec == std::errc() && read.ptr == end;
-    return isNumber ? std::optional(number) : std::nullopt;
+    const bool hasExponent = text.find_first_of("eE") != std::string_view::npos;
+    return hasExponent ? std::nullopt : decimalNumber(text);
 }
 
 struct Name {

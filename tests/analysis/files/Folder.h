@@ -1,11 +1,10 @@
 #pragma once
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -15,10 +14,11 @@ namespace lv::test {
 /// A folder of the test's own, which goes with it.
 class Folder {
 public:
-    Folder() : path_((std::filesystem::temp_directory_path() / "lvdata-test-XXXXXX").string()) {
-        if (::mkdtemp(path_.data()) == nullptr) {
-            throw std::system_error(errno, std::generic_category());
-        }
+    Folder() {
+        std::random_device random;
+        do {
+            path_ = std::filesystem::temp_directory_path() / ("lvdata-test-" + std::to_string(random()));
+        } while (!std::filesystem::create_directory(path_));  // false for one that is there already
     }
 
     ~Folder() {
@@ -33,7 +33,7 @@ public:
 
     /// A file in the folder, its content, and the names of everything there, sorted.
     [[nodiscard]] std::filesystem::path path(const std::string& name) const {
-        return std::filesystem::path(path_) / name;
+        return path_ / name;
     }
 
     void write(const std::string& name, const std::string& text) const {
@@ -48,14 +48,14 @@ public:
     [[nodiscard]] std::vector<std::string> names() const {
         std::vector<std::string> found;
         for (const auto& entry : std::filesystem::directory_iterator(path_)) {
-            found.push_back(entry.path().filename());
+            found.push_back(entry.path().filename().string());
         }
         std::sort(found.begin(), found.end());
         return found;
     }
 
 private:
-    std::string path_;
+    std::filesystem::path path_;
 };
 
 }  // namespace lv::test

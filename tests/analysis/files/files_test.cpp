@@ -46,6 +46,12 @@ TEST(ReadFile, StopsAtTheSizeThatIsAskedFor) {
     EXPECT_EQ(readFile("/dev/zero", 70'000).text.size(), 70'000U);
 }
 
+TEST(Load, StopsAtTheLimitOfAFileWithoutEnd) {
+    lv::Limits small;
+    small.bytes = 42;
+    EXPECT_EQ(lv::analysis::load("/dev/zero", small).result.reason, "more than 42 bytes");
+}
+
 TEST(ReadFile, SaysWhyItCannotRead) {
     const Folder folder;
     const auto missing = readFile(folder.path("in"), 1);

@@ -80,8 +80,7 @@ TEST(Load, ReportsAFileBeyondTheLimit) {
     EXPECT_TRUE(load(folder.path("in"), record, bytes(document.size())));
     EXPECT_TRUE(load(folder.path("in"), bytes(static_cast<std::size_t>(-1))));
     const Limits small = bytes(document.size() - 1);
-    for (const LoadResult& result : {load(folder.path("in"), small).result, load(folder.path("in"), record, small),
-                                     load("/dev/zero", small).result}) {
+    for (const LoadResult& result : {load(folder.path("in"), small).result, load(folder.path("in"), record, small)}) {
         EXPECT_EQ(result.outcome, Outcome::beyondLimit);
         EXPECT_EQ(result.reason, "more than 42 bytes");
         EXPECT_TRUE(result.excess && result.excess->what == lv::Excess::What::bytes);
