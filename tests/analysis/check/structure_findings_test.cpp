@@ -75,8 +75,8 @@ TEST(StructureFindings, NameArraysThatAreValidOnlyTogether) {
     const std::vector<std::string> findings = findingsIn(document + "</ProfileData>");
     ASSERT_EQ(findings.size(), 5U);
     EXPECT_EQ(findings[2],
-              "201 line 4 /ProfileData/MeasuredXYZ[@Color='Blue']: the text has 2 entries and needs 3: all of "
-              "it is dropped");
+              "201 line 4 /ProfileData/MeasuredXYZ[@Color='Blue']: the text has 2 entries and needs 3: the whole "
+        "array is dropped");
     for (const std::size_t other : {0U, 1U, 3U, 4U}) {
         EXPECT_THAT(findings[other], StartsWith("305 line " + std::to_string(other + 2) + ' '));
         EXPECT_THAT(findings[other], testing::EndsWith(", but ../../MeasuredXYZ[@Color='Blue']/text() has 2 entries"));
