@@ -76,7 +76,7 @@ TEST(StructureFindings, NameArraysThatAreValidOnlyTogether) {
     ASSERT_EQ(findings.size(), 5U);
     EXPECT_EQ(findings[2],
               "201 line 4 /ProfileData/MeasuredXYZ[@Color='Blue']: the text has 2 entries and needs 3: the whole "
-        "array is dropped");
+              "array is dropped");
     for (const std::size_t other : {0U, 1U, 3U, 4U}) {
         EXPECT_THAT(findings[other], StartsWith("305 line " + std::to_string(other + 2) + ' '));
         EXPECT_THAT(findings[other], testing::EndsWith(", but ../../MeasuredXYZ[@Color='Blue']/text() has 2 entries"));
@@ -88,8 +88,8 @@ TEST(StructureFindings, NameRowsByTheirNumber) {
         findingsIn("<MeasurementData>\n<Measurements><RGB>1|2|3</RGB></Measurements>\n<Measurements/>\n"
                    "<Measurements><RGB>1|2</RGB></Measurements>\n</MeasurementData>"),
         ElementsAre("304 line 3 /MeasurementData/Measurements[2]: the row has no content and is dropped",
-                    "201 line 4 /MeasurementData/Measurements[3]/RGB: \"RGB\" has 2 entries and needs 3: all of "
-                    "it is dropped"));
+                    "201 line 4 /MeasurementData/Measurements[3]/RGB: \"RGB\" has 2 entries and needs 3: the whole "
+                    "array is dropped"));
 }
 
 TEST(StructureFindings, NameTheConditionThatIsNotMet) {
