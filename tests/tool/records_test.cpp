@@ -52,16 +52,16 @@ TEST_F(Records, ALongNameIsCutInTheMessage) {
         return run({"format", "-"}, {'<' + name + "/>"}).error;
     };
     const std::string sixty(60, 'a');
-    EXPECT_THAT(messageFor(sixty), HasSubstr('"' + sixty + "\","));
-    EXPECT_THAT(messageFor(sixty + 'b'), HasSubstr('"' + sixty + "...\","));
-    EXPECT_THAT(messageFor(std::string(58, 'a') + "\u20AC"), HasSubstr('"' + std::string(58, 'a') + "...\","));
+    EXPECT_THAT(messageFor(sixty), HasSubstr('"' + sixty + "\";"));
+    EXPECT_THAT(messageFor(sixty + 'b'), HasSubstr('"' + sixty + "...\";"));
+    EXPECT_THAT(messageFor(std::string(58, 'a') + "\u20AC"), HasSubstr('"' + std::string(58, 'a') + "...\";"));
     EXPECT_LT(messageFor(std::string(1'000'000, 'a')).size(), 1'000);
 }
 
 TEST_F(Records, ALongNameOfContinuationBytesIsCutAsWell) {
     const Outcome outcome = run({"format", "-"}, {'<' + std::string(200, '\x9C') + "/>"});
     EXPECT_EQ(outcome.exitCode, 2);
-    EXPECT_THAT(outcome.error, HasSubstr('"' + lv::test::repeated("\\x9C", 57) + "...\", known"));
+    EXPECT_THAT(outcome.error, HasSubstr('"' + lv::test::repeated("\\x9C", 57) + "...\"; known"));
 }
 
 TEST_F(Records, ANameIsComparedExactly) {
@@ -80,7 +80,7 @@ TEST_F(Records, AnElementOfARecordIsNotARecord) {
 TEST_F(Records, AnyNameIsShownOnOneLine) {
     const Outcome outcome = run({"format", "-"}, {"<A\u0085\u2028B\x9B\x85/>"});
     EXPECT_EQ(outcome.exitCode, 2);
-    EXPECT_THAT(outcome.error, HasSubstr("\"A\\xC2\\x85\\xE2\\x80\\xA8B\\x9B\\x85\", known"));
+    EXPECT_THAT(outcome.error, HasSubstr("\"A\\xC2\\x85\\xE2\\x80\\xA8B\\x9B\\x85\"; known"));
     EXPECT_EQ(std::count(outcome.error.begin(), outcome.error.end(), '\n'), 1);
 }
 

@@ -170,7 +170,7 @@ TEST_F(Report, HasOneMonitorInAFile) {
     EXPECT_EQ(names(), (Arguments{"a.xml", "b.xml"}));
     write("a.xml", "<ColorModeSettings/>");
     EXPECT_EQ(run({"report", "a.xml", "a.xml"}),
-              failed("a.xml: error: has no UUID and no serial number, so it cannot be matched with the monitor of the "
+              failed("a.xml: error: has no UUID and no serial number, so it cannot be matched with the monitor of "
                      "the documents before it; with -o FOLDER/ there is a page for each monitor"));
 }
 

@@ -121,7 +121,7 @@ TEST_F(Show, HasTwelveModesUnlessAskedForAll) {
 TEST_F(Show, RefusesTheIndexOfNoMode) {
     write("in.xml", modes(mode("1", "a") + mode("7", "b")));
     EXPECT_EQ(run({"show", "--mode", "2", "in.xml"}),
-              failed("in.xml: error: no colour mode has the index 2; there are 1, 7"));
+              failed("in.xml: error: no colour mode has the index 2; known indices: 1, 7"));
     write("in.xml", modes(""));
     EXPECT_EQ(run({"show", "--mode", "2", "in.xml"}),
               failed("in.xml: error: no colour mode has the index 2; no mode has an index"));
