@@ -6,6 +6,7 @@
 using lv::analysis::ColourChange;
 using lv::analysis::Difference;
 using lv::analysis::DiffOptions;
+using lv::test::Counts;
 using lv::test::diffOf;
 using lv::test::measurementSeries;
 
@@ -58,8 +59,7 @@ ColourChange colourChange(const std::string& before, const std::string& after) {
 }
 
 /// How many differences are listed, and how many are small.
-std::pair<std::size_t, std::size_t> counts(const std::string& before, const std::string& after,
-                                           const std::string& tolerances) {
+Counts counts(const std::string& before, const std::string& after, const std::string& tolerances) {
     DiffOptions options;
     EXPECT_EQ(options.tolerances.take(tolerances, lv::test::catalogue()), "");
     const auto result = diffOf(before, after, options);
@@ -85,12 +85,12 @@ TEST(DiffOfChromaticities, IsNotKnownWhereThereIsNoColour) {
 TEST(DiffOfChromaticities, HasTolerances) {
     const std::string before = whitePoint("3127", "3290");
     const std::string after = whitePoint("3132", "3290");
-    EXPECT_EQ(counts(before, after, "chromaticity=0.0005"), std::pair(0UL, 1UL));
-    EXPECT_EQ(counts(before, after, "chromaticity=0.0004"), std::pair(1UL, 0UL));
-    EXPECT_EQ(counts(before, after, "duv=0.0005"), std::pair(0UL, 1UL));
-    EXPECT_EQ(counts(before, after, "duv=0.0002"), std::pair(1UL, 0UL));
-    EXPECT_EQ(counts(before, after, "chromaticity=0.0004,duv=0.0005"), std::pair(1UL, 0UL));
-    EXPECT_EQ(counts(before, after, "gain=1"), std::pair(1UL, 0UL));
+    EXPECT_EQ(counts(before, after, "chromaticity=0.0005"), Counts(0, 1));
+    EXPECT_EQ(counts(before, after, "chromaticity=0.0004"), Counts(1, 0));
+    EXPECT_EQ(counts(before, after, "duv=0.0005"), Counts(0, 1));
+    EXPECT_EQ(counts(before, after, "duv=0.0002"), Counts(1, 0));
+    EXPECT_EQ(counts(before, after, "chromaticity=0.0004,duv=0.0005"), Counts(1, 0));
+    EXPECT_EQ(counts(before, after, "gain=1"), Counts(1, 0));
 }
 
 TEST(DiffOfTristimulusValues, IsRelativeToTheWhiteOfTheProfile) {
@@ -141,7 +141,7 @@ TEST(DiffOfTristimulusValues, IsNotKnownForTheWhiteItself) {
     };
     EXPECT_EQ(colourChange(white(d65), white("95047000|99000000|108883000")).reason,
               "it is the reference white itself");
-    EXPECT_EQ(counts(white(d65), white("95047000|99000000|108883000"), "de00=100"), std::pair(1UL, 0UL));
+    EXPECT_EQ(counts(white(d65), white("95047000|99000000|108883000"), "de00=100"), Counts(1, 0));
     EXPECT_EQ(colourChange(profile(d65, grey), profile("95047000|99000000|108883000", grey)).reason,
               "it is the reference white itself");
 }
@@ -156,8 +156,8 @@ TEST(DiffOfTristimulusValues, DoesNotTakeBlackForAWhite) {
 TEST(DiffOfTristimulusValues, HasTolerances) {
     const std::string before = profile(d65, grey);
     const std::string after = profile(d65, otherGrey);
-    EXPECT_EQ(counts(before, after, "de00=3"), std::pair(0UL, 1UL));
-    EXPECT_EQ(counts(before, after, "de00=1"), std::pair(1UL, 0UL));
-    EXPECT_EQ(counts(before, after, "tristimulus=0.41395"), std::pair(0UL, 1UL));
-    EXPECT_EQ(counts(before, after, "tristimulus=0.41394"), std::pair(1UL, 0UL));
+    EXPECT_EQ(counts(before, after, "de00=3"), Counts(0, 1));
+    EXPECT_EQ(counts(before, after, "de00=1"), Counts(1, 0));
+    EXPECT_EQ(counts(before, after, "tristimulus=0.41395"), Counts(0, 1));
+    EXPECT_EQ(counts(before, after, "tristimulus=0.41394"), Counts(1, 0));
 }

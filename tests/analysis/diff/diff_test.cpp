@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <ctime>
 
+using lv::test::Counts;
 using lv::test::differencesOf;
 using lv::test::documentWithGamma;
 using lv::test::measurementSeries;
@@ -205,14 +206,14 @@ TEST(Diff, LeavesOutIgnoredPathsAndCountsThem) {
         const auto result = lv::test::diffOf(before, after, options);
         return std::pair(result.differences.size(), result.ignored);
     };
-    EXPECT_EQ(ignoring("CalibrationModeResult/ColorMode[Index=2]"), std::pair(1UL, 1UL));
-    EXPECT_EQ(ignoring("CalibrationModeResult/ColorMode/Name"), std::pair(0UL, 2UL));
-    EXPECT_EQ(ignoring("//Name"), std::pair(0UL, 2UL));
-    EXPECT_EQ(ignoring("//ColorMode"), std::pair(0UL, 2UL));
-    EXPECT_EQ(ignoring("//ColorMode[Index=1]/Name"), std::pair(1UL, 1UL));
-    EXPECT_EQ(ignoring("CalibrationModeResult/ColorMod"), std::pair(2UL, 0UL));
-    EXPECT_EQ(ignoring("Name"), std::pair(2UL, 0UL));
-    EXPECT_EQ(ignoring("//ame"), std::pair(2UL, 0UL));
+    EXPECT_EQ(ignoring("CalibrationModeResult/ColorMode[Index=2]"), Counts(1, 1));
+    EXPECT_EQ(ignoring("CalibrationModeResult/ColorMode/Name"), Counts(0, 2));
+    EXPECT_EQ(ignoring("//Name"), Counts(0, 2));
+    EXPECT_EQ(ignoring("//ColorMode"), Counts(0, 2));
+    EXPECT_EQ(ignoring("//ColorMode[Index=1]/Name"), Counts(1, 1));
+    EXPECT_EQ(ignoring("CalibrationModeResult/ColorMod"), Counts(2, 0));
+    EXPECT_EQ(ignoring("Name"), Counts(2, 0));
+    EXPECT_EQ(ignoring("//ame"), Counts(2, 0));
 }
 
 TEST(Diff, TakesTimeInProportionToTheRows) {

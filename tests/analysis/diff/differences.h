@@ -8,9 +8,13 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lv::test {
+
+/// How many differences are listed, and how many are not.
+using Counts = std::pair<std::size_t, std::size_t>;
 
 /// What the records of two documents differ in.
 inline analysis::Diff diffOf(const std::string& before, const std::string& after,

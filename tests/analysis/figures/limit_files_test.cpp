@@ -23,15 +23,16 @@ TEST(FindLimitSet, KnowsSetsByName) {
 TEST(FindLimitSet, ReadsFiles) {
     const lv::test::Folder folder;
     folder.write("wrong.json", "{\n\"nam\": 1}");
-    const auto wrong = findLimitSet(folder.path("wrong.json"));
+    const auto wrong = findLimitSet(folder.path("wrong.json").u8string());
     EXPECT_FALSE(wrong.set);
     EXPECT_NE(wrong.reason, "");
     folder.write("large.json", std::string(1'000'001, ' '));
-    EXPECT_EQ(findLimitSet(folder.path("large.json")).reason, "more than 1000000 bytes, too large for a limit set");
+    EXPECT_EQ(findLimitSet(folder.path("large.json").u8string()).reason,
+              "more than 1000000 bytes, too large for a limit set");
     folder.write(
         "mine.json",
         R"({"name": "mine", "title": "Mine", "notice": "", "limits": [{"figure": "contrast", "minimum": 500}]})");
-    const auto mine = findLimitSet(folder.path("mine.json"));
+    const auto mine = findLimitSet(folder.path("mine.json").u8string());
     ASSERT_TRUE(mine.set) << mine.reason;
     EXPECT_EQ(mine.set->name, "mine");
 }
