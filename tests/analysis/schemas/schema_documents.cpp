@@ -31,7 +31,7 @@ std::vector<NamedDocument> storedDocuments(const std::string& record) {
     std::vector<NamedDocument> documents;
     documents.reserve(paths.size());
     for (const fs::path& path : paths) {
-        documents.push_back({path.filename(), contentOf(path)});
+        documents.push_back({path.filename().string(), contentOf(path)});
     }
     return documents;
 }

@@ -45,7 +45,7 @@ TEST(SchemaFiles, AreTwoForEachRecord) {
     }
     std::set<std::string> found;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-        found.insert(entry.path().filename());
+        found.insert(entry.path().filename().string());
     }
     EXPECT_EQ(found, expected);
 }
