@@ -32,9 +32,7 @@ public:
     Folder& operator=(Folder&&) = delete;
 
     /// A file in the folder, its content, and the names of everything there, sorted.
-    [[nodiscard]] std::filesystem::path path(const std::string& name) const {
-        return path_ / name;
-    }
+    [[nodiscard]] std::filesystem::path path(const std::string& name) const { return path_ / name; }
 
     void write(const std::string& name, const std::string& text) const {
         std::ofstream(path(name), std::ios::binary) << text;
