@@ -17,6 +17,7 @@ function(lvdata_expect_output name program expected)
         COMMAND
             "${CMAKE_COMMAND}" -D "program=$<TARGET_FILE:${program}>" -D "arguments=${ARG_ARGUMENTS}"
             -D "expected=${expected}" -D "actual=${CMAKE_CURRENT_BINARY_DIR}/output/${name}" ${files}
+            -D "emulator=${CMAKE_CROSSCOMPILING_EMULATOR}"
             -P "${_lvdata_compare_output}"
     )
     set_tests_properties(${name} PROPERTIES LABELS example)
