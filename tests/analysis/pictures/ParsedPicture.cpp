@@ -1,9 +1,10 @@
 #include <tests/analysis/pictures/ParsedPicture.h>
 
+#include <lvdata/analysis/decimal.h>
+
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -80,10 +81,9 @@ bool isWordOf(const std::string& words, const std::string& word) {
 }
 
 double numberOf(const std::string& text) {
-    double value = std::numeric_limits<double>::quiet_NaN();
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    EXPECT_TRUE(read.ec == std::errc() && read.ptr == text.data() + text.size()) << '"' << text << '"';
-    return value;
+    const auto value = analysis::decimalNumber(text);
+    EXPECT_TRUE(value) << '"' << text << '"';
+    return value.value_or(std::numeric_limits<double>::quiet_NaN());
 }
 
 /// All numbers of a text; everything else separates them.
@@ -150,9 +150,7 @@ std::vector<Point> pointsOf(const std::string& path) {
 }  // namespace
 
 double leadingNumber(std::string_view text) {
-    double value = 0;
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
+    return analysis::decimalNumber(text.substr(0, text.find_first_not_of("+-.0123456789"))).value_or(0);
 }
 
 double Element::number(const std::string& attribute) const {

@@ -1,8 +1,8 @@
+#include <lvdata/analysis/decimal.h>
 #include <lvdata/analysis/pictures/svg/ticks.h>
 
 #include <gtest/gtest.h>
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -48,9 +48,7 @@ TEST(Ticks, AreMultiplesOfOneTwoOrFive) {
 
 TEST(Ticks, AreAtTheValuesOfTheirLabels) {
     for (const Tick& tick : ticksOf({0, 1}, 10)) {
-        double labelled = 0;
-        std::from_chars(tick.label.data(), tick.label.data() + tick.label.size(), labelled);
-        EXPECT_NEAR(tick.value, labelled, 1e-12);
+        EXPECT_NEAR(tick.value, lv::analysis::decimalNumber(tick.label).value(), 1e-12);
     }
 }
 
