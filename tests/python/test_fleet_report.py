@@ -101,7 +101,7 @@ def test_missing_limits_of_workers_are_not_reported_as_bad_documents(
     page_of = _fleet_report.page_of
     unseen: Any = {"limits": "unseen.json"}
     monkeypatch.setattr(_fleet_report, "page_of", lambda page, options: page_of(page, {**options, **unseen}))
-    with dask.config.set(scheduler="sync"), pytest.raises(ValueError, match="unseen.json: there is no such file"):
+    with dask.config.set(scheduler="sync"), pytest.raises(ValueError, match="unseen.json: no file and no limit set has this name"):
         fleet.report(monitors, tmp_path / "fleet", errors="collect")
 
 
