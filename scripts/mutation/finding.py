@@ -9,7 +9,8 @@ OPERATIONS = "field|value|attribute|constant|text|array|structure|group|record|r
 VISITS = re.compile(rf"(?:^|[.\s=(!])(?:{OPERATIONS}|(?:detail::)?visit\w*)\(")
 ACTION = re.compile(r"(?!return\b|static_assert\b)(?:[\w:.*\[\]]+(?: \|?= |\()|\w[\w:]*[.(])")
 DECLARED = re.compile(r"(?:const )?(?:bool|auto(?![^;]*\{)) \w+ = ")
-ANSWER = re.compile(r" (?:\|\||&&|==|!=|<|>=?) |(?:^|[.\s!])(?:exists|empty)\(\)$|^(?:true|false|any|found)$")
+ANSWER = re.compile(r" (?:\|\||&&|==|!=|<|>=?) |^std::(?:any|all|none)_of\(|(?:^|[.\s!])(?:exists|empty)\(\)$|^(?:true|false|any|found)$")
+BODY = re.compile(r"\{[^{}]*\}")  # of a function without a name, whose answers are its own
 
 GATE = re.compile(r"\.(?:readWhen|writeWhen|when)\((?!HLGSwitch)|\bderive\([\w.]+, (?=(?:notEmpty|haveEntries)\()")
 CONDITION = re.compile(r"\bif \((?![^()]* = )")
@@ -121,7 +122,7 @@ def answer(code, start, end):
     expression = code[start:end]
     if VISITS.search(expression):
         yield Mutant("visit", start, end, "mutation::unless(@, [&] { return ", "; })", "removed")
-    elif ANSWER.search(expression) and " ? " not in expression:
+    elif ANSWER.search(BODY.sub("", expression)) and " ? " not in expression:
         yield Mutant("condition", start, end, "mutation::opposite(@, ", ")", "inverted")
 
 
