@@ -1,0 +1,10 @@
+# What the cross compilers of Debian have in common. `triplet` and `emulator` are set by the file of a processor.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_C_COMPILER ${triplet}-gcc)
+set(CMAKE_CXX_COMPILER ${triplet}-g++)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${emulator} -L /usr/${triplet})
+set(CMAKE_FIND_ROOT_PATH /usr/${triplet})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
