@@ -69,6 +69,14 @@ TEST(Limits, ForNodesDoesNotCountEndTagsAndBlanks) {
     EXPECT_EQ(found(documentWithMarkup("<a> </a b='1'> \n "), &Limits::nodes, 4), "");
 }
 
+TEST(Limits, ForNodesCountsEveryTextThatIsNotBlank) {
+    for (char character = '!'; character <= '~'; ++character) {
+        const bool isMarkup = character == '<' || character == '&';
+        const std::string text = isMarkup ? "." : std::string(1, character);
+        EXPECT_EQ(found("<a>" + text + "</a>", &Limits::nodes, 1), "1: more than 1 node") << text;
+    }
+}
+
 TEST(Limits, ForAttributesIsTheLargestNumberAccepted) {
     const std::string document =
         documentWithMarkup("<a/>\n<a b='1' c=\"'>\"/>\n<a d = 'x' e='</a>' f='\"/>'><a g=''/></a>");
@@ -114,6 +122,10 @@ TEST(Excess, SaysWhatAndWhere) {
     EXPECT_EQ(excess->limit, 1U);
     EXPECT_EQ(excess->position, 4U);
     EXPECT_EQ(excess->line, 2);
+}
+
+TEST(Excess, CountsTheLineBreakThatADocumentBeginsWith) {
+    EXPECT_EQ(found("\n<a/>", &Limits::elements, 0), "2: more than 0 elements");
 }
 
 TEST(Excess, OfBytesIsAtTheFirstByteTooMany) {
