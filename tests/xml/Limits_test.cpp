@@ -54,6 +54,10 @@ TEST(Limits, ForElementsIsTheLargestNumberAccepted) {
     EXPECT_EQ(found(document, &Limits::elements, 0), "1: more than 0 elements");
 }
 
+TEST(Limits, ForElementsDoesNotCountAnEndTagWithABlankBeforeItsSlash) {
+    EXPECT_EQ(found("<a>< /a>", &Limits::elements, 1), "");
+}
+
 TEST(Limits, ForNodesIsTheLargestNumberAccepted) {
     const std::string document = documentWithMarkup("<a b='1' c='2'/>\n<!-- d -->e<!f>\n <![CDATA[g]]>");
     EXPECT_EQ(found(document, &Limits::nodes, 10), "");
