@@ -4,6 +4,7 @@
 
 #include <limits>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -143,6 +144,16 @@ TEST(Excess, OfBytesIsAtTheFirstByteTooMany) {
 
 TEST(Excess, IsLookedForAfterANul) {
     EXPECT_EQ(found(std::string("<a>\0<b/></a>", 12), &Limits::elements, 1), "1: more than 1 element");
+}
+
+// Each beginning of a document stands in memory of just its size, so that the address sanitizer notices a byte too
+// many.
+TEST(Excess, IsLookedForWithinTheTextAlone) {
+    const std::string document = "<a b='1' c = \"2\"/>< d >&#</d><!-- e --><?f?><g";
+    for (std::size_t size = 1; size <= document.size(); ++size) {
+        const std::vector<char> beginning(document.begin(), document.begin() + static_cast<std::ptrdiff_t>(size));
+        EXPECT_FALSE(findExcess({beginning.data(), size}, Limits())) << size;
+    }
 }
 
 }  // namespace
