@@ -45,9 +45,11 @@ function(lvdata_set_python_rpath target)
     endif()
 endfunction()
 
-# What the module takes from static libraries stays inside: importing it gives no symbols to others, and is quicker.
-function(lvdata_hide_archives target)
+# The module shows nothing but where Python begins: importing it gives no symbols to others, and is quicker.
+function(lvdata_hide_all_but_init target)
     if(UNIX AND NOT APPLE)
-        target_link_options(${target} PRIVATE LINKER:--exclude-libs,ALL)
+        set(map "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/python_module.map")
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${map}")
+        set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
     endif()
 endfunction()
