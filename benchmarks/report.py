@@ -130,14 +130,14 @@ CHART_LEFT, CHART_UNIT, CHART_WIDEST = 136, 30, 300
 
 
 def bar(top, value, style):
-    """One that is too long is cut: a gap shows that."""
+    """One that is too long is cut: a gap shows that. The numbers leave the line at 1 free."""
     length = min(value * CHART_UNIT, CHART_WIDEST)
     end = CHART_LEFT + length
     is_cut = value * CHART_UNIT > CHART_WIDEST
     gap = f'<path class="paper" d="M{end - 12:.1f},{top + 15}l4,-16h4l-4,16z"/>' if is_cut else ""
     return (
         f'<rect class="{style}" x="{CHART_LEFT}" y="{top}" width="{length:.1f}" height="14"/>{gap}'
-        f'<text x="{end + 6:.1f}" y="{top + 11}">{value:.2f}</text>'
+        f'<text x="{max(end, CHART_LEFT + CHART_UNIT) + 6:.1f}" y="{top + 11}">{value:.2f}</text>'
     )
 
 
