@@ -121,32 +121,43 @@ text{fill:#1f2328;fill:var(--ink)}
 .lvdata{fill:#00795a;fill:var(--lvdata)}
 .pugixml{fill:#0072b2;fill:var(--pugixml)}
 .plain{fill:#946200;fill:var(--plain)}
+.one{stroke:#1f2328;stroke:var(--ink);stroke-dasharray:3 3}
 </style>
 <rect class="paper" width="100%" height="100%"/>"""
 
 
-def bar(left, top, length, label, style):
+CHART_LEFT, CHART_UNIT, CHART_WIDEST = 136, 30, 300
+
+
+def bar(top, value, style):
+    """One that is too long is cut: a gap shows that. The numbers leave the line at 1 free."""
+    length = min(value * CHART_UNIT, CHART_WIDEST)
+    end = CHART_LEFT + length
+    is_cut = value * CHART_UNIT > CHART_WIDEST
+    gap = f'<path class="paper" d="M{end - 12:.1f},{top + 15}l4,-16h4l-4,16z"/>' if is_cut else ""
     return (
-        f'<rect class="{style}" x="{left}" y="{top}" width="{length:.1f}" height="14"/>'
-        f'<text x="{left + length + 6:.1f}" y="{top + 11}">{label}</text>'
+        f'<rect class="{style}" x="{CHART_LEFT}" y="{top}" width="{length:.1f}" height="14"/>{gap}'
+        f'<text x="{max(end, CHART_LEFT + CHART_UNIT) + 6:.1f}" y="{top + 11}">{value:.2f}</text>'
     )
 
 
-def chart(times):
-    """Horizontal bars, one for each ratio; those beyond the width are cut and say their number."""
-    unit, widest, top = 40, 400, 30
+def chart(rows):
+    """Horizontal bars, one for each ratio, and a line at 1."""
+    top = 30
     parts = []
-    for title, ratios in ratio_rows(times):
+    for title, ratios in rows:
         for document, value in zip(DOCUMENTS, ratios):
             if value is None:
                 continue
             style = title.split(", ")[1]
             parts.append(f'<text x="4" y="{top + 11}">{title}, {document}</text>')
-            parts.append(bar(180, top, min(value * unit, widest), f"{value:.2f}", style))
+            parts.append(bar(top, value, style))
             top += 18
-    heading = '<text x="4" y="18" font-weight="bold">Time as a multiple of the XML library alone</text>'
+    one = CHART_LEFT + CHART_UNIT
+    parts.append(f'<path class="one" d="M{one},26V{top}"/>')
+    heading = '<text x="4" y="18" font-weight="bold">Time as a multiple of the XML library alone, the line at 1</text>'
     return (
-        f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 640 {top + 8}" width="640" height="{top + 8}" '
+        f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 480 {top + 8}" width="640" '
         f'font-family="sans-serif" font-size="11">\n{CHART_STYLE}\n{heading}\n' + "\n".join(parts) + "\n</svg>\n"
     )
 
@@ -165,7 +176,7 @@ def main():
     print("\n".join(tables(times)))
     if len(sys.argv) > 2:
         with open(sys.argv[2], "w", encoding="utf-8") as file:
-            file.write(chart(times))
+            file.write(chart(ratio_rows(times)))
 
 
 if __name__ == "__main__":

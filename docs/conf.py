@@ -33,6 +33,8 @@ autodoc_member_order = "bysource"
 
 html_theme = "furo"
 html_title = "lvdata"
+html_static_path = ["static"]
+html_css_files = ["lvdata.css"]
 html_copy_source = False
 html_show_sphinx = False
 html_theme_options = {"navigation_with_keys": True}

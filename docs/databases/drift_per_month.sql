@@ -1,5 +1,5 @@
 -- How the white of the standard mode, which no calibration corrects, has changed since the same sensor first measured
--- the same monitor; and what this comes to in a month.
+-- the same monitor; and how much that is per month.
 WITH white AS (
     SELECT visits.monitor, visits.day, substr(visits.last_calibration, 1, 7) AS month,
            first_value(visits.day) OVER earlier AS first_day,

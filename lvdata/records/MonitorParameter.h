@@ -84,13 +84,13 @@ public:
     property<six_colors_t> hue;
 
     /// Saturation of six colours, elements "RedSaturation" to "YellowSaturation". Unit not recorded. Written when set,
-    /// then all six. After parsing, the flag says whether at least one of them was found; the others keep their earlier
-    /// values.
+    /// all six together. After parsing, the flag says whether at least one of them was found; the others keep their
+    /// earlier values.
     property<six_colors_t> saturation;
 
     /// Lightness of six colours, elements "RedLightness" to "YellowLightness". Unit not recorded. Written when set,
-    /// then all six. After parsing, the flag says whether at least one of them was found; the others keep their earlier
-    /// values.
+    /// all six together. After parsing, the flag says whether at least one of them was found; the others keep their
+    /// earlier values.
     property<six_colors_t> lightness;
 
     /// Gain of the red channel, element "RedGain", stored as `quantities::gain`, times 1000000. Written when set.

@@ -65,7 +65,7 @@ struct Excess {
 
 /// The first place where the text exceeds one of the limits; no value when it is within all of them.
 ///
-/// It passes over the text once, without building anything; it does not read a text that has too many bytes. It sees
+/// It scans the text once, without building anything; it does not read a text that has too many bytes. It sees
 /// the same tags and texts as parsing does, and ends where parsing would refuse the text. A text within the limits need
 /// not be XML. The text may hold any bytes; the part after a NUL, which parsing would not read, is checked as well.
 ///

@@ -17,7 +17,7 @@ MOST_FINDINGS = 2**31 - 1
 
 
 class Finding(NamedTuple):
-    """Something in a document that its record does not keep as it stands, or that is probably a mistake."""
+    """Something in a document that its record does not keep unchanged, or that is probably a mistake."""
 
     severity: str  #: "error", "warning" or "info".
     id: str  #: Three digits, which never change: `lvdata explain` and docs/rules.md explain them.
@@ -170,7 +170,7 @@ class Column(NamedTuple):
     name: str  #: The key of the rows.
     unit: str  #: Empty for texts and ratios; "not recorded" where the records do not state it.
     meaning: str  #: In a few words.
-    values: str  #: What stands in it: "text", "integer" or "fraction".
+    values: str  #: What it holds: "text", "integer" or "fraction".
 
 
 class TableDescription(NamedTuple):
