@@ -133,6 +133,17 @@ TEST(Excess, CountsTheLineBreakThatADocumentBeginsWith) {
     EXPECT_EQ(found("\n<a/>", &Limits::elements, 0), "2: more than 0 elements");
 }
 
+TEST(Excess, IsTheFirst) {
+    EXPECT_EQ(found("<a>text\n<b/></a>", &Limits::nodes, 1), "1: more than 1 node");
+    EXPECT_EQ(found("<a><!-- b -->\n<c/></a>", &Limits::nodes, 1), "1: more than 1 node");
+}
+
+// The XML library refuses such a document there.
+TEST(Excess, IsNotLookedForAfterAnAttributeWithoutQuotationMarks) {
+    EXPECT_EQ(found("<a b=1><c/></a>", &Limits::elements, 1), "");
+    EXPECT_EQ(found("<a b><c/></a>", &Limits::elements, 1), "");
+}
+
 TEST(Excess, OfBytesIsAtTheFirstByteTooMany) {
     const auto excess = findExcess("<a>\n<b/></a>", only(&Limits::bytes, 7));
     ASSERT_TRUE(excess);
