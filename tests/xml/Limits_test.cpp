@@ -136,6 +136,7 @@ TEST(Excess, CountsTheLineBreakThatADocumentBeginsWith) {
 TEST(Excess, IsTheFirst) {
     EXPECT_EQ(found("<a>text\n<b/></a>", &Limits::nodes, 1), "1: more than 1 node");
     EXPECT_EQ(found("<a><!-- b -->\n<c/></a>", &Limits::nodes, 1), "1: more than 1 node");
+    EXPECT_EQ(found("<a>b\n>&#</a>", &Limits::brokenReferences, 0), "1: more than 0 broken references per text");
 }
 
 // The XML library refuses such a document there.
