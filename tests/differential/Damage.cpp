@@ -99,8 +99,8 @@ void Damage::insertIntoText(std::string& document) {
 void Damage::insertIntoTag(std::string& document) {
     const Span tag = anyStartTag(document);
     const Span name = nameIn(document, tag);
-    const bool behindName = below(2) == 0;
-    document.insert(behindName ? name.begin + name.size : tag.begin + tag.size - 1, anyOf(oddInTags()));
+    const bool afterName = below(2) == 0;
+    document.insert(afterName ? name.begin + name.size : tag.begin + tag.size - 1, anyOf(oddInTags()));
 }
 
 void Damage::insertInFront(std::string& document) {

@@ -99,7 +99,7 @@ void removeAttributes(XMLElement& element, const Edit& /*edit*/) {
     }
 }
 
-void repeatBehind(XMLElement& element, const Edit& edit) {
+void repeatAfter(XMLElement& element, const Edit& edit) {
     if (!isRoot(element)) {
         XMLElement* const copy = element.DeepClone(element.GetDocument())->ToElement();
         element.Parent()->InsertAfterChild(&element, copy);
@@ -140,7 +140,7 @@ void removeOthers(XMLElement& element, const Edit& /*edit*/) {
 
 constexpr std::array edits = {
     &replaceText, &empty,  &replaceTextByCdata, &insertComment, &insertText,   &setAttribute, &retype,
-    &retype,      &retype, &removeAttributes,   &repeatBehind,  &moveToTheEnd, &rename,       &remove,
+    &retype,      &retype, &removeAttributes,   &repeatAfter,   &moveToTheEnd, &rename,       &remove,
     &removeOthers};
 
 std::vector<XMLElement*> elementsOf(tinyxml2::XMLDocument& document) {

@@ -25,7 +25,7 @@ Row rowFrom(const std::string& children) {
 }
 
 /// What a row with this table has after its profile.
-std::string writtenBehindTheProfile(const Table& table) {
+std::string writtenAfterTheProfile(const Table& table) {
     CalibrationModeResult record;
     record.objects.resize(1);
     record.objects[0].emulationLUT = table;
@@ -33,8 +33,8 @@ std::string writtenBehindTheProfile(const Table& table) {
     const std::string before =
         R"(<CalibrationModeResult Version="2" MinorVersion="0"><ColorMode Type="">)" + compact(ProfileData());
     EXPECT_EQ(text.rfind(before, 0), 0U) << text;
-    const std::string behind = "</ColorMode></CalibrationModeResult>";
-    return text.substr(before.size(), text.size() - before.size() - behind.size());
+    const std::string after = "</ColorMode></CalibrationModeResult>";
+    return text.substr(before.size(), text.size() - before.size() - after.size());
 }
 
 void expectRead(const std::string& children, const Table& table) {
@@ -48,27 +48,27 @@ TEST(EmulationLUT, FreshTableIsZeroEmptyAndNotPresent) {
 }
 
 TEST(EmulationLUT, PresentTableIsWrittenWithBothNumbersAndItsName) {
-    EXPECT_EQ(writtenBehindTheProfile({2, 4294967295U, "a & b", true}),
+    EXPECT_EQ(writtenAfterTheProfile({2, 4294967295U, "a & b", true}),
               "<EmulationLUT><Availability>2</Availability><Index>4294967295</Index><Name>a &amp; b</Name>"
               "</EmulationLUT>");
 }
 
 TEST(EmulationLUT, EmptyNameIsNotWrittenAndTheNumbersAreAlsoWhenTheyAreZero) {
-    EXPECT_EQ(writtenBehindTheProfile({0, 0, "", true}),
+    EXPECT_EQ(writtenAfterTheProfile({0, 0, "", true}),
               "<EmulationLUT><Availability>0</Availability><Index>0</Index></EmulationLUT>");
-    EXPECT_EQ(writtenBehindTheProfile({1, 0, " ", true}),
+    EXPECT_EQ(writtenAfterTheProfile({1, 0, " ", true}),
               "<EmulationLUT><Availability>1</Availability><Index>0</Index><Name> </Name></EmulationLUT>");
 }
 
 TEST(EmulationLUT, TableThatIsNotPresentIsNotWrittenRegardlessOfItsContent) {
-    EXPECT_EQ(writtenBehindTheProfile({}), "");
-    EXPECT_EQ(writtenBehindTheProfile({2, 3, "Table", false}), "");
+    EXPECT_EQ(writtenAfterTheProfile({}), "");
+    EXPECT_EQ(writtenAfterTheProfile({2, 3, "Table", false}), "");
 }
 
 TEST(EmulationLUT, OnlyNameReadsWithZerosWhichAreWrittenBack) {
     const Table table = rowFrom("<EmulationLUT><Name>Table</Name></EmulationLUT>").emulationLUT;
     EXPECT_EQ(describe(table), describe(Table{0, 0, "Table", true}));
-    EXPECT_EQ(writtenBehindTheProfile(table),
+    EXPECT_EQ(writtenAfterTheProfile(table),
               "<EmulationLUT><Availability>0</Availability><Index>0</Index><Name>Table</Name></EmulationLUT>");
 }
 

@@ -18,7 +18,7 @@ struct Map {
     std::string element;
     CandelaMapEntry CandelaMap::*member;
     std::string before;  // what stands around it when the other map is not valid
-    std::string behind;
+    std::string after;
 };
 
 void PrintTo(const Map& map, std::ostream* out) {
@@ -49,7 +49,7 @@ protected:
     [[nodiscard]] static std::string written(const std::string& content) {
         const std::string& name = GetParam().element;
         return R"(<CandelaMap Version="1" MinorVersion="0">)" + GetParam().before + '<' + name + '>' + content + "</" +
-               name + '>' + GetParam().behind + "</CandelaMap>";
+               name + '>' + GetParam().after + "</CandelaMap>";
     }
 };
 

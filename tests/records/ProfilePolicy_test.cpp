@@ -190,8 +190,8 @@ TEST(ProfilePolicy, MissingUpdateRuleClearsItsFourFlagsAndKeepsTheValues) {
     const std::string others = compact(filled<ProfilePolicy>());
     const std::string end = "</UpdateRule>";
     const std::size_t ruleAt = others.find("<UpdateRule");
-    const std::size_t behindRule = others.find(end) + end.size();
-    ASSERT_TRUE(record.parseXMLString(others.substr(0, ruleAt) + others.substr(behindRule)));
+    const std::size_t afterRule = others.find(end) + end.size();
+    ASSERT_TRUE(record.parseXMLString(others.substr(0, ruleAt) + others.substr(afterRule)));
     ProfilePolicy expected = filled<ProfilePolicy>();
     clearFlagsOfTheRule(expected);
     EXPECT_EQ(describe(record), describe(expected));

@@ -10,12 +10,6 @@ namespace {
 
 using Cells = std::vector<std::string>;
 
-std::string trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    const std::size_t last = text.find_last_not_of(' ');
-    return first == std::string::npos ? "" : text.substr(first, last - first + 1);
-}
-
 bool isTableLine(const std::string& line) {
     return !line.empty() && line.front() == '|';
 }

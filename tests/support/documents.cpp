@@ -88,7 +88,7 @@ XMLElement* newElement(XMLElement& neighbour, const char* name, const char* text
     return element;
 }
 
-void repeatBehind(XMLElement& element) {
+void repeatAfter(XMLElement& element) {
     XMLElement* const repetition = newElement(element, element.Name(), "999");
     element.Parent()->InsertAfterChild(&element, repetition);
 }
@@ -149,7 +149,7 @@ std::string withRepeatedLeaves(const std::string& text) {
     return changed(text, [](XMLElement& root) {
         forEachElement(root, [](XMLElement& element) {
             if (isLeaf(element)) {
-                repeatBehind(element);
+                repeatAfter(element);
             }
         });
     });

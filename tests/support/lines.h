@@ -17,6 +17,13 @@ inline std::vector<std::string> linesOf(const std::string& text) {
     return lines;
 }
 
+/// The text without white space at both ends.
+inline std::string trimmed(const std::string& text) {
+    constexpr const char* whiteSpace = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(whiteSpace);
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(whiteSpace) - first + 1);
+}
+
 /// Whether the text has that part: shorter than a matcher when it has not.
 inline bool contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;

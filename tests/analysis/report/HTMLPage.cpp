@@ -1,18 +1,13 @@
 #include "HTMLPage.h"
 
+#include <tests/support/lines.h>
+
 #include <gtest/gtest.h>
 
 #include <libxml/xpath.h>
 
 namespace lv::test {
 namespace {
-
-constexpr const char* whiteSpace = " \t\r\n";
-
-std::string trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(whiteSpace);
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(whiteSpace) - first + 1);
-}
 
 std::string contentOf(xmlNode* node) {
     const std::unique_ptr<xmlChar, decltype(xmlFree)> content(xmlNodeGetContent(node), xmlFree);

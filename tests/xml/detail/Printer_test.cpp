@@ -32,7 +32,7 @@ TEST(Printer, PrintsWhatTheLibrarysOwnPrinterPrints) {
         document.InsertEndChild(root);
         root->InsertNewChildElement("Before")->SetText(text.c_str());
         root->InsertNewText(text.c_str());
-        root->InsertNewChildElement("Behind");
+        root->InsertNewChildElement("After");
         EXPECT_EQ(printed(document, true), plainly(document, true));
         EXPECT_EQ(printed(document, false), plainly(document, false));
     }
