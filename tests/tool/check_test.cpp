@@ -199,15 +199,6 @@ TEST_F(Check, PrintsJSONWithoutFindingsAndAfterErrors) {
     EXPECT_EQ(trouble.error, "missing.xml: error: No such file or directory\n");
 }
 
-TEST_F(Check, PrintsJSONForAnyBytes) {
-    const std::string name = "\xFF\n\".xml";
-    write(name, "<AssetInfo Version='1' MinorVersion='0'><B\xC3 \x80='1'/></AssetInfo>");
-    const json report = parsed(check({"--format=json", "--ignore=003", name}));
-    ASSERT_EQ(report["findings"].size(), 1U);
-    EXPECT_EQ(report["findings"][0]["file"], "\uFFFD\n\".xml");
-    EXPECT_EQ(report["findings"][0]["path"], "/AssetInfo/B\uFFFD");
-}
-
 TEST_F(Check, CountsWhatCannotBeRead) {
     write("a.xml", "<AssetInfo Version='1' MinorVersion='0'/>");
     const Outcome text = check({"none.xml", "a.xml"});
