@@ -60,7 +60,8 @@ public:
         std::error_code error;
         fs::create_directories(fs::u8path(folder), error);
         if (error) {
-            throw Failure(folder, error == std::errc::file_exists ? "not a folder" : error.message());
+            const bool isNoFolder = error == std::errc::file_exists || error == std::errc::not_a_directory;
+            throw Failure(folder, isNoFolder ? "not a folder" : error.message());
         }
     }
 
