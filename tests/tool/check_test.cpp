@@ -109,13 +109,13 @@ TEST_F(Check, ReportsDocumentsBeyondALimit) {
 
 TEST_F(Check, ReportsDocumentsThatAreNotRecords) {
     write("text.xml", "Room 4");
-    write("nul.xml", good + '\0');
+    write("zero.xml", good + '\0');
     EXPECT_THAT(check({"text.xml"}).output,
                 StartsWith("text.xml: error: line 1: there is text where the root element belongs [001]\n"));
-    EXPECT_THAT(check({"nul.xml"}).output, StartsWith("nul.xml: error: line 5: NUL character [003]\n"));
+    EXPECT_THAT(check({"zero.xml"}).output, StartsWith("zero.xml: error: line 5: NUL character [003]\n"));
     EXPECT_THAT(run({"check", "-"}, {"<Assetinfo/>"}).output,
                 StartsWith("<stdin>: error: line 1: unknown root element \"Assetinfo\"; known: AssetInfo, "));
-    EXPECT_EQ(check({"text.xml", "nul.xml"}).exitCode, 1);
+    EXPECT_EQ(check({"text.xml", "zero.xml"}).exitCode, 1);
 }
 
 TEST_F(Check, IgnoresRules) {
