@@ -1,9 +1,9 @@
 #include "Allocations.h"
 
+#include "code_file.h"
+
 #include <cstdlib>
 #include <new>
-
-#include <dlfcn.h>
 
 namespace lv::test {
 namespace {
@@ -57,15 +57,6 @@ void release(void* memory) {
         unlink(block);
         std::free(block);
     }
-}
-
-std::string fileOf(const void* code) {
-    Dl_info found = {};
-    if (dladdr(code, &found) == 0) {
-        return "unknown";
-    }
-    const std::string path = found.dli_fname;
-    return path.substr(path.rfind('/') + 1);
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 
 using lv::test::contains;
 
-inline const std::string studio = LVDATA_EXAMPLE_DATA "/studio.xml";
+inline const std::string studio = exampleData("studio.xml");
 
 /// What tells monitors and their documents apart.
 struct MonitorText {
@@ -44,15 +44,5 @@ protected:
         EXPECT_EQ(outcome.exitCode, 0) << outcome.error;
         EXPECT_EQ(outcome.error, "");
         return outcome.output;
-    }
-
-    /// The names in a folder of the test's folder, sorted.
-    [[nodiscard]] std::vector<std::string> namesIn(const std::string& folder) const {
-        std::vector<std::string> found;
-        for (const auto& entry : std::filesystem::directory_iterator(path(folder))) {
-            found.push_back(entry.path().filename());
-        }
-        std::sort(found.begin(), found.end());
-        return found;
     }
 };

@@ -101,12 +101,12 @@ TEST_F(InputCountTest, CountsWhatIsWorkedOn) {
     write("a.xml", "");
     write("b.xml", "");
     write("list", "missing.xml\n");
-    EXPECT_EQ(totalOf({{path("."), "x.xml", "-"}, {path("list")}, false}), 5);
+    EXPECT_EQ(totalOf({{pathText("."), "x.xml", "-"}, {pathText("list")}, false}), 5);
 }
 
 TEST_F(InputCountTest, CountsWhatCannotBeWalked) {
     std::filesystem::create_directory(path("empty"));
-    EXPECT_EQ(totalOf({{path("empty"), "x.xml"}, {}, false}), 2);
+    EXPECT_EQ(totalOf({{pathText("empty"), "x.xml"}, {}, false}), 2);
 }
 
 TEST_F(InputCountTest, DoesNotReadListsThatCanBeReadOnlyOnce) {

@@ -1,9 +1,11 @@
 #pragma once
 
-#include <cstddef>
+#include "system.h"
+
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -17,18 +19,27 @@ struct Outcome {
 
 /// What a run of the tool finds around it.
 struct Surroundings {
-    std::string input = {};               // standard input
-    std::filesystem::path outputTo = {};  // standard output is appended to this, and not reported
-    std::function<bool()> prepare = [] {
-        return true;
-    };  // in the new process, before the tool; false: cannot be
+    std::string input = {};                                           // standard input
+    std::filesystem::path outputTo = {};                              // appended to this, and not reported
+    std::function<bool()> prepare = {};                               // called in the new process, before the tool
+    std::filesystem::path inputFrom = {};                             // standard input, in place of `input`
+    std::vector<std::pair<std::string, std::string>> variables = {};  // of the environment, with their values
 };
 
-/// To prepare a run: the tool has so many bytes of memory. Sanitizers reserve more than a limit could leave.
-std::function<bool()> limitMemory(std::size_t bytes);
+// A run is not started when `prepare` returns false; on Windows it cannot be called.
 
-/// The exit code of a run that could not be prepared or started.
-inline constexpr int notStarted = 127;
+inline Surroundings withInputFrom(const std::filesystem::path& path) {
+    return {"", "", {}, path};
+}
+
+inline Surroundings withVariable(const std::string& name, const std::string& value) {
+    return {"", "", {}, "", {{name, value}}};
+}
+
+/// The path of a sample document, from any folder.
+inline std::string exampleData(const std::string& name) {
+    return std::filesystem::absolute(std::filesystem::u8path(LVDATA_EXAMPLE_DATA "/" + name)).u8string();
+}
 
 /// Runs the tool in a folder of the test's own, which goes with the test.
 class ToolTest : public testing::Test {
@@ -44,18 +55,21 @@ protected:
     /// Runs the tool with the folder as its current one.
     Outcome run(const std::vector<std::string>& arguments, const Surroundings& around = {}) const;
 
-    /// The same with any program, which is searched for in PATH.
+    /// The same with any program.
     Outcome runProgram(const std::string& program, const std::vector<std::string>& arguments,
                        const Surroundings& around = {}) const;
 
-    /// The same with a script for bash, which finds the tool by its name.
-    [[nodiscard]] Outcome runBash(const std::string& script) const;
+    /// A file in the folder; names are UTF-8, paths as text, too.
+    [[nodiscard]] std::filesystem::path path(const std::string& name) const {
+        return folder_ / std::filesystem::u8path(name);
+    }
+    [[nodiscard]] std::string pathText(const std::string& name) const { return path(name).u8string(); }
 
-    /// A file in the folder, its content, and the names of everything there, sorted.
-    [[nodiscard]] std::filesystem::path path(const std::string& name) const { return folder_ / name; }
+    /// Its content, and the names of everything in the folder or in a folder there, sorted.
     void write(const std::string& name, const std::string& text) const;
     [[nodiscard]] std::string read(const std::string& name) const;
-    [[nodiscard]] std::vector<std::string> names() const;
+    [[nodiscard]] std::vector<std::string> names() const { return namesIn("."); }
+    [[nodiscard]] std::vector<std::string> namesIn(const std::string& folder) const;
 
 private:
     std::filesystem::path streams_;  // standard input and output, out of the way of `names`

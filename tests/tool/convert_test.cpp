@@ -67,9 +67,9 @@ TEST_F(Convert, MakesXMLOfJSON) {
 }
 
 TEST_F(Convert, RestoresADocumentFromItsJSON) {
-    ASSERT_EQ(convert({"json", LVDATA_EXAMPLE_DATA "/studio.xml", "-o", "studio.json"}), printed(""));
+    ASSERT_EQ(convert({"json", exampleData("studio.xml"), "-o", "studio.json"}), printed(""));
     EXPECT_EQ(convert({"xml", "studio.json"}).output,
-              run({"format", "--hlg-system-gamma", LVDATA_EXAMPLE_DATA "/studio.xml"}).output);
+              run({"format", "--hlg-system-gamma", exampleData("studio.xml")}).output);
 }
 
 TEST_F(Convert, WritesIntoAFile) {

@@ -132,7 +132,7 @@ TEST_F(Format, TakesAVeryLongText) {
 TEST_F(Format, ReportsAMissingFile) {
     EXPECT_EQ(run({"format", "no.xml"}), failed("no.xml: error: No such file or directory"));
     EXPECT_EQ(run({"format", "no/in.xml"}), failed("no/in.xml: error: No such file or directory"));
-    EXPECT_EQ(run({"format", path("no.xml")}), failed(path("no.xml").string() + ": error: No such file or directory"));
+    EXPECT_EQ(run({"format", pathText("no.xml")}), failed(pathText("no.xml") + ": error: No such file or directory"));
 }
 
 TEST_F(Format, ReportsAFolder) {

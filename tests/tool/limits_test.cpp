@@ -4,10 +4,6 @@
 #include <tests/support/document_with_markup.h>
 #include <tests/support/repeated.h>
 
-#include <fcntl.h>
-#include <sys/types.h>
-#include <unistd.h>
-
 namespace {
 
 using lv::test::documentWithMarkup;
@@ -83,23 +79,6 @@ TEST_F(SizeLimit, Is64MebibytesUnlessGiven) {
     expectTaken(documentOfSize(67'108'865), {"--max-size", "67108865"});
 }
 
-TEST_F(SizeLimit, StopsEndlessInput) {
-    EXPECT_EQ(run({"format", "/dev/zero"}), failed("/dev/zero: error: more than 67108864 bytes (limit: --max-size)"));
-}
-
-TEST_F(SizeLimit, IsExceededByOneByteAtMostWhileReading) {
-    write("in.xml", documentOfSize(300'000));
-    for (const off_t limit : {0, 10, 65'535, 65'536, 200'000}) {
-        const int file = ::open(path("in.xml").c_str(), O_RDONLY);  // NOLINT(cppcoreguidelines-pro-type-vararg)
-        const auto shareItsPosition = [file] {
-            return ::dup2(file, STDIN_FILENO) >= 0;
-        };
-        EXPECT_EQ(run({"format", "-", "--max-size", std::to_string(limit)}, {"", "", shareItsPosition}).exitCode, 2);
-        EXPECT_EQ(::lseek(file, 0, SEEK_CUR), limit + 1);
-        ::close(file);
-    }
-}
-
 using ElementLimit = LimitsTest;
 
 TEST_F(ElementLimit, IsTheLargestNumberTaken) {
@@ -173,26 +152,6 @@ TEST_F(ReferenceLimit, Is100UnlessGiven) {
 TEST_F(ReferenceLimit, StopsDocumentsThatWouldTakeMinutes) {
     expectRefused("<AssetInfo><Asset1>" + repeated("&#", 10'000'000) + "</Asset1></AssetInfo>", {},
                   "line 1: more than 100 broken references per text (limit: " + option + ")");
-}
-
-/// A document at the limits of bytes and of elements, with what takes most memory: rows that print many elements, and
-/// an attribute of quotation marks, each of which is printed as six bytes.
-std::string mostCostlyDocument() {
-    const lv::Limits limits;
-    const std::string rows = repeated("<ColorMode Type='SyncSignal'/>", limits.elements - 2);
-    const std::string document = "<ColorModeSettings>" + rows + "<ColorMode Type=''/></ColorModeSettings>";
-    const std::size_t place = document.size() - std::string("'/></ColorModeSettings>").size();
-    return std::string(document).insert(place, limits.bytes - document.size(), '"');
-}
-
-TEST_F(LimitsTest, TogetherKeepMemoryBelowTwoGigabytes) {
-    if (LVDATA_SANITIZED) {
-        GTEST_SKIP() << "no room for sanitizers";
-    }
-    write("in.xml", mostCostlyDocument());
-    const Surroundings narrow{"", "", limitMemory(1'750'000'000)};  // so that the promise has some room
-    EXPECT_EQ(run({"format", "in.xml", "--hlg-system-gamma", "-o", "out.xml"}, narrow), done());
-    EXPECT_EQ(run({"format", "in.xml", "--hlg-system-gamma", "--compact", "-o", "out.xml"}, narrow), done());
 }
 
 }  // namespace

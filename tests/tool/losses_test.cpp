@@ -70,19 +70,14 @@ TEST_F(Losses, CanBeAccepted) {
 }
 
 TEST_F(Losses, DoNotOverwriteTheDocumentUnderAnyOfItsNames) {
-    fs::create_symlink("in.xml", path("symbolic.xml"));
     fs::create_hard_link(path("in.xml"), path("hard.xml"));
-    for (const std::string name : {"in.xml", "./in.xml", "symbolic.xml", "hard.xml"}) {
+    for (const std::string name : {"in.xml", "./in.xml", "hard.xml"}) {
         expectRefused(name);
     }
-    EXPECT_TRUE(fs::is_symlink(path("symbolic.xml")));
 }
 
 TEST_F(Losses, DoNotOverwriteTheDocumentOnStandardInput) {
-    const Surroundings around{"", "", [this] {
-                                  return std::freopen(path("in.xml").c_str(), "r", stdin) != nullptr;
-                              }};
-    EXPECT_EQ(run({"format", "-", "-o", "in.xml"}, around).exitCode, 2);
+    EXPECT_EQ(run({"format", "-", "-o", "in.xml"}, withInputFrom(path("in.xml"))).exitCode, 2);
     EXPECT_EQ(read("in.xml"), lossy);
 }
 
@@ -142,7 +137,7 @@ TEST_F(Losses, OfTheHLGSystemGammaCanBeAskedFor) {
 }
 
 TEST_F(Losses, AreNoneInTheSampleOfAStudio) {
-    fs::copy_file(fs::path(LVDATA_EXAMPLE_DATA) / "studio.xml", path("studio.xml"));
+    fs::copy_file(fs::u8path(exampleData("studio.xml")), path("studio.xml"));
     EXPECT_TRUE(run({"format", "studio.xml"}) == printed(read("studio.xml")));
 }
 

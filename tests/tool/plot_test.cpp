@@ -1,5 +1,7 @@
 #include "MonitorTest.h"
 
+#include <tests/support/files.h>
+
 namespace {
 
 using testing::HasSubstr;
@@ -82,7 +84,7 @@ TEST_F(Plot, DrawsTheHistoryOfAFigure) {
 TEST_F(Plot, MakesThePicturesOfTheReadme) {
     for (const std::string picture : {"gamut", "tone"}) {
         const std::string file = LVDATA_PICTURES "/" + picture + ".svg";
-        EXPECT_TRUE(runBash("lvdata plot " + picture + ' ' + studio + " | cmp - " + file) == done())
+        EXPECT_TRUE(made({"plot", picture, studio}) == lv::test::contentOf(file))
             << "lvdata plot " << picture << " examples/data/studio.xml -o " << file;
     }
 }
@@ -117,7 +119,6 @@ TEST_F(Plot, WritesIntoAFile) {
     EXPECT_EQ(run({"plot", "gamut", studio, "-o", "out.svg"}), done());
     EXPECT_EQ(read("out.svg"), made({"plot", "gamut", studio}));
     EXPECT_EQ(names(), Arguments{"out.svg"});
-    EXPECT_EQ(run({"plot", "gamut", studio}, {"", "/dev/full"}), failed("<stdout>: error: No space left on device"));
     EXPECT_EQ(run({"plot", "gamut", studio, "-o", "."}), failed(".: error: Is a directory"));
     write("in.xml", monitor());
     EXPECT_EQ(run({"plot", "gamut", "in.xml", "-o", "in.xml"}),

@@ -36,17 +36,4 @@ TEST_F(Printable, EscapesCharactersThatReorderText) {
     EXPECT_EQ(shown("\u200F\u061C"), "\\xE2\\x80\\x8F\\xD8\\x9C");
 }
 
-TEST_F(Printable, EscapesBytesThatAreNotUTF8) {
-    EXPECT_EQ(shown("a\x85z"), "a\\x85z");                         // no lead byte
-    EXPECT_EQ(shown("\xC3z"), "\\xC3z");                           // no second byte
-    EXPECT_EQ(shown("\xE2\x82"), "\\xE2\\x82");                    // cut off
-    EXPECT_EQ(shown("\xE0\x81\x81"), "\\xE0\\x81\\x81");           // an A in three bytes
-    EXPECT_EQ(shown("\xC1\x81"), "\\xC1\\x81");                    // and in two
-    EXPECT_EQ(shown("\xF8\x90\x80\x80"), "\\xF8\\x90\\x80\\x80");  // no lead byte, though a longer one once
-    EXPECT_EQ(shown("\xC0\x8A"), "\\xC0\\x8A");                    // a line feed in two bytes
-    EXPECT_EQ(shown("\xE0\x80\x8A\xF0\x80\x80\x8A"), "\\xE0\\x80\\x8A\\xF0\\x80\\x80\\x8A");  // in three and four
-    EXPECT_EQ(shown("\xED\xA0\x80"), "\\xED\\xA0\\x80");                                      // a surrogate
-    EXPECT_EQ(shown("\xF4\x90\x80\x80\xF5"), "\\xF4\\x90\\x80\\x80\\xF5");  // after the last character
-}
-
 }  // namespace

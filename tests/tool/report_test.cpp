@@ -1,5 +1,9 @@
 #include "MonitorTest.h"
 
+#include <ctime>
+#include <iomanip>
+#include <sstream>
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -28,11 +32,8 @@ TEST_F(Report, IsAPageOfOneMonitor) {
     EXPECT_EQ(count(page, "<html"), 1U);
 }
 
-TEST_F(Report, ReadsStandardInputAndPipes) {
-    write("in.xml", monitor());
+TEST_F(Report, ReadsStandardInput) {
     EXPECT_TRUE(contains(made({"report", "-"}, {monitor()}), "<title>Wall"));
-    EXPECT_TRUE(contains(runBash("lvdata report <(cat in.xml)").output, "<title>Wall"));
-    EXPECT_TRUE(contains(runBash("lvdata report - < in.xml").output, "<title>Wall"));
 }
 
 TEST_F(Report, HasTheHeadingAndTheDateThatAreAskedFor) {
@@ -42,17 +43,26 @@ TEST_F(Report, HasTheHeadingAndTheDateThatAreAskedFor) {
     EXPECT_TRUE(made({"report", studio, "--date", ""}) == made({"report", studio}));
 }
 
+/// The day it is where the test runs.
+std::string today() {
+    const std::time_t now = std::time(nullptr);
+    std::ostringstream day;
+    day << std::put_time(std::localtime(&now), "%Y-%m-%d");  // NOLINT(concurrency-mt-unsafe): one thread
+    return day.str();
+}
+
 TEST_F(Report, HasTheDayOfTodayWhenAskedFor) {
-    write("in.xml", monitor());
-    const std::string command = "lvdata report --date now in.xml";
-    EXPECT_TRUE(contains(runBash("SOURCE_DATE_EPOCH=951782400 " + command).output, "2000-02-29"));
-    EXPECT_THAT(runBash("export TZ=UTC0; before=$(date +%F); page=$(" + command +
-                        "); [[ $page == *$before* || $page == *$(date +%F)* ]] && echo yes")
-                    .output,
-                "yes\n");
+    const std::string before = today();
+    const std::string page = made({"report", "--date", "now", studio}, withVariable("SOURCE_DATE_EPOCH", ""));
+    EXPECT_TRUE(contains(page, before) || contains(page, today()));
+}
+
+TEST_F(Report, HasTheDayOfTheVariable) {
+    const Arguments command{"report", "--date", "now", studio};
+    EXPECT_TRUE(contains(made(command, withVariable("SOURCE_DATE_EPOCH", "951782400")), "2000-02-29"));
     for (const std::string time : {"x", "-1", "1x", "253402300800", "99999999999999999999"}) {
-        const Outcome outcome = runBash("SOURCE_DATE_EPOCH=" + time + ' ' + command);
-        EXPECT_EQ(outcome, failed("lvdata: error: SOURCE_DATE_EPOCH is not a number of seconds: '" + time + "'"));
+        EXPECT_EQ(run(command, withVariable("SOURCE_DATE_EPOCH", time)),
+                  failed("lvdata: error: SOURCE_DATE_EPOCH is not a number of seconds: '" + time + "'"));
     }
 }
 
@@ -82,8 +92,9 @@ TEST_F(Report, UsesTheLimitsThatAreAskedFor) {
                 StartsWith("missing: error: no file and no limit set has this name; known limit sets: default, "));
     fs::create_directory(path("folder"));
     EXPECT_EQ(run({"report", studio, "--limits", "folder"}), failed("folder: error: Is a directory"));
-    EXPECT_EQ(run({"report", studio, "--limits", "/dev/zero"}),
-              failed("/dev/zero: error: more than 1000000 bytes, too large for a limit set"));
+    write("large", std::string(1'000'001, ' '));
+    EXPECT_EQ(run({"report", studio, "--limits", "large"}),
+              failed("large: error: more than 1000000 bytes, too large for a limit set"));
 }
 
 TEST_F(Report, FailsOnLimitsOnRequest) {
@@ -141,7 +152,7 @@ TEST_F(Report, NamesDocumentsWithoutTheirFolders) {
     write("in.xml", monitor());
     write("secret/in.xml", monitor());
     EXPECT_FALSE(contains(made({"report", "secret/in.xml"}), "secret"));
-    EXPECT_TRUE(made({"report", path("secret/in.xml")}) == made({"report", "in.xml"}));
+    EXPECT_TRUE(made({"report", pathText("secret/in.xml")}) == made({"report", "in.xml"}));
     EXPECT_EQ(run({"report", "secret/in.xml", "--mode", "9"}),
               failed("secret/in.xml: error: no colour mode has the index 9; known indices: 2"));
 }
@@ -212,7 +223,6 @@ TEST_F(Report, WritesIntoAFile) {
     EXPECT_EQ(read("out.html"), made({"report", studio}));
     EXPECT_EQ(run({"report", studio, "-o", "-"}).output, read("out.html"));
     EXPECT_EQ(names(), Arguments{"out.html"});
-    EXPECT_EQ(run({"report", studio}, {"", "/dev/full"}), failed("<stdout>: error: No space left on device"));
     EXPECT_EQ(run({"report", studio, "-o", "no/out.html"}), failed("no/out.html: error: No such file or directory"));
     EXPECT_EQ(run({"report", studio, "-o", ""}).exitCode, 2);
 }
@@ -220,12 +230,11 @@ TEST_F(Report, WritesIntoAFile) {
 TEST_F(Report, DoesNotOverwriteAnInput) {
     const std::string message = ": error: not overwritten, since it is one of the inputs";
     write("in.xml", monitor());
-    fs::create_symlink("in.xml", path("link.xml"));
     write("bad.xml", "<AssetInfo/>");
     EXPECT_EQ(run({"report", "in.xml", "-o", "in.xml"}), failed("in.xml" + message));
-    EXPECT_EQ(run({"report", "./in.xml", "-o", "link.xml"}), failed("link.xml" + message));
+    EXPECT_EQ(run({"report", "./in.xml", "-o", "in.xml"}), failed("in.xml" + message));
     EXPECT_THAT(run({"report", "in.xml", "bad.xml", "-o", "bad.xml"}).error, HasSubstr("bad.xml" + message));
-    EXPECT_EQ(runBash("lvdata report - -o in.xml < in.xml"), failed("in.xml" + message));
+    EXPECT_EQ(run({"report", "-", "-o", "in.xml"}, withInputFrom(path("in.xml"))), failed("in.xml" + message));
     EXPECT_EQ(read("in.xml"), monitor());
     EXPECT_EQ(read("bad.xml"), "<AssetInfo/>");
     fs::create_directory(path("out"));

@@ -5,6 +5,7 @@
 #include "Output.h"
 #include "messages.h"
 
+#include <lvdata/analysis/files/DocumentWalk.h>
 #include <lvdata/analysis/files/HeldSignals.h>
 #include <lvdata/analysis/monitors/page_names.h>
 
@@ -55,17 +56,18 @@ void makeAll(const std::vector<MonitorDocuments>& monitors, const PageMaker& mak
 /// Writes pages into a folder.
 class FolderWriter {
 public:
-    FolderWriter(const std::string& folder, const InputFiles& inputs) : folder_(fs::u8path(folder)), inputs_(inputs) {
+    FolderWriter(const std::string& folder, const InputFiles& inputs) : folder_(folder), inputs_(inputs) {
         std::error_code error;
-        fs::create_directories(folder_, error);
+        fs::create_directories(fs::u8path(folder), error);
         if (error) {
-            throw Failure(folder, error == std::errc::file_exists ? "not a folder" : error.message());
+            const bool isNoFolder = error == std::errc::file_exists || error == std::errc::not_a_directory;
+            throw Failure(folder, isNoFolder ? "not a folder" : error.message());
         }
     }
 
     /// Does not overwrite a file that is not such a page.
     void write(const std::string& page, const std::string& text) const {
-        const std::string file = (folder_ / fs::u8path(page)).u8string();
+        const std::string file = lv::analysis::pathIn(folder_, page);
         inputs_.refuseToOverwrite(file);
         refuseUnlessPage(file);
         writeResult(file, text);
@@ -79,7 +81,7 @@ private:
         }
     }
 
-    fs::path folder_;
+    const std::string& folder_;
     const InputFiles& inputs_;
 };
 

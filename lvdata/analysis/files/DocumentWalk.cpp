@@ -30,6 +30,14 @@ bool isDocument(const fs::directory_entry& entry) {
 
 }  // namespace
 
+std::string pathIn(const std::string& folder, const std::string& name) {
+    std::string path = (fs::u8path(folder) / "").u8string();
+    if (path.size() > folder.size()) {
+        path.back() = '/';
+    }
+    return path + name;
+}
+
 void DocumentWalk::start(const std::string& path) {
     levels_.clear();
     emptyFolder_.clear();
@@ -68,7 +76,7 @@ std::optional<DocumentWalk::Found> DocumentWalk::nextInFolder() {
         }
         const Entry entry = std::move(level.entries.back());
         level.entries.pop_back();
-        std::string path = (fs::u8path(level.folder) / fs::u8path(entry.name)).u8string();
+        std::string path = pathIn(level.folder, entry.name);
         if (!entry.isFolder) {
             return Found{std::move(path), {}, {}};
         }

@@ -7,6 +7,9 @@
 
 namespace lv::analysis {
 
+/// The path of what has that name in the folder, with "/" also on Windows, so that the same is printed everywhere.
+[[nodiscard]] std::string pathIn(const std::string& folder, const std::string& name);
+
 /// Finds documents in folders one after the other: the files whose names end with ".xml". It holds only the names in
 /// the folders that are open, so memory does not depend on the total number of files.
 ///

@@ -1,5 +1,6 @@
-#include "ToolTest.h"
-#include "help_texts.h"
+#include "PosixTest.h"
+
+#include <tests/tool/help_texts.h>
 
 #include <lvdata/version.h>
 
@@ -14,7 +15,7 @@ using testing::HasSubstr;
 
 constexpr const char* page = LVDATA_TOOL_PAGES "/lvdata.1";
 
-class ManualPage : public ToolTest {
+class ManualPage : public PosixTest {
 protected:
     void SetUp() override {
         if (runBash("command -v mandoc").exitCode != 0) {

@@ -1,5 +1,6 @@
-#include "ToolTest.h"
-#include "help_texts.h"
+#include "PosixTest.h"
+
+#include <tests/tool/help_texts.h>
 
 #include <algorithm>
 #include <sstream>
@@ -20,7 +21,7 @@ constexpr const char* bashScript = LVDATA_TOOL_PAGES "/bash/lvdata";
 constexpr const char* zshScript = LVDATA_TOOL_PAGES "/zsh/_lvdata";
 constexpr const char* fishScript = LVDATA_TOOL_PAGES "/fish/lvdata.fish";
 
-class Completion : public ToolTest {
+class Completion : public PosixTest {
 protected:
     [[nodiscard]] std::string help(const std::string& subcommand) const {
         return subcommand.empty() ? run({"--help"}).output : run({subcommand, "--help"}).output;
@@ -73,7 +74,7 @@ TEST_F(Completion, ForBashOffersValues) {
     EXPECT_THAT(bashOffers("lvdata format so"), ElementsAre("some name.xml"));
     EXPECT_THAT(bashOffers("lvdata format --compact -o so"), ElementsAre("some name.xml"));
     EXPECT_THAT(bashOffers("lvdata format --output = so"), ElementsAre("some name.xml"));
-    EXPECT_THAT(bashOffers("lvdata format --output ="), ElementsAre("some name.xml"));
+    EXPECT_THAT(bashOffers("lvdata format --output ="), UnorderedElementsAreArray(names()));
     EXPECT_THAT(bashOffers("lvdata format --max-size ''"), ElementsAre(""));  // a number
     EXPECT_THAT(bashOffers("lvdata format --max-size = so"), ElementsAre(""));
     EXPECT_THAT(bashOffers("lvdata for"), ElementsAre("format"));
