@@ -23,8 +23,10 @@ struct Process {
 /// The exit code of a run that could not be prepared or started.
 inline constexpr int notStarted = 127;
 
-/// Runs a program to its end and returns its exit code; 128 + N where signal N ended it. One that takes a minute is
-/// ended.
+/// After which a program is ended: far more than any needs, even under the sanitizers on a busy machine.
+inline constexpr unsigned int secondsToRun = 600;
+
+/// Runs a program to its end and returns its exit code; 128 + N where signal N ended it.
 [[nodiscard]] int exitCodeOf(const Process& process);
 
 /// Makes a folder for temporary files.

@@ -14,8 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr unsigned int secondsToRun = 60;
-
 bool redirect(int standard, const fs::path& path, int flags) {
     const int opened = ::open(path.c_str(), flags, 0600);  // NOLINT(cppcoreguidelines-pro-type-vararg)
     return opened >= 0 && ::dup2(opened, standard) >= 0 && ::close(opened) == 0;

@@ -16,8 +16,6 @@ namespace fs = std::filesystem;
 
 using lv::analysis::Handle;
 
-constexpr DWORD millisecondsToRun = 60'000;
-
 std::wstring wide(const std::string& text) {
     return fs::u8path(text).wstring();
 }
@@ -94,7 +92,7 @@ Handle start(const Process& process) {
 }
 
 int waitFor(HANDLE process) {
-    if (::WaitForSingleObject(process, millisecondsToRun) == WAIT_TIMEOUT) {
+    if (::WaitForSingleObject(process, secondsToRun * 1000) == WAIT_TIMEOUT) {
         ::TerminateProcess(process, notStarted);
         ::WaitForSingleObject(process, INFINITE);
     }
