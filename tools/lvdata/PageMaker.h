@@ -5,13 +5,15 @@
 #include <lvdata/analysis/monitors/Fleet.h>
 #include <lvdata/analysis/monitors/MonitorPage.h>
 
+#include <utility>
+
 namespace tool {
 
 /// Makes pages. Any number of threads may use one.
 class PageMaker {
 public:
     /// The reader must outlive the maker.
-    PageMaker(const MonitorReader& reader, const lv::analysis::ReportForm& form) : reader_(reader), form_(form) {}
+    PageMaker(const MonitorReader& reader, lv::analysis::ReportForm form) : reader_(reader), form_(std::move(form)) {}
 
     /// Reads the latest document a second time. Throws `Failure` when that is not possible, and when it lacks the
     /// requested mode.

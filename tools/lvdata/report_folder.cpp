@@ -101,7 +101,7 @@ ExitStatus writeReportFolder(const ReportFolder& report, const std::vector<Monit
             status = ExitStatus::failed;
             return;
         }
-        MonitorPage& page = std::get<MonitorPage>(made);
+        auto& page = std::get<MonitorPage>(made);
         writer.write(name, page.text);
         if (report.failsOnLimits && !page.isWithinLimits()) {
             status = worst(status, ExitStatus::found);
